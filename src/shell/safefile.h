@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace corva
+{
+
+/// Replaces `path` by `content` so that a reader, or a crash at any moment, meets the old file or the new one, never a
+/// part: written beside with mode 0600, flushed to disk, renamed over, and the folder flushed. Missing folders are made
+/// with 0700. A link is followed, so that the file it names is replaced and the link stays.
+/// Returns false with a sentence in `error` when any step fails; the old file is then untouched.
+bool writeFileSafely(const QString &path, const QByteArray &content, QString *error = nullptr);
+
+/// Renames a file that cannot be read to "<name>.broken-yyyyMMdd-hhmmss" beside itself, with a number behind when that name is
+/// taken, so that the first write does not destroy it. Returns the new path; empty when there was nothing to keep or
+/// the renaming failed.
+QString keepBrokenFile(const QString &path);
+
+} // namespace corva
