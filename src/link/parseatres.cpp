@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "parseatres.h"
+
+#include <array>
+#include <span>
+
+namespace corva
+{
+
+namespace
+{
+
+/// A text looked for in a reply, and the code that it earns.
+struct Outcome {
+    const char *text;
+    unsigned code;
+};
+
+using Judge = unsigned (*)(const QByteArray &reply);
+
+/// One operation's replies. A rule is selected by the echoed command; `mark` selects it in a reply that carries no echo
+/// at all. `outcomes` are tested in order, then `judge` where there is one; `otherwise` is the code for none of them.
+struct Rule {
+    const char *command; ///< text of the echo; null when only the mark selects
+    const char *mark;    ///< text of a bare reply; null when only the echo selects
+    std::span<const Outcome> outcomes;
+    unsigned otherwise;
+    const char *serves; ///< the operation that compares the code
+    Judge judge = nullptr;
+};
+
+constexpr auto plainProbe = std::to_array<Outcome>({{"\r\nOK", Acknowledged}});
+constexpr auto dial = std::to_array<Outcome>(
+    {{"NO CARRIER", NoCarrier}, {"BUSY", Busy}, {"NO ANSWER", NoAnswer}, {"CONNECT", Connected}});
+
+// Error numbers stand beside the words: a card in its default error mode says the number (3GPP TS 27.007 9.2).
+// A SIM that only wants PIN2 is not locked.
+constexpr auto simState = std::to_array<Outcome>({
+    {"CPIN: READY", SimReady},
+    {"CPIN:READY", SimReady},
+    {"SIM PIN2", SimReady},
+    {"SIM PUK2", SimReady},
+    {"CPIN: SIM PIN", SimPin},
+    {"CPIN:SIM PIN", SimPin},
+    {"CPIN: SIM PUK", SimPuk},
+    {"CPIN:SIM PUK", SimPuk},
+    {"CME ERROR: SIM PIN required", SimPin},
+    {"CME ERROR: 11\r", SimPin},
+    {"CME ERROR: SIM PUK required", SimPuk},
+    {"CME ERROR: 12\r", SimPuk},
+    {"CME ERROR: SIM busy", SimBusy},
+    {"CME ERROR: 14\r", SimBusy},
+    {"CME ERROR: SIM failure", SimFailure},
+    {"CME ERROR: 13\r", SimFailure},
+});
+constexpr auto simError = std::to_array<Outcome>({{"CME ERROR: SIM busy", SimBusy},
+                                                  {"CME ERROR: SIM failure", SimFailure},
+                                                  {"CME ERROR: SIM PUK required", PukRequired}});
+constexpr auto facilityState = std::to_array<Outcome>({
+    {"\r\n+CLCK: 1", FacilityOn},
+    {"\r\n+CLCK: 0", FacilityOff},
+    {"CME ERROR: SIM PUK required", PukRequired},
+    {"CME ERROR: 12\r", PukRequired},
+});
+constexpr auto facilityLock = std::to_array<Outcome>({
+    {"OK\r\n", LockDone},
+    {"CME ERROR: SIM PUK required", PukRequired},
+    {"CME ERROR: 12\r", PukRequired},
+    {"CME ERROR: SIM failure", SimFailure},
+    {"CME ERROR: 13\r", SimFailure},
+    {"ERROR", LockRefused},
+});
+constexpr auto facilityUnlock = std::to_array<Outcome>({
+    {"OK\r\n", UnlockDone},
+    {"CME ERROR: SIM PUK required", PukRequired},
+    {"CME ERROR: 12\r", PukRequired},
+    {"CME ERROR: SIM failure", SimFailure},
+    {"CME ERROR: 13\r", SimFailure},
+    {"ERROR", UnlockRefused},
+});
+constexpr auto passwordChange = std::to_array<Outcome>({
+    {"OK\r\n", PasswordChanged},
+    {"CME ERROR: SIM PUK required", PasswordPukRequired},
+    {"CME ERROR: 12\r", PasswordPukRequired},
+    {"CME ERROR: incorrect password", PasswordRefused},
+    {"CME ERROR: 16\r", PasswordRefused},
+    {"CME ERROR", PasswordFailed},
+    {"ERROR", PasswordRefused},
+});
+constexpr auto pinEntry = std::to_array<Outcome>({
+    {"OK\r\n", UnknownOk},
+    {"CME ERROR: SIM PUK required", PukRequired},
+    {"CME ERROR: 12\r", PukRequired},
+    {"CME ERROR: SIM failure", SimFailure},
+    {"CME ERROR: 13\r", SimFailure},
+    {"ERROR", UnknownError},
+});
+constexpr auto plain = std::to_array<Outcome>({{"OK\r\n", PlainOk}, {"ERROR", PlainError}});
+constexpr auto phonebookStore = std::to_array<Outcome>({{"OK", PlainOk}});
+constexpr auto firmware = std::to_array<Outcome>({{"\r\nOK", FirmwareRead}});
+constexpr auto storageSet = std::to_array<Outcome>({{"\r\nOK", StorageSet}});
+constexpr auto storageRead = std::to_array<Outcome>({{"+CPMS: ", StorageRead}});
+constexpr auto callWaiting = std::to_array<Outcome>({{"OK", CallWaitingOk}});
+constexpr auto cardOnline = std::to_array<Outcome>({{"+JOPRT: 1", CardOnline}, {"+JOPRT: 0", CardOffline}});
+constexpr auto cardPower = std::to_array<Outcome>({{"OK\r\n", CardPowered}});
+constexpr auto functionality = std::to_array<Outcome>(
+    {{"\r\n+CFUN: 1", FullFunctionality}, {"\r\n+CFUN: 0", MinimumFunctionality}});
+constexpr auto functionalitySet = std::to_array<Outcome>({{"OK\r\n", FunctionalitySet}});
+constexpr auto testMode = std::to_array<Outcome>({{"ZPPDL: 1", TestModeOn}, {"ZPPDL: 0", TestModeOff}});
+constexpr auto dataCall = std::to_array<Outcome>({{"+JPDPACT: 1,0", DataCallReport},
+                                                  {"+JPDPACT: 1,1", DataCallReport + 1},
+                                                  {"+JPDPACT: 1,2", DataCallReport + 2},
+                                                  {"+JPDPACT: 1,3", DataCallReport + 3}});
+constexpr auto profileSet = std::to_array<Outcome>({{"OK\r\n", ProfileSet}});
+constexpr auto simFile = std::to_array<Outcome>({{"+CRSM: 144,0,", SimFileRead}});
+constexpr auto security = std::to_array<Outcome>({{"+JSEC:", SecurityRead}});
+constexpr auto tagSet = std::to_array<Outcome>({{"OK\r\n", TagSet}});
+constexpr auto usim = std::to_array<Outcome>({{"+JUSIM: 1", SimIsUsim}, {"+JUSIM: 0", SimIsNotUsim}});
+constexpr auto unknownCommand = std::to_array<Outcome>({{"OK\r\n", UnknownOk}, {"ERROR", UnknownError}});
+
+/// The decimal number behind `mark`, at most five characters up to a comma; -1 when there is none.
+int numberBehind(const QByteArray &reply, QByteArrayView mark)
+{
+    const qsizetype at = reply.indexOf(mark);
+    if (at < 0)
+        return -1;
+    QByteArrayView digits = QByteArrayView(reply).sliced(at + mark.size());
+    digits = digits.first(std::min<qsizetype>(digits.size(), 5));
+    qsizetype length = 0;
+    while (length < digits.size() && digits[length] >= '0' && digits[length] <= '9')
+        ++length;
+    return length > 0 ? digits.first(length).toInt() : -1;
+}
+
+unsigned judgeSignal(const QByteArray &reply)
+{
+    const int rssi = numberBehind(reply, "\r\n+CSQ: ");
+    return rssi < 0 ? unsigned(NotWritten) : signalLevelCode(rssi);
+}
+
+/// "^HDRCSQ: <0..100>" in five equal steps, 0 no signal.
+unsigned judgeEvdoSignal(const QByteArray &reply)
+{
+    const int percent = numberBehind(reply, "\r\n^HDRCSQ: ");
+    if (percent < 0)
+        return NotWritten;
+    return percent == 0 || percent > 100 ? unsigned(EvdoNone) : EvdoLevel1 + unsigned(percent - 1) / 20;
+}
+
+/// "OK" behind the message reference or index.
+unsigned judgeMessageSent(const QByteArray &reply)
+{
+    const qsizetype at = std::max(reply.indexOf("+CMGS"), reply.indexOf("+CMGW"));
+    return at >= 0 && reply.indexOf("OK", at) >= 0 ? Acknowledged : NotWritten;
+}
+
+/// The table, in the order in which it is tested. Rules of one command stand together, the longer echo first.
+constexpr auto rules = std::to_array<Rule>({
+    // command, mark of a bare reply, outcomes, otherwise, serves
+    {"AT\r", nullptr, plainProbe, NotWritten, "sendNULL_ATCmd"},
+    {"+CMGS", "+CMGS", {}, NotWritten, "message sending", judgeMessageSent},
+    {"+CMGW", "+CMGW", {}, NotWritten, "message writing", judgeMessageSent},
+    {"ATD", nullptr, dial, NotWritten, "dialling"},
+    {"AT+CPIN?", "+CPIN:", simState, NotWritten, "connectDeviceNeedInputPIN"},
+    {"AT^CPIN?", "^CPIN:", simState, NotWritten, "connectDeviceNeedInputPIN"},
+    {"AT+CPIN=", nullptr, pinEntry, NotWritten, "enterPin, enterPuk"},
+    {"AT+CLCK=\"SC\",1,", nullptr, facilityLock, NotWritten, "lockPIN"},
+    {"AT+CLCK=\"SC\",0,", nullptr, facilityUnlock, NotWritten, "unLockPIN"},
+    {"AT+CLCK=", "+CLCK: ", facilityState, NotWritten, "PINSetStatus"},
+    {"AT+CPWD=", nullptr, passwordChange, NotWritten, "changePWD"},
+    {"AT+CGMR", "+CGMR", firmware, FirmwareNotRead, "getCgmr"},
+    {"AT+CPBS=\"SM\"", nullptr, phonebookStore, PlainError, "selecting the SIM phonebook"},
+    {"AT+CPBS=\"ME\"", nullptr, phonebookStore, PlainError, "selecting the card phonebook"},
+    {"AT+CPMS=", nullptr, storageSet, StorageNotSet, "setting the message storage"},
+    {"AT+CPMS?", nullptr, storageRead, StorageNotRead, "reading the message storage"},
+    {nullptr, "+CPMS", storageSet, StorageNotSet, "setting the message storage"},
+    {"AT+CSQ", "\r\n+CSQ: ", {}, NotWritten, "getSignalQuality", judgeSignal},
+    {"AT^HDRCSQ", "\r\n^HDRCSQ: ", {}, NotWritten, "getEvdoSignalQuality", judgeEvdoSignal},
+    {"AT+CFUN=1\r", nullptr, functionalitySet, FunctionalityNotSet, "setModemFullFun"},
+    {"AT+CFUN?", "\r\n+CFUN: ", functionality, NotWritten, "getOnlineStatus"},
+    {"ZPPDL", "ZPPDL: ", testMode, NotWritten, "test mode"},
+    {"AT+CCWA=", nullptr, callWaiting, CallWaitingFailed, "call waiting"},
+    {"AT+JTAG=", nullptr, tagSet, TagNotSet, "module test"},
+    {"AT+CGDCONT=1,", nullptr, profileSet, ProfileNotSet, "setting the PDP context"},
+    {"AT+JOPRT?", "+JOPRT: ", cardOnline, NotWritten, "netCardStatus"},
+    {"AT+JOPRT=", nullptr, cardPower, NotWritten, "netCardPowOn"},
+    {"AT+CRSM=176,", nullptr, simFile, SimFileNotRead, "reading a SIM file"},
+    {"AT+JSEC?", nullptr, security, SecurityNotRead, "security state"},
+    {"AT+JUSIM=?", "+JUSIM: ", usim, NotWritten, "getUSIM"},
+    {"AT+CMEE=", nullptr, plain, NotWritten, "setErrorReporting"},
+    {nullptr, "+JPDPACT", dataCall, NotWritten, "data-call reports"},
+    {nullptr, "+CME ERROR: SIM ", simError, NotWritten, "SIM state without an echo"},
+});
+
+unsigned judge(const QByteArray &text, const Rule &rule)
+{
+    for (const Outcome &outcome : rule.outcomes) {
+        if (text.contains(outcome.text))
+            return outcome.code;
+    }
+    return rule.judge ? rule.judge(text) : rule.otherwise;
+}
+
+bool hasEcho(const QByteArray &text)
+{
+    return text.contains("AT+") || text.contains("AT^") || text.contains("AT\r") || text.contains("ATD");
+}
+
+unsigned classify(const QByteArray &text)
+{
+    if (text.isEmpty())
+        return NotWritten;
+    const auto selector = hasEcho(text) ? &Rule::command : &Rule::mark;
+    for (const Rule &rule : rules) {
+        const char *selecting = rule.*selector;
+        if (selecting && text.contains(selecting))
+            return judge(text, rule);
+    }
+    if (hasEcho(text))
+        return NotWritten;
+    const Rule bare{nullptr, nullptr, unknownCommand, NotWritten, "an unknown command"};
+    return judge(text, bare);
+}
+
+} // namespace
+
+unsigned signalLevelCode(int rssi)
+{
+    struct Step {
+        int upTo;
+        unsigned code;
+    };
+    static constexpr auto steps = std::to_array<Step>({{0, SignalNone},
+                                                       {10, SignalLevel1},
+                                                       {15, SignalLevel2},
+                                                       {22, SignalLevel3},
+                                                       {28, SignalLevel4},
+                                                       {31, SignalLevel5}});
+    for (const auto &[upTo, code] : steps) {
+        if (rssi <= upTo)
+            return code;
+    }
+    return SignalNone;
+}
+
+unsigned classifyReply(const QByteArray &reply, const QByteArray &command)
+{
+    if (reply.isEmpty())
+        return NotWritten;
+    const QByteArray echo = command.trimmed() + '\r';
+    return classify(reply.contains(command.trimmed()) ? reply : echo + reply);
+}
+
+} // namespace corva
+
+unsigned Parse_At_Res(char *reply)
+{
+    return reply ? corva::classify(QByteArray::fromRawData(reply, qsizetype(qstrlen(reply)))) : 103;
+}

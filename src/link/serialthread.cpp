@@ -1,0 +1,338 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "serialthread.h"
+
+#include "linkowner.h"
+#include "replyreader.h"
+#include "secretmask.h"
+#include "shell/commoncfg.h"
+#include "shell/logging.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <cerrno>
+#include <cstring>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono;
+
+std::atomic<bool> foundPortFlag = false;
+std::atomic<bool> receive_flag = false;
+std::atomic<int> send_atcommand_timer = 3;
+std::atomic<int> send_nullatcommand_timer_s = 0;
+std::atomic<int> send_nullatcommand_timer_100ms = 1;
+std::atomic<int> gManualSearch = 0;
+std::atomic<int> gManualSelect = 0;
+std::atomic<int> gWaitSearchOrSelectEnd = 0;
+std::atomic<int> gManualSearchResult = 0;
+std::atomic<int> gManualSelectResult = 0;
+char gSearchStr[1024] = "";
+QString gAct;
+QString gOpt;
+QString gFormat;
+QString gMode;
+
+namespace
+{
+
+constexpr auto firstPoll = 5ms;
+constexpr auto round100ms = 100ms;
+constexpr auto drainSilence = 2ms;
+constexpr auto halfLineSilence = 50ms;
+constexpr int lockRounds = 30;
+
+void logLine(const QString &text)
+{
+    qCDebug(lcLink).noquote().nospace() << corva::logTime() << text;
+}
+
+QString readable(const QByteArray &bytes)
+{
+    return QString::fromLatin1(corva::maskSecrets(bytes));
+}
+
+int settingIn(const char *key, int lowest, int highest, int otherwise)
+{
+    const int value = cmcfg.getNumber(u"network_dialer_setting"_s, QString::fromLatin1(key));
+    return value >= lowest && value <= highest ? value : otherwise;
+}
+
+bool isOn(const QString &section, const QString &key)
+{
+    return cmcfg.getNumber(section, key) != 0;
+}
+
+void readTimeouts()
+{
+    const int seconds = settingIn("send_nullatcommand_timer_s", 0, 15, 0);
+    const int tenths = cmcfg.getNumber(u"network_dialer_setting"_s, u"send_nullatcommand_timer_100ms"_s);
+    send_nullatcommand_timer_s = seconds;
+    send_nullatcommand_timer_100ms = seconds == 0 && (tenths < 1 || tenths > 15) ? 1 : tenths;
+    send_atcommand_timer = settingIn("send_atcommand_timer", 1, 60, 3);
+}
+
+} // namespace
+
+SerialThread::SerialThread(LinkOwner *owner) : m_owner(owner), m_stopEvent(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
+{
+    readTimeouts();
+}
+
+SerialThread::~SerialThread()
+{
+    requestStop();
+    wait();
+    ::close(m_stopEvent);
+}
+
+void SerialThread::requestStop()
+{
+    m_stop = true;
+    eventfd_write(m_stopEvent, 1);
+}
+
+// --- Writing -------------------------------------------------------------------------------------------------------
+
+/// The gates: before the port is known only the probe passes, and a network search or a manual selection keeps every
+/// other command off the port, because the card answers nothing else meanwhile.
+bool SerialThread::mayWrite(const char *cmd)
+{
+    if (!foundPortFlag && !m_probing)
+        return false;
+    const bool searchBlocks = isOn(u"function"_s, u"cancelManualSearch_enabled"_s)
+        || !isOn(u"network"_s, u"serchNetworkAlowSentAt_enabled"_s);
+    if (searchBlocks && m_searching && std::strcmp(cmd, "AT+COPS=?\r\n") != 0)
+        return false;
+    return m_selectionGate;
+}
+
+bool SerialThread::excuteAtStr(const char *cmd)
+{
+    if (!mayWrite(cmd))
+        return false;
+    constexpr char selection[] = "AT+COPS=1,2";
+    if (std::strncmp(cmd, selection, sizeof selection - 1) == 0)
+        m_selectionGate = false;
+    if (receive_flag || m_locked)
+        return waitForLockAndWrite(cmd);
+    if (isOn(u"function"_s, u"findAtAndModemNewWay"_s) && !QFile::exists(u"/dev/at"_s))
+        return false;
+    return writeCommand(cmd, true);
+}
+
+/// The first round in which the lock is free writes; a reply may still be collected then.
+bool SerialThread::waitForLockAndWrite(const char *cmd)
+{
+    for (int i = 0; i < lockRounds && !m_stop; ++i) {
+        QThread::msleep(round100ms.count());
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 1000);
+        if (!m_locked)
+            return writeCommand(cmd, false);
+    }
+    return false;
+}
+
+bool SerialThread::writeCommand(const char *cmd, bool isLogged)
+{
+    atLock();
+    int left = int(std::strlen(cmd));
+    const QByteArray line(cmd, left);
+    const char *next = cmd;
+    while (left > 0) { // a command cut short would be glued to the next one
+        const int written = writePort(m_fd, next, left);
+        if (written <= 0)
+            break;
+        next += written;
+        left -= written;
+    }
+    if (left == 0 && isLogged)
+        logLine(u"sent cmd: %1"_s.arg(readable(line)));
+    atUnlock();
+    return left == 0;
+}
+
+// --- Reading -------------------------------------------------------------------------------------------------------
+
+int SerialThread::resAtStr(int fd, char *reply, int seconds, int microseconds)
+{
+    std::memset(reply, 0, replyBufferSize);
+    QByteArray text;
+    const int result = collectReply(fd, text, std::chrono::seconds(seconds) + std::chrono::microseconds(microseconds));
+    std::memcpy(reply, text.constData(), std::size_t(text.size()));
+    return result;
+}
+
+int SerialThread::failReply(const char *line)
+{
+    logLine(QString::fromLatin1(line));
+    receive_flag = false;
+    return -1;
+}
+
+int SerialThread::collectReply(int fd, QByteArray &reply, std::chrono::microseconds timeout)
+{
+    reply.clear();
+    if (receive_flag.exchange(true))
+        return 0;
+
+    corva::ReplyReader reader;
+    auto roundsLeft = timeout / round100ms; // a round is spent only when its 100 ms were silent to the end
+    std::size_t notesLogged = 0;
+    for (;;) {
+        while (m_ahead.isEmpty()) {
+            Wait wait = waitFor(fd, POLLIN, int(firstPoll.count()));
+            if (wait == Wait::Silent && roundsLeft > 0)
+                wait = waitFor(fd, POLLIN, int(round100ms.count()));
+            else if (wait == Wait::Silent)
+                return failReply("****** select of SerialThread::resAtStr is timerout");
+            if (wait == Wait::Failed) {
+                const int error = errno;
+                return failReply(qPrintable(u"select of SerialThread::resAtStr is ko,errno = %1!"_s.arg(error)));
+            }
+            if (wait == Wait::Silent)
+                --roundsLeft;
+            else if (!fillBuffer(fd))
+                return failReply("SerialThread::resAtStr() ===> no data to read!");
+        }
+        const auto progress = reader.feed(m_ahead);
+        m_ahead.remove(0, progress.consumed);
+        for (; notesLogged < reader.notes().size(); ++notesLogged)
+            logLine(QString::fromLatin1(reader.notes()[notesLogged]));
+        if (progress.status == corva::ReplyReader::Status::TooLong) {
+            m_ahead.clear();
+            return failReply("****** SerialThread::resAtStr: the reply is too long");
+        }
+        if (progress.status == corva::ReplyReader::Status::Complete)
+            break;
+    }
+    reply = reader.reply();
+    findUpReportAtCmd(QString::fromLatin1(reply));
+    const auto whole = floor<std::chrono::seconds>(timeout);
+    logLine(u"****** in resAtStr, timer_sec=%1, timer_usec=%2, con=%3"_s.arg(whole.count())
+                .arg((timeout - whole).count())
+                .arg(roundsLeft));
+    logLine(u"****** in resAtStr, pResStr = %1"_s.arg(readable(reply)));
+    receive_flag = false;
+    return 1;
+}
+
+/// What the card sent since the last transaction, until it is silent for 2 ms. Half a line is waited for a little
+/// longer, so that a report is not torn. Empty when a transaction begins meanwhile.
+QByteArray SerialThread::drain()
+{
+    QByteArray text;
+    const int fd = m_fd;
+    while (text.size() < replyBufferSize) { // a card that never stops is read on at the next drain
+        if (receive_flag || m_locked)
+            return {};
+        if (m_ahead.isEmpty()) {
+            const bool isWhole = text.isEmpty() || text.endsWith('\n') || text.endsWith("> ");
+            const Wait wait = waitFor(fd, POLLIN, int((isWhole ? drainSilence : halfLineSilence).count()));
+            if (wait != Wait::Ready || !fillBuffer(fd))
+                break;
+        }
+        text += m_ahead;
+        m_ahead.clear();
+    }
+    return text.replace('\0', QByteArrayView());
+}
+
+void SerialThread::purgeComData()
+{
+    if (m_fd >= 0 && (receive_flag || m_locked))
+        return;
+    const QByteArray text = m_fd >= 0 ? drain() : QByteArray();
+    logLine(u"purgeComData:: %1"_s.arg(readable(text)));
+    if (m_owner->isReadyForReports())
+        findUpReportAtCmd(QString::fromLatin1(text));
+}
+
+// --- Whole transactions ----------------------------------------------------------------------------------------------
+
+std::optional<QByteArray> SerialThread::transact(const QByteArray &cmd, std::chrono::microseconds timeout)
+{
+    purgeComData();
+    QByteArray reply;
+    if (!excuteAtStr(cmd.constData()) || collectReply(m_fd, reply, timeout) == -1)
+        return std::nullopt;
+    return reply;
+}
+
+int SerialThread::sendCmdAndRec(const char *cmd, int seconds, int microseconds)
+{
+    m_lastReply.clear();
+    purgeComData();
+    if (!excuteAtStr(cmd))
+        return corva::NotWritten;
+    const int wholeSeconds = send_atcommand_timer >= 4 ? send_atcommand_timer.load() : seconds;
+    const auto timeout = std::chrono::seconds(wholeSeconds) + std::chrono::microseconds(microseconds);
+    if (collectReply(m_fd, m_lastReply, timeout) == -1)
+        return corva::NoReply;
+    return int(corva::classifyReply(m_lastReply, cmd));
+}
+
+int SerialThread::sendNULL_ATCmd()
+{
+    m_probing = true;
+    purgeComData();
+    const bool isWritten = excuteAtStr("AT\r\n");
+    m_probing = false;
+    if (!isWritten)
+        return -1;
+    const auto timeout = std::chrono::seconds(send_nullatcommand_timer_s)
+        + send_nullatcommand_timer_100ms * std::chrono::microseconds(100000);
+    QByteArray reply;
+    if (collectReply(m_fd, reply, timeout) == -1)
+        return -1;
+    logLine(u"AT_CMD_RES_STATE state is %1"_s.arg(corva::classifyReply(reply, "AT\r\n")));
+    return 1;
+}
+
+// --- The thread ------------------------------------------------------------------------------------------------------
+
+void SerialThread::run()
+{
+    logLine(u"enter run......"_s);
+    if (!gWaitSearchOrSelectEnd)
+        runStartJobs();
+    while (!m_stop) {
+        if (!foundPortFlag) {
+            logLine(u"SerialThread: need to findPortName!"_s);
+            if (isOn(u"function"_s, u"findAtAndModemNewWay"_s))
+                m_owner->findPortNamesNew();
+            else
+                m_owner->findPortNames();
+        }
+        if (!sleepTwoSeconds())
+            logLine(u"****there are some error with select()****"_s);
+    }
+}
+
+/// The search and the selection that were asked for before the thread started. No port is known yet as a rule, so that
+/// they are refused; whoever asked reads the results.
+void SerialThread::runStartJobs()
+{
+    if (gManualSearch) {
+        QByteArray list(replyBufferSize, '\0');
+        gManualSearchResult = getNetworkList(list.data());
+        if (gManualSearchResult == 1) {
+            std::memset(gSearchStr, 0, sizeof gSearchStr);
+            std::strncpy(gSearchStr, list.constData(), sizeof gSearchStr - 1);
+            logLine(u"=========>copy = %1"_s.arg(QString::fromLatin1(gSearchStr)));
+        }
+        gManualSearch = 0;
+    }
+    if (gManualSelect) {
+        gManualSelectResult = setManualNetworkMode(gAct, gOpt, gFormat, gMode);
+        gManualSelect = 0;
+    }
+    gWaitSearchOrSelectEnd = 1;
+}
+
+bool SerialThread::sleepTwoSeconds()
+{
+    pollfd stop{m_stopEvent, POLLIN, 0};
+    return poll(&stop, 1, 2000) >= 0 || errno == EINTR;
+}

@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "link/parseatres.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QThread>
+#include <atomic>
+#include <chrono>
+#include <optional>
+
+class LinkOwner;
+
+/// True once the search has found and confirmed the AT port. Cleared by whoever notices that the card has gone.
+extern std::atomic<bool> foundPortFlag;
+/// True while `SerialThread::resAtStr` collects a reply: the re-entry guard of the reply reader.
+extern std::atomic<bool> receive_flag;
+
+/// Reply time-out in seconds that replaces the callers' own when it is 4 or more. 1..60.
+extern std::atomic<int> send_atcommand_timer;
+/// The "AT" probe's time-out: seconds, and tenths of a second beside them.
+extern std::atomic<int> send_nullatcommand_timer_s;
+extern std::atomic<int> send_nullatcommand_timer_100ms;
+
+/// A network search and a manual selection requested for the thread's start, "done", and their results.
+extern std::atomic<int> gManualSearch;
+extern std::atomic<int> gManualSelect;
+extern std::atomic<int> gWaitSearchOrSelectEnd;
+extern std::atomic<int> gManualSearchResult;
+extern std::atomic<int> gManualSelectResult;
+/// The network list of the start-up search, terminated. Read it after `gWaitSearchOrSelectEnd` is 1.
+extern char gSearchStr[1024];
+/// Arguments of the pending manual selection. Written before the thread starts.
+extern QString gAct;
+extern QString gOpt;
+extern QString gFormat;
+extern QString gMode;
+
+/// The one object through which the program talks to one port of the card: one command at a time, its reply, and the
+/// reports found in the traffic. All card operations are its methods; each runs on its caller's thread, which is the
+/// card worker and never the GUI thread. The object's own thread only looks for the card while none is known.
+///
+/// Unless said otherwise an operation returns 1 for success, 0 for a plain "ERROR" and -1 for no or an unexpected reply,
+/// and a `char *` is a buffer of `replyBufferSize` bytes that receives terminated text.
+class SerialThread : public QThread
+{
+    Q_OBJECT
+
+public:
+    static constexpr int replyBufferSize = 102400;
+
+    explicit SerialThread(LinkOwner *owner);
+    /// Stops the thread. The port is closed by the owner.
+    ~SerialThread() override;
+
+    /// Ends the thread's loop and every wait on the card, now and from now on. Any thread.
+    void requestStop();
+
+    // --- Port ----------------------------------------------------------------------------------------------------
+
+    /// Opens `name` as 115200 8N1 raw with RTS/CTS and XON/XOFF. Returns the descriptor, or -1 with `errno` of the failing
+    /// step (ENOTTY for what is not a character device, which is not opened at all).
+    int openPort(QString name);
+    /// The same with the input flags left as the device had them.
+    int openPortWithoutSoftFlowControl(QString name);
+    /// False for a negative descriptor. Does not reset the stored one: see `forgetPort`.
+    bool closePortNormal(int fd);
+    /// Closes `fd` if it is open and sets `errno` to `err`. Returns -1. `step` names what failed.
+    int closePortAbnormal(int fd, const char *step, int err);
+    /// The stored descriptor is no longer a port: -1, and what was read from it is dropped.
+    void forgetPort();
+    int descriptor() const { return m_fd; }
+    /// True after a read or write met the end of the device; cleared by the next open.
+    bool isPortLost() const { return m_portLost; }
+
+    /// Waits without limit until `fd` is writable, then one `write`. Bytes written or -1.
+    int writePort(int fd, const char *data, int len);
+    int sendData(void *data, int len);
+    /// Bytes waiting on the port; 1 if that cannot be told.
+    int readDataWaiting();
+    /// Reads until `len` bytes are in, or end of file. Bytes read or -1.
+    int readData(void *buf, int len);
+    int readAll(int fd, char *buf, int len);
+    /// As `readAll`, but stops before a chunk that begins with the letter "n".
+    int readLine(int fd, char *buf, int len);
+
+    void atLock() { m_locked = true; }
+    void atUnlock() { m_locked = false; }
+    bool atLocked() const { return m_locked; }
+
+    // --- Transaction ---------------------------------------------------------------------------------------------
+
+    /// Writes one command with its line end. False when a gate refused it or the write failed.
+    bool excuteAtStr(const char *cmd);
+    /// Collects one reply. 1 when it is complete, -1 on time-out or error, 0 (and no text) while another read runs.
+    int resAtStr(int fd, char *reply, int seconds, int microseconds);
+    /// Drains what the card sent since the last transaction, and dispatches the reports in it.
+    void purgeComData();
+    /// The whole transaction; a `corva::ResultCode`: 103 not written, 102 no reply, else the classifier's.
+    int sendCmdAndRec(const char *cmd, int seconds, int microseconds);
+    /// The "AT" probe: 1 if any reply came, -1 otherwise.
+    int sendNULL_ATCmd();
+    /// Drain, write and read with the caller's own time-out; nullopt when any of them failed.
+    std::optional<QByteArray> transact(const QByteArray &cmd, std::chrono::microseconds timeout);
+    /// The reply that `sendCmdAndRec` classified last.
+    const QByteArray &lastReply() const { return m_lastReply; }
+
+    // --- Reports -------------------------------------------------------------------------------------------------
+
+    void findUpReportAtCmd(QString text);
+    void findAtiveMsg(QString &text, QString mark);
+    void findSmsStatusReport(QString text);
+    void receiveClass0Sms(QString text);
+    void handleCellBoard(QString text);
+    /// The last state of "+JPDPACT: 1,<state>", 0..3.
+    int dataCallState() const { return m_dataCallState; }
+
+    // --- Identity and status ---------------------------------------------------------------------------------------
+
+    int getCGMI(char *text);
+    int getCGMM(char *text);
+    int getIMEI(char *text);
+    int getGMR(char *text);
+    int getCgmr(char *text);
+    int getJvn(char *text);
+    /// The raw reply of reading the SIM's ICCID file. 1 or 0.
+    int getICCID(char *text);
+    /// The subscriber's identity, digits. 3GPP TS 27.007 5.6.
+    int getCIMI(char *text);
+    /// The SIM's own number. 3GPP TS 27.007 7.1.
+    int getISDN(char *text);
+    /// 30..35, or a transaction code.
+    int getSignalQuality();
+    /// EvdoLevel1..EvdoLevel1 + 4, EvdoNone, or a transaction code.
+    int getEvdoSignalQuality();
+    /// Reads a pending "+JRSSI:" report without asking for it. `values` receives rssi, ecio and rscp; `count` is its room.
+    int getSignalQualityR(int count, int *values);
+    int get_SYSINFO_Res_Str(char *text);
+    int get_JPAS_Res_Str(char *text);
+    int get_COPS_Res_Str(char *text);
+    /// The text behind "+COPS:".
+    int getCOPS(char *text);
+    int get_JTIME_Res_Str(char *text);
+    int getJPCB(char *text);
+    /// Raw replies of "AT+CREG?" and "AT+CGREG?".
+    int get_CREG_Res_Str(char *text);
+    int get_CGREG_Res_Str(char *text);
+    /// Location area code and cell identity from "+CREG: 2,...", or -1.
+    int getLac();
+    int getCellID();
+    /// Raw reply of "AT+JAIRINFO?".
+    int getResultForJAIRINFO(char *text);
+    /// The functionality level of "+CFUN:", or -1.
+    int getOnlineStatus();
+    bool setModemFullFun();
+    bool setTDModemFullFun();
+    bool setModemOffFun();
+    int netCardStatus();
+    bool netCardPowOn(bool on);
+    /// 1 plugged in, 0 not, -1 unknown.
+    int getAntennaStatus();
+    /// 1 USIM, 0 SIM, -1 unknown.
+    int getUSIM();
+    int setATE0();
+    /// "AT+CMEE=<mode>", 2 for errors in words. 3GPP TS 27.007 9.1.
+    int setErrorReporting(int mode);
+    /// "AT+CREG=<n>" or "AT+CGREG=<n>": 2 adds the cell to the registration.
+    int setRegistrationReporting(const char *name, int n);
+    /// 1 when the card is registered on a 3G network by "AT^SYSINFO", 0 when it is not, -1 unknown.
+    int isWcdmaNetwork();
+    /// 1 when the card knows the maker's version command, 0 when it refuses it, -1 without an answer.
+    int isNewPlatform();
+    /// Entries that the SIM's or the card's phonebook can hold, or -1.
+    int simCapacity();
+    int modemSideCapacity();
+    /// Hands model, IMEI and firmware to the updater's exchange file, or says there that the card is gone.
+    bool writeUpdateHardwareCfg(bool ready);
+
+    // --- SIM -----------------------------------------------------------------------------------------------------
+
+    /// 0 ready, 1 PUK needed, 2 PIN needed, 3 SIM busy, 4 SIM failure, -1 anything else.
+    int connectDeviceNeedInputPIN();
+    /// 1 PIN request on, 0 off, -1 unknown.
+    int PINSetStatus();
+    /// 1 done, 0 wrong PIN, 2 PUK now required, 3 SIM failure, -1 other. The dialogs check the PIN's form.
+    int lockPIN(const char *pin);
+    int unLockPIN(const char *pin);
+    /// 1 done, 0 refused, -2 PUK required, -1 other.
+    int changePWD(const char *oldPin, const char *newPin);
+    /// Attempts left as "<pin>,<puk>"; an empty text when the card does not say.
+    QString get_JPINJPUK_Res_Str();
+    /// Results as `lockPIN`.
+    int enterPin(const QString &pin);
+    int enterPuk(const QString &puk, const QString &newPin);
+
+    // --- Network selection ---------------------------------------------------------------------------------------
+
+    /// "AT+COPS=?": the raw list of networks. Up to three minutes.
+    int getNetworkList(char *text);
+    /// "AT+COPS=<mode>,<format>,"<operator>"[,<act>]".
+    int setManualNetworkMode(QString act, QString opt, QString format, QString mode);
+    void setCOPSCmdSendingStatus(bool sending) { m_searching = sending; }
+
+protected:
+    void run() override;
+
+private:
+    enum class Wait { Ready, Silent, Failed };
+
+    Wait waitFor(int fd, short events, int milliseconds);
+    bool fillBuffer(int fd);
+    int readSome(int fd, char *buf, int len);
+    int openWith(const QString &name, bool softFlowControl);
+    bool mayWrite(const char *cmd);
+    bool writeCommand(const char *cmd, bool isLogged);
+    bool waitForLockAndWrite(const char *cmd);
+    int collectReply(int fd, QByteArray &reply, std::chrono::microseconds timeout);
+    int failReply(const char *line);
+    QByteArray drain();
+    void runStartJobs();
+    bool sleepTwoSeconds();
+    int rawText(const QByteArray &cmd, char *text, std::chrono::microseconds timeout, bool failsOnCmeError);
+    int identityText(const QByteArray &cmd, const QByteArray &prefix, char *text, std::chrono::microseconds timeout);
+    int phonebookCapacity(const char *store);
+    bool isFamily(const char *prefix) const;
+
+    LinkOwner *const m_owner;
+    std::atomic<int> m_fd = -1;
+    std::atomic<bool> m_locked = false;
+    std::atomic<bool> m_searching = false;
+    std::atomic<bool> m_selectionGate = true;
+    std::atomic<bool> m_probing = false;
+    std::atomic<bool> m_portLost = false;
+    std::atomic<bool> m_stop = false;
+    std::atomic<int> m_dataCallState = 0;
+    int m_stopEvent = -1;   ///< becomes readable at `requestStop`
+    QByteArray m_ahead;     ///< bytes read from the port that no reply has taken yet
+    QByteArray m_lastReply;
+    QByteArray m_radioReport; ///< text with the last "+JRSSI:" that nobody has read
+};
