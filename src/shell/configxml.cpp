@@ -81,7 +81,7 @@ private:
     }
 
     QXmlStreamReader m_reader;
-    QDomDocument m_document;
+    QDomDocument m_document{QString()}; ///< named, since one without is null and takes no children
     QDomNode m_place;
     int m_depth = 0;
 };
