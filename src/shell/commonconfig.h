@@ -4,7 +4,8 @@
 #include <QColor>
 #include <QString>
 
-/// A surface of the skin: a plain colour, or a picture (path relative to `basePath`, joined when it is painted).
+/// A surface of the skin: a plain colour, or a picture (path relative to `basePath`, joined when it is
+/// painted).
 struct SkinBrush {
     QColor color;
     QString picture; ///< empty: the plain colour
@@ -20,13 +21,14 @@ struct SkinArea {
 };
 
 /// The start-up record of the positional file "Data/config": the skin by role, and the few settings that are
-/// needed before anything else. The field order below is the file's order. A default constructed record is usable.
+/// needed before anything else. The field order below is the file's order. A default constructed record is
+/// usable.
 struct CommonConfig {
     CommonConfig();
 
-    int windowWidth;  ///< first size of the window, pixels
+    int windowWidth; ///< first size of the window, pixels
     int windowHeight;
-    QColor window; ///< behind everything
+    QColor window;  ///< behind everything
     QColor surface; ///< lists, text fields
     QColor raised;  ///< cards, menus, buttons
     QColor line;    ///< one-pixel lines that carry meaning
@@ -36,7 +38,7 @@ struct CommonConfig {
     QColor accent;
     QColor onAccent;
     QColor selection;
-    QString fontFamily; ///< "null" in the file: the toolkit's default
+    QString fontFamily;   ///< "null" in the file: the toolkit's default
     QString softwareName; ///< the display name, "Corva"
     QColor good;
     QColor warning;
@@ -58,11 +60,12 @@ struct CommonConfig {
     bool operator==(const CommonConfig &) const = default;
 };
 
-/// Fills `config` from "Data/config" in the current directory. A file that cannot be opened leaves the defaults and
-/// writes a debug line; fields past the file's end keep their defaults.
+/// Fills `config` from "Data/config" in the current directory. A file that cannot be opened leaves the
+/// defaults and writes a debug line; fields past the file's end keep their defaults.
 void readConfig(CommonConfig &config);
 
-/// Writes `config` to `path` in the same positional form, through the safe-file function. False with a reason on failure.
+/// Writes `config` to `path` in the same positional form, through the safe-file function. False with a reason
+/// on failure.
 bool writeConfig(const CommonConfig &config, const QString &path, QString *error = nullptr);
 
 /// The same reader for another file of this form (a skin under "Data/skins").

@@ -7,15 +7,18 @@
 namespace corva
 {
 
-/// Replaces `path` by `content` so that a reader, or a crash at any moment, meets the old file or the new one, never a
-/// part: written beside with mode 0600, flushed to disk, renamed over, and the folder flushed. Missing folders are made
-/// with 0700. A link is followed, so that the file it names is replaced and the link stays.
-/// Returns false with a sentence in `error` when any step fails; the old file is then untouched.
+/// Replaces `path` by `content` so that a reader, or a crash at any moment, meets the old file or the new
+/// one, never a part: written beside with mode 0600, flushed to disk, renamed over, and the folder flushed.
+/// Missing folders are made with 0700. A link is followed, so that the file it names is replaced and the link
+/// stays. The owner of the old file stays its owner where the rights allow it. What is no plain file, or is
+/// not writable by this user, is refused. Leftovers of writers that died before the rename are removed.
+/// Returns false with a sentence in `error` when any step up to the rename fails; the old file is then
+/// untouched.
 bool writeFileSafely(const QString &path, const QByteArray &content, QString *error = nullptr);
 
-/// Renames a file that cannot be read to "<name>.broken-yyyyMMdd-hhmmss" beside itself, with a number behind when that name is
-/// taken, so that the first write does not destroy it. Returns the new path; empty when there was nothing to keep or
-/// the renaming failed.
+/// Renames a file that cannot be read to "<name>.broken-yyyyMMdd-hhmmss" beside itself, with a number behind
+/// when that name is taken, so that the first write does not destroy it. A link is followed as above. Returns
+/// the new path; empty when there was nothing to keep (no file, or an empty one) or the renaming failed.
 QString keepBrokenFile(const QString &path);
 
 } // namespace corva
