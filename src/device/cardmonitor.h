@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "device/modeswitch.h"
 #include "link/cardstate.h"
 
 #include <QFuture>
@@ -51,8 +52,8 @@ public:
     QFuture<PinOutcome> enterPuk(const QString &puk, const QString &newPin);
     /// "AT+CFUN=1"; true when the card said "OK".
     QFuture<bool> switchRadioOn();
-    /// Turns a stick that shows itself as a disk into a modem; true when usb_modeswitch ended well.
-    QFuture<bool> switchMode();
+    /// Turns the stick that shows itself as a disk into a modem; the result's `detail` says what went wrong.
+    QFuture<SwitchResult> switchMode();
 
 Q_SIGNALS:
     /// The state changed in at least one field.

@@ -11,6 +11,9 @@ namespace corva
 /// The card's family, as "Data/config" or "Data/modem_types.xml" names it.
 enum class CardFamily { Wcdma, TdScdma, Cdma };
 
+/// The family that a text names, compared as a prefix; WCDMA for anything else.
+CardFamily familyFromText(const QString &text);
+
 /// How far the search for a card has come.
 enum class CardPresence {
     Absent,      ///< no known card and no port to probe
@@ -32,7 +35,22 @@ enum class ServiceState { None = 0, Limited = 1, Full = 2, LimitedRegional = 3, 
 
 /// Radio access technology, in the steps that a person distinguishes.
 enum class NetworkType {
-    Unknown, None, Gsm, Gprs, Edge, Umts, Hsdpa, Hsupa, Hspa, HspaPlus, TdScdma, TdHspa, Cdma1x, Evdo, Hybrid, Lte
+    Unknown,
+    None,
+    Gsm,
+    Gprs,
+    Edge,
+    Umts,
+    Hsdpa,
+    Hsupa,
+    Hspa,
+    HspaPlus,
+    TdScdma,
+    TdHspa,
+    Cdma1x,
+    Evdo,
+    Hybrid,
+    Lte
 };
 
 /// Who the card is. Read once after it was found; an empty text means "not known".

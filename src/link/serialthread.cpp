@@ -5,6 +5,7 @@
 #include "replyreader.h"
 #include "secretmask.h"
 #include "shell/commoncfg.h"
+#include "shell/commonconfig.h"
 #include "shell/logging.h"
 
 #include <QCoreApplication>
@@ -75,7 +76,9 @@ void readTimeouts()
 
 } // namespace
 
-SerialThread::SerialThread(LinkOwner *owner) : m_owner(owner), m_stopEvent(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
+SerialThread::SerialThread(LinkOwner *owner)
+    : m_owner(owner), m_family(corva::familyFromText(comcfg.cardFamily)),
+      m_stopEvent(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
 {
     readTimeouts();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "link/cardstate.h"
 #include "link/parseatres.h"
 
 #include <QByteArray>
@@ -174,8 +175,11 @@ public:
     /// Entries that the SIM's or the card's phonebook can hold, or -1.
     int simCapacity();
     int modemSideCapacity();
-    /// Hands model, IMEI and firmware to the updater's exchange file, or says there that the card is gone.
-    bool writeUpdateHardwareCfg(bool ready);
+    /// Hands model, IMEI and firmware to the updater's exchange file; null says there that the card is gone.
+    static bool writeUpdateHardwareCfg(const corva::CardIdentity *identity);
+    /// What the card is; decides which of two commands some operations send.
+    void setFamily(corva::CardFamily family) { m_family = family; }
+    corva::CardFamily family() const { return m_family; }
 
     // --- SIM -----------------------------------------------------------------------------------------------------
 
@@ -223,7 +227,6 @@ private:
     int rawText(const QByteArray &cmd, char *text, std::chrono::microseconds timeout, bool failsOnCmeError);
     int identityText(const QByteArray &cmd, const QByteArray &prefix, char *text, std::chrono::microseconds timeout);
     int phonebookCapacity(const char *store);
-    bool isFamily(const char *prefix) const;
 
     LinkOwner *const m_owner;
     std::atomic<int> m_fd = -1;
@@ -234,6 +237,7 @@ private:
     std::atomic<bool> m_portLost = false;
     std::atomic<bool> m_stop = false;
     std::atomic<int> m_dataCallState = 0;
+    std::atomic<corva::CardFamily> m_family;
     int m_stopEvent = -1;   ///< becomes readable at `requestStop`
     QByteArray m_ahead;     ///< bytes read from the port that no reply has taken yet
     QByteArray m_lastReply;

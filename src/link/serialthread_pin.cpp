@@ -22,7 +22,7 @@ int lockResult(int code, int done, int refused)
 
 int SerialThread::connectDeviceNeedInputPIN()
 {
-    switch (sendCmdAndRec(isFamily("CDMA") ? "AT^CPIN?\r\n" : "AT+CPIN?\r\n", 3, 0)) {
+    switch (sendCmdAndRec(m_family == corva::CardFamily::Cdma ? "AT^CPIN?\r\n" : "AT+CPIN?\r\n", 3, 0)) {
     case corva::SimReady: return 0;
     case corva::SimPuk: return 1;
     case corva::SimPin: return 2;

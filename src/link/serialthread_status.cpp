@@ -2,7 +2,6 @@
 #include "serialthread.h"
 
 #include "shell/commoncfg.h"
-#include "shell/commonconfig.h"
 #include "shell/logging.h"
 #include "shell/updatecfg.h"
 #include "statusparsers.h"
@@ -23,11 +22,6 @@ void copyText(char *to, const QByteArray &text)
 }
 
 } // namespace
-
-bool SerialThread::isFamily(const char *prefix) const
-{
-    return comcfg.cardFamily.startsWith(QLatin1StringView(prefix));
-}
 
 /// The reply as it came. 0 for "+CME ERROR" where the query looks for it.
 int SerialThread::rawText(const QByteArray &cmd, char *text, std::chrono::microseconds timeout, bool failsOnCmeError)
@@ -227,7 +221,7 @@ bool SerialThread::setModemOffFun()
 
 int SerialThread::netCardStatus()
 {
-    if (isFamily("CDMA") || isFamily("TD-SCDMA"))
+    if (m_family != corva::CardFamily::Wcdma)
         return 1;
     switch (sendCmdAndRec("AT+JOPRT?\r\n", 3, 0)) {
     case corva::CardOnline: return 1;
@@ -249,7 +243,7 @@ int SerialThread::getAntennaStatus()
 
 int SerialThread::getUSIM()
 {
-    if (isFamily("CDMA"))
+    if (m_family == corva::CardFamily::Cdma)
         return -1;
     switch (sendCmdAndRec("AT+JUSIM=?\r\n", 3, 0)) {
     case corva::SimIsUsim: return 1;
@@ -312,17 +306,15 @@ int SerialThread::phonebookCapacity(const char *store)
     return corva::parsePhonebookCapacity(transact("AT+CPBR=?\r\n", 3s).value_or(QByteArray())).valueOr(-1);
 }
 
-bool SerialThread::writeUpdateHardwareCfg(bool ready)
+bool SerialThread::writeUpdateHardwareCfg(const corva::CardIdentity *identity)
 {
-    if (!ready)
-        return corva::UpdateCfg::write({{u"DeviceReady"_s, u"0"_s}});
-    std::vector<char> text(replyBufferSize);
-    const auto read = [&](int (SerialThread::*query)(char *)) {
-        return (this->*query)(text.data()) == 1 ? QString::fromLatin1(text.data()) : QString();
-    };
-    return corva::UpdateCfg::write({{u"DEVICE"_s, read(&SerialThread::getCGMM)},
-                                    {u"IMEI_ID"_s, read(&SerialThread::getIMEI)},
-                                    {u"FIRMWARE_VERSION"_s, read(&SerialThread::getCgmr)},
-                                    {u"CLINT_GROUP"_s, cmcfg.getValue(u"setting"_s, u"operator"_s)},
-                                    {u"DeviceReady"_s, u"1"_s}});
+    using corva::UpdateCfg;
+    using corva::UpdateKey;
+    if (!identity)
+        return UpdateCfg::setValue(UpdateKey::DeviceReady, u"0"_s);
+    return UpdateCfg::setValues({{UpdateKey::Device, identity->model},
+                                 {UpdateKey::ImeiId, identity->imei},
+                                 {UpdateKey::FirmwareVersion, identity->firmware},
+                                 {UpdateKey::ClintGroup, cmcfg.getValue(u"setting"_s, u"operator"_s)},
+                                 {UpdateKey::DeviceReady, u"1"_s}});
 }

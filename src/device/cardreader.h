@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "link/cardstate.h"
+
+#include <QByteArray>
+#include <set>
+#include <vector>
+
+class SerialThread;
+
+namespace corva
+{
+
+/// Asks one card who it is and how it does, and remembers what it cannot answer. Lives on the card worker.
+///
+/// The maker's own commands are used where the card knows them. A card that refuses one at identification is not asked
+/// again: operator, signal and registration then come from the standard commands alone.
+class CardReader
+{
+public:
+    explicit CardReader(SerialThread &link);
+
+    /// Begins anew with a card that was just found; `state` holds what the search knows of it.
+    void begin(const CardState &state);
+
+    /// How errors are reported, and what the card adds to its registration. Once, before anything else.
+    void prepare();
+    /// SIM, signal, registration, operator, service. False when the card fell silent in between; what was read until
+    /// then is kept.
+    bool readStatus();
+    /// Model, IMEI, firmware, IMSI, ICCID, own number.
+    void readIdentity();
+
+    const CardState &state() const { return m_state; }
+
+private:
+    using TextQuery = int (SerialThread::*)(char *);
+
+    QByteArray ask(TextQuery query, const char *name);
+    bool isKnown(const char *name) const { return !m_refused.contains(name); }
+    void readSim();
+    void readSignal();
+    void readRegistration();
+    void readService();
+    void readOperator();
+    void settle();
+
+    SerialThread &m_link;
+    CardState m_state;
+    std::vector<char> m_buffer;
+    std::set<QByteArray> m_refused;
+    bool m_isSilent = false;
+    int m_simAttempts = 0;
+};
+
+} // namespace corva
