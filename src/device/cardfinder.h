@@ -6,9 +6,11 @@
 #include "device/usbidentity.h"
 #include "link/cardstate.h"
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <optional>
 
 namespace corva
 {
@@ -92,12 +94,15 @@ public:
 private:
     FoundCard findConfigured(const PortProbe &probe);
     FoundCard findOnUsb(const PortProbe &probe);
-    FoundCard tryCard(const UsbStick &stick, const PortProbe &probe);
+    FoundCard tryStick(const UsbStick &stick, const PortProbe &probe);
+    std::optional<CardType> typeOf(const UsbStick &stick) const;
     FoundCard remember(FoundCard card);
 
     ModemTypes m_types;
     DeviceSettings m_settings;
     QString m_preferred;
+    QMap<QString, CardType>
+        m_learned; ///< unknown cards that answered, by key: what their interfaces turned out to be
 };
 
 } // namespace corva

@@ -54,8 +54,9 @@ public:
     const CardType *cardFor(UsbId id) const;
     /// The entry that lists this id as a disk.
     const CardType *cardForStorage(UsbId id) const;
-    /// Whether the ports of a stick that is no known card may be probed: a driver each, as a rule wants them.
-    bool mayProbe(UsbId id, const QStringList &portDrivers) const;
+    /// The rule that lets the ports of an unknown stick be probed, by the driver of each port; none for
+    /// ignored sticks.
+    const ProbeRule *ruleFor(UsbId id, const QStringList &portDrivers) const;
 
     QList<CardType> cards;
     QList<ProbeRule> rules;

@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/inifile.h"
+
+#include "shell/globals.h"
+#include "shell/updatecfg.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+#include <memory>
+#include <thread>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace corva;
+
+namespace
+{
+
+constexpr auto absent = "(absent)";
+
+void put(const char *path, const QByteArray &content)
+{
+    QFile file(QString::fromLatin1(path));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+QByteArray contentOf(const char *path)
+{
+    QFile file(QString::fromLatin1(path));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// What `work` prints to the standard output.
+template <typename Work> QByteArray printedBy(Work work)
+{
+    std::fflush(stdout);
+    const int saved = ::dup(STDOUT_FILENO);
+    if (!std::freopen("printed", "w", stdout))
+        return "(cannot redirect)";
+    work();
+    std::fflush(stdout);
+    ::dup2(saved, STDOUT_FILENO);
+    ::close(saved);
+    return contentOf("printed");
+}
+
+QByteArray randomLine(QRandomGenerator &random)
+{
+    static const QByteArray letters("[]=;#/ \t\r\"aB\x01\x20\x7f\x80\xff\xc3\xa4");
+    QByteArray line;
+    for (int n = random.bounded(600); n > 0; --n)
+        line += letters.at(random.bounded(letters.size()));
+    return line + '\n';
+}
+
+} // namespace
+
+class TestIniFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir::setCurrent(m_folder->path()));
+        basePath = m_folder->path();
+    }
+
+    void cleanup() { QDir::setCurrent(QDir::rootPath()); }
+
+    void loads_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QByteArray>("section");
+        QTest::addColumn<QByteArray>("key");
+        QTest::addColumn<QByteArray>("value");
+        const auto row = [](const char *name, const QByteArray &content, const char *section, const char *key,
+                            const QByteArray &value) {
+            QTest::newRow(name) << content << QByteArray(section) << QByteArray(key) << value;
+        };
+        row("plain", "[s]\nk=v\n", "s", "k", "v");
+        row("letter case", "[Sec]\nKey=v\n", "sEC", "kEY", "v");
+        row("letter case beyond ASCII counts", "[s]\n\xc3\x84=v\n", "s", "\xc3\xa4", absent);
+        row("blanks everywhere", " [ s ] \r\n\t k \t=\t v w \r\n", "s", "k", "v w");
+        row("first equals sign splits", "[s]\nk=a=b\n", "s", "k", "a=b");
+        row("no value", "[s]\nk=\n", "s", "k", "");
+        row("no key", "[s]\n=v\n", "s", "", "v");
+        row("before the first section", "k=v\n[s]\n", "", "k", "v");
+        row("section without name", "[s]\n[]\nk=v\n", "", "k", "v");
+        row("later value wins", "[s]\nk=1\n[t]\nk=2\n[S]\nK=3\n", "s", "k", "3");
+        row("hash comment", "[s]\n#k=v\n", "s", "#k", absent);
+        row("semicolon comment", "[s]\n ;k=v\n", "s", ";k", absent);
+        row("slash comment", "[s]\n/k=v\n", "s", "/k", absent);
+        row("hash inside is none", "[s]\nk=v # w\n", "s", "k", "v # w");
+        row("bracket not closed", "[s]\n[t\nk=v\n", "s", "k", "v");
+        row("bracket not closed, with equals sign", "[s]\n[t=v\n", "s", "[t", "v");
+        row("bracket alone", "[s]\n[\nk=v\n", "s", "k", "v");
+        row("text behind the header", "[s]\n[t] x\nk=v\n", "s", "k", "v");
+        row("no end of the last line", "[s]\nk=v", "s", "k", "v");
+        row("letters above 127 are no blanks", "[s]\nk=\xa0\xff\n", "s", "k", "\xa0\xff");
+        row("delete is no blank", "[s]\nk=\x7f\n", "s", "k", "\x7f");
+        row("255 bytes in one piece", "[s]\nk=" + QByteArray(253, 'x') + "\nl=v\n", "s", "k",
+            QByteArray(253, 'x'));
+        row("256 bytes are cut", "[s]\nk=" + QByteArray(254, 'x') + "\n", "s", "k", QByteArray(253, 'x'));
+        row("the second piece is a line", "[s]\nk=" + QByteArray(253, 'x') + "l=v\n", "s", "l", "v");
+        row("a cut comment goes on as a line", "[s]\n#" + QByteArray(254, 'x') + "l=v\n", "s", "l", "v");
+        row("blanks at a cut vanish", "[s]\nk=" + QByteArray(252, 'x') + "  y\n", "s", "k",
+            QByteArray(252, 'x'));
+    }
+
+    void loads()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QByteArray, section);
+        QFETCH(QByteArray, key);
+        put("file.ini", content);
+        CIniFile ini;
+        QCOMPARE(ini.Load("file.ini"), 0);
+        QTEST(QByteArray(ini.Get(section.constData(), key.constData(), absent)), "value");
+    }
+
+    void savesInOrder()
+    {
+        put("file.ini", "; gone\n\nz=0\n[Two]\nb = 1\n[One]\na=2\n[two]\nB=3\nc=4\n");
+        const CIniFile ini("file.ini");
+        QCOMPARE(ini.Save("file.ini"), 0);
+        QCOMPARE(contentOf("file.ini"), QByteArray("[]\nz=0\n\n[Two]\nb=3\nc=4\n\n[One]\na=2\n\n"));
+    }
+
+    void setTrimsOnlyNewPairs()
+    {
+        CIniFile ini;
+        ini.Set("s", " k ", " v ");
+        QCOMPARE(ini.Get("s", "k", absent), "v");
+        ini.Set("s", "k", " w ");
+        QCOMPARE(ini.Get("s", "k", absent), " w ");
+        ini.Set("s", " k ", "x"); // looked up untrimmed: a second pair, which is never reached
+        QCOMPARE(ini.Get("s", "k", absent), " w ");
+        QCOMPARE(ini.Get("s", " k ", absent), absent);
+    }
+
+    void setTakesItsOwnTexts()
+    {
+        CIniFile ini;
+        ini.Set("s", "k", "a rather long value that has its own memory");
+        for (int i = 0; i < 100; ++i)
+            ini.Set("s", QByteArray::number(i).constData(), ini.Get("s", "k", absent));
+        ini.Set("s", "k", ini.Get("s", "k", absent) + 2);
+        QCOMPARE(ini.Get("s", "99", absent), "a rather long value that has its own memory");
+        QCOMPARE(ini.Get("s", "k", absent), "rather long value that has its own memory");
+    }
+
+    void nullIsEmpty()
+    {
+        CIniFile ini;
+        ini.Set(nullptr, nullptr, nullptr);
+        QCOMPARE(ini.Get("", "", absent), "");
+        QCOMPARE(ini.Get("s", "k", nullptr), nullptr);
+        QCOMPARE(ini.Load(nullptr), 1);
+        QCOMPARE(ini.Save(nullptr), 1);
+    }
+
+    void failuresArePrinted()
+    {
+        CIniFile ini;
+        int result = -1;
+        QCOMPARE(printedBy([&] { result = ini.Load("no/such.ini"); }), "cannot load ini file no/such.ini\n");
+        QCOMPARE(result, 1);
+        QCOMPARE(printedBy([&] { result = ini.Load("."); }), "cannot load ini file .\n");
+        QCOMPARE(result, 1);
+        QCOMPARE(printedBy([&] { result = ini.Save("."); }), "cannot save to INI file: .\n");
+        QCOMPARE(result, 1);
+    }
+
+    void loadReplaces()
+    {
+        put("one.ini", "[s]\nk=1\n");
+        put("two.ini", "[t]\nl=2\n");
+        CIniFile ini("one.ini");
+        QCOMPARE(ini.Load("two.ini"), 0);
+        QCOMPARE(ini.Get("s", "k", absent), absent);
+        QCOMPARE(ini.Get("t", "l", absent), "2");
+        ini.FreeAllTheStuff();
+        QCOMPARE(ini.Get("t", "l", absent), absent);
+    }
+
+    void savingIsAFixedPoint()
+    {
+        QRandomGenerator random(20240229);
+        for (int round = 0; round < 40; ++round) {
+            QByteArray text;
+            for (int lines = random.bounded(20); lines > 0; --lines)
+                text += randomLine(random);
+            put("file.ini", text);
+            QCOMPARE(CIniFile("file.ini").Save("first.ini"), 0);
+            CIniFile("first.ini").Save("second.ini");
+            CIniFile("second.ini").Save("third.ini");
+            QCOMPARE(contentOf("third.ini"), contentOf("second.ini"));
+        }
+    }
+
+    void updateValuesCannotBreakOut()
+    {
+        QVERIFY(UpdateCfg::setValue(UpdateKey::Device, u"x\r\n[UPDATE]\nDeviceReady=1"_s));
+        QCOMPARE(UpdateCfg::value(UpdateKey::DeviceReady), QString());
+        QCOMPARE(UpdateCfg::value(UpdateKey::Device), u"x  [UPDATE] DeviceReady=1"_s);
+    }
+
+    void updateKeepsOthersKeys()
+    {
+        put("UpdateCfg.ini", "[OTHER]\nk=v\n[UPDATE]\nUPDATE_FREQUENCE=7\nDEVICE=old\n");
+        QVERIFY(UpdateCfg::setValues({{UpdateKey::Device, u"new"_s}, {UpdateKey::ImeiId, u"123"_s}}));
+        QCOMPARE(contentOf("UpdateCfg.ini"),
+                 QByteArray("[OTHER]\nk=v\n\n[UPDATE]\nUPDATE_FREQUENCE=7\nDEVICE=new\nIMEI_ID=123\n\n"));
+        QCOMPARE(UpdateCfg::value(UpdateKey::UpdateFrequence), u"7"_s);
+    }
+
+    void updateFromTwoThreadsLosesNothing()
+    {
+        constexpr int rounds = 20;
+        const auto count = [](UpdateKey key) {
+            for (int i = 1; i <= rounds; ++i)
+                UpdateCfg::setValue(key, QString::number(UpdateCfg::value(key).toInt() + 1));
+        };
+        std::thread link(count, UpdateKey::DeviceReady);
+        std::thread dialler(count, UpdateKey::Wvdial);
+        link.join();
+        dialler.join();
+        QCOMPARE(UpdateCfg::value(UpdateKey::DeviceReady).toInt(), rounds);
+        QCOMPARE(UpdateCfg::value(UpdateKey::Wvdial).toInt(), rounds);
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+QTEST_APPLESS_MAIN(TestIniFile)
+#include "tst_inifile.moc"

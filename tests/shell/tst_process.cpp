@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What belongs to the process as a whole: the instance lock, the version file, the debug log.
+#include "shell/debuglog.h"
+#include "shell/globals.h"
+#include "shell/instance.h"
+#include "shell/logging.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <functional>
+#include <memory>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+void put(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// A child process that reports what `work` returned and then lives until it is killed.
+class Child
+{
+public:
+    explicit Child(const std::function<int()> &work)
+    {
+        int ends[2] = {-1, -1};
+        if (::pipe(ends) != 0)
+            return;
+        m_pid = ::fork();
+        if (m_pid == 0) {
+            const int result = work();
+            if (::write(ends[1], &result, sizeof result) != sizeof result)
+                ::_exit(98);
+            for (;;)
+                ::pause();
+        }
+        ::close(ends[1]);
+        m_reportEnd = ends[0];
+    }
+    Q_DISABLE_COPY_MOVE(Child)
+    ~Child()
+    {
+        kill();
+        ::close(m_reportEnd);
+    }
+
+    int pid() const { return int(m_pid); }
+
+    /// What the work returned, or 1000 + the exit status when it ended the process.
+    int result()
+    {
+        int value = 0;
+        if (::read(m_reportEnd, &value, sizeof value) == sizeof value)
+            return value;
+        return 1000 + WEXITSTATUS(wait());
+    }
+
+    void kill()
+    {
+        if (m_pid > 0)
+            ::kill(m_pid, SIGKILL);
+        wait();
+    }
+
+private:
+    int wait()
+    {
+        int status = 0;
+        if (m_pid > 0)
+            ::waitpid(m_pid, &status, 0);
+        m_pid = -1;
+        return status;
+    }
+
+    pid_t m_pid = -1;
+    int m_reportEnd = -1;
+};
+
+} // namespace
+
+class TestProcess : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        basePath = m_folder->path();
+        QVERIFY(QDir(basePath).mkdir(u"Data"_s));
+    }
+
+    void oneInstanceHoldsTheLock()
+    {
+        const QByteArray path = QFile::encodeName(basePath + u"/pid"_s);
+        const auto take = [&] { return corva::takeInstanceLock(path.constData()); };
+        put(basePath + u"/pid"_s, "a longer text than any number");
+
+        Child first(take);
+        QCOMPARE(first.result(), 0);
+        const QByteArray number = QByteArray::number(first.pid());
+        QCOMPARE(contentOf(basePath + u"/pid"_s), number);
+
+        Child second(take);
+        QCOMPARE(second.result(), 1);
+        QCOMPARE(contentOf(basePath + u"/pid"_s), number);
+
+        first.kill();
+        Child third(take);
+        QCOMPARE(third.result(), 0);
+        QCOMPARE(contentOf(basePath + u"/pid"_s), QByteArray::number(third.pid()));
+    }
+
+    void lockFileThatCannotBeUsed_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("no such folder") << u"/no/pid"_s;
+        QTest::newRow("a folder") << u"/Data"_s;
+    }
+
+    void lockFileThatCannotBeUsed()
+    {
+        QFETCH(QString, name);
+        const QByteArray path = QFile::encodeName(basePath + name);
+        Child child([&] { return corva::takeInstanceLock(path.constData()); });
+        QCOMPARE(child.result(), 1001);
+    }
+
+    void version_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("version");
+        QTest::newRow("one line") << QByteArray("1.2.3\n") << u"1.2.3"_s;
+        QTest::newRow("no line end") << QByteArray("1.2.3") << u"1.2.3"_s;
+        QTest::newRow("other line end") << QByteArray("1.2.3\r\nmore\r\n") << u"1.2.3"_s;
+        QTest::newRow("UTF-8") << QByteArray("1.2 \xc3\xa4\n") << u"1.2 ä"_s;
+        QTest::newRow("first line empty") << QByteArray("\n1.2.3\n") << QString();
+        QTest::newRow("empty") << QByteArray() << QString();
+    }
+
+    void version()
+    {
+        QFETCH(QByteArray, content);
+        QCOMPARE(readVersionInfo(), QString());
+        put(basePath + u"/Data/version.txt"_s, content);
+        QTEST(readVersionInfo(), "version");
+    }
+
+    void debugLogCollects()
+    {
+        const QString log = basePath + u"/Data/debug.log"_s;
+        put(log, QByteArray(1000, 'x'));
+        myMessageOutput(QtDebugMsg, {}, u"one ä"_s);
+        myMessageOutput(QtWarningMsg, {}, u"dropped"_s);
+        myMessageOutput(QtInfoMsg, {}, u"two"_s);
+        myMessageOutput(QtCriticalMsg, {}, u"three"_s);
+        outputLog2File();
+        QCOMPARE(contentOf(log), QByteArray("one ä\r\ntwo\r\nthree\r\n"));
+
+        myMessageOutput(QtDebugMsg, {}, u"four"_s);
+        outputLog2File();
+        QCOMPARE(contentOf(log), QByteArray("one ä\r\ntwo\r\nthree\r\nfour\r\n"));
+    }
+
+    void fatalMessageAborts()
+    {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            myMessageOutput(QtFatalMsg, {}, u"fatal, on purpose"_s);
+            ::_exit(0);
+        }
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        QVERIFY(WIFSIGNALED(status) && WTERMSIG(status) == SIGABRT);
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+QTEST_APPLESS_MAIN(TestProcess)
+#include "tst_process.moc"
