@@ -94,7 +94,8 @@ CardMonitor::Private::Private(CardMonitor *monitor, LinkOwner *owner)
     worker.setAfterEach([this](SerialThread &) { checkPort(); });
 }
 
-// --- On the card worker ----------------------------------------------------------------------------------------------
+// --- On the card worker
+// ----------------------------------------------------------------------------------------------
 
 void CardMonitor::Private::search(bool byFixedNames)
 {
@@ -243,7 +244,8 @@ void CardMonitor::Private::wokeUp()
 
 void CardMonitor::Private::say(const QString &sentence)
 {
-    QMetaObject::invokeMethod(q, [this, sentence] { Q_EMIT q->sigActivity(sentence); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        q, [this, sentence] { Q_EMIT q->sigActivity(sentence); }, Qt::QueuedConnection);
 }
 
 void CardMonitor::Private::publish()
@@ -262,14 +264,16 @@ void CardMonitor::Private::publish(const CardState &state)
             q->m_state = state;
             const bool isThere = state.presence == CardPresence::Ready;
             if (wasThere != isThere && statusTimer.isActive())
-                statusTimer.start(interval(isThere ? u"slottimer_interval"_s : u"slottimer_interval_iscardoffline"_s,
-                                           statusInterval));
+                statusTimer.start(
+                    interval(isThere ? u"slottimer_interval"_s : u"slottimer_interval_iscardoffline"_s,
+                             statusInterval));
             Q_EMIT q->sigStateChanged(q->m_state);
         },
         Qt::QueuedConnection);
 }
 
-// --- On the GUI thread -----------------------------------------------------------------------------------------------
+// --- On the GUI thread
+// -----------------------------------------------------------------------------------------------
 
 CardMonitor::CardMonitor(LinkOwner *owner, QObject *parent)
     : QObject(parent), d(std::make_unique<Private>(this, owner))
@@ -375,7 +379,8 @@ QFuture<PinOutcome> CardMonitor::enterPuk(const QString &puk, const QString &new
 QFuture<bool> CardMonitor::switchRadioOn()
 {
     return d->worker.submit([this](SerialThread &link) {
-        const bool isOn = link.family() == CardFamily::TdScdma ? link.setTDModemFullFun() : link.setModemFullFun();
+        const bool isOn =
+            link.family() == CardFamily::TdScdma ? link.setTDModemFullFun() : link.setModemFullFun();
         d->poll(); // a slow "OK" is told by the level itself
         return isOn || d->reader.state().functionality == 1;
     });

@@ -19,8 +19,8 @@ class CardWorker;
 /// How the card took a PIN or a PUK.
 enum class PinOutcome { Accepted, Wrong, PukNeeded, SimFailure, NoAnswer };
 
-/// The life of one card: found, identified, polled, gone. Lives on the GUI thread; everything that touches the card runs on
-/// the card worker, and comes back as a new `CardState`.
+/// The life of one card: found, identified, polled, gone. Lives on the GUI thread; everything that touches
+/// the card runs on the card worker, and comes back as a new `CardState`.
 class CardMonitor : public QObject
 {
     Q_OBJECT
@@ -38,8 +38,8 @@ public:
     SerialThread &link();
     CardWorker &worker();
 
-    /// The search for the card, called by the owner on the link's thread when no port is known. Blocks that thread.
-    /// `newWay` looks at "/dev/at" and "/dev/modem" alone.
+    /// The search for the card, called by the owner on the link's thread when no port is known. Blocks that
+    /// thread. `newWay` looks at "/dev/at" and "/dev/modem" alone.
     void findPorts(bool newWay);
 
     /// Looks for the card now instead of at the next round.

@@ -21,8 +21,8 @@ bool isRegistered(Registration stat)
 /// A refusal that will not change by waiting: the command itself is unknown. 3GPP TS 27.007 9.2.
 bool isUnknownCommand(const ReplyError &error)
 {
-    return error.kind == ReplyError::Refused
-        && (error.detail.isEmpty() || error.detail == "4" || error.detail == "operation not supported");
+    return error.kind == ReplyError::Refused &&
+           (error.detail.isEmpty() || error.detail == "4" || error.detail == "operation not supported");
 }
 
 } // namespace
@@ -82,8 +82,8 @@ void CardReader::readSim()
         m_isSilent = true;
         return;
     }
-    static constexpr SimState states[] = {SimState::Ready, SimState::PukNeeded, SimState::PinNeeded, SimState::Busy,
-                                          SimState::Failure};
+    static constexpr SimState states[] = {SimState::Ready, SimState::PukNeeded, SimState::PinNeeded,
+                                          SimState::Busy, SimState::Failure};
     m_state.sim = result >= 0 && result < 5 ? states[result]
                                             : parseSimState(m_link.lastReply()).valueOr(SimState::Unknown);
 
@@ -163,9 +163,9 @@ void CardReader::readService()
         return;
     m_state.service = information.service;
     if (m_state.service == ServiceState::Unknown && m_state.registration != Registration::Unknown)
-        m_state.service = isRegistered(m_state.registration) ? ServiceState::Full
-            : m_state.registration == Registration::Denied   ? ServiceState::Limited
-                                                             : ServiceState::None;
+        m_state.service = isRegistered(m_state.registration)             ? ServiceState::Full
+                          : m_state.registration == Registration::Denied ? ServiceState::Limited
+                                                                         : ServiceState::None;
     if (information.networkType != NetworkType::Unknown)
         m_state.networkType = information.networkType;
     if (information.roaming && m_state.registration == Registration::Unknown)
@@ -190,8 +190,8 @@ void CardReader::readOperator()
 
 void CardReader::settle()
 {
-    const bool simSettled
-        = m_state.sim == SimState::Ready || m_state.sim == SimState::Absent || m_state.sim == SimState::Failure;
+    const bool simSettled =
+        m_state.sim == SimState::Ready || m_state.sim == SimState::Absent || m_state.sim == SimState::Failure;
     m_state.modemReady = m_state.presence == CardPresence::Ready && simSettled;
 }
 
@@ -199,7 +199,9 @@ void CardReader::readIdentity()
 {
     m_isSilent = false;
     CardIdentity &who = m_state.identity;
-    const auto text = [this](TextQuery query, const char *name) { return QString::fromLatin1(ask(query, name)); };
+    const auto text = [this](TextQuery query, const char *name) {
+        return QString::fromLatin1(ask(query, name));
+    };
     who.manufacturer = text(&SerialThread::getCGMI, "CGMI");
     who.model = text(&SerialThread::getCGMM, "CGMM");
     who.imei = text(&SerialThread::getIMEI, "CGSN");

@@ -14,8 +14,8 @@ namespace corva
 
 /// Asks one card who it is and how it does, and remembers what it cannot answer. Lives on the card worker.
 ///
-/// The maker's own commands are used where the card knows them. A card that refuses one at identification is not asked
-/// again: operator, signal and registration then come from the standard commands alone.
+/// The maker's own commands are used where the card knows them. A card that refuses one at identification is
+/// not asked again: operator, signal and registration then come from the standard commands alone.
 class CardReader
 {
 public:
@@ -26,8 +26,8 @@ public:
 
     /// How errors are reported, and what the card adds to its registration. Once, before anything else.
     void prepare();
-    /// SIM, signal, registration, operator, service. False when the card fell silent in between; what was read until
-    /// then is kept.
+    /// SIM, signal, registration, operator, service. False when the card fell silent in between; what was
+    /// read until then is kept.
     bool readStatus();
     /// Model, IMEI, firmware, IMSI, ICCID, own number.
     void readIdentity();

@@ -38,19 +38,23 @@ private:
     std::variant<T, ReplyError> m_content;
 };
 
-/// The fields of one information line, `<prefix> a,"b,c",d`: quotes taken off, blanks around unquoted fields too.
-/// 3GPP TS 27.007 4.
+/// The fields of one information line, `<prefix> a,"b,c",d`: quotes taken off, blanks around unquoted fields
+/// too. 3GPP TS 27.007 4.
 class AtFields
 {
 public:
-    /// The first line of `reply` that begins with `prefix` ("+CSQ:"); the error says whether the card refused.
+    /// The first line of `reply` that begins with `prefix` ("+CSQ:"); the error says whether the card
+    /// refused.
     static ReplyResult<AtFields> find(const QByteArray &reply, QByteArrayView prefix);
     /// Splits the text behind a prefix.
     explicit AtFields(QByteArrayView arguments);
 
     qsizetype count() const { return m_fields.size(); }
     bool has(qsizetype index) const { return index < m_fields.size() && !m_fields[index].isEmpty(); }
-    QByteArray text(qsizetype index) const { return index < m_fields.size() ? m_fields[index] : QByteArray(); }
+    QByteArray text(qsizetype index) const
+    {
+        return index < m_fields.size() ? m_fields[index] : QByteArray();
+    }
     bool isQuoted(qsizetype index) const { return index < m_quoted.size() && m_quoted[index]; }
     /// The whole field as a number in `lowest`..`highest`; nullopt for anything else.
     std::optional<int> number(qsizetype index, int lowest, int highest, int base = 10) const;

@@ -31,7 +31,14 @@ enum class SimState { Unknown, Ready, PinNeeded, PukNeeded, Busy, Failure, Absen
 enum class Registration { NotSearching = 0, Home = 1, Searching = 2, Denied = 3, Unknown = 4, Roaming = 5 };
 
 /// Service state. Source: the first field of "^SYSINFO:".
-enum class ServiceState { None = 0, Limited = 1, Full = 2, LimitedRegional = 3, PowerSave = 4, Unknown = 255 };
+enum class ServiceState {
+    None = 0,
+    Limited = 1,
+    Full = 2,
+    LimitedRegional = 3,
+    PowerSave = 4,
+    Unknown = 255
+};
 
 /// Radio access technology, in the steps that a person distinguishes.
 enum class NetworkType {
@@ -70,27 +77,27 @@ struct CardIdentity {
 /// thread. `std::nullopt` means "not known".
 struct CardState {
     CardPresence presence = CardPresence::Absent;
-    QString deviceName;   ///< what people call the stick, from USB or the types file
-    QString portName;     ///< e.g. "/dev/ttyUSB2"; empty when there is none
-    QString modemPortName;///< the data port, where known
-    QString portHolder;   ///< PortBusy: the other program's name; may be empty when it cannot be told
+    QString deviceName;    ///< what people call the stick, from USB or the types file
+    QString portName;      ///< e.g. "/dev/ttyUSB2"; empty when there is none
+    QString modemPortName; ///< the data port, where known
+    QString portHolder;    ///< PortBusy: the other program's name; may be empty when it cannot be told
     qint64 portHolderPid = 0;
-    QString portGroup;    ///< NoRights: the group that owns the port, e.g. "dialout"
+    QString portGroup; ///< NoRights: the group that owns the port, e.g. "dialout"
     CardFamily family = CardFamily::Wcdma;
 
     CardIdentity identity;
     SimState sim = SimState::Unknown;
-    std::optional<int> pinAttempts; ///< attempts left for the PIN
-    std::optional<int> pukAttempts; ///< attempts left for the PUK
+    std::optional<int> pinAttempts;   ///< attempts left for the PIN
+    std::optional<int> pukAttempts;   ///< attempts left for the PUK
     std::optional<int> functionality; ///< "+CFUN: <fun>": 1 full, 0 or 4 radio off
     Registration registration = Registration::Unknown;
     std::optional<bool> roaming;
     ServiceState service = ServiceState::Unknown;
     NetworkType networkType = NetworkType::Unknown;
     QString operatorName;
-    QString operatorCode; ///< MCC and MNC, e.g. "26201"
-    int signalCode = 35;  ///< 30..34 for levels 1..5, 35 no signal
-    std::optional<int> signalDbm; ///< -113..-51
+    QString operatorCode;            ///< MCC and MNC, e.g. "26201"
+    int signalCode = 35;             ///< 30..34 for levels 1..5, 35 no signal
+    std::optional<int> signalDbm;    ///< -113..-51
     std::optional<int> locationArea; ///< LAC
     std::optional<int> cellId;
     QDateTime networkTime;

@@ -17,8 +17,8 @@ class SerialThread;
 namespace corva
 {
 
-/// The one thread that runs card jobs, one after another, in the order in which they were asked for. While no job runs it
-/// waits on the port, so that a report is seen when it comes.
+/// The one thread that runs card jobs, one after another, in the order in which they were asked for. While no
+/// job runs it waits on the port, so that a report is seen when it comes.
 class CardWorker : public QThread
 {
     Q_OBJECT
@@ -28,8 +28,8 @@ public:
     /// Stops the thread.
     ~CardWorker() override;
 
-    /// Runs `job(link)` behind the jobs that wait; the future carries its value. A future of a job that was dropped by `stop`
-    /// is cancelled. Any thread.
+    /// Runs `job(link)` behind the jobs that wait; the future carries its value. A future of a job that was
+    /// dropped by `stop` is cancelled. Any thread.
     template <typename Job> auto submit(Job job) -> QFuture<std::invoke_result_t<Job, SerialThread &>>
     {
         using Value = std::invoke_result_t<Job, SerialThread &>;
@@ -46,13 +46,15 @@ public:
         return future;
     }
 
-    /// Runs `job` unless one with the same key still waits or runs: polls never queue up behind a slow card. Any thread.
+    /// Runs `job` unless one with the same key still waits or runs: polls never queue up behind a slow card.
+    /// Any thread.
     void submitOnce(const QByteArray &key, std::function<void(SerialThread &)> job);
 
     /// Called on the worker after every job and every drain; set before `start`.
     void setAfterEach(std::function<void(SerialThread &)> check) { m_afterEach = std::move(check); }
 
-    /// Ends the loop: the running job sees its card fall silent, those that wait are dropped. Returns when the thread ended.
+    /// Ends the loop: the running job sees its card fall silent, those that wait are dropped. Returns when
+    /// the thread ended.
     void stop();
 
 protected:

@@ -33,7 +33,8 @@ public:
     virtual void stkShowText(const QString &text) = 0;
     virtual void stkReportSmsState(const QString &text) = 0;
 
-    /// Messages that are not announced by "+CMTI:" or "+CMT:": a delivery report, a class 0 message, a cell broadcast.
+    /// Messages that are not announced by "+CMTI:" or "+CMT:": a delivery report, a class 0 message, a cell
+    /// broadcast.
     virtual void smsStatusReported(const QString &text) = 0;
     virtual void class0SmsReceived(const QString &text) = 0;
     virtual void cellBroadcastReceived(const QString &text) = 0;

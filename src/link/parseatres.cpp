@@ -13,18 +13,19 @@ namespace
 /// A text looked for in a reply, and the code that it earns.
 struct Outcome {
     const char *text;
-    unsigned code;
+    int code;
 };
 
-using Judge = unsigned (*)(const QByteArray &reply);
+using Judge = int (*)(const QByteArray &reply);
 
-/// One operation's replies. A rule is selected by the echoed command; `mark` selects it in a reply that carries no echo
-/// at all. `outcomes` are tested in order, then `judge` where there is one; `otherwise` is the code for none of them.
+/// One operation's replies. A rule is selected by the echoed command; `mark` selects it in a reply that
+/// carries no echo at all. `outcomes` are tested in order, then `judge` where there is one; `otherwise` is
+/// the code for none of them.
 struct Rule {
     const char *command; ///< text of the echo; null when only the mark selects
     const char *mark;    ///< text of a bare reply; null when only the echo selects
     std::span<const Outcome> outcomes;
-    unsigned otherwise;
+    int otherwise;
     const char *serves; ///< the operation that compares the code
     Judge judge = nullptr;
 };
@@ -33,8 +34,8 @@ constexpr auto plainProbe = std::to_array<Outcome>({{"\r\nOK", Acknowledged}});
 constexpr auto dial = std::to_array<Outcome>(
     {{"NO CARRIER", NoCarrier}, {"BUSY", Busy}, {"NO ANSWER", NoAnswer}, {"CONNECT", Connected}});
 
-// Error numbers stand beside the words: a card in its default error mode says the number (3GPP TS 27.007 9.2).
-// A SIM that only wants PIN2 is not locked.
+// Error numbers stand beside the words: a card in its default error mode says the number (3GPP
+// TS 27.007 9.2). A SIM that only wants PIN2 is not locked.
 constexpr auto simState = std::to_array<Outcome>({
     {"CPIN: READY", SimReady},
     {"CPIN:READY", SimReady},
@@ -103,8 +104,8 @@ constexpr auto storageRead = std::to_array<Outcome>({{"+CPMS: ", StorageRead}});
 constexpr auto callWaiting = std::to_array<Outcome>({{"OK", CallWaitingOk}});
 constexpr auto cardOnline = std::to_array<Outcome>({{"+JOPRT: 1", CardOnline}, {"+JOPRT: 0", CardOffline}});
 constexpr auto cardPower = std::to_array<Outcome>({{"OK\r\n", CardPowered}});
-constexpr auto functionality = std::to_array<Outcome>(
-    {{"\r\n+CFUN: 1", FullFunctionality}, {"\r\n+CFUN: 0", MinimumFunctionality}});
+constexpr auto functionality =
+    std::to_array<Outcome>({{"\r\n+CFUN: 1", FullFunctionality}, {"\r\n+CFUN: 0", MinimumFunctionality}});
 constexpr auto functionalitySet = std::to_array<Outcome>({{"OK\r\n", FunctionalitySet}});
 constexpr auto testMode = std::to_array<Outcome>({{"ZPPDL: 1", TestModeOn}, {"ZPPDL: 0", TestModeOff}});
 constexpr auto dataCall = std::to_array<Outcome>({{"+JPDPACT: 1,0", DataCallReport},
@@ -132,23 +133,23 @@ int numberBehind(const QByteArray &reply, QByteArrayView mark)
     return length > 0 ? digits.first(length).toInt() : -1;
 }
 
-unsigned judgeSignal(const QByteArray &reply)
+int judgeSignal(const QByteArray &reply)
 {
     const int rssi = numberBehind(reply, "\r\n+CSQ: ");
-    return rssi < 0 ? unsigned(NotWritten) : signalLevelCode(rssi);
+    return rssi < 0 ? NotWritten : signalLevelCode(rssi);
 }
 
 /// "^HDRCSQ: <0..100>" in five equal steps, 0 no signal.
-unsigned judgeEvdoSignal(const QByteArray &reply)
+int judgeEvdoSignal(const QByteArray &reply)
 {
     const int percent = numberBehind(reply, "\r\n^HDRCSQ: ");
     if (percent < 0)
         return NotWritten;
-    return percent == 0 || percent > 100 ? unsigned(EvdoNone) : EvdoLevel1 + unsigned(percent - 1) / 20;
+    return percent == 0 || percent > 100 ? EvdoNone : EvdoLevel1 + (percent - 1) / 20;
 }
 
 /// "OK" behind the message reference or index.
-unsigned judgeMessageSent(const QByteArray &reply)
+int judgeMessageSent(const QByteArray &reply)
 {
     const qsizetype at = std::max(reply.indexOf("+CMGS"), reply.indexOf("+CMGW"));
     return at >= 0 && reply.indexOf("OK", at) >= 0 ? Acknowledged : NotWritten;
@@ -192,7 +193,7 @@ constexpr auto rules = std::to_array<Rule>({
     {nullptr, "+CME ERROR: SIM ", simError, NotWritten, "SIM state without an echo"},
 });
 
-unsigned judge(const QByteArray &text, const Rule &rule)
+int judge(const QByteArray &text, const Rule &rule)
 {
     for (const Outcome &outcome : rule.outcomes) {
         if (text.contains(outcome.text))
@@ -206,7 +207,7 @@ bool hasEcho(const QByteArray &text)
     return text.contains("AT+") || text.contains("AT^") || text.contains("AT\r") || text.contains("ATD");
 }
 
-unsigned classify(const QByteArray &text)
+int classify(const QByteArray &text)
 {
     if (text.isEmpty())
         return NotWritten;
@@ -224,11 +225,11 @@ unsigned classify(const QByteArray &text)
 
 } // namespace
 
-unsigned signalLevelCode(int rssi)
+int signalLevelCode(int rssi)
 {
     struct Step {
         int upTo;
-        unsigned code;
+        int code;
     };
     static constexpr auto steps = std::to_array<Step>({{0, SignalNone},
                                                        {10, SignalLevel1},
@@ -243,7 +244,7 @@ unsigned signalLevelCode(int rssi)
     return SignalNone;
 }
 
-unsigned classifyReply(const QByteArray &reply, const QByteArray &command)
+int classifyReply(const QByteArray &reply, const QByteArray &command)
 {
     if (reply.isEmpty())
         return NotWritten;
@@ -255,5 +256,6 @@ unsigned classifyReply(const QByteArray &reply, const QByteArray &command)
 
 unsigned Parse_At_Res(char *reply)
 {
-    return reply ? corva::classify(QByteArray::fromRawData(reply, qsizetype(qstrlen(reply)))) : 103;
+    return unsigned(reply ? corva::classify(QByteArray::fromRawData(reply, qsizetype(qstrlen(reply))))
+                          : corva::NotWritten);
 }

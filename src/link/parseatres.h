@@ -10,7 +10,7 @@ namespace corva
 {
 
 /// The codes that operations compare with. A code means something only beside the command that earned it.
-enum ResultCode : unsigned {
+enum ResultCode : int {
     SimReady = 0,
     SimPin = 1,
     SimBusy = 2,
@@ -77,11 +77,12 @@ enum ResultCode : unsigned {
     SimIsNotUsim = 135,
 };
 
-/// `Parse_At_Res` for a reply whose command is known. With the echo off the reply does not say what it answers, so the
-/// command stands in for the missing echo: every operation then gets the same code with the card's echo on and off.
-unsigned classifyReply(const QByteArray &reply, const QByteArray &command);
+/// `Parse_At_Res` for a reply whose command is known. With the echo off the reply does not say what it
+/// answers, so the command stands in for the missing echo: every operation then gets the same code with the
+/// card's echo on and off.
+int classifyReply(const QByteArray &reply, const QByteArray &command);
 
 /// The code 30 to 35 for "+CSQ: <rssi>". 3GPP TS 27.007 8.5; 0, 32..98 and 99 are no signal.
-unsigned signalLevelCode(int rssi);
+int signalLevelCode(int rssi);
 
 } // namespace corva

@@ -11,16 +11,19 @@ namespace corva
 /// Finds the end of one reply in the bytes that the card sends.
 ///
 /// The end is decided by text, anywhere in what has come so far, not by line: "OK\r\n", "ERROR\r\n", the line
-/// that follows "+CME ERROR", "NO CARRIER", "CONNECT\r\n", the prompt "> ", "not support\r\n" and the data-call reports
-/// "+JPDPACT: 1,0" to "+JPDPACT: 1,3". "JEND\r\n" throws away what came before it. Every mark is acted on at the
-/// byte that completes it, so looking at the end of the text after each byte costs the reply's length, not its square.
+/// that follows "+CME ERROR", "NO CARRIER", "CONNECT\r\n", the prompt "> ", "not support\r\n" and the
+/// data-call reports
+/// "+JPDPACT: 1,0" to "+JPDPACT: 1,3". "JEND\r\n" throws away what came before it. Every mark is acted on at
+/// the byte that completes it, so looking at the end of the text after each byte costs the reply's length,
+/// not its square.
 ///
 /// No I/O, no clock: what is worth a log line is kept in `notes()`. NUL bytes are line noise and dropped.
 class ReplyReader
 {
 public:
-    /// Longest reply, in bytes: a reply buffer of 102400 with its terminator. What a card sends beyond it, thrown
-    /// away text included, makes the reply fail: a card that never stops cannot hold its reader for ever.
+    /// Longest reply, in bytes: a reply buffer of 102400 with its terminator. What a card sends beyond it,
+    /// thrown away text included, makes the reply fail: a card that never stops cannot hold its reader for
+    /// ever.
     static constexpr qsizetype capacity = 102400 - 1;
 
     enum class Status { More, Complete, TooLong };
@@ -53,7 +56,7 @@ private:
     QByteArray m_reply; ///< what is handed over
     std::vector<const char *> m_notes;
     qsizetype m_taken = 0;
-    bool m_continuation = false;  ///< "+CME ERROR" was seen, its line is not at its end
+    bool m_continuation = false; ///< "+CME ERROR" was seen, its line is not at its end
     bool m_noNetworkService = false;
 };
 

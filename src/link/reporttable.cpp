@@ -45,14 +45,16 @@ constexpr auto rows = std::to_array<Row>({
     {Report::DataCallState2, "+JPDPACT: 1,2"},
 });
 
-bool isMet(Needs needs, const QString &text, const ReportConditions &conditions, const std::vector<Report> &found)
+bool isMet(Needs needs, const QString &text, const ReportConditions &conditions,
+           const std::vector<Report> &found)
 {
     switch (needs) {
     case Needs::Nothing: return true;
     case Needs::DeliveryReports: return conditions.deliveryReports;
     case Needs::StkSmsState: return conditions.stkSmsState;
     case Needs::Calls: return conditions.calls;
-    case Needs::CallsAndNoRingBack: return conditions.calls && std::ranges::count(found, Report::RingBack) == 0;
+    case Needs::CallsAndNoRingBack:
+        return conditions.calls && std::ranges::count(found, Report::RingBack) == 0;
     case Needs::NoOk: return !text.contains(QLatin1StringView("OK"));
     }
     return false;

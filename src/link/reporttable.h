@@ -42,7 +42,8 @@ struct ReportConditions {
     bool calls = false;           ///< key "enable" of section "call"
 };
 
-/// Every report in `text`, each once, in the table's order. A report is a substring anywhere in the text: overlaps
+/// Every report in `text`, each once, in the table's order. A report is a substring anywhere in the text:
+/// overlaps
 /// ("STOPRING" rings too, "NO ANSWER" answers too) are wanted.
 std::vector<Report> findReports(const QString &text, const ReportConditions &conditions);
 

@@ -6,8 +6,8 @@
 namespace corva
 {
 
-/// `text` (a command, or a reply with the command's echo) as it may stand in a log: PINs, PUKs and passwords are
-/// replaced character by character with "*".
+/// `text` (a command, or a reply with the command's echo) as it may stand in a log: PINs, PUKs and passwords
+/// are replaced character by character with "*".
 QByteArray maskSecrets(const QByteArray &text);
 
 } // namespace corva

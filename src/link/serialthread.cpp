@@ -96,16 +96,17 @@ void SerialThread::requestStop()
     eventfd_write(m_stopEvent, 1);
 }
 
-// --- Writing -------------------------------------------------------------------------------------------------------
+// --- Writing
+// -------------------------------------------------------------------------------------------------------
 
-/// The gates: before the port is known only the probe passes, and a network search or a manual selection keeps every
-/// other command off the port, because the card answers nothing else meanwhile.
+/// The gates: before the port is known only the probe passes, and a network search or a manual selection
+/// keeps every other command off the port, because the card answers nothing else meanwhile.
 bool SerialThread::mayWrite(const char *cmd)
 {
     if (!foundPortFlag && !m_probing)
         return false;
-    const bool searchBlocks = isOn(u"function"_s, u"cancelManualSearch_enabled"_s)
-        || !isOn(u"network"_s, u"serchNetworkAlowSentAt_enabled"_s);
+    const bool searchBlocks = isOn(u"function"_s, u"cancelManualSearch_enabled"_s) ||
+                              !isOn(u"network"_s, u"serchNetworkAlowSentAt_enabled"_s);
     if (searchBlocks && m_searching && std::strcmp(cmd, "AT+COPS=?\r\n") != 0)
         return false;
     return m_selectionGate;
@@ -156,13 +157,15 @@ bool SerialThread::writeCommand(const char *cmd, bool isLogged)
     return left == 0;
 }
 
-// --- Reading -------------------------------------------------------------------------------------------------------
+// --- Reading
+// -------------------------------------------------------------------------------------------------------
 
 int SerialThread::resAtStr(int fd, char *reply, int seconds, int microseconds)
 {
     std::memset(reply, 0, replyBufferSize);
     QByteArray text;
-    const int result = collectReply(fd, text, std::chrono::seconds(seconds) + std::chrono::microseconds(microseconds));
+    const int result =
+        collectReply(fd, text, std::chrono::seconds(seconds) + std::chrono::microseconds(microseconds));
     std::memcpy(reply, text.constData(), std::size_t(text.size()));
     return result;
 }
@@ -192,7 +195,8 @@ int SerialThread::collectReply(int fd, QByteArray &reply, std::chrono::microseco
                 return failReply("****** select of SerialThread::resAtStr is timerout");
             if (wait == Wait::Failed) {
                 const int error = errno;
-                return failReply(qPrintable(u"select of SerialThread::resAtStr is ko,errno = %1!"_s.arg(error)));
+                return failReply(
+                    qPrintable(u"select of SerialThread::resAtStr is ko,errno = %1!"_s.arg(error)));
             }
             if (wait == Wait::Silent)
                 --roundsLeft;
@@ -221,8 +225,8 @@ int SerialThread::collectReply(int fd, QByteArray &reply, std::chrono::microseco
     return 1;
 }
 
-/// What the card sent since the last transaction, until it is silent for 2 ms. Half a line is waited for a little
-/// longer, so that a report is not torn. Empty when a transaction begins meanwhile.
+/// What the card sent since the last transaction, until it is silent for 2 ms. Half a line is waited for a
+/// little longer, so that a report is not torn. Empty when a transaction begins meanwhile.
 QByteArray SerialThread::drain()
 {
     QByteArray text;
@@ -252,7 +256,8 @@ void SerialThread::purgeComData()
         findUpReportAtCmd(QString::fromLatin1(text));
 }
 
-// --- Whole transactions ----------------------------------------------------------------------------------------------
+// --- Whole transactions
+// ----------------------------------------------------------------------------------------------
 
 std::optional<QByteArray> SerialThread::transact(const QByteArray &cmd, std::chrono::microseconds timeout)
 {
@@ -273,7 +278,7 @@ int SerialThread::sendCmdAndRec(const char *cmd, int seconds, int microseconds)
     const auto timeout = std::chrono::seconds(wholeSeconds) + std::chrono::microseconds(microseconds);
     if (collectReply(m_fd, m_lastReply, timeout) == -1)
         return corva::NoReply;
-    return int(corva::classifyReply(m_lastReply, cmd));
+    return corva::classifyReply(m_lastReply, cmd);
 }
 
 int SerialThread::sendNULL_ATCmd()
@@ -284,8 +289,8 @@ int SerialThread::sendNULL_ATCmd()
     m_probing = false;
     if (!isWritten)
         return -1;
-    const auto timeout = std::chrono::seconds(send_nullatcommand_timer_s)
-        + send_nullatcommand_timer_100ms * std::chrono::microseconds(100000);
+    const auto timeout = std::chrono::seconds(send_nullatcommand_timer_s) +
+                         send_nullatcommand_timer_100ms.load() * std::chrono::milliseconds(100);
     QByteArray reply;
     if (collectReply(m_fd, reply, timeout) == -1)
         return -1;
@@ -293,7 +298,8 @@ int SerialThread::sendNULL_ATCmd()
     return 1;
 }
 
-// --- The thread ------------------------------------------------------------------------------------------------------
+// --- The thread
+// ------------------------------------------------------------------------------------------------------
 
 void SerialThread::run()
 {
@@ -313,8 +319,8 @@ void SerialThread::run()
     }
 }
 
-/// The search and the selection that were asked for before the thread started. No port is known yet as a rule, so that
-/// they are refused; whoever asked reads the results.
+/// The search and the selection that were asked for before the thread started. No port is known yet as a
+/// rule, so that they are refused; whoever asked reads the results.
 void SerialThread::runStartJobs()
 {
     if (gManualSearch) {

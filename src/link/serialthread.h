@@ -13,7 +13,8 @@
 
 class LinkOwner;
 
-/// True once the search has found and confirmed the AT port. Cleared by whoever notices that the card has gone.
+/// True once the search has found and confirmed the AT port. Cleared by whoever notices that the card has
+/// gone.
 extern std::atomic<bool> foundPortFlag;
 /// True while `SerialThread::resAtStr` collects a reply: the re-entry guard of the reply reader.
 extern std::atomic<bool> receive_flag;
@@ -38,12 +39,13 @@ extern QString gOpt;
 extern QString gFormat;
 extern QString gMode;
 
-/// The one object through which the program talks to one port of the card: one command at a time, its reply, and the
-/// reports found in the traffic. All card operations are its methods; each runs on its caller's thread, which is the
-/// card worker and never the GUI thread. The object's own thread only looks for the card while none is known.
+/// The one object through which the program talks to one port of the card: one command at a time, its reply,
+/// and the reports found in the traffic. All card operations are its methods; each runs on its caller's
+/// thread, which is the card worker and never the GUI thread. The object's own thread only looks for the card
+/// while none is known.
 ///
-/// Unless said otherwise an operation returns 1 for success, 0 for a plain "ERROR" and -1 for no or an unexpected reply,
-/// and a `char *` is a buffer of `replyBufferSize` bytes that receives terminated text.
+/// Unless said otherwise an operation returns 1 for success, 0 for a plain "ERROR" and -1 for no or an
+/// unexpected reply, and a `char *` is a buffer of `replyBufferSize` bytes that receives terminated text.
 class SerialThread : public QThread
 {
     Q_OBJECT
@@ -58,10 +60,11 @@ public:
     /// Ends the thread's loop and every wait on the card, now and from now on. Any thread.
     void requestStop();
 
-    // --- Port ----------------------------------------------------------------------------------------------------
+    // --- Port
+    // ----------------------------------------------------------------------------------------------------
 
-    /// Opens `name` as 115200 8N1 raw with RTS/CTS and XON/XOFF. Returns the descriptor, or -1 with `errno` of the failing
-    /// step (ENOTTY for what is not a character device, which is not opened at all).
+    /// Opens `name` as 115200 8N1 raw with RTS/CTS and XON/XOFF. Returns the descriptor, or -1 with `errno`
+    /// of the failing step (ENOTTY for what is not a character device, which is not opened at all).
     int openPort(QString name);
     /// The same with the input flags left as the device had them.
     int openPortWithoutSoftFlowControl(QString name);
@@ -90,11 +93,13 @@ public:
     void atUnlock() { m_locked = false; }
     bool atLocked() const { return m_locked; }
 
-    // --- Transaction ---------------------------------------------------------------------------------------------
+    // --- Transaction
+    // ---------------------------------------------------------------------------------------------
 
     /// Writes one command with its line end. False when a gate refused it or the write failed.
     bool excuteAtStr(const char *cmd);
-    /// Collects one reply. 1 when it is complete, -1 on time-out or error, 0 (and no text) while another read runs.
+    /// Collects one reply. 1 when it is complete, -1 on time-out or error, 0 (and no text) while another read
+    /// runs.
     int resAtStr(int fd, char *reply, int seconds, int microseconds);
     /// Drains what the card sent since the last transaction, and dispatches the reports in it.
     void purgeComData();
@@ -107,7 +112,8 @@ public:
     /// The reply that `sendCmdAndRec` classified last.
     const QByteArray &lastReply() const { return m_lastReply; }
 
-    // --- Reports -------------------------------------------------------------------------------------------------
+    // --- Reports
+    // -------------------------------------------------------------------------------------------------
 
     void findUpReportAtCmd(QString text);
     void findAtiveMsg(QString &text, QString mark);
@@ -117,7 +123,8 @@ public:
     /// The last state of "+JPDPACT: 1,<state>", 0..3.
     int dataCallState() const { return m_dataCallState; }
 
-    // --- Identity and status ---------------------------------------------------------------------------------------
+    // --- Identity and status
+    // ---------------------------------------------------------------------------------------
 
     int getCGMI(char *text);
     int getCGMM(char *text);
@@ -135,7 +142,8 @@ public:
     int getSignalQuality();
     /// EvdoLevel1..EvdoLevel1 + 4, EvdoNone, or a transaction code.
     int getEvdoSignalQuality();
-    /// Reads a pending "+JRSSI:" report without asking for it. `values` receives rssi, ecio and rscp; `count` is its room.
+    /// Reads a pending "+JRSSI:" report without asking for it. `values` receives rssi, ecio and rscp; `count`
+    /// is its room.
     int getSignalQualityR(int count, int *values);
     int get_SYSINFO_Res_Str(char *text);
     int get_JPAS_Res_Str(char *text);
@@ -181,7 +189,8 @@ public:
     void setFamily(corva::CardFamily family) { m_family = family; }
     corva::CardFamily family() const { return m_family; }
 
-    // --- SIM -----------------------------------------------------------------------------------------------------
+    // --- SIM
+    // -----------------------------------------------------------------------------------------------------
 
     /// 0 ready, 1 PUK needed, 2 PIN needed, 3 SIM busy, 4 SIM failure, -1 anything else.
     int connectDeviceNeedInputPIN();
@@ -198,7 +207,8 @@ public:
     int enterPin(const QString &pin);
     int enterPuk(const QString &puk, const QString &newPin);
 
-    // --- Network selection ---------------------------------------------------------------------------------------
+    // --- Network selection
+    // ---------------------------------------------------------------------------------------
 
     /// "AT+COPS=?": the raw list of networks. Up to three minutes.
     int getNetworkList(char *text);
@@ -225,7 +235,8 @@ private:
     void runStartJobs();
     bool sleepTwoSeconds();
     int rawText(const QByteArray &cmd, char *text, std::chrono::microseconds timeout, bool failsOnCmeError);
-    int identityText(const QByteArray &cmd, const QByteArray &prefix, char *text, std::chrono::microseconds timeout);
+    int identityText(const QByteArray &cmd, const QByteArray &prefix, char *text,
+                     std::chrono::microseconds timeout);
     int phonebookCapacity(const char *store);
 
     LinkOwner *const m_owner;
@@ -238,8 +249,8 @@ private:
     std::atomic<bool> m_stop = false;
     std::atomic<int> m_dataCallState = 0;
     std::atomic<corva::CardFamily> m_family;
-    int m_stopEvent = -1;   ///< becomes readable at `requestStop`
-    QByteArray m_ahead;     ///< bytes read from the port that no reply has taken yet
+    int m_stopEvent = -1; ///< becomes readable at `requestStop`
+    QByteArray m_ahead;   ///< bytes read from the port that no reply has taken yet
     QByteArray m_lastReply;
     QByteArray m_radioReport; ///< text with the last "+JRSSI:" that nobody has read
 };

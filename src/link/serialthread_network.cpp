@@ -13,13 +13,15 @@ int SerialThread::getNetworkList(char *text)
 
 int SerialThread::setManualNetworkMode(QString act, QString opt, QString format, QString mode)
 {
-    const bool isClean = !(act + opt + format + mode).contains(u'"') && !(act + opt + format + mode).contains(u'\r');
+    const bool isClean =
+        !(act + opt + format + mode).contains(u'"') && !(act + opt + format + mode).contains(u'\r');
     if (!isClean)
         return -1;
     QByteArray cmd = "AT+COPS=" + mode.toLatin1() + ',' + format.toLatin1() + ",\"" + opt.toLatin1() + '"';
     if (!act.isEmpty())
         cmd += ',' + act.toLatin1();
-    // The gate would keep the command's own reply from nobody: it only holds back other writers until this is over.
+    // The gate would keep the command's own reply from nobody: it only holds back other writers until this is
+    // over.
     const auto reply = transact(cmd + "\r\n", 180s);
     m_selectionGate = true;
     if (!reply || reply->isEmpty())

@@ -24,7 +24,8 @@ void copyText(char *to, const QByteArray &text)
 } // namespace
 
 /// The reply as it came. 0 for "+CME ERROR" where the query looks for it.
-int SerialThread::rawText(const QByteArray &cmd, char *text, std::chrono::microseconds timeout, bool failsOnCmeError)
+int SerialThread::rawText(const QByteArray &cmd, char *text, std::chrono::microseconds timeout,
+                          bool failsOnCmeError)
 {
     text[0] = '\0';
     const auto reply = transact(cmd, timeout);
@@ -117,8 +118,8 @@ int SerialThread::getEvdoSignalQuality()
     return sendCmdAndRec("AT^HDRCSQ\r\n", 1, 0);
 }
 
-/// No drain beforehand and nothing written: what waits on the port is read, and its other reports are dispatched. A
-/// report that an earlier drain met counts as pending, too.
+/// No drain beforehand and nothing written: what waits on the port is read, and its other reports are
+/// dispatched. A report that an earlier drain met counts as pending, too.
 int SerialThread::getSignalQualityR(int count, int *values)
 {
     if (m_fd >= 0)
@@ -128,8 +129,8 @@ int SerialThread::getSignalQualityR(int count, int *values)
         return -1;
     const int all[] = {quality->rssi, quality->ecio, quality->rscp};
     std::copy_n(all, std::clamp(count, 0, 3), values);
-    qCDebug(lcLink).noquote().nospace() << corva::logTime()
-                                        << u"rssi is %1.ecio is %2.rscp is %3"_s.arg(all[0]).arg(all[1]).arg(all[2]);
+    qCDebug(lcLink).noquote().nospace()
+        << corva::logTime() << u"rssi is %1.ecio is %2.rscp is %3"_s.arg(all[0]).arg(all[1]).arg(all[2]);
     return 1;
 }
 
@@ -186,13 +187,15 @@ int SerialThread::getResultForJAIRINFO(char *text)
 
 int SerialThread::getLac()
 {
-    const auto state = corva::parseRegistration(transact("AT+CREG?\r\n", 1s).value_or(QByteArray()), "+CREG:");
+    const auto state =
+        corva::parseRegistration(transact("AT+CREG?\r\n", 1s).value_or(QByteArray()), "+CREG:");
     return state ? state->lac.value_or(-1) : -1;
 }
 
 int SerialThread::getCellID()
 {
-    const auto state = corva::parseRegistration(transact("AT+CREG?\r\n", 1s).value_or(QByteArray()), "+CREG:");
+    const auto state =
+        corva::parseRegistration(transact("AT+CREG?\r\n", 1s).value_or(QByteArray()), "+CREG:");
     return state ? state->cellId.value_or(-1) : -1;
 }
 
@@ -280,7 +283,8 @@ int SerialThread::isWcdmaNetwork()
     const auto information = corva::parseSysInfo(transact("AT^SYSINFO\r\n", 1s).value_or(QByteArray()));
     if (!information || information->networkType == NetworkType::Unknown)
         return -1;
-    return int(information->networkType >= NetworkType::Umts && information->networkType <= NetworkType::HspaPlus);
+    return int(information->networkType >= NetworkType::Umts &&
+               information->networkType <= NetworkType::HspaPlus);
 }
 
 int SerialThread::isNewPlatform()

@@ -26,10 +26,12 @@ bool isDigits(const QByteArray &text)
     return !text.isEmpty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
 }
 
-/// What people can read: letters, digits, marks, punctuation; no controls, no private or unassigned characters.
+/// What people can read: letters, digits, marks, punctuation; no controls, no private or unassigned
+/// characters.
 bool isReadable(const QString &text)
 {
-    return std::ranges::all_of(text, [](QChar c) { return c.isPrint() && c.category() != QChar::Other_NotAssigned; });
+    return std::ranges::all_of(
+        text, [](QChar c) { return c.isPrint() && c.category() != QChar::Other_NotAssigned; });
 }
 
 /// <AcT> of 3GPP TS 27.007 7.3, in its order.
@@ -46,7 +48,8 @@ NetworkType networkTypeOfMode(std::optional<int> mode, std::optional<int> submod
 {
     static constexpr auto submodes = std::to_array<NetworkType>(
         {NetworkType::Unknown, NetworkType::Gsm, NetworkType::Gprs, NetworkType::Edge, NetworkType::Umts,
-         NetworkType::Hsdpa, NetworkType::Hsupa, NetworkType::Hspa, NetworkType::TdScdma, NetworkType::HspaPlus});
+         NetworkType::Hsdpa, NetworkType::Hsupa, NetworkType::Hspa, NetworkType::TdScdma,
+         NetworkType::HspaPlus});
     if (submode && *submode > 0 && *submode < int(submodes.size()))
         return submodes[std::size_t(*submode)];
     switch (mode.value_or(-1)) {
@@ -87,8 +90,8 @@ std::optional<Registration> registrationOf(std::optional<int> stat)
 QString decodeCardText(const QByteArray &text)
 {
     const QString plain = QString::fromLatin1(text).trimmed();
-    const bool mayBeUcs2 = text.size() >= 4 && text.size() % 4 == 0 && isHexText(text)
-        && (text.size() >= 8 || text.startsWith("00"));
+    const bool mayBeUcs2 = text.size() >= 4 && text.size() % 4 == 0 && isHexText(text) &&
+                           (text.size() >= 8 || text.startsWith("00"));
     if (!mayBeUcs2)
         return plain;
     QString decoded;
@@ -289,9 +292,10 @@ ReplyResult<QString> parseIdentity(const QByteArray &reply, QByteArrayView prefi
         return *refused;
     for (const QByteArray &line : replyLines(reply)) {
         if (line.startsWith(prefix))
-            return QString::fromLatin1(AtFields(QByteArrayView(line).sliced(prefix.size())).text(0)).trimmed();
-        const bool isOther = line.startsWith("AT") || line.startsWith('+') || line.startsWith('^') || line == "OK"
-            || line == "RING";
+            return QString::fromLatin1(AtFields(QByteArrayView(line).sliced(prefix.size())).text(0))
+                .trimmed();
+        const bool isOther = line.startsWith("AT") || line.startsWith('+') || line.startsWith('^') ||
+                             line == "OK" || line == "RING";
         if (!isOther)
             return QString::fromLatin1(line).remove(u'"').trimmed();
     }
@@ -331,8 +335,9 @@ ReplyResult<QString> parseOwnNumber(const QByteArray &reply)
     if (!fields)
         return fields.error();
     QByteArray number = fields->text(1);
-    const bool isDialable = !number.isEmpty() && number.size() <= 40
-        && std::ranges::all_of(number, [](char c) { return (c >= '0' && c <= '9') || strchr("+*#", c); });
+    const bool isDialable =
+        !number.isEmpty() && number.size() <= 40 &&
+        std::ranges::all_of(number, [](char c) { return (c >= '0' && c <= '9') || strchr("+*#", c); });
     if (!isDialable)
         return badField("number");
     if (fields->number(2, 0, 255) == 145 && !number.startsWith('+'))
@@ -349,7 +354,8 @@ ReplyResult<int> parsePhonebookCapacity(const QByteArray &reply)
     const qsizetype dash = range.indexOf('-');
     const qsizetype end = range.indexOf(')', dash);
     bool isNumber = false;
-    const int last = dash >= 0 && end > dash ? range.sliced(dash + 1, end - dash - 1).trimmed().toInt(&isNumber) : 0;
+    const int last =
+        dash >= 0 && end > dash ? range.sliced(dash + 1, end - dash - 1).trimmed().toInt(&isNumber) : 0;
     return isNumber && last >= 0 && last <= 65535 ? ReplyResult<int>(last) : badField("range");
 }
 

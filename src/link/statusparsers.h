@@ -28,15 +28,16 @@ ReplyResult<RadioQuality> parseRadioQuality(const QByteArray &reply);
 
 /// "+COPS: <mode>[,<format>,<oper>[,<AcT>]]". 3GPP TS 27.007 7.3. A name in UCS2 hexadecimal text is decoded.
 struct OperatorSelection {
-    int mode = 0;        ///< 0 automatic, 1 manual, 2 deregistered
-    QString name;        ///< formats 0 and 1; empty when there is none
-    QString code;        ///< format 2: MCC and MNC, 5 or 6 digits
+    int mode = 0; ///< 0 automatic, 1 manual, 2 deregistered
+    QString name; ///< formats 0 and 1; empty when there is none
+    QString code; ///< format 2: MCC and MNC, 5 or 6 digits
     NetworkType networkType = NetworkType::Unknown;
     bool operator==(const OperatorSelection &) const = default;
 };
 ReplyResult<OperatorSelection> parseOperator(const QByteArray &reply);
 
-/// "+CREG: <n>,<stat>[,<lac>,<ci>[,<AcT>]]" and the report "+CREG: <stat>[,<lac>,<ci>[,<AcT>]]", for "+CREG:" and
+/// "+CREG: <n>,<stat>[,<lac>,<ci>[,<AcT>]]" and the report "+CREG: <stat>[,<lac>,<ci>[,<AcT>]]", for "+CREG:"
+/// and
 /// "+CGREG:". 3GPP TS 27.007 7.2 and 10.1.20.
 struct RegistrationState {
     Registration stat = Registration::Unknown;
@@ -73,11 +74,12 @@ struct AttemptsLeft {
     bool operator==(const AttemptsLeft &) const = default;
 };
 ReplyResult<AttemptsLeft> parseAttempts(const QByteArray &reply);
-/// The SIM's state from "+CPIN: <code>", "^CPIN: <code>" or a "+CME ERROR", in words or numbers. 27.007 8.3, 9.2.
+/// The SIM's state from "+CPIN: <code>", "^CPIN: <code>" or a "+CME ERROR", in words or
+/// numbers. 27.007 8.3, 9.2.
 ReplyResult<SimState> parseSimState(const QByteArray &reply);
 
-/// The text of an identity reply (model, IMEI, firmware): the first line that is neither the echo, nor a report, nor
-/// the final result; `prefix` ("+CGMM:") and quotes are taken off.
+/// The text of an identity reply (model, IMEI, firmware): the first line that is neither the echo, nor a
+/// report, nor the final result; `prefix` ("+CGMM:") and quotes are taken off.
 ReplyResult<QString> parseIdentity(const QByteArray &reply, QByteArrayView prefix);
 /// "+CIMI": 6 to 15 digits. 3GPP TS 27.007 5.6.
 ReplyResult<QString> parseImsi(const QByteArray &reply);
@@ -88,7 +90,8 @@ ReplyResult<QString> parseOwnNumber(const QByteArray &reply);
 /// "+CPBR: (1-250),40,14": the upper bound. 3GPP TS 27.007 8.12.
 ReplyResult<int> parsePhonebookCapacity(const QByteArray &reply);
 
-/// A text that may be UCS2 in hexadecimal, four digits a character: decoded when it is, unchanged when it is not.
+/// A text that may be UCS2 in hexadecimal, four digits a character: decoded when it is, unchanged when it is
+/// not.
 QString decodeCardText(const QByteArray &text);
 
 } // namespace corva
