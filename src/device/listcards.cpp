@@ -19,7 +19,7 @@ QString purposeOf(const corva::UsbStick &stick, const corva::ModemTypes &types)
         return card->name.isEmpty() ? u"known card"_s : card->name;
     if (types.cardForStorage(stick.usb.id))
         return u"known card that shows itself as a disk"_s;
-    return types.mayProbe(stick.usb.id, stick.drivers()) ? u"unknown card, to be probed"_s : QString();
+    return types.ruleFor(stick.usb.id, stick.drivers()) ? u"unknown card, to be probed"_s : QString();
 }
 
 } // namespace
