@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArrayList>
+
+namespace cardemu
+{
+
+/// How a command line ends. ITU-T V.250 5.7.1; 3GPP TS 27.007 9.2; 3GPP TS 27.005 3.2.5.
+struct Final {
+    enum class Kind {
+        Ok,
+        Connect,
+        NoCarrier,
+        Error,
+        NoDialtone,
+        Busy,
+        NoAnswer,
+        CmeError,
+        CmsError,
+        Literal
+    };
+    Kind kind = Kind::Ok;
+    int number = 0;    ///< of CmeError and CmsError
+    QByteArray text{}; ///< of Literal: the result code as it stands
+
+    bool isSuccess() const { return kind == Kind::Ok; }
+};
+
+/// What a command answers: information lines without their line ends, and how it went.
+struct Answer {
+    QByteArrayList lines;
+    Final final;
+};
+
+inline Answer ok(const QByteArrayList &lines = {})
+{
+    return {lines, {}};
+}
+
+inline Answer ok(const QByteArray &line)
+{
+    return {{line}, {}};
+}
+
+inline Answer result(Final::Kind kind)
+{
+    return {{}, {kind}};
+}
+
+inline Answer error()
+{
+    return result(Final::Kind::Error);
+}
+
+inline Answer cmeError(int number)
+{
+    return {{}, {Final::Kind::CmeError, number}};
+}
+
+inline Answer cmsError(int number)
+{
+    return {{}, {Final::Kind::CmsError, number}};
+}
+
+} // namespace cardemu

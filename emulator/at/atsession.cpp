@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "at/atsession.h"
+
+#include "at/replies.h"
+
+namespace cardemu
+{
+
+using namespace Qt::StringLiterals;
+using std::chrono::milliseconds;
+
+AtSession::AtSession(const QString &name, Card &card, TrafficLog &log, Sink sink)
+    : m_name(name), m_card(card), m_log(log), m_output(card.scheduler(), std::move(sink)),
+      m_port(PortSettings::atPowerUp(card.state().line)), m_escape(card.scheduler(), [this] { escaped(); }),
+      m_delay(card.scheduler())
+{
+    connect(&card, &Card::restarted, this, &AtSession::reset);
+    connect(&card, &Card::fellSilent, this, [this] { m_output.clear(); });
+    connect(&card, &Card::registrationChanged, this, &AtSession::registrationChanged);
+}
+
+void AtSession::receive(const QByteArray &bytes)
+{
+    if (m_card.isSilent())
+        return;
+    m_input += bytes;
+    work();
+}
+
+// A card that is at work leaves what comes in lying, and looks at it afterwards.
+void AtSession::work()
+{
+    while (!m_busy && !m_input.isEmpty()) {
+        const QByteArray input = std::exchange(m_input, {});
+        if (m_online) {
+            m_escape.feed(input);
+            return;
+        }
+        qsizetype at = 0;
+        while (at < input.size() && !m_busy && !m_online)
+            typed(input[at++]);
+        m_input = input.mid(at) + m_input;
+    }
+}
+
+void AtSession::typed(char byte)
+{
+    const LineEditor::Step step = m_editor.feed(byte, m_port);
+    if (m_port.echo)
+        send(step.echo);
+    if (step.body)
+        runLine(*step.body);
+}
+
+void AtSession::runLine(const QByteArray &body)
+{
+    m_log.add(m_name, u"received"_s, "AT" + body);
+    m_echo = "AT" + body + m_port.lineEnd;
+    m_information.clear();
+    m_next = 0;
+    m_busy = true;
+    auto commands = body.size() > LineEditor::longestLine ? std::nullopt : parseCommandLine(body);
+    m_commands = commands.value_or(std::vector<Command>());
+    if (!commands)
+        finish({Final::Kind::Error});
+    else
+        runCommands();
+}
+
+// Each command takes its time first and is carried out then, on what the card has become meanwhile.
+void AtSession::runCommands()
+{
+    if (m_next == m_commands.size()) {
+        finish({});
+        return;
+    }
+    const auto step = [this] {
+        const Command command = m_commands[m_next++];
+        const Answer answer = carryOut(command);
+        m_information += informationText(answer.lines, m_port);
+        if (answer.final.isSuccess())
+            runCommands();
+        else
+            finish(answer.final);
+    };
+    const milliseconds delay = m_card.delayOf(m_commands[m_next]);
+    if (delay.count() == 0) {
+        step();
+        return;
+    }
+    m_delay.start(delay, [this, step] {
+        step();
+        work();
+    });
+}
+
+Answer AtSession::carryOut(const Command &command)
+{
+    if (const auto refusal = m_card.faults().takeRefusal(command)) {
+        if (refusal->code >= 0)
+            return cmeError(refusal->code);
+        const QByteArray text = refusal->text.toUtf8();
+        return {{}, {Final::Kind::Literal, 0, text.isEmpty() ? "ERROR" : text}};
+    }
+    return execute({m_card, m_port, command});
+}
+
+void AtSession::finish(const Final &final)
+{
+    Reply reply{m_echo, m_information, m_information.size()};
+    reply.bytes += finalText(final, m_port);
+    m_card.faults().apply(m_commands, reply);
+    const qsizetype cut = reply.cutAt < 0 ? reply.bytes.size() : reply.cutAt;
+    send(reply.bytes.left(cut), reply.before);
+    if (cut < reply.bytes.size())
+        send(reply.bytes.mid(cut), reply.pause);
+    m_log.add(m_name, u"sent"_s, reply.bytes);
+    m_online = final.kind == Final::Kind::Connect;
+    m_port.dataSuspended = m_port.dataSuspended && !m_online;
+    m_escape.reset();
+    m_busy = false;
+}
+
+void AtSession::send(const QByteArray &bytes, milliseconds pause)
+{
+    if (m_card.isSilent())
+        return;
+    m_output.setBytesPerSecond(m_card.state().line.bytesPerSecond);
+    m_output.add(bytes, pause);
+}
+
+void AtSession::report(const QByteArray &line)
+{
+    if (m_online)
+        return;
+    sendRaw(reportText(line, m_port));
+}
+
+void AtSession::sendRaw(const QByteArray &bytes)
+{
+    send(bytes);
+    m_log.add(m_name, u"sent"_s, bytes);
+}
+
+void AtSession::reset()
+{
+    m_delay.stop();
+    m_output.clear();
+    m_escape.reset();
+    m_editor.reset();
+    m_input.clear();
+    m_commands.clear();
+    m_busy = m_online = false;
+    m_port = PortSettings::atPowerUp(m_card.state().line);
+}
+
+void AtSession::clientLeft()
+{
+    m_output.clear();
+    m_editor.reset();
+    m_escape.reset();
+    m_online = false;
+    m_port.dataSuspended = false;
+}
+
+void AtSession::registrationChanged()
+{
+    if (m_port.registrationReports > 0)
+        report("+CREG: " + registrationText(m_card, m_port.registrationReports));
+    if (m_port.packetRegistrationReports > 0)
+        report("+CGREG: " + registrationText(m_card, m_port.packetRegistrationReports));
+}
+
+void AtSession::ring()
+{
+    report(m_port.extendedRing ? "+CRING: VOICE" : "RING");
+    const QString &number = m_card.state().call.number;
+    if (m_port.callerNumber)
+        report("+CLIP: \"" + number.toLatin1() + "\"," + numberType(number));
+}
+
+void AtSession::escaped()
+{
+    m_online = false;
+    m_port.dataSuspended = true;
+    sendRaw(finalText({}, m_port));
+}
+
+} // namespace cardemu

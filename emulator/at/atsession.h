@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "at/commandtable.h"
+#include "at/escapewatch.h"
+#include "at/lineeditor.h"
+#include "at/trafficlog.h"
+#include "port/pacedoutput.h"
+
+namespace cardemu
+{
+
+/// The conversation on one AT port: echo, command lines one after another, replies, reports, data calls.
+class AtSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Sink = PacedOutput::Sink;
+
+    AtSession(const QString &name, Card &card, TrafficLog &log, Sink sink);
+
+    void receive(const QByteArray &bytes);
+    /// Sends a line that nobody asked for; nothing during a data call.
+    void report(const QByteArray &line);
+    /// One ring, with the caller's number where "+CLIP" asks for it.
+    void ring();
+    /// Sends bytes as they stand.
+    void sendRaw(const QByteArray &bytes);
+    /// As after power-up: settings, an unfinished line and what waits are forgotten.
+    void reset();
+    /// The port was closed: a data call ends, and what is still to be sent is not.
+    void clientLeft();
+    /// True while the client takes less than the card sends; then no more commands should be read.
+    bool isCongested() const { return m_output.pending() > congestion; }
+
+private:
+    static constexpr qsizetype congestion = 1 << 20;
+
+    void work();
+    void typed(char byte);
+    void runLine(const QByteArray &body);
+    void runCommands();
+    Answer carryOut(const Command &command);
+    void finish(const Final &final);
+    void send(const QByteArray &bytes, std::chrono::milliseconds pause = {});
+    void registrationChanged();
+    void escaped();
+
+    QString m_name;
+    Card &m_card;
+    TrafficLog &m_log;
+    PacedOutput m_output;
+    PortSettings m_port;
+    LineEditor m_editor;
+    EscapeWatch m_escape;
+    CardTimer m_delay;
+    QByteArray m_input;
+    bool m_busy = false;
+    bool m_online = false; ///< in a data call
+    std::vector<Command> m_commands;
+    size_t m_next = 0;
+    QByteArray m_information;
+    QByteArray m_echo;
+};
+
+} // namespace cardemu

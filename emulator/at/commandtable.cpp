@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "at/commandtable.h"
+
+#include "at/errors.h"
+
+#include <array>
+
+namespace cardemu
+{
+
+namespace
+{
+
+using Table = std::span<const CommandRow> (*)();
+
+constexpr std::array<Table, 10> tables = {
+    generalCommands, identityCommands, deviceCommands,    simCommands,  networkCommands,
+    makerCommands,   messageCommands,  phonebookCommands, callCommands, packetCommands};
+
+bool isMakers(const QByteArray &name)
+{
+    return name.startsWith("+J") || name.startsWith('^');
+}
+
+bool isKnown(const CommandRow &row, const CardState &state)
+{
+    return (row.families & static_cast<unsigned>(state.family)) != 0 &&
+           (state.makerCommands || !isMakers(row.name));
+}
+
+const CommandRow *find(const Command &command, const CardState &state)
+{
+    for (const Table table : tables) {
+        for (const CommandRow &row : table()) {
+            if (command.name == row.name && command.form == row.form && isKnown(row, state))
+                return &row;
+        }
+    }
+    return nullptr;
+}
+
+Answer simRefusal(int number, Needs needs)
+{
+    return needs == Needs::SimForMessages ? cmsError(cmsFromCme(number)) : cmeError(number);
+}
+
+} // namespace
+
+Answer accept(const Request &)
+{
+    return ok();
+}
+
+Answer execute(const Request &request)
+{
+    const CommandRow *row = find(request.command, request.state());
+    if (row == nullptr)
+        return error();
+    if (row->needs != Needs::Nothing) {
+        if (const auto refusal = request.card.simError())
+            return simRefusal(*refusal, row->needs);
+    }
+    if (const auto *fixed = std::get_if<const char *>(&row->answer))
+        return ok(QByteArray(*fixed));
+    return std::get<Handler>(row->answer)(request);
+}
+
+QByteArrayList commandNames(const CardState &state)
+{
+    QByteArrayList names;
+    for (const Table table : tables) {
+        for (const CommandRow &row : table()) {
+            if (isKnown(row, state) && !names.contains(row.name))
+                names += row.name;
+        }
+    }
+    return names;
+}
+
+} // namespace cardemu

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "at/answer.h"
+#include "card/profile.h"
+#include "card/scheduler.h"
+
+#include <QObject>
+
+namespace cardemu
+{
+
+/// The card behind its ports: its state, and the rules by which it changes.
+class Card : public QObject
+{
+    Q_OBJECT
+
+public:
+    Card(const Profile &profile, Scheduler &scheduler);
+
+    CardState &state() { return m_state; }
+    const CardState &state() const { return m_state; }
+    FaultList &faults() { return m_faults; }
+    Scheduler &scheduler() { return m_scheduler; }
+
+    /// As when the stick is pushed in: the PIN is asked again, calls and contexts are gone, registered at
+    /// once.
+    void powerUp();
+    /// powerUp() once the running command has been answered; ports forget their settings.
+    void restartSoon();
+    /// To be called after a change of the state: brings registration into line and reports what changed.
+    void review();
+
+    /// Why the SIM cannot be used now: a "+CME ERROR" number; nullopt when it can.
+    std::optional<int> simError() const;
+    /// The PIN is wanted, or the PUK, or neither ("READY"). Only where the SIM answers at all.
+    QByteArray pinState() const;
+    Answer enterPin(const QByteArray &pin);
+    Answer enterPuk(const QByteArray &puk, const QByteArray &newPin);
+    Answer setPinLock(bool on, const QByteArray &pin);
+    Answer changePin(const QByteArray &oldPin, const QByteArray &newPin);
+    /// Puts the SIM into this condition; with `duration` above 0 it is ready again after that.
+    void setSimCondition(SimCondition condition, std::chrono::milliseconds duration = {});
+
+    bool isRadioOn() const { return m_state.radio.functionality == 1; }
+    void setFunctionality(int level);
+    /// "+CREG" <stat>. 3GPP TS 27.007 7.2.
+    int registration() const;
+    bool isRegistered() const { return registration() == 1 || registration() == 5; }
+    const Operator *currentOperator() const;
+    /// Leaves the choice to the card: its home operator, or else the first that is allowed.
+    void selectAutomatically();
+    /// Picks an operator by its name in `format` (0 long, 1 short, 2 numeric).
+    Answer selectOperator(int format, const QString &name);
+    void deregister();
+
+    /// Sends "+JRSSI" where the card is set to report the signal.
+    void signalChanged();
+
+    /// Rings until it is answered or hung up.
+    void ring(const QString &number);
+    void answer();
+    void hangUp();
+
+    /// Puts a message into a store; its index, or nothing when there is no room.
+    std::optional<int> storeMessage(const QString &store, const StoredMessage &message);
+    /// A message comes in from the network: stored and announced, or handed over, as "+CNMI" says.
+    Complaint receiveMessage(const QString &store, const QByteArray &pdu);
+
+    /// How long a command takes before it is carried out.
+    std::chrono::milliseconds delayOf(const Command &command) const;
+
+    /// The card hears and says nothing, for `duration`, or until speak() with a duration of 0.
+    void fallSilent(std::chrono::milliseconds duration);
+    void speak();
+    bool isSilent() const { return m_silent; }
+
+    /// Sends an unsolicited line.
+    void report(const QByteArray &line) { Q_EMIT reported(line); }
+
+    /// The wall clock of the network, as "yy/MM/dd,hh:mm:ss+zz". 3GPP TS 27.007 8.15.
+    QByteArray timeText() const;
+
+Q_SIGNALS:
+    void reported(const QByteArray &line);
+    void registrationChanged();
+    void rang();
+    void restarted();
+    void fellSilent();
+
+private:
+    /// Counts a wrong or right secret; ok, or the error that says what is wanted now.
+    Answer checkPin(const QByteArray &pin);
+    bool mayRegister() const;
+    void ringAgain();
+
+    CardState m_state;
+    FaultList m_faults;
+    Scheduler &m_scheduler;
+    CardTimer m_registering;
+    CardTimer m_ringing;
+    CardTimer m_simBack;
+    CardTimer m_restart;
+    CardTimer m_silence;
+    bool m_silent = false;
+    bool m_couldRegister = false;
+    int m_reportedRegistration = 0;
+};
+
+} // namespace cardemu

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "emulatedcard.h"
+
+#include <QThread>
+
+namespace cardemu
+{
+
+/// An EmulatedCard in a thread of its own, for programs that block while they talk to it, tests above all.
+/// All functions may be called from any thread and return when the card has done its part.
+class CardThread
+{
+public:
+    explicit CardThread(const Profile &profile);
+    ~CardThread();
+    CardThread(const CardThread &) = delete;
+    CardThread &operator=(const CardThread &) = delete;
+
+    [[nodiscard]] Complaint start(const QString &folder);
+    /// See EmulatedCard::control().
+    QJsonObject control(const QJsonObject &request);
+    /// The same with a line of JSON text: control(R"({"command": "roaming", "on": true})").
+    QJsonObject control(const QByteArray &json);
+
+private:
+    QThread m_thread;
+    EmulatedCard *m_card = nullptr;
+};
+
+} // namespace cardemu

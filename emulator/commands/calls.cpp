@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Dialling and calls: ITU-T V.250 6.3, 3GPP TS 27.007 6.5, 6.11, 7.6 and 7.18.
+#include "at/commandtable.h"
+#include "at/errors.h"
+#include "at/replies.h"
+
+#include <array>
+
+namespace cardemu
+{
+
+namespace
+{
+
+struct DialResult {
+    const char16_t *name;
+    Final::Kind kind;
+};
+
+constexpr std::array dialResults = {
+    DialResult{u"CONNECT", Final::Kind::Connect},
+    DialResult{u"NO CARRIER", Final::Kind::NoCarrier},
+    DialResult{u"BUSY", Final::Kind::Busy},
+    DialResult{u"NO ANSWER", Final::Kind::NoAnswer},
+    DialResult{u"NO DIALTONE", Final::Kind::NoDialtone},
+};
+
+Answer dial(const Request &request)
+{
+    if (!request.card.isRegistered())
+        return result(Final::Kind::NoCarrier);
+    const auto *const row = std::ranges::find_if(dialResults, [&request](const DialResult &candidate) {
+        return request.state().line.dialResult == QStringView(candidate.name);
+    });
+    return result(row->kind);
+}
+
+Answer answerCall(const Request &request)
+{
+    if (request.state().call.state != CallState::Ringing)
+        return result(Final::Kind::NoCarrier);
+    request.card.answer();
+    return ok();
+}
+
+Answer hangUp(const Request &request)
+{
+    request.port.dataSuspended = false;
+    request.card.hangUp();
+    return ok();
+}
+
+Answer backToData(const Request &request)
+{
+    return result(request.port.dataSuspended ? Final::Kind::Connect : Final::Kind::NoCarrier);
+}
+
+template <bool PortSettings::*setting> Answer setSwitch(const Request &request)
+{
+    const auto value = request.arguments().number(0, 0, 0, 1);
+    if (!value)
+        return cmeError(cme::incorrectParameters);
+    request.port.*setting = *value == 1;
+    return ok();
+}
+
+Answer readCallerNumber(const Request &request)
+{
+    return ok(QByteArray("+CLIP: ") + (request.port.callerNumber ? '1' : '0') + ",1");
+}
+
+Answer readExtendedRing(const Request &request)
+{
+    return ok(QByteArray("+CRC: ") + (request.port.extendedRing ? '1' : '0'));
+}
+
+// "<id>,<dir>,<stat>,<mode>,<mpty>": the one call there can be comes from outside and is a voice call.
+Answer listCalls(const Request &request)
+{
+    const Call &call = request.state().call;
+    if (call.state == CallState::Idle)
+        return ok();
+    const QByteArray head = call.state == CallState::Ringing ? "+CLCC: 1,1,4,0,0" : "+CLCC: 1,1,0,0,0";
+    return ok(call.number.isEmpty()
+                  ? head
+                  : head + ",\"" + call.number.toLatin1() + "\"," + numberType(call.number));
+}
+
+constexpr std::array table = {
+    CommandRow{"D", Form::Exec, everyFamily, Needs::Sim, dial},
+    CommandRow{"A", Form::Exec, everyFamily, Needs::Nothing, answerCall},
+    CommandRow{"H", Form::Exec, everyFamily, Needs::Nothing, hangUp},
+    CommandRow{"O", Form::Exec, everyFamily, Needs::Nothing, backToData},
+    CommandRow{"+CHUP", Form::Exec, everyFamily, Needs::Nothing, hangUp},
+    CommandRow{"+CLIP", Form::Read, gsmLike, Needs::Nothing, readCallerNumber},
+    CommandRow{"+CLIP", Form::Set, gsmLike, Needs::Nothing, setSwitch<&PortSettings::callerNumber>},
+    CommandRow{"+CLIP", Form::Test, gsmLike, Needs::Nothing, "+CLIP: (0,1)"},
+    CommandRow{"+CRC", Form::Read, everyFamily, Needs::Nothing, readExtendedRing},
+    CommandRow{"+CRC", Form::Set, everyFamily, Needs::Nothing, setSwitch<&PortSettings::extendedRing>},
+    CommandRow{"+CRC", Form::Test, everyFamily, Needs::Nothing, "+CRC: (0,1)"},
+    CommandRow{"+CLCC", Form::Exec, everyFamily, Needs::Nothing, listCalls},
+};
+
+} // namespace
+
+std::span<const CommandRow> callCommands()
+{
+    return table;
+}
+
+} // namespace cardemu

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "card/fields.h"
+#include "port/openwatch.h"
+
+#include <QObject>
+
+namespace cardemu
+{
+
+/// One serial port of the card: a pseudo-terminal with a link to its device file.
+class PtyPort : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit PtyPort(QObject *parent = nullptr) : QObject(parent) {}
+    ~PtyPort() override { close(); }
+
+    /// Makes a new pseudo-terminal in raw mode and the link to it. A link that is in the way is replaced, any
+    /// other file is left alone, and that is the complaint.
+    Complaint open(const QString &link);
+    /// As pulling the stick: who has the port open meets the end of file, and the link is gone.
+    void close();
+
+    bool isOpen() const { return m_master >= 0; }
+    QString link() const { return m_link; }
+    QString device() const { return m_device; }
+
+    /// Bytes for the client; dropped while no client has the port open, as a real port does.
+    void write(const QByteArray &bytes);
+    /// Written but not yet taken by the kernel.
+    qsizetype unwritten() const { return m_unwritten.size(); }
+    void setReading(bool reading);
+
+Q_SIGNALS:
+    void received(const QByteArray &bytes);
+    /// The kernel has taken everything.
+    void flushed();
+    /// The last client closed the port.
+    void clientLeft();
+
+private:
+    Complaint openPair();
+    Complaint makeLink(const QString &link);
+    void read();
+    void flush();
+    void clientsChanged();
+
+    int m_master = -1;
+    int m_slave = -1; ///< held open, so that a port without clients is quiet and not at its end
+    QString m_link;
+    QString m_device;
+    QByteArray m_unwritten;
+    bool m_hadClient = false;
+    std::unique_ptr<OpenWatch> m_watch;
+    std::unique_ptr<QSocketNotifier> m_readable;
+    std::unique_ptr<QSocketNotifier> m_writable;
+};
+
+} // namespace cardemu
