@@ -27,6 +27,7 @@ namespace
 constexpr auto statusInterval = 4000ms;
 constexpr auto echoDelay = 2000ms;
 constexpr int silentRoundsUntilGivenUp = 3;
+constexpr int mostIdentityTries = 5; // some SIMs have no identity to tell
 
 /// A period of section "network_dialer_setting", in seconds there; `otherwise` when the key is not above 0.
 std::chrono::milliseconds interval(const QString &key, std::chrono::milliseconds otherwise)
@@ -58,6 +59,7 @@ public:
     ProbeResult probe(const QString &port);
     void useCard(const FoundCard &card);
     void readAll();
+    void identify();
     void poll();
     void setEcho();
     void checkPort();
@@ -69,7 +71,7 @@ public:
 
     CardMonitor *q;
     SerialThread link;
-    std::unique_ptr<SerialThread> voiceLink; ///< the voice port's own link, when calls are on
+    std::unique_ptr<SerialThread> voiceLink; ///< the voice port, when calls are on; its thread has no work
     CardWorker worker;
     HotplugMonitor hotplug;
     QTimer statusTimer;
@@ -79,6 +81,7 @@ public:
     UsbIdentity stick;      // (worker) the stick that waits for its switching
     QString openPort;       // (worker)
     int silentRounds = 0;   // (worker)
+    int identityTries = 0;  // (worker) how often an incomplete identity is read again
     bool echoIsDue = false; // (worker)
     bool newWay = false;    // (worker)
     bool isStopped = false;
@@ -161,6 +164,7 @@ void CardMonitor::Private::useCard(const FoundCard &card)
         voiceLink->openPort(card.ports.voice);
     }
     silentRounds = 0;
+    identityTries = mostIdentityTries;
     foundPortFlag = true;
 }
 
@@ -171,10 +175,17 @@ void CardMonitor::Private::readAll()
         setEcho();
     reader.prepare();
     reader.readStatus();
+    publish();
+    identify();
+    say({});
+}
+
+void CardMonitor::Private::identify()
+{
+    --identityTries;
     reader.readIdentity();
     publish();
-    say({});
-    if (foundPortFlag)
+    if (!link.isPortLost())
         SerialThread::writeUpdateHardwareCfg(&reader.state().identity);
 }
 
@@ -194,15 +205,17 @@ void CardMonitor::Private::poll()
     if (silentRounds >= silentRoundsUntilGivenUp && link.sendNULL_ATCmd() != 1)
         return;
     silentRounds = reader.readStatus() ? 0 : silentRounds + 1;
+    const bool isSimChanged = reader.state().sim != simBefore;
+    if (isSimChanged)
+        identityTries = mostIdentityTries;
     CardState state = reader.state();
-    if (silentRounds == 0 && reader.state().sim != simBefore)
-        reader.readIdentity();
-    state = reader.state();
     if (silentRounds >= silentRoundsUntilGivenUp) {
         state.presence = CardPresence::Silent;
         state.modemReady = false;
     }
     publish(state);
+    if (silentRounds == 0 && identityTries > 0 && (isSimChanged || !reader.isIdentified()))
+        identify();
 }
 
 /// After each job and each drain: a port that has come to its end is closed, and looked for again.
@@ -303,9 +316,9 @@ void CardMonitor::start()
     d->hotplug.watchPorts(d->finder.portsToWatch(newWay));
     d->worker.start();
     d->link.start();
-    if (d->voiceLink)
-        d->voiceLink->start();
     QTimer::singleShot(echoDelay, this, [this] {
+        if (d->isStopped)
+            return;
         d->worker.submit([this](SerialThread &) { d->setEcho(); });
         d->statusTimer.start(interval(u"slottimer_interval"_s, statusInterval));
         const auto keepAlive = interval(u"send_nullatcommand_interval"_s, 0ms);
@@ -327,8 +340,6 @@ void CardMonitor::stop()
         d->voiceLink->requestStop();
     d->worker.stop();
     d->link.wait();
-    if (d->voiceLink)
-        d->voiceLink->wait();
     d->closePorts();
 }
 

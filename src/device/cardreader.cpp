@@ -43,21 +43,25 @@ void CardReader::prepare()
     m_link.setRegistrationReporting("CGREG", 2);
 }
 
-/// The raw reply; empty when there is none. A command that the card does not know is not asked again.
-QByteArray CardReader::ask(TextQuery query, const char *name)
+/// The query's text; empty when there is none.
+QByteArray CardReader::ask(TextQuery query)
 {
-    if (m_isSilent || !isKnown(name))
+    if (m_isSilent)
         return {};
-    const int result = (m_link.*query)(m_buffer.data());
-    const QByteArray reply(m_buffer.data());
-    if (result == -1) {
-        m_isSilent = true;
+    m_isSilent = (m_link.*query)(m_buffer.data()) == -1 && m_link.lastReply().isEmpty();
+    return m_isSilent ? QByteArray() : QByteArray(m_buffer.data());
+}
+
+/// The same for one of the maker's own commands.
+QByteArray CardReader::askMaker(TextQuery query, const char *name)
+{
+    if (!isKnown(name))
         return {};
-    }
-    const auto refused = refusal(reply);
-    if (result == 0 || (refused && isUnknownCommand(*refused)))
+    const QByteArray text = ask(query);
+    const auto refused = refusal(m_link.lastReply());
+    if (!m_isSilent && refused && isUnknownCommand(*refused))
         m_refused.insert(name);
-    return reply;
+    return text;
 }
 
 bool CardReader::readStatus()
@@ -111,13 +115,13 @@ void CardReader::readSignal()
 {
     if (m_isSilent)
         return;
-    const int code = m_link.getSignalQuality();
-    if (code == NoReply) {
+    if (m_link.getSignalQuality() == NoReply) {
         m_isSilent = true;
         return;
     }
-    m_state.signalCode = code >= SignalLevel1 && code <= SignalNone ? code : int(SignalNone);
-    m_state.signalDbm = parseSignalQuality(m_link.lastReply()).valueOr({}).dbm;
+    const SignalQuality quality = parseSignalQuality(m_link.lastReply()).valueOr({});
+    m_state.signalCode = signalLevelCode(quality.rssi);
+    m_state.signalDbm = quality.dbm;
     if (m_state.networkType != NetworkType::Evdo || !isKnown("HDRCSQ"))
         return;
     const int evdo = m_link.getEvdoSignalQuality();
@@ -129,8 +133,8 @@ void CardReader::readSignal()
 
 void CardReader::readRegistration()
 {
-    const auto voice = parseRegistration(ask(&SerialThread::get_CREG_Res_Str, "CREG"), "+CREG:");
-    const auto data = parseRegistration(ask(&SerialThread::get_CGREG_Res_Str, "CGREG"), "+CGREG:");
+    const auto voice = parseRegistration(ask(&SerialThread::get_CREG_Res_Str), "+CREG:");
+    const auto data = parseRegistration(ask(&SerialThread::get_CGREG_Res_Str), "+CGREG:");
     if (m_isSilent)
         return;
     // A card may be registered for data alone.
@@ -150,10 +154,10 @@ void CardReader::readRegistration()
 void CardReader::readService()
 {
     SystemInformation information;
-    if (const auto system = parseSysInfo(ask(&SerialThread::get_SYSINFO_Res_Str, "SYSINFO")))
+    if (const auto system = parseSysInfo(askMaker(&SerialThread::get_SYSINFO_Res_Str, "SYSINFO")))
         information = *system;
     if (information.networkType == NetworkType::Unknown) {
-        if (const auto access = parseJpas(ask(&SerialThread::get_JPAS_Res_Str, "JPAS"))) {
+        if (const auto access = parseJpas(askMaker(&SerialThread::get_JPAS_Res_Str, "JPAS"))) {
             information.networkType = access->networkType;
             if (information.service == ServiceState::Unknown)
                 information.service = access->service;
@@ -170,13 +174,13 @@ void CardReader::readService()
         m_state.networkType = information.networkType;
     if (information.roaming && m_state.registration == Registration::Unknown)
         m_state.roaming = information.roaming; // a CDMA card's only word on it
-    if (const auto time = parseNetworkTime(ask(&SerialThread::get_JTIME_Res_Str, "JTIME"), "+JTIME:"))
+    if (const auto time = parseNetworkTime(askMaker(&SerialThread::get_JTIME_Res_Str, "JTIME"), "+JTIME:"))
         m_state.networkTime = *time;
 }
 
 void CardReader::readOperator()
 {
-    const QByteArray reply = ask(&SerialThread::get_COPS_Res_Str, "COPS");
+    const QByteArray reply = ask(&SerialThread::get_COPS_Res_Str);
     if (!m_isSilent) {
         const OperatorSelection selection = parseOperator(reply).valueOr({});
         m_state.operatorName = selection.name;
@@ -199,22 +203,27 @@ void CardReader::readIdentity()
 {
     m_isSilent = false;
     CardIdentity &who = m_state.identity;
-    const auto text = [this](TextQuery query, const char *name) {
-        return QString::fromLatin1(ask(query, name));
-    };
-    who.manufacturer = text(&SerialThread::getCGMI, "CGMI");
-    who.model = text(&SerialThread::getCGMM, "CGMM");
-    who.imei = text(&SerialThread::getIMEI, "CGSN");
-    who.firmware = text(&SerialThread::getCgmr, "CGMR");
+    const auto text = [this](TextQuery query) { return QString::fromLatin1(ask(query)); };
+    who.manufacturer = text(&SerialThread::getCGMI);
+    who.model = text(&SerialThread::getCGMM);
+    who.imei = text(&SerialThread::getIMEI);
+    who.firmware = text(&SerialThread::getCgmr);
     if (who.firmware.isEmpty())
-        who.firmware = text(&SerialThread::getGMR, "GMR");
-    who.internalVersion = text(&SerialThread::getJvn, "JVN");
+        who.firmware = text(&SerialThread::getGMR);
+    who.internalVersion = QString::fromLatin1(askMaker(&SerialThread::getJvn, "JVN"));
     if (m_state.sim != SimState::Ready)
         return;
-    who.imsi = parseImsi(ask(&SerialThread::getCIMI, "CIMI")).valueOr({});
-    who.ownNumber = text(&SerialThread::getISDN, "CNUM");
-    if (m_link.getICCID(m_buffer.data()) == 1)
+    who.imsi = parseImsi(ask(&SerialThread::getCIMI)).valueOr({});
+    who.ownNumber = text(&SerialThread::getISDN);
+    if (!m_isSilent && m_link.getICCID(m_buffer.data()) == 1)
         who.iccid = parseIccid(m_buffer.data()).valueOr({});
+}
+
+bool CardReader::isIdentified() const
+{
+    const CardIdentity &who = m_state.identity;
+    return !who.model.isEmpty() && !who.imei.isEmpty() &&
+           (m_state.sim != SimState::Ready || !who.imsi.isEmpty());
 }
 
 } // namespace corva

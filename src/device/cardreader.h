@@ -14,8 +14,9 @@ namespace corva
 
 /// Asks one card who it is and how it does, and remembers what it cannot answer. Lives on the card worker.
 ///
-/// The maker's own commands are used where the card knows them. A card that refuses one at identification is
-/// not asked again: operator, signal and registration then come from the standard commands alone.
+/// The maker's own commands are used where the card knows them. One that the card does not know is not asked
+/// again: operator, signal and registration then come from the standard commands alone. Those are always
+/// asked: what refuses them is the moment.
 class CardReader
 {
 public:
@@ -31,13 +32,17 @@ public:
     bool readStatus();
     /// Model, IMEI, firmware, IMSI, ICCID, own number.
     void readIdentity();
+    /// False while the card has not said what it should know: a SIM may be busy for some seconds after its
+    /// PIN.
+    bool isIdentified() const;
 
     const CardState &state() const { return m_state; }
 
 private:
     using TextQuery = int (SerialThread::*)(char *);
 
-    QByteArray ask(TextQuery query, const char *name);
+    QByteArray ask(TextQuery query);
+    QByteArray askMaker(TextQuery query, const char *name);
     bool isKnown(const char *name) const { return !m_refused.contains(name); }
     void readSim();
     void readSignal();

@@ -19,26 +19,24 @@ CardWorker::~CardWorker()
     ::close(m_wake);
 }
 
-void CardWorker::enqueue(QByteArray key, std::function<void(SerialThread &)> work)
+void CardWorker::enqueue(Job job)
 {
     {
         const QMutexLocker lock(&m_mutex);
-        if (m_stop)
+        const bool isAskedFor =
+            !job.key.isEmpty() &&
+            (m_runningKey == job.key ||
+             std::ranges::any_of(m_jobs, [&](const Job &other) { return other.key == job.key; }));
+        if (m_stop || isAskedFor)
             return;
-        m_jobs.push_back({std::move(key), std::move(work)});
+        m_jobs.push_back(std::move(job));
     }
     eventfd_write(m_wake, 1);
 }
 
 void CardWorker::submitOnce(const QByteArray &key, std::function<void(SerialThread &)> job)
 {
-    {
-        const QMutexLocker lock(&m_mutex);
-        const bool waits = std::ranges::any_of(m_jobs, [&](const Job &other) { return other.key == key; });
-        if (waits || m_runningKey == key)
-            return;
-    }
-    enqueue(key, std::move(job));
+    enqueue({key, std::move(job)});
 }
 
 void CardWorker::stop()
@@ -79,16 +77,17 @@ void CardWorker::run()
     }
 }
 
-/// Until a job is there or the card says something, which is then dispatched.
+/// Until a job is there or the card says something, which is then dispatched. What came with the end of the
+/// last reply is dispatched at once.
 void CardWorker::waitForWork()
 {
     pollfd watched[] = {{m_wake, POLLIN, 0}, {m_link.isPortLost() ? -1 : m_link.descriptor(), POLLIN, 0}};
-    if (poll(watched, 2, -1) < 0)
+    if (poll(watched, 2, m_link.hasReadAhead() ? 0 : -1) < 0)
         return; // interrupted: the loop looks again
     eventfd_t count = 0;
     if (watched[0].revents)
         eventfd_read(m_wake, &count);
-    if (watched[1].revents)
+    if (watched[1].revents || m_link.hasReadAhead())
         m_link.purgeComData();
 }
 

@@ -36,13 +36,13 @@ public:
         auto promise = std::make_shared<QPromise<Value>>();
         promise->start();
         auto future = promise->future();
-        enqueue({}, [promise, job = std::move(job)](SerialThread &link) mutable {
-            if constexpr (std::is_void_v<Value>)
-                job(link);
-            else
-                promise->addResult(job(link));
-            promise->finish();
-        });
+        enqueue({{}, [promise, job = std::move(job)](SerialThread &link) mutable {
+                     if constexpr (std::is_void_v<Value>)
+                         job(link);
+                     else
+                         promise->addResult(job(link));
+                     promise->finish();
+                 }});
         return future;
     }
 
@@ -66,7 +66,7 @@ private:
         std::function<void(SerialThread &)> work;
     };
 
-    void enqueue(QByteArray key, std::function<void(SerialThread &)> work);
+    void enqueue(Job job);
     bool takeJob(Job &job);
     void waitForWork();
 

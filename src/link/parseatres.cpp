@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "parseatres.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 
@@ -18,12 +19,12 @@ struct Outcome {
 
 using Judge = int (*)(const QByteArray &reply);
 
-/// One operation's replies. A rule is selected by the echoed command; `mark` selects it in a reply that
-/// carries no echo at all. `outcomes` are tested in order, then `judge` where there is one; `otherwise` is
-/// the code for none of them.
+/// One operation's replies. A rule is selected by the command, as it was sent or as the card echoes it;
+/// `mark` selects it in a reply to nobody knows what. `outcomes` are tested in order, then `judge` where
+/// there is one; `otherwise` is the code for none of them.
 struct Rule {
-    const char *command; ///< text of the echo; null when only the mark selects
-    const char *mark;    ///< text of a bare reply; null when only the echo selects
+    const char *command; ///< how the command begins; null when only the mark selects
+    const char *mark;    ///< text of a bare reply; null when only the command selects
     std::span<const Outcome> outcomes;
     int otherwise;
     const char *serves; ///< the operation that compares the code
@@ -69,6 +70,9 @@ constexpr auto facilityLock = std::to_array<Outcome>({
     {"CME ERROR: 12\r", PukRequired},
     {"CME ERROR: SIM failure", SimFailure},
     {"CME ERROR: 13\r", SimFailure},
+    {"CME ERROR: incorrect password", LockRefused},
+    {"CME ERROR: 16\r", LockRefused},
+    {"CME ERROR", NotWritten},
     {"ERROR", LockRefused},
 });
 constexpr auto facilityUnlock = std::to_array<Outcome>({
@@ -77,6 +81,9 @@ constexpr auto facilityUnlock = std::to_array<Outcome>({
     {"CME ERROR: 12\r", PukRequired},
     {"CME ERROR: SIM failure", SimFailure},
     {"CME ERROR: 13\r", SimFailure},
+    {"CME ERROR: incorrect password", UnlockRefused},
+    {"CME ERROR: 16\r", UnlockRefused},
+    {"CME ERROR", NotWritten},
     {"ERROR", UnlockRefused},
 });
 constexpr auto passwordChange = std::to_array<Outcome>({
@@ -94,6 +101,9 @@ constexpr auto pinEntry = std::to_array<Outcome>({
     {"CME ERROR: 12\r", PukRequired},
     {"CME ERROR: SIM failure", SimFailure},
     {"CME ERROR: 13\r", SimFailure},
+    {"CME ERROR: incorrect password", UnknownError},
+    {"CME ERROR: 16\r", UnknownError},
+    {"CME ERROR", NotWritten},
     {"ERROR", UnknownError},
 });
 constexpr auto plain = std::to_array<Outcome>({{"OK\r\n", PlainOk}, {"ERROR", PlainError}});
@@ -155,12 +165,13 @@ int judgeMessageSent(const QByteArray &reply)
     return at >= 0 && reply.indexOf("OK", at) >= 0 ? Acknowledged : NotWritten;
 }
 
-/// The table, in the order in which it is tested. Rules of one command stand together, the longer echo first.
+/// The table, in the order in which it is tested. Rules of one command stand together, the longer beginning
+/// first.
 constexpr auto rules = std::to_array<Rule>({
     // command, mark of a bare reply, outcomes, otherwise, serves
     {"AT\r", nullptr, plainProbe, NotWritten, "sendNULL_ATCmd"},
-    {"+CMGS", "+CMGS", {}, NotWritten, "message sending", judgeMessageSent},
-    {"+CMGW", "+CMGW", {}, NotWritten, "message writing", judgeMessageSent},
+    {"AT+CMGS", "+CMGS", {}, NotWritten, "message sending", judgeMessageSent},
+    {"AT+CMGW", "+CMGW", {}, NotWritten, "message writing", judgeMessageSent},
     {"ATD", nullptr, dial, NotWritten, "dialling"},
     {"AT+CPIN?", "+CPIN:", simState, NotWritten, "connectDeviceNeedInputPIN"},
     {"AT^CPIN?", "^CPIN:", simState, NotWritten, "connectDeviceNeedInputPIN"},
@@ -179,7 +190,7 @@ constexpr auto rules = std::to_array<Rule>({
     {"AT^HDRCSQ", "\r\n^HDRCSQ: ", {}, NotWritten, "getEvdoSignalQuality", judgeEvdoSignal},
     {"AT+CFUN=1\r", nullptr, functionalitySet, FunctionalityNotSet, "setModemFullFun"},
     {"AT+CFUN?", "\r\n+CFUN: ", functionality, NotWritten, "getOnlineStatus"},
-    {"ZPPDL", "ZPPDL: ", testMode, NotWritten, "test mode"},
+    {"AT+ZPPDL", "ZPPDL: ", testMode, NotWritten, "test mode"},
     {"AT+CCWA=", nullptr, callWaiting, CallWaitingFailed, "call waiting"},
     {"AT+JTAG=", nullptr, tagSet, TagNotSet, "module test"},
     {"AT+CGDCONT=1,", nullptr, profileSet, ProfileNotSet, "setting the PDP context"},
@@ -188,7 +199,6 @@ constexpr auto rules = std::to_array<Rule>({
     {"AT+CRSM=176,", nullptr, simFile, SimFileNotRead, "reading a SIM file"},
     {"AT+JSEC?", nullptr, security, SecurityNotRead, "security state"},
     {"AT+JUSIM=?", "+JUSIM: ", usim, NotWritten, "getUSIM"},
-    {"AT+CMEE=", nullptr, plain, NotWritten, "setErrorReporting"},
     {nullptr, "+JPDPACT", dataCall, NotWritten, "data-call reports"},
     {nullptr, "+CME ERROR: SIM ", simError, NotWritten, "SIM state without an echo"},
 });
@@ -202,25 +212,46 @@ int judge(const QByteArray &text, const Rule &rule)
     return rule.judge ? rule.judge(text) : rule.otherwise;
 }
 
-bool hasEcho(const QByteArray &text)
+/// For commands that end with a plain final result, which need no row of their own.
+constexpr Rule plainCommand{"AT", nullptr, plain, NotWritten, "commands with a plain result"};
+constexpr Rule unknownReply{nullptr, nullptr, unknownCommand, NotWritten, "a reply without a command"};
+
+/// The command whose echo stands in a text, with its line end; empty when there is none.
+QByteArray echoIn(const QByteArray &text)
 {
-    return text.contains("AT+") || text.contains("AT^") || text.contains("AT\r") || text.contains("ATD");
+    for (const char *beginning : {"AT+", "AT^", "ATD", "AT\r"}) {
+        const qsizetype at = text.indexOf(beginning);
+        const qsizetype end = text.indexOf('\r', at);
+        if (at >= 0)
+            return text.mid(at, end < 0 ? -1 : end - at) + '\r';
+    }
+    return {};
 }
 
+const Rule *ruleOf(const QByteArray &command)
+{
+    const auto *rule = std::ranges::find_if(
+        rules, [&](const Rule &each) { return each.command && command.startsWith(each.command); });
+    return rule == rules.end() ? nullptr : rule;
+}
+
+const Rule &ruleOfBareReply(const QByteArray &reply)
+{
+    const auto *rule =
+        std::ranges::find_if(rules, [&](const Rule &each) { return each.mark && reply.contains(each.mark); });
+    return rule == rules.end() ? unknownReply : *rule;
+}
+
+/// A text alone: its echo selects the rule, or else its own lines do.
 int classify(const QByteArray &text)
 {
     if (text.isEmpty())
         return NotWritten;
-    const auto selector = hasEcho(text) ? &Rule::command : &Rule::mark;
-    for (const Rule &rule : rules) {
-        const char *selecting = rule.*selector;
-        if (selecting && text.contains(selecting))
-            return judge(text, rule);
-    }
-    if (hasEcho(text))
-        return NotWritten;
-    const Rule bare{nullptr, nullptr, unknownCommand, NotWritten, "an unknown command"};
-    return judge(text, bare);
+    const QByteArray echo = echoIn(text);
+    if (echo.isEmpty())
+        return judge(text, ruleOfBareReply(text));
+    const Rule *rule = ruleOf(echo);
+    return rule ? judge(text, *rule) : int(NotWritten);
 }
 
 } // namespace
@@ -248,8 +279,10 @@ int classifyReply(const QByteArray &reply, const QByteArray &command)
 {
     if (reply.isEmpty())
         return NotWritten;
-    const QByteArray echo = command.trimmed() + '\r';
-    return classify(reply.contains(command.trimmed()) ? reply : echo + reply);
+    if (!command.startsWith("AT")) // what is typed behind a prompt
+        return classify(reply);
+    const Rule *rule = ruleOf(command.trimmed() + '\r');
+    return judge(reply, rule ? *rule : plainCommand);
 }
 
 } // namespace corva

@@ -78,8 +78,8 @@ enum ResultCode : int {
 };
 
 /// `Parse_At_Res` for a reply whose command is known. With the echo off the reply does not say what it
-/// answers, so the command stands in for the missing echo: every operation then gets the same code with the
-/// card's echo on and off.
+/// answers, so the command selects the rule: every operation then gets the same code with the card's echo on
+/// and off. A command without a row of its own gives 48 for "OK" and 49 for an error.
 int classifyReply(const QByteArray &reply, const QByteArray &command);
 
 /// The code 30 to 35 for "+CSQ: <rssi>". 3GPP TS 27.007 8.5; 0, 32..98 and 99 are no signal.

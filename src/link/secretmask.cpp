@@ -19,8 +19,10 @@ constexpr auto secretCommands = std::to_array<SecretCommand>({
     {"+CPIN=", 0}, // PIN, or PUK and new PIN
     {"^CPIN=", 0},
     {"+CPIN2=", 0},
-    {"+CLCK=", 2}, // facility, mode, then the password
-    {"+CPWD=", 1}, // facility, then the old and the new password
+    {"+CLCK=", 2},     // facility, mode, then the password
+    {"+CPWD=", 1},     // facility, then the old and the new password
+    {"+APWIFIW=", 2},  // mode, cipher, then the key
+    {"+APWIFISH=", 2}, // mode, key index, then the keys
 });
 
 void maskArguments(QByteArray &text, qsizetype from, int plainArguments)

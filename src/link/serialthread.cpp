@@ -165,7 +165,7 @@ int SerialThread::resAtStr(int fd, char *reply, int seconds, int microseconds)
     std::memset(reply, 0, replyBufferSize);
     QByteArray text;
     const int result =
-        collectReply(fd, text, std::chrono::seconds(seconds) + std::chrono::microseconds(microseconds));
+        collectReply(fd, text, std::chrono::seconds(seconds), std::chrono::microseconds(microseconds));
     std::memcpy(reply, text.constData(), std::size_t(text.size()));
     return result;
 }
@@ -177,14 +177,15 @@ int SerialThread::failReply(const char *line)
     return -1;
 }
 
-int SerialThread::collectReply(int fd, QByteArray &reply, std::chrono::microseconds timeout)
+int SerialThread::collectReply(int fd, QByteArray &reply, seconds whole, microseconds rest)
 {
     reply.clear();
     if (receive_flag.exchange(true))
         return 0;
 
     corva::ReplyReader reader;
-    auto roundsLeft = timeout / round100ms; // a round is spent only when its 100 ms were silent to the end
+    // A round is spent only when its 100 ms were silent to the end.
+    auto roundsLeft = std::max<qint64>((whole + rest) / round100ms, 0);
     std::size_t notesLogged = 0;
     for (;;) {
         while (m_ahead.isEmpty()) {
@@ -216,9 +217,8 @@ int SerialThread::collectReply(int fd, QByteArray &reply, std::chrono::microseco
     }
     reply = reader.reply();
     findUpReportAtCmd(QString::fromLatin1(reply));
-    const auto whole = floor<std::chrono::seconds>(timeout);
     logLine(u"****** in resAtStr, timer_sec=%1, timer_usec=%2, con=%3"_s.arg(whole.count())
-                .arg((timeout - whole).count())
+                .arg(rest.count())
                 .arg(roundsLeft));
     logLine(u"****** in resAtStr, pResStr = %1"_s.arg(readable(reply)));
     receive_flag = false;
@@ -226,14 +226,17 @@ int SerialThread::collectReply(int fd, QByteArray &reply, std::chrono::microseco
 }
 
 /// What the card sent since the last transaction, until it is silent for 2 ms. Half a line is waited for a
-/// little longer, so that a report is not torn. Empty when a transaction begins meanwhile.
-QByteArray SerialThread::drain()
+/// little longer, so that a report is not torn. Empty when the port is closed, nullopt when a transaction
+/// runs.
+std::optional<QByteArray> SerialThread::drain()
 {
     QByteArray text;
     const int fd = m_fd;
+    if (fd < 0)
+        return text;
     while (text.size() < replyBufferSize) { // a card that never stops is read on at the next drain
         if (receive_flag || m_locked)
-            return {};
+            return std::nullopt;
         if (m_ahead.isEmpty()) {
             const bool isWhole = text.isEmpty() || text.endsWith('\n') || text.endsWith("> ");
             const Wait wait = waitFor(fd, POLLIN, int((isWhole ? drainSilence : halfLineSilence).count()));
@@ -248,12 +251,12 @@ QByteArray SerialThread::drain()
 
 void SerialThread::purgeComData()
 {
-    if (m_fd >= 0 && (receive_flag || m_locked))
+    const auto text = drain();
+    if (!text)
         return;
-    const QByteArray text = m_fd >= 0 ? drain() : QByteArray();
-    logLine(u"purgeComData:: %1"_s.arg(readable(text)));
+    logLine(u"purgeComData:: %1"_s.arg(readable(*text)));
     if (m_owner->isReadyForReports())
-        findUpReportAtCmd(QString::fromLatin1(text));
+        findUpReportAtCmd(QString::fromLatin1(*text));
 }
 
 // --- Whole transactions
@@ -261,22 +264,23 @@ void SerialThread::purgeComData()
 
 std::optional<QByteArray> SerialThread::transact(const QByteArray &cmd, std::chrono::microseconds timeout)
 {
+    m_lastReply.clear();
     purgeComData();
-    QByteArray reply;
-    if (!excuteAtStr(cmd.constData()) || collectReply(m_fd, reply, timeout) == -1)
+    const auto whole = floor<seconds>(timeout);
+    if (!excuteAtStr(cmd.constData()) || collectReply(m_fd, m_lastReply, whole, timeout - whole) == -1)
         return std::nullopt;
-    return reply;
+    return m_lastReply;
 }
 
-int SerialThread::sendCmdAndRec(const char *cmd, int seconds, int microseconds)
+int SerialThread::sendCmdAndRec(const char *cmd, int wholeSeconds, int microseconds)
 {
     m_lastReply.clear();
     purgeComData();
     if (!excuteAtStr(cmd))
         return corva::NotWritten;
-    const int wholeSeconds = send_atcommand_timer >= 4 ? send_atcommand_timer.load() : seconds;
-    const auto timeout = std::chrono::seconds(wholeSeconds) + std::chrono::microseconds(microseconds);
-    if (collectReply(m_fd, m_lastReply, timeout) == -1)
+    const int configured = send_atcommand_timer;
+    const seconds whole(configured >= 4 ? configured : wholeSeconds);
+    if (collectReply(m_fd, m_lastReply, whole, std::chrono::microseconds(microseconds)) == -1)
         return corva::NoReply;
     return corva::classifyReply(m_lastReply, cmd);
 }
@@ -289,10 +293,9 @@ int SerialThread::sendNULL_ATCmd()
     m_probing = false;
     if (!isWritten)
         return -1;
-    const auto timeout = std::chrono::seconds(send_nullatcommand_timer_s) +
-                         send_nullatcommand_timer_100ms.load() * std::chrono::milliseconds(100);
+    const seconds whole(send_nullatcommand_timer_s);
     QByteArray reply;
-    if (collectReply(m_fd, reply, timeout) == -1)
+    if (collectReply(m_fd, reply, whole, send_nullatcommand_timer_100ms.load() * 100ms) == -1)
         return -1;
     logLine(u"AT_CMD_RES_STATE state is %1"_s.arg(corva::classifyReply(reply, "AT\r\n")));
     return 1;

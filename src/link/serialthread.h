@@ -83,6 +83,8 @@ public:
     int sendData(void *data, int len);
     /// Bytes waiting on the port; 1 if that cannot be told.
     int readDataWaiting();
+    /// Whether bytes behind the last reply wait here already, where no wait on the descriptor sees them.
+    bool hasReadAhead() const { return !m_ahead.isEmpty(); }
     /// Reads until `len` bytes are in, or end of file. Bytes read or -1.
     int readData(void *buf, int len);
     int readAll(int fd, char *buf, int len);
@@ -109,7 +111,7 @@ public:
     int sendNULL_ATCmd();
     /// Drain, write and read with the caller's own time-out; nullopt when any of them failed.
     std::optional<QByteArray> transact(const QByteArray &cmd, std::chrono::microseconds timeout);
-    /// The reply that `sendCmdAndRec` classified last.
+    /// The reply of the last `sendCmdAndRec` or `transact`; empty when there was none.
     const QByteArray &lastReply() const { return m_lastReply; }
 
     // --- Reports
@@ -223,15 +225,16 @@ private:
     enum class Wait { Ready, Silent, Failed };
 
     Wait waitFor(int fd, short events, int milliseconds);
+    int readFrom(int fd, char *buf, int len);
     bool fillBuffer(int fd);
     int readSome(int fd, char *buf, int len);
     int openWith(const QString &name, bool softFlowControl);
     bool mayWrite(const char *cmd);
     bool writeCommand(const char *cmd, bool isLogged);
     bool waitForLockAndWrite(const char *cmd);
-    int collectReply(int fd, QByteArray &reply, std::chrono::microseconds timeout);
+    int collectReply(int fd, QByteArray &reply, std::chrono::seconds whole, std::chrono::microseconds rest);
     int failReply(const char *line);
-    QByteArray drain();
+    std::optional<QByteArray> drain();
     void runStartJobs();
     bool sleepTwoSeconds();
     int rawText(const QByteArray &cmd, char *text, std::chrono::microseconds timeout, bool failsOnCmeError);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "serialthread.h"
 
+#include <algorithm>
+
 using namespace std::chrono_literals;
 
 int SerialThread::getNetworkList(char *text)
@@ -14,14 +16,13 @@ int SerialThread::getNetworkList(char *text)
 int SerialThread::setManualNetworkMode(QString act, QString opt, QString format, QString mode)
 {
     const bool isClean =
-        !(act + opt + format + mode).contains(u'"') && !(act + opt + format + mode).contains(u'\r');
+        std::ranges::all_of(act + format + mode, [](QChar c) { return c >= u'0' && c <= u'9'; }) &&
+        std::ranges::all_of(opt, [](QChar c) { return c >= u' ' && c < u'\x7f' && c != u'"'; });
     if (!isClean)
         return -1;
     QByteArray cmd = "AT+COPS=" + mode.toLatin1() + ',' + format.toLatin1() + ",\"" + opt.toLatin1() + '"';
     if (!act.isEmpty())
         cmd += ',' + act.toLatin1();
-    // The gate would keep the command's own reply from nobody: it only holds back other writers until this is
-    // over.
     const auto reply = transact(cmd + "\r\n", 180s);
     m_selectionGate = true;
     if (!reply || reply->isEmpty())

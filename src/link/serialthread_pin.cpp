@@ -70,11 +70,12 @@ int SerialThread::changePWD(const char *oldPin, const char *newPin)
 QString SerialThread::get_JPINJPUK_Res_Str()
 {
     const auto reply = transact("AT+JPINPUK=?\r\n", 3s);
-    const qsizetype at = reply ? reply->indexOf("+JPINPUK: ") : -1;
-    if (at < 0)
-        return {};
-    const QByteArray behind = reply->sliced(at + 10);
-    return QString::fromLatin1(behind.first(std::max<qsizetype>(behind.indexOf('\r'), 0)));
+    for (const QByteArray &line : corva::replyLines(reply.value_or(QByteArray()))) {
+        const qsizetype at = line.indexOf(": ");
+        if (line.startsWith("+JPIN") && at >= 0)
+            return QString::fromLatin1(line.sliced(at + 2));
+    }
+    return {};
 }
 
 int SerialThread::enterPin(const QString &pin)

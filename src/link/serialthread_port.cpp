@@ -113,6 +113,8 @@ SerialThread::Wait SerialThread::waitFor(int fd, short events, int milliseconds)
         const int ready = poll(watched, 2, milliseconds < 0 ? -1 : int(std::max<long>(left, 0)));
         if (ready < 0 && errno == EINTR)
             continue;
+        if ((watched[0].revents & POLLNVAL) && fd == m_fd)
+            m_portLost = true; // closed behind our back
         if (ready < 0 || m_stop || (watched[0].revents & POLLNVAL))
             return Wait::Failed;
         if (watched[0].revents)
@@ -126,7 +128,10 @@ int SerialThread::writePort(int fd, const char *data, int len)
 {
     if (fd <= 0 || waitFor(fd, POLLOUT, -1) != Wait::Ready)
         return -1;
-    const ssize_t written = ::write(fd, data, std::size_t(len));
+    ssize_t written = 0;
+    do {
+        written = ::write(fd, data, std::size_t(len));
+    } while (written < 0 && errno == EINTR);
     if (written < 0 && fd == m_fd && (errno == EIO || errno == ENXIO || errno == ENODEV))
         m_portLost = true;
     return int(written);
@@ -145,35 +150,37 @@ int SerialThread::readDataWaiting()
     return waiting + int(m_ahead.size());
 }
 
-/// One read into the buffer of bytes read ahead. False at the end of the device, which is remembered.
+/// One `read`, taken up again after a signal. The end of the device is remembered.
+int SerialThread::readFrom(int fd, char *buf, int len)
+{
+    ssize_t got = 0;
+    do {
+        got = ::read(fd, buf, std::size_t(len));
+    } while (got < 0 && errno == EINTR);
+    if (got <= 0 && fd == m_fd)
+        m_portLost = true;
+    return int(got);
+}
+
+/// One read into the buffer of bytes read ahead. False at the end of the device.
 bool SerialThread::fillBuffer(int fd)
 {
     char chunk[4096];
-    ssize_t got = 0;
-    do {
-        got = ::read(fd, chunk, sizeof chunk);
-    } while (got < 0 && errno == EINTR);
+    const int got = readFrom(fd, chunk, sizeof chunk);
     if (got > 0)
         m_ahead.append(chunk, got);
-    else if (fd == m_fd)
-        m_portLost = true;
     return got > 0;
 }
 
 /// One chunk: what was read ahead on the AT port first, then the descriptor.
 int SerialThread::readSome(int fd, char *buf, int len)
 {
-    if (fd == m_fd && !m_ahead.isEmpty()) {
-        const int count = int(std::min<qsizetype>(len, m_ahead.size()));
-        std::memcpy(buf, m_ahead.constData(), std::size_t(count));
-        m_ahead.remove(0, count);
-        return count;
-    }
-    ssize_t got = 0;
-    do {
-        got = ::read(fd, buf, std::size_t(len));
-    } while (got < 0 && errno == EINTR);
-    return int(got);
+    if (fd != m_fd || m_ahead.isEmpty())
+        return readFrom(fd, buf, len);
+    const int count = int(std::min<qsizetype>(len, m_ahead.size()));
+    std::memcpy(buf, m_ahead.constData(), std::size_t(count));
+    m_ahead.remove(0, count);
+    return count;
 }
 
 int SerialThread::readData(void *buf, int len)

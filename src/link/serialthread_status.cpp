@@ -122,8 +122,7 @@ int SerialThread::getEvdoSignalQuality()
 /// dispatched. A report that an earlier drain met counts as pending, too.
 int SerialThread::getSignalQualityR(int count, int *values)
 {
-    if (m_fd >= 0)
-        findUpReportAtCmd(QString::fromLatin1(drain()));
+    findUpReportAtCmd(QString::fromLatin1(drain().value_or(QByteArray())));
     const auto quality = corva::parseRadioQuality(std::exchange(m_radioReport, {}));
     if (!quality)
         return -1;

@@ -85,6 +85,17 @@ std::optional<Registration> registrationOf(std::optional<int> stat)
     }
 }
 
+/// Lines that may stand in any reply and belong to none.
+bool isEchoOrReport(const QByteArray &line)
+{
+    static constexpr auto reports =
+        std::to_array({"OK", "RING", "STOPRING", "RINGBACK", "RINGBACKLOCAL", "ANSWER", "NO ANSWER",
+                       "NO CARRIER", "VOICE NO CARRIER", "BUSY", "CONNECT"});
+    return line.startsWith("AT+") || line.startsWith('+') || line.startsWith('^') ||
+           line.startsWith("HANGUP:") ||
+           std::ranges::any_of(reports, [&](const char *report) { return line == report; });
+}
+
 } // namespace
 
 QString decodeCardText(const QByteArray &text)
@@ -203,16 +214,17 @@ ReplyResult<QDateTime> parseNetworkTime(const QByteArray &reply, QByteArrayView 
     if (!fields->isQuoted(0) && fields->has(1))
         text += ',' + fields->text(1);
     constexpr qsizetype length = 17; // yy/MM/dd,hh:mm:ss
-    QDateTime time = QDateTime::fromString(QString::fromLatin1(text.first(std::min(length, text.size()))),
-                                           QStringLiteral("yy/MM/dd,hh:mm:ss"));
-    if (!time.isValid())
+    const QString stamp = QString::fromLatin1(text.first(std::min(length, text.size())));
+    const QDate date = QDate::fromString(QStringLiteral("20") + stamp.left(8), QStringLiteral("yyyy/MM/dd"));
+    const QTime time = QTime::fromString(stamp.mid(9), QStringLiteral("hh:mm:ss"));
+    if (stamp.size() != length || stamp[8] != u',' || !date.isValid() || !time.isValid())
         return badField("time");
-    time = time.addYears(100); // two digits are read as 19yy
+    const QByteArray zone = text.sliced(length).split(',').first(); // summer time may follow
     bool hasZone = false;
-    const int quarters = text.sliced(std::min(length, text.size())).toInt(&hasZone);
-    if (hasZone && std::abs(quarters) <= 56)
-        time.setTimeZone(QTimeZone(quarters * 15 * 60));
-    return time;
+    const int quarters = zone.toInt(&hasZone);
+    if (!hasZone || std::abs(quarters) > 56)
+        return QDateTime(date, time);
+    return QDateTime(date, time, QTimeZone(quarters * 15 * 60));
 }
 
 ReplyResult<int> parseFunctionality(const QByteArray &reply)
@@ -294,9 +306,7 @@ ReplyResult<QString> parseIdentity(const QByteArray &reply, QByteArrayView prefi
         if (line.startsWith(prefix))
             return QString::fromLatin1(AtFields(QByteArrayView(line).sliced(prefix.size())).text(0))
                 .trimmed();
-        const bool isOther = line.startsWith("AT") || line.startsWith('+') || line.startsWith('^') ||
-                             line == "OK" || line == "RING";
-        if (!isOther)
+        if (!isEchoOrReport(line))
             return QString::fromLatin1(line).remove(u'"').trimmed();
     }
     return ReplyError{reply.isEmpty() ? ReplyError::NoReply : ReplyError::NoLine, prefix.toByteArray()};
