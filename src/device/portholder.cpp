@@ -85,13 +85,13 @@ bool hasOpen(const QString &process, dev_t device)
     });
 }
 
-/// Every name the port goes by: the one given, and where its links end.
+/// Every name the port goes by: the one given, and the one behind a link such as "/dev/at".
 QStringList baseNames(const QString &port)
 {
     QStringList names{QFileInfo(port).fileName()};
-    const QFileInfo target(QFileInfo(port).canonicalFilePath());
-    if (!target.fileName().isEmpty() && !names.contains(target.fileName()))
-        names.append(target.fileName());
+    const QString target = QFileInfo(port).symLinkTarget();
+    if (!target.isEmpty())
+        names.append(QFileInfo(target).fileName());
     return names;
 }
 

@@ -47,7 +47,8 @@ QString pathText(const Socket &socket)
     QStringList ports;
     for (const int port : socket)
         ports.append(QString::number(port));
-    return ports.takeFirst() + u'-' + ports.join(u'.');
+    const QString bus = ports.takeFirst();
+    return bus + u'-' + ports.join(u'.');
 }
 
 QList<int> interfaceClasses(libusb_device *device)

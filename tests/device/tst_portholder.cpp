@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "device/cardfinder.h"
+#include "device/portclaim.h"
+#include "device/portholder.h"
+
+#include "privatebus.h"
+
+#include <QDBusArgument>
+#include <QDBusMetaType>
+#include <QDBusObjectPath>
+#include <QScopeGuard>
+#include <QTemporaryDir>
+#include <QThread>
+#include <QtTest>
+#include <csignal>
+#include <fcntl.h>
+#include <pty.h>
+#include <sys/ioctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace corva;
+
+namespace
+{
+
+using Interfaces = QMap<QString, QVariantMap>;
+using Objects = QMap<QDBusObjectPath, Interfaces>;
+struct ModemPort {
+    QString name;
+    uint type = 0;
+};
+using ModemPorts = QList<ModemPort>;
+
+QDBusArgument &operator<<(QDBusArgument &argument, const ModemPort &port)
+{
+    argument.beginStructure();
+    argument << port.name << port.type;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, ModemPort &port)
+{
+    argument.beginStructure();
+    argument >> port.name >> port.type;
+    argument.endStructure();
+    return argument;
+}
+
+/// A pseudo-terminal of this process.
+struct Terminal {
+    Terminal() { isOpen = openpty(&far, &near, nullptr, nullptr, nullptr) == 0; }
+    ~Terminal()
+    {
+        close(near);
+        close(far);
+    }
+    QString name() const { return QString::fromLocal8Bit(ttyname(near)); }
+    int far = -1;
+    int near = -1;
+    bool isOpen = false;
+};
+
+/// Another process that has a port open for itself alone.
+class Holder
+{
+public:
+    explicit Holder(const QString &port)
+    {
+        const QByteArray name = port.toLocal8Bit();
+        int ready[2];
+        if (pipe(ready) != 0)
+            return;
+        m_pid = fork();
+        if (m_pid == 0) {
+            const int fd = open(name.constData(), O_RDWR | O_NOCTTY);
+            const char done = fd >= 0 && ioctl(fd, TIOCEXCL) == 0 ? 'y' : 'n';
+            [[maybe_unused]] const auto written = write(ready[1], &done, 1);
+            pause();
+            _exit(0);
+        }
+        char answer = 'n';
+        m_isReady = read(ready[0], &answer, 1) == 1 && answer == 'y';
+        close(ready[0]);
+        close(ready[1]);
+    }
+    ~Holder()
+    {
+        kill(m_pid, SIGKILL);
+        waitpid(m_pid, nullptr, 0);
+    }
+    Q_DISABLE_COPY_MOVE(Holder)
+    bool isReady() const { return m_isReady; }
+    PortHolder self() const { return {u"tst_portholder"_s, m_pid}; }
+
+private:
+    pid_t m_pid = -1;
+    bool m_isReady = false;
+};
+
+/// Opens the port as a program would; nobody answers there.
+ProbeResult openAndListen(const QString &port)
+{
+    const int fd = open(port.toLocal8Bit().constData(), O_RDWR | O_NOCTTY | O_NONBLOCK);
+    if (fd < 0)
+        return {ProbeResult::Verdict::CannotOpen, errno};
+    close(fd);
+    return {ProbeResult::Verdict::Silent, 0};
+}
+
+/// What ModemManager answers on the bus about one modem with two ports.
+class FakeModemManager : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.DBus.ObjectManager")
+
+public Q_SLOTS:
+    Objects GetManagedObjects() const
+    {
+        const ModemPorts ports{{u"ttyUSB2"_s, 3}, {u"wwan0"_s, 2}};
+        const QVariantMap modem{{u"Ports"_s, QVariant::fromValue(ports)}, {u"PrimaryPort"_s, u"ttyUSB2"_s}};
+        return {{QDBusObjectPath(u"/org/freedesktop/ModemManager1/Modem/0"_s),
+                 {{u"org.freedesktop.ModemManager1.Modem"_s, modem}}}};
+    }
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(ModemPort)
+
+class TestPortHolder : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void lockFile_data();
+    void lockFile();
+    void openFile();
+    void heldCard();
+    void claimedPort();
+    void modemManager();
+    void advice_data();
+    void advice();
+
+private:
+    PrivateBus m_systemBus; // from the start: a connection that failed once is kept
+};
+
+void TestPortHolder::lockFile_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("isHeld");
+    const qint64 other = getppid();
+    const auto binary = [](qint32 pid) {
+        return QByteArray(reinterpret_cast<const char *>(&pid), sizeof pid);
+    };
+    QTest::newRow("ten characters and a line end") << QByteArray::number(other).rightJustified(10) + '\n'
+                                                   << true;
+    QTest::newRow("with the program's name")
+        << QByteArray::number(other).rightJustified(10) + " minicom root\n"
+        << true;
+    QTest::newRow("four bytes") << binary(static_cast<qint32>(other)) << true;
+    QTest::newRow("this process") << QByteArray::number(getpid()) << false;
+    QTest::newRow("a process that has ended") << QByteArray("4194304\n") << false; // above any process id
+    QTest::newRow("every process, to kill()") << QByteArray("-1\n") << false;
+    QTest::newRow("nothing") << QByteArray() << false;
+    QTest::newRow("no number") << QByteArray("minicom\n") << false;
+}
+
+void TestPortHolder::lockFile()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(bool, isHeld);
+    const QTemporaryDir folder;
+    QFile lock(folder.filePath(u"LCK..ttyUSB2"_s));
+    QVERIFY(lock.open(QIODevice::WriteOnly));
+    lock.write(content);
+    lock.close();
+    QVERIFY(QFile::link(u"ttyUSB2"_s, folder.filePath(u"at"_s)));
+    for (const QString &port : {u"/dev/ttyUSB2"_s, folder.filePath(u"at"_s)}) {
+        const PortHolder holder = holderByLockFile(port, folder.path());
+        QCOMPARE(holder.isKnown(), isHeld);
+        QCOMPARE(holder.pid, isHeld ? qint64(getppid()) : 0);
+    }
+    QVERIFY(!holderByLockFile(u"/dev/ttyUSB3"_s, folder.path()).isKnown());
+}
+
+void TestPortHolder::openFile()
+{
+    const Terminal terminal;
+    QVERIFY(terminal.isOpen);
+    const QString port = terminal.name();
+    QCOMPARE(holderByOpenFile(port), PortHolder()); // open here alone
+    QCOMPARE(holderByOpenFile(u"/nowhere"_s), PortHolder());
+    const Holder other(port);
+    QVERIFY(other.isReady());
+    QCOMPARE(findPortHolder(port), other.self());
+    const QTemporaryDir folder;
+    QVERIFY(QFile::link(port, folder.filePath(u"at"_s)));
+    QCOMPARE(holderByOpenFile(folder.filePath(u"at"_s)), other.self());
+}
+
+/// An administrator's program opens the port all the same, and hears nothing: the other one gets the answers.
+void TestPortHolder::heldCard()
+{
+    const Terminal terminal;
+    const Holder other(terminal.name());
+    QVERIFY(other.isReady());
+    DeviceSettings settings;
+    settings.atPort = terminal.name();
+    const FoundCard found = CardFinder({}, settings).find(openAndListen);
+    QCOMPARE(found.presence, CardPresence::PortBusy);
+    QCOMPARE(found.holder, other.self());
+    QCOMPARE(found.port, terminal.name());
+}
+
+void TestPortHolder::claimedPort()
+{
+    const Terminal terminal;
+    const QByteArray port = terminal.name().toLocal8Bit();
+    const int first = open(port.constData(), O_RDWR | O_NOCTTY);
+    const int second = open(port.constData(), O_RDWR | O_NOCTTY);
+    QVERIFY(first >= 0 && second >= 0);
+    QCOMPARE(claimPort(first), 0);
+    QCOMPARE(claimPort(second), EWOULDBLOCK);
+    releasePort(first);
+    QCOMPARE(claimPort(second), 0);
+    close(second); // as after a crash: nothing stays behind
+    QCOMPARE(claimPort(first), 0);
+    close(first);
+    QCOMPARE(claimPort(-1), EBADF);
+}
+
+void TestPortHolder::modemManager()
+{
+    QCOMPARE(holderByModemManager(u"/dev/ttyUSB2"_s), PortHolder());
+
+    qDBusRegisterMetaType<ModemPort>();
+    qDBusRegisterMetaType<ModemPorts>();
+    qDBusRegisterMetaType<Interfaces>();
+    qDBusRegisterMetaType<Objects>();
+    QThread thread; // the question blocks this one
+    FakeModemManager fake;
+    fake.moveToThread(&thread);
+    thread.start();
+    const auto end = qScopeGuard([&thread] {
+        QDBusConnection::disconnectFromBus(u"fake"_s);
+        thread.quit();
+        thread.wait();
+    });
+    QDBusConnection service = m_systemBus.connection(u"fake"_s);
+    QVERIFY(
+        service.registerObject(u"/org/freedesktop/ModemManager1"_s, &fake, QDBusConnection::ExportAllSlots));
+    QVERIFY(service.registerService(u"org.freedesktop.ModemManager1"_s));
+    QCOMPARE(holderByModemManager(u"/dev/ttyUSB2"_s), (PortHolder{u"ModemManager"_s, getpid()}));
+    QCOMPARE(holderByModemManager(u"/dev/ttyUSB3"_s), PortHolder());
+}
+
+void TestPortHolder::advice_data()
+{
+    QTest::addColumn<PortHolder>("holder");
+    QTest::addColumn<HolderAdvice>("advice");
+    QTest::addColumn<QString>("step"); // a part of the text
+    QTest::newRow("ModemManager") << PortHolder{u"ModemManager"_s, 7} << HolderAdvice::StopModemManager
+                                  << u"sudo systemctl stop ModemManager"_s;
+    QTest::newRow("message service of another name")
+        << PortHolder{u"smsd"_s, 7} << HolderAdvice::StopMessageService << u"sudo systemctl stop smstools"_s;
+    QTest::newRow("terminal program")
+        << PortHolder{u"minicom"_s, 7} << HolderAdvice::CloseProgram << u"minicom is using"_s;
+    QTest::newRow("no name") << PortHolder{{}, 7} << HolderAdvice::CloseProgram << u"process 7 is using"_s;
+    QTest::newRow("name like a place holder")
+        << PortHolder{u"%2"_s, 7} << HolderAdvice::CloseProgram << u"%2 is using the card on /dev/ttyUSB2"_s;
+    QTest::newRow("nobody knows") << PortHolder() << HolderAdvice::FindProgram << u"fuser -v /dev/ttyUSB2"_s;
+}
+
+void TestPortHolder::advice()
+{
+    QFETCH(PortHolder, holder);
+    QFETCH(HolderAdvice, advice);
+    QFETCH(QString, step);
+    QCOMPARE(adviceFor(holder), advice);
+    const QString text = holderAdviceText(holder, u"/dev/ttyUSB2"_s);
+    QVERIFY2(text.contains(step), qPrintable(text));
+}
+
+QTEST_GUILESS_MAIN(TestPortHolder)
+#include "tst_portholder.moc"
