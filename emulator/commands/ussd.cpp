@@ -31,7 +31,8 @@ Answer setReports(const Request &request)
     if (!request.card.isRegistered())
         return cmeError(cme::noNetworkService);
     const QString code = fromWire(request.arguments().text(1), request.port.charset);
-    request.card.requestUssd(code, request.port.charset);
+    if (request.port.ussdReports == 1)
+        request.card.requestUssd(code, request.port.charset);
     return ok();
 }
 
