@@ -57,11 +57,10 @@ void EmulatedCard::addPort(const QString &role, bool speaksAt)
 }
 
 // Who sends commands and does not read the replies is not listened to until he does.
-void EmulatedCard::balance(const Port &port)
+void EmulatedCard::balance(Port &port)
 {
     constexpr qsizetype most = 1 << 20;
-    auto &pty = const_cast<PtyPort &>(port.pty);
-    pty.setReading(pty.unwritten() < most && !port.session->isCongested());
+    port.pty.setReading(port.pty.unwritten() < most && !port.session->isCongested());
 }
 
 EmulatedCard::Port *EmulatedCard::portOf(const QString &role) const

@@ -68,7 +68,7 @@ private:
     void addPort(const QString &role, bool speaksAt);
     Complaint openPorts();
     void closePorts();
-    void balance(const Port &port);
+    static void balance(Port &port);
 
     Scheduler m_scheduler;
     TrafficLog m_log;

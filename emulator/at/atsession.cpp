@@ -102,7 +102,10 @@ Answer AtSession::carryOut(const Command &command)
         const QByteArray text = refusal->text.toUtf8();
         return {{}, {Final::Kind::Literal, 0, text.isEmpty() ? "ERROR" : text}};
     }
-    return execute({m_card, m_port, command});
+    m_carryingOut = true;
+    const Answer answer = execute({m_card, m_port, command});
+    m_carryingOut = false;
+    return answer;
 }
 
 void AtSession::finish(const Final &final)
@@ -119,6 +122,8 @@ void AtSession::finish(const Final &final)
     m_port.dataSuspended = m_port.dataSuspended && !m_online;
     m_escape.reset();
     m_busy = false;
+    for (const QByteArray &line : std::exchange(m_reports, {}))
+        report(line);
 }
 
 void AtSession::send(const QByteArray &bytes, milliseconds pause)
@@ -131,9 +136,10 @@ void AtSession::send(const QByteArray &bytes, milliseconds pause)
 
 void AtSession::report(const QByteArray &line)
 {
-    if (m_online)
-        return;
-    sendRaw(reportText(line, m_port));
+    if (m_carryingOut)
+        m_reports += line;
+    else if (!m_online)
+        sendRaw(reportText(line, m_port));
 }
 
 void AtSession::sendRaw(const QByteArray &bytes)
@@ -150,6 +156,7 @@ void AtSession::reset()
     m_editor.reset();
     m_input.clear();
     m_commands.clear();
+    m_reports.clear();
     m_busy = m_online = false;
     m_port = PortSettings::atPowerUp(m_card.state().line);
 }

@@ -57,7 +57,9 @@ private:
     CardTimer m_delay;
     QByteArray m_input;
     bool m_busy = false;
-    bool m_online = false; ///< in a data call
+    bool m_carryingOut = false;
+    QByteArrayList m_reports; ///< what a command set off; it follows the command's reply
+    bool m_online = false;    ///< in a data call
     std::vector<Command> m_commands;
     size_t m_next = 0;
     QByteArray m_information;

@@ -13,9 +13,9 @@ namespace
 
 using Table = std::span<const CommandRow> (*)();
 
-constexpr std::array<Table, 10> tables = {
-    generalCommands, identityCommands, deviceCommands,    simCommands,  networkCommands,
-    makerCommands,   messageCommands,  phonebookCommands, callCommands, packetCommands};
+constexpr std::array<Table, 11> tables = {
+    generalCommands, identityCommands,  deviceCommands, simCommands,  networkCommands, makerCommands,
+    messageCommands, phonebookCommands, callCommands,   ussdCommands, packetCommands};
 
 bool isMakers(const QByteArray &name)
 {
@@ -28,15 +28,22 @@ bool isKnown(const CommandRow &row, const CardState &state)
            (state.makerCommands || !isMakers(row.name));
 }
 
-const CommandRow *find(const Command &command, const CardState &state)
+const CommandRow *find(const QByteArray &name, std::optional<Form> form, const CardState &state)
 {
     for (const Table table : tables) {
         for (const CommandRow &row : table()) {
-            if (command.name == row.name && command.form == row.form && isKnown(row, state))
+            if (name == row.name && (!form || row.form == *form) && isKnown(row, state))
                 return &row;
         }
     }
     return nullptr;
+}
+
+// A card that knows a command says OK to its "=?" form, also when there is nothing to list.
+Answer unknownForm(const Request &request)
+{
+    const bool isTest = request.command.form == Form::Test;
+    return isTest && find(request.command.name, std::nullopt, request.state()) != nullptr ? ok() : error();
 }
 
 Answer simRefusal(int number, Needs needs)
@@ -53,9 +60,9 @@ Answer accept(const Request &)
 
 Answer execute(const Request &request)
 {
-    const CommandRow *row = find(request.command, request.state());
+    const CommandRow *row = find(request.command.name, request.command.form, request.state());
     if (row == nullptr)
-        return error();
+        return unknownForm(request);
     if (row->needs != Needs::Nothing) {
         if (const auto refusal = request.card.simError())
             return simRefusal(*refusal, row->needs);

@@ -41,7 +41,7 @@ struct CommandRow {
     std::variant<Handler, const char *> answer; ///< a text is the one line of an answer that never changes
 };
 
-/// A plain OK, for settings that change nothing here and "=?" forms that have nothing to list.
+/// A plain OK, for settings that change nothing here.
 Answer accept(const Request &request);
 
 /// Carries one command out: ERROR where this card does not know it.
@@ -59,6 +59,7 @@ std::span<const CommandRow> makerCommands();
 std::span<const CommandRow> messageCommands();
 std::span<const CommandRow> phonebookCommands();
 std::span<const CommandRow> callCommands();
+std::span<const CommandRow> ussdCommands();
 std::span<const CommandRow> packetCommands();
 
 } // namespace cardemu

@@ -23,6 +23,7 @@ struct PortSettings {
     int operatorFormat = 0;            ///< "+COPS=3,<format>": 0 long, 1 short, 2 numeric
     bool callerNumber = false;         ///< "+CLIP"
     bool extendedRing = false;         ///< "+CRC"
+    int ussdReports = 0;               ///< "+CUSD" <n>; with 0 the network's answer is not shown
     int messageFormat = 0;             ///< "+CMGF": 0 PDU, 1 text
     QString readStore = QStringLiteral("SM");
     QString writeStore = QStringLiteral("SM");

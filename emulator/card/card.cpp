@@ -54,8 +54,9 @@ constexpr std::array<OperatorName, 3> operatorNames = {&Operator::longName, &Ope
 
 Card::Card(const Profile &profile, Scheduler &scheduler)
     : m_state(profile.card), m_scheduler(scheduler), m_registering(scheduler), m_ringing(scheduler),
-      m_simBack(scheduler), m_restart(scheduler), m_silence(scheduler)
+      m_simBack(scheduler), m_restart(scheduler), m_ussd(scheduler), m_silence(scheduler)
 {
+    m_functionalityAtPowerUp = m_state.radio.functionality;
     for (const Fault &fault : profile.faults)
         m_faults.add(fault);
     powerUp();
@@ -67,7 +68,7 @@ void Card::powerUp()
     m_registering.stop();
     m_state.sim.verified = false;
     m_state.call = {};
-    m_state.radio.functionality = 1;
+    m_state.radio.functionality = m_functionalityAtPowerUp;
     for (PacketContext &context : m_state.contexts)
         context.active = false;
     m_couldRegister = mayRegister();
@@ -327,6 +328,18 @@ Complaint Card::receiveMessage(const QString &store, const QByteArray &pdu)
     if (delivery == 1)
         report("+CMTI: \"" + store.toLatin1() + "\"," + QByteArray::number(*index));
     return {};
+}
+
+void Card::requestUssd(const QString &code, Charset charset)
+{
+    constexpr milliseconds networkTime{500};
+    m_ussd.start(networkTime, [this, code, charset] {
+        const auto answer = m_state.ussd.constFind(code);
+        if (answer == m_state.ussd.constEnd())
+            report("+CUSD: 4");
+        else
+            report("+CUSD: 0,\"" + toWire(*answer, charset) + "\",15");
+    });
 }
 
 milliseconds Card::delayOf(const Command &command) const

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "at/answer.h"
+#include "at/charset.h"
 #include "card/profile.h"
 #include "card/scheduler.h"
 
@@ -75,6 +76,9 @@ public:
     void speak();
     bool isSilent() const { return m_silent; }
 
+    /// Asks the network; what the profile has for the code comes back a little later, or "not supported".
+    void requestUssd(const QString &code, Charset charset);
+
     /// Sends an unsolicited line.
     void report(const QByteArray &line) { Q_EMIT reported(line); }
 
@@ -101,8 +105,10 @@ private:
     CardTimer m_ringing;
     CardTimer m_simBack;
     CardTimer m_restart;
+    CardTimer m_ussd;
     CardTimer m_silence;
     bool m_silent = false;
+    int m_functionalityAtPowerUp = 1;
     bool m_couldRegister = false;
     int m_reportedRegistration = 0;
 };

@@ -23,7 +23,4 @@ struct Profile {
     static std::variant<Profile, Complaint> builtIn(const QString &name);
 };
 
-/// How the state's members stand in profiles, in "show" and in "set".
-const Fields<CardState> &cardFields();
-
 } // namespace cardemu

@@ -150,6 +150,7 @@ struct CardState {
     Messages messages;
     Phonebook phonebook;
     Call call;
+    QMap<QString, QString> ussd; ///< the network's answers, by code ("*100#")
     QMap<int, PacketContext> contexts;
 };
 

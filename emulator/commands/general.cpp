@@ -113,8 +113,6 @@ constexpr std::array table = {
     CommandRow{"X", Form::Exec, everyFamily, Needs::Nothing, accept},
     CommandRow{"L", Form::Exec, everyFamily, Needs::Nothing, accept},
     CommandRow{"M", Form::Exec, everyFamily, Needs::Nothing, accept},
-    CommandRow{"P", Form::Exec, everyFamily, Needs::Nothing, accept},
-    CommandRow{"T", Form::Exec, everyFamily, Needs::Nothing, accept},
     CommandRow{"&C", Form::Exec, everyFamily, Needs::Nothing, accept},
     CommandRow{"&D", Form::Exec, everyFamily, Needs::Nothing, accept},
     CommandRow{"&K", Form::Exec, everyFamily, Needs::Nothing, accept},

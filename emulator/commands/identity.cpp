@@ -41,14 +41,6 @@ constexpr std::array table = {
     CommandRow{"+GMR", Form::Exec, everyFamily, Needs::Nothing, tell<&Identity::revision>},
     CommandRow{"+CGSN", Form::Exec, everyFamily, Needs::Nothing, tell<&Identity::serial>},
     CommandRow{"+GSN", Form::Exec, everyFamily, Needs::Nothing, tell<&Identity::serial>},
-    CommandRow{"+CGMI", Form::Test, everyFamily, Needs::Nothing, accept},
-    CommandRow{"+GMI", Form::Test, everyFamily, Needs::Nothing, accept},
-    CommandRow{"+CGMM", Form::Test, everyFamily, Needs::Nothing, accept},
-    CommandRow{"+GMM", Form::Test, everyFamily, Needs::Nothing, accept},
-    CommandRow{"+CGMR", Form::Test, everyFamily, Needs::Nothing, accept},
-    CommandRow{"+GMR", Form::Test, everyFamily, Needs::Nothing, accept},
-    CommandRow{"+CGSN", Form::Test, everyFamily, Needs::Nothing, accept},
-    CommandRow{"+GSN", Form::Test, everyFamily, Needs::Nothing, accept},
 };
 
 } // namespace

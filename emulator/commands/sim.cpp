@@ -179,17 +179,13 @@ Answer isUsim(const Request &request)
 
 constexpr std::array table = {
     CommandRow{"+CIMI", Form::Exec, everyFamily, Needs::Sim, imsi},
-    CommandRow{"+CIMI", Form::Test, everyFamily, Needs::Nothing, accept},
     CommandRow{"+CCID", Form::Exec, gsmLike, Needs::Sim, iccid},
     CommandRow{"+CCID", Form::Read, gsmLike, Needs::Sim, iccid},
     CommandRow{"^ICCID", Form::Read, everyFamily, Needs::Sim, iccid},
     CommandRow{"+CNUM", Form::Exec, everyFamily, Needs::Sim, ownNumber},
-    CommandRow{"+CNUM", Form::Test, everyFamily, Needs::Nothing, accept},
     CommandRow{"+CRSM", Form::Set, everyFamily, Needs::Sim, restrictedAccess},
-    CommandRow{"+CRSM", Form::Test, everyFamily, Needs::Nothing, accept},
     CommandRow{"+CPIN", Form::Read, gsmLike, Needs::Nothing, readPin},
     CommandRow{"+CPIN", Form::Set, gsmLike, Needs::Nothing, givePin},
-    CommandRow{"+CPIN", Form::Test, gsmLike, Needs::Nothing, accept},
     CommandRow{"^CPIN", Form::Read, everyFamily, Needs::Nothing, readPin},
     CommandRow{"^CPIN", Form::Set, everyFamily, Needs::Nothing, givePin},
     CommandRow{"+CLCK", Form::Set, everyFamily, Needs::Sim, facility},

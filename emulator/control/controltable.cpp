@@ -2,6 +2,7 @@
 #include "control/controltable.h"
 
 #include "card/card.h"
+#include "card/cardfields.h"
 #include "emulatedcard.h"
 
 #include <algorithm>
