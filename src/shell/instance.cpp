@@ -26,11 +26,6 @@ namespace
 
 } // namespace
 
-int already_running()
-{
-    return corva::takeInstanceLock("/var/run/corvaDaemon.pid");
-}
-
 int corva::takeInstanceLock(const char *path)
 {
     // Not O_TRUNC: a second start must not empty the first one's number.
