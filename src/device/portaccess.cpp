@@ -77,16 +77,6 @@ bool userHasGroup(gid_t gid)
     return false;
 }
 
-RightsAdvice adviceFor(const struct stat &node)
-{
-    constexpr gid_t rootGroup = 0;
-    constexpr mode_t groupReadWrite = S_IRGRP | S_IWGRP;
-    const gid_t group = node.st_gid;
-    if (group == rootGroup || (node.st_mode & groupReadWrite) != groupReadWrite || sessionHasGroup(group))
-        return RightsAdvice::AskAdministrator;
-    return userHasGroup(group) ? RightsAdvice::SignInAgain : RightsAdvice::JoinGroup;
-}
-
 } // namespace
 
 QString portGroup(const QString &port)
@@ -98,7 +88,16 @@ QString portGroup(const QString &port)
 RightsAdvice rightsAdvice(const QString &port)
 {
     const auto node = nodeStatus(port);
-    return node ? adviceFor(*node) : RightsAdvice::AskAdministrator;
+    return node ? rightsAdvice(node->st_gid, node->st_mode) : RightsAdvice::AskAdministrator;
+}
+
+RightsAdvice rightsAdvice(gid_t group, mode_t mode)
+{
+    constexpr gid_t rootGroup = 0;
+    constexpr mode_t groupReadWrite = S_IRGRP | S_IWGRP;
+    if (group == rootGroup || (mode & groupReadWrite) != groupReadWrite || sessionHasGroup(group))
+        return RightsAdvice::AskAdministrator;
+    return userHasGroup(group) ? RightsAdvice::SignInAgain : RightsAdvice::JoinGroup;
 }
 
 QString rightsAdviceText(const QString &port)

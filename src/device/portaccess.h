@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <sys/types.h>
 
 namespace corva
 {
@@ -18,6 +19,8 @@ enum class RightsAdvice {
 };
 
 RightsAdvice rightsAdvice(const QString &port);
+/// The same for a node of this group and mode.
+RightsAdvice rightsAdvice(gid_t group, mode_t mode);
 
 /// The sentences for it, with the group and the person's own name filled in. Plain text.
 QString rightsAdviceText(const QString &port);
