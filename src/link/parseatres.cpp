@@ -176,6 +176,7 @@ constexpr auto rules = std::to_array<Rule>({
     {"AT+CPIN?", "+CPIN:", simState, NotWritten, "connectDeviceNeedInputPIN"},
     {"AT^CPIN?", "^CPIN:", simState, NotWritten, "connectDeviceNeedInputPIN"},
     {"AT+CPIN=", nullptr, pinEntry, NotWritten, "enterPin, enterPuk"},
+    {"AT^CPIN=", nullptr, pinEntry, NotWritten, "enterPin, enterPuk"},
     {"AT+CLCK=\"SC\",1,", nullptr, facilityLock, NotWritten, "lockPIN"},
     {"AT+CLCK=\"SC\",0,", nullptr, facilityUnlock, NotWritten, "unLockPIN"},
     {"AT+CLCK=", "+CLCK: ", facilityState, NotWritten, "PINSetStatus"},

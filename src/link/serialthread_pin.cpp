@@ -8,6 +8,12 @@ using namespace std::chrono_literals;
 namespace
 {
 
+/// A CDMA card has a form of its own, for the question and so for the answer.
+QByteArray pinCommand(corva::CardFamily family)
+{
+    return family == corva::CardFamily::Cdma ? "AT^CPIN" : "AT+CPIN";
+}
+
 /// What switching the PIN request, or entering a PIN, came to.
 int lockResult(int code, int done, int refused)
 {
@@ -22,7 +28,8 @@ int lockResult(int code, int done, int refused)
 
 int SerialThread::connectDeviceNeedInputPIN()
 {
-    switch (sendCmdAndRec(m_family == corva::CardFamily::Cdma ? "AT^CPIN?\r\n" : "AT+CPIN?\r\n", 3, 0)) {
+    const QByteArray cmd = pinCommand(m_family) + "?\r\n";
+    switch (sendCmdAndRec(cmd.constData(), 3, 0)) {
     case corva::SimReady: return 0;
     case corva::SimPuk: return 1;
     case corva::SimPin: return 2;
@@ -80,12 +87,13 @@ QString SerialThread::get_JPINJPUK_Res_Str()
 
 int SerialThread::enterPin(const QString &pin)
 {
-    const QByteArray cmd = "AT+CPIN=\"" + pin.toLatin1() + "\"\r\n";
+    const QByteArray cmd = pinCommand(m_family) + "=\"" + pin.toLatin1() + "\"\r\n";
     return lockResult(sendCmdAndRec(cmd.constData(), 3, 0), corva::UnknownOk, corva::UnknownError);
 }
 
 int SerialThread::enterPuk(const QString &puk, const QString &newPin)
 {
-    const QByteArray cmd = "AT+CPIN=\"" + puk.toLatin1() + "\",\"" + newPin.toLatin1() + "\"\r\n";
+    const QByteArray cmd =
+        pinCommand(m_family) + "=\"" + puk.toLatin1() + "\",\"" + newPin.toLatin1() + "\"\r\n";
     return lockResult(sendCmdAndRec(cmd.constData(), 3, 0), corva::UnknownOk, corva::UnknownError);
 }

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "link/serialthread.h"
+#include "linktest.h"
+
+#include <QFile>
+#include <QTest>
+#include <algorithm>
+#include <fcntl.h>
+#include <termios.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr tcflag_t strangeInput = INPCK | ICRNL | IXANY;
+
+/// A line that has everything on which the opening must change, or must leave alone.
+void disturb(const QString &port)
+{
+    const int fd = ::open(qPrintable(port), O_RDWR | O_NOCTTY);
+    termios line{};
+    tcgetattr(fd, &line);
+    line.c_iflag = strangeInput;
+    line.c_oflag = OPOST | ONLCR;
+    line.c_cflag = CS7 | PARENB | CSTOPB | CLOCAL;
+    line.c_lflag = ICANON | ISIG | ECHO | ECHOE | ECHOK | ECHONL | IEXTEN;
+    std::ranges::fill(line.c_cc, cc_t(7));
+    cfsetispeed(&line, B9600);
+    cfsetospeed(&line, B9600);
+    tcsetattr(fd, TCSANOW, &line);
+    ::close(fd);
+}
+
+} // namespace
+
+class TestLine : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void settings_data()
+    {
+        QTest::addColumn<bool>("softFlowControl");
+        QTest::addColumn<uint>("input");
+        QTest::newRow("soft flow control") << true << uint(IXON | IXOFF);
+        QTest::newRow("input left alone") << false << uint(strangeInput);
+    }
+    void settings()
+    {
+        QFETCH(bool, softFlowControl);
+        Pty pty;
+        const int keepsLine = ::open(qPrintable(pty.name()), O_RDWR | O_NOCTTY);
+        disturb(pty.name());
+        SerialThread link(&m_owner);
+        const int fd =
+            softFlowControl ? link.openPort(pty.name()) : link.openPortWithoutSoftFlowControl(pty.name());
+        QVERIFY(fd > 0);
+        QCOMPARE(link.descriptor(), fd);
+
+        termios line{};
+        QCOMPARE(tcgetattr(fd, &line), 0);
+        QTEST(uint(line.c_iflag), "input");
+        QCOMPARE(line.c_oflag, tcflag_t(0));
+        QCOMPARE(line.c_lflag, tcflag_t(ECHONL | IEXTEN));
+        // A pseudo-terminal insists on 8 bits without parity; what it keeps of the rest is compared.
+        QCOMPARE(line.c_cflag & ~tcflag_t(CBAUD), tcflag_t(CS8 | CREAD | HUPCL | CRTSCTS));
+        QCOMPARE(cfgetispeed(&line), speed_t(B115200));
+        QCOMPARE(cfgetospeed(&line), speed_t(B115200));
+        for (int i = 0; i < NCCS; ++i)
+            QCOMPARE(int(line.c_cc[i]), i == VMIN ? 1 : 0);
+        QCOMPARE(fcntl(fd, F_GETFL) & (O_ACCMODE | O_NONBLOCK), O_RDWR);
+
+        QVERIFY(link.closePortNormal(fd));
+        QCOMPARE(link.descriptor(), fd);
+        QVERIFY(!link.closePortNormal(-1));
+        ::close(keepsLine);
+    }
+
+    void refusals_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<int>("error");
+        QTest::newRow("no such device") << u"/dev/no-such-port"_s << ENOENT;
+        QTest::newRow("file") << u"Data/phonebook"_s << ENOTTY;
+        QTest::newRow("folder") << u"Data"_s << ENOTTY;
+        QTest::newRow("no terminal") << u"/dev/null"_s << ENOTTY;
+        QTest::newRow("empty name") << QString() << ENOENT;
+    }
+    void refusals()
+    {
+        QFETCH(QString, path);
+        QFile file(u"Data/phonebook"_s);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("a name");
+        file.close();
+        SerialThread link(&m_owner);
+        const qsizetype before = openDescriptors();
+
+        errno = 0;
+        QCOMPARE(link.openPort(path), -1);
+        QTEST(int(errno), "error");
+        QCOMPARE(link.descriptor(), -1);
+        QCOMPARE(openDescriptors(), before);
+        QCOMPARE(file.size(), 6);
+    }
+
+    void abnormalCloseKeepsTheReason()
+    {
+        SerialThread link(&m_owner);
+        const qsizetype before = openDescriptors();
+        errno = 0;
+        QCOMPARE(link.closePortAbnormal(::dup(0), "tcgetattr", EIO), -1);
+        QCOMPARE(errno, EIO);
+        QCOMPARE(openDescriptors(), before);
+    }
+
+private:
+    ScratchFolder m_folder;
+    FakeOwner m_owner;
+};
+
+QTEST_GUILESS_MAIN(TestLine)
+#include "tst_line.moc"

@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "link/replyreader.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+
+using corva::ReplyReader;
+
+namespace
+{
+
+struct Outcome {
+    bool isComplete = false;
+    QByteArray reply;
+    qsizetype consumed = 0;
+    bool operator==(const Outcome &) const = default;
+};
+
+char *toString(const Outcome &outcome)
+{
+    return QTest::toString(QByteArray(outcome.isComplete ? "complete, " : "more, ") +
+                           QByteArray::number(outcome.consumed) + ": " +
+                           outcome.reply.toPercentEncoding(" ,+:"));
+}
+
+/// The rules as they are written: after every byte, the whole text is looked through for every mark.
+Outcome byteByByte(const QByteArray &stream)
+{
+    const char *const ends[] = {"> ", "not support\r\n", "CONNECT\r\n", "OK\r\n", "NO CARRIER"};
+    const char *const reports[] = {"+JPDPACT: 1,1", "+JPDPACT: 1,2", "+JPDPACT: 1,0", "+JPDPACT: 1,3"};
+    QByteArray text;
+    QByteArray reply;
+    bool continuation = false;
+    for (qsizetype i = 0; i < stream.size(); ++i) {
+        if (stream[i] == '\0')
+            continue;
+        text.append(stream[i]);
+        bool done = false;
+        if (continuation) {
+            if (text.contains("\r\n") || text.contains("no network service")) {
+                reply += text;
+                done = true;
+            }
+        } else {
+            if (text.contains("JEND\r\n")) {
+                reply = text;
+                text.clear();
+            }
+            for (const char *end : ends)
+                done = done || text.contains(end);
+            done = done || (text.contains("ERROR\r\n") && !text.contains("+CME ERROR"));
+            if (done)
+                reply = text;
+            if (text.contains("+CME ERROR")) {
+                reply = text;
+                if (text.contains("no network service")) {
+                    done = true;
+                } else if (!done) {
+                    text.clear();
+                    continuation = true;
+                }
+            }
+        }
+        for (const char *report : reports) {
+            if (text.contains(report)) {
+                reply = text;
+                done = true;
+            }
+        }
+        if (done)
+            return {true, reply, i + 1};
+    }
+    return {false, reply, stream.size()};
+}
+
+/// Fed in random chunks.
+Outcome inChunks(const QByteArray &stream, QRandomGenerator &random)
+{
+    ReplyReader reader;
+    qsizetype at = 0;
+    while (at < stream.size()) {
+        const qsizetype length = std::min<qsizetype>(random.bounded(1, 12), stream.size() - at);
+        const auto progress = reader.feed(QByteArrayView(stream).sliced(at, length));
+        at += progress.consumed;
+        if (progress.status == ReplyReader::Status::Complete)
+            return {true, reader.reply(), at};
+    }
+    return {false, reader.reply(), at};
+}
+
+QByteArray randomStream(QRandomGenerator &random)
+{
+    static const QByteArrayList pieces = {"> ",
+                                          "not support\r\n",
+                                          "CONNECT\r\n",
+                                          "OK\r\n",
+                                          "NO CARRIER",
+                                          "ERROR\r\n",
+                                          "+CME ERROR",
+                                          "+CME ERROR: 14\r\n",
+                                          "+CMS ERROR: 301\r\n",
+                                          ": no network service\r\n",
+                                          "+JEND\r\n",
+                                          "+JPDPACT: 1,1",
+                                          "+JPDPACT: 1,2",
+                                          "+JPDPACT: 1,0",
+                                          "+JPDPACT: 1,3",
+                                          "\r\n",
+                                          "+CMTI: \"SM\",3\r\n",
+                                          "AT+CSQ\r",
+                                          QByteArray(1, '\0')};
+    QByteArray stream;
+    for (int count = random.bounded(1, 9); count > 0; --count) {
+        QByteArray piece = pieces[random.bounded(int(pieces.size()))];
+        if (random.bounded(2) == 0) // the beginning of a mark, and then something else
+            piece.truncate(random.bounded(1, int(piece.size()) + 1));
+        if (random.bounded(4) == 0)
+            piece.insert(random.bounded(int(piece.size()) + 1), char(random.bounded(256)));
+        stream += piece;
+    }
+    return stream;
+}
+
+} // namespace
+
+class TestReplyReader : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void equalsReadingByteByByte()
+    {
+        constexpr quint32 seed = 20260228;
+        QRandomGenerator random(seed);
+        int completed = 0;
+        for (int i = 0; i < 20000; ++i) {
+            const QByteArray stream = randomStream(random);
+            const Outcome expected = byteByByte(stream);
+            const Outcome actual = inChunks(stream, random);
+            if (actual != expected)
+                qWarning("seed %u, stream %d: %s", seed, i, stream.toPercentEncoding().constData());
+            QCOMPARE(actual, expected);
+            completed += expected.isComplete;
+        }
+        QVERIFY2(completed > 5000 && completed < 19000, "both outcomes were met often");
+    }
+
+    void ends_data()
+    {
+        QTest::addColumn<QByteArray>("stream");
+        QTest::addColumn<QByteArray>("reply");
+        QTest::addColumn<QByteArray>("notes");
+        const auto row = [](const char *name, const QByteArray &stream, const QByteArray &reply,
+                            const QByteArray &notes = {}) {
+            QTest::newRow(name) << stream << reply << notes;
+        };
+        row("probe", "\r\nOK\r\n\r\nRING\r\n", "\r\nOK\r\n");
+        row("USSD answer comes later", "AT+CUSD=1\r\r\nOK\r\n\r\n+CUSD: 0\r\n", "AT+CUSD=1\r\r\nOK\r\n");
+        row("message prompt", "\r\n> \r\n", "\r\n> ");
+        row("CMS error", "\r\n+CMS ERROR\r\n", "\r\n+CMS ERROR\r\n");
+        row("unsupported", "COMMAND not support\r\nOK\r\n", "COMMAND not support\r\n",
+            "****** Cmd of JCPBR is not support!");
+        row("video call", "CONNECT\r\n", "CONNECT\r\n", "****** Video Call CONNECT!");
+        row("CME number", "\r\n+CME ERROR: 14\r\n\r\n", "\r\n+CME ERROR: 14\r\n",
+            "****** in the resAtStr,to continue of while!!!");
+        row("no network, words behind", "+CME ERROR: no network service\r\n",
+            "+CME ERROR: no network service",
+            "****** in the resAtStr,to continue of while!!!|******3 JPDPACT!");
+        row("no network, words before", "no network service\r\n+CME ERROR: 30\r\n",
+            "no network service\r\n+CME ERROR", "******3 JPDPACT!");
+        row("prompt inside an error line", "+CME ERROR: > NO CARRIER\r\n", "+CME ERROR: > NO CARRIER\r\n",
+            "****** in the resAtStr,to continue of while!!!");
+        row("end of call drops what came before", "+CSQ: 1\r\n+JEND\r\n\r\nOK\r\n", "\r\nOK\r\n",
+            "****** Cmd of JEND find!");
+        row("data call comes up", "\r\n+JPDPACT: 1,1\r\nOK\r\n", "\r\n+JPDPACT: 1,1", "****** 1JPDPACT!");
+        row("data call inside an error line", "+CME ERROR +JPDPACT: 1,0\r\n", " +JPDPACT: 1,0",
+            "****** in the resAtStr,to continue of while!!!|****** 0JPDPACT!");
+        row("end mark in an operator's name", "+COPS: 0,0,\"NO CARRIER\"\r\nOK\r\n",
+            "+COPS: 0,0,\"NO CARRIER");
+    }
+    void ends()
+    {
+        QFETCH(QByteArray, stream);
+        QFETCH(QByteArray, reply);
+        ReplyReader reader;
+        const auto progress = reader.feed(stream);
+        QCOMPARE(progress.status, ReplyReader::Status::Complete);
+        QCOMPARE(reader.reply(), reply);
+        QByteArrayList notes(reader.notes().begin(), reader.notes().end());
+        QTEST(notes.join('|'), "notes");
+    }
+
+    void longestReply()
+    {
+        QByteArray stream(ReplyReader::capacity - 4, 'x');
+        stream += "OK\r\n";
+        QCOMPARE(ReplyReader().feed(stream).status, ReplyReader::Status::Complete);
+        stream.prepend('x');
+        QCOMPARE(ReplyReader().feed(stream).status, ReplyReader::Status::TooLong);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestReplyReader)
+#include "tst_replyreader.moc"
