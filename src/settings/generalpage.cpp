@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "settings/generalpage.h"
+
+#include "settings/languages.h"
+#include "settings/skinchooser.h"
+#include "shell/commoncfg.h"
+#include "widgets/factrow.h"
+#include "widgets/skin.h"
+#include "widgets/textlabel.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+namespace
+{
+
+constexpr int captionWidth = 160;
+constexpr int choiceWidth = 220;
+
+/// The shipped skins have names in every language; a person's own is shown by its own name.
+QString shownName(const Skin &skin)
+{
+    if (skin.name == "Light"_L1)
+        return GeneralPage::tr("Light");
+    if (skin.name == "Dark"_L1)
+        return GeneralPage::tr("Dark");
+    return skin.name.isEmpty() ? skin.file : skin.name;
+}
+
+QWidget *captioned(const QString &caption, QWidget *control, QWidget *parent)
+{
+    auto *row = new QWidget(parent);
+    auto *name = new TextLabel(caption, TextRole::Text, row);
+    name->setBuddy(control);
+    name->setMinimumWidth(captionWidth);
+    control->setAccessibleName(QString(caption).remove(u'&'));
+    control->setMinimumWidth(choiceWidth);
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(metrics::HalfGrid, 0, 0, 0);
+    layout->addWidget(name);
+    layout->addWidget(control);
+    layout->addStretch(1);
+    return row;
+}
+
+} // namespace
+
+GeneralPage::GeneralPage(QWidget *parent) : SettingsPage(parent)
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, metrics::Grid, metrics::Grid);
+    layout->setSpacing(metrics::RowGap);
+    if (cmcfg.getNumber(u"function"_s, u"lansetting_enabled"_s) == 1) {
+        layout->addWidget(new SectionHeader(tr("Language"), this));
+        layout->addWidget(buildLanguage());
+        layout->addSpacing(2 * metrics::Grid);
+    }
+    layout->addWidget(new SectionHeader(tr("Appearance"), this));
+    layout->addWidget(buildSkin());
+    layout->addSpacing(2 * metrics::Grid);
+    layout->addWidget(new SectionHeader(tr("Beside other programs"), this));
+    layout->addWidget(
+        buildSwitch(tr("&Keep running in the tray when the window is closed"), u"close_to_tray"_s));
+    layout->addWidget(
+        buildSwitch(tr("&Notify about calls and messages on the desktop"), u"notifications_enabled"_s));
+    layout->addStretch(1);
+}
+
+QWidget *GeneralPage::buildLanguage()
+{
+    auto *choice = new QComboBox(this);
+    choice->setObjectName(u"language"_s);
+    for (const Language &language : languages())
+        choice->addItem(QString::fromUtf16(language.ownName), QString::fromLatin1(language.file));
+    choice->setCurrentIndex(choice->findData(cmcfg.getValue(u"function"_s, u"selected-language"_s)));
+    connect(choice, &QComboBox::activated, this,
+            [this, choice] { takeLanguage(choice->currentData().toString()); });
+    return captioned(tr("&Language"), choice, this);
+}
+
+QWidget *GeneralPage::buildSkin()
+{
+    auto *choice = new QComboBox(this);
+    choice->setObjectName(u"skin"_s);
+    for (const Skin &skin : availableSkins()) {
+        choice->addItem(shownName(skin), skin.file);
+        if (skin.name == comcfg.skinName)
+            choice->setCurrentIndex(choice->count() - 1);
+    }
+    connect(choice, &QComboBox::activated, this,
+            [this, choice] { takeSkin(choice->currentData().toString()); });
+    return captioned(tr("&Colours"), choice, this);
+}
+
+QCheckBox *GeneralPage::buildSwitch(const QString &text, const QString &key)
+{
+    auto *box = new QCheckBox(text, this);
+    box->setObjectName(key);
+    box->setChecked(cmcfg.getNumber(u"window"_s, key) == 1);
+    box->setMinimumHeight(metrics::ControlHeight);
+    connect(box, &QCheckBox::toggled, this,
+            [key](bool on) { cmcfg.setValue(u"window"_s, key, on ? u"1"_s : u"0"_s); });
+    return box;
+}
+
+void GeneralPage::takeLanguage(const QString &file)
+{
+    cmcfg.setValue(u"function"_s, u"selected-language"_s, file);
+    Q_EMIT sigSaid(tr("The language is stored. It takes effect when the program starts next."));
+}
+
+void GeneralPage::takeSkin(const QString &file)
+{
+    QString error;
+    if (chooseSkin(file, &error))
+        Q_EMIT sigSaid({});
+    else
+        Q_EMIT sigSaid(tr("The colours could not be stored: %1").arg(error));
+}
+
+SettingsEntry generalSettingsEntry()
+{
+    return {u"general"_s, GeneralPage::tr("General"),
+            [](QWidget *parent) -> SettingsPage * { return new GeneralPage(parent); }};
+}
+
+} // namespace corva

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "settings/settingspage.h"
+
+class QCheckBox;
+class QComboBox;
+class QFormLayout;
+
+namespace corva
+{
+
+/// Language, appearance, and how the window behaves beside the rest of the desktop.
+class GeneralPage final : public SettingsPage
+{
+    Q_OBJECT
+
+public:
+    explicit GeneralPage(QWidget *parent);
+
+private:
+    QWidget *buildLanguage();
+    QWidget *buildSkin();
+    QCheckBox *buildSwitch(const QString &text, const QString &key);
+    void takeLanguage(const QString &file);
+    void takeSkin(const QString &file);
+};
+
+SettingsEntry generalSettingsEntry();
+
+} // namespace corva

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/textlabel.h"
+
+#include <QEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+TextLabel::TextLabel(const QString &text, TextRole role, QWidget *parent) : QLabel(text, parent), m_role(role)
+{
+    setTextFormat(Qt::PlainText);
+    setFont(skinFont(role));
+}
+
+void TextLabel::setMuted(bool muted)
+{
+    setForegroundRole(muted ? QPalette::PlaceholderText : QPalette::WindowText);
+}
+
+void TextLabel::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::StyleChange && font() != skinFont(m_role))
+        setFont(skinFont(m_role));
+}
+
+ElidedLabel::ElidedLabel(TextRole role, QWidget *parent) : TextLabel(role, parent)
+{
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void ElidedLabel::setFullText(const QString &text)
+{
+    m_fullText = text.simplified();
+    elide();
+    updateGeometry();
+}
+
+QSize ElidedLabel::sizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(m_fullText) + 1, TextLabel::sizeHint().height()};
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    const int shortest = fontMetrics().horizontalAdvance(m_fullText.left(4) + u'…');
+    return {qMin(shortest, sizeHint().width()), TextLabel::minimumSizeHint().height()};
+}
+
+void ElidedLabel::resizeEvent(QResizeEvent *event)
+{
+    TextLabel::resizeEvent(event);
+    elide();
+}
+
+void ElidedLabel::changeEvent(QEvent *event)
+{
+    TextLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        elide();
+}
+
+void ElidedLabel::elide()
+{
+    const QString shown = fontMetrics().elidedText(m_fullText, Qt::ElideRight, width());
+    setText(shown);
+    setToolTip(shown == m_fullText ? QString() : m_fullText);
+    setAccessibleName(m_fullText);
+}
+
+} // namespace corva

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "widgets/skin.h"
+
+#include <QLabel>
+
+namespace corva
+{
+
+/// A label in one step of the type scale. Plain text always: what it shows may come from a card or a network.
+class TextLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit TextLabel(TextRole role, QWidget *parent = nullptr) : TextLabel(QString(), role, parent) {}
+    TextLabel(const QString &text, TextRole role, QWidget *parent = nullptr);
+
+    /// Muted text stands behind the other: captions, explanations.
+    void setMuted(bool muted);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    TextRole m_role;
+};
+
+/// A label for one line of unknown length: it gives way to its neighbours and ends in "…", with the whole
+/// text in the tool tip and for the screen reader.
+class ElidedLabel final : public TextLabel
+{
+    Q_OBJECT
+
+public:
+    explicit ElidedLabel(TextRole role, QWidget *parent = nullptr);
+
+    void setFullText(const QString &text);
+    const QString &fullText() const { return m_fullText; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void elide();
+
+    QString m_fullText;
+};
+
+} // namespace corva

@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "window/cardpage.h"
+
+#include "device/cardmonitor.h"
+#include "widgets/factrow.h"
+#include "widgets/line.h"
+#include "widgets/skin.h"
+#include "window/mender.h"
+#include "window/statehero.h"
+#include "window/statustexts.h"
+
+#include <QLocale>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+namespace
+{
+
+QString number(std::optional<int> value)
+{
+    return value ? QString::number(*value) : QString();
+}
+
+QString roamingText(const CardState &state)
+{
+    if (!state.roaming)
+        return {};
+    return *state.roaming ? CardPage::tr("Yes, in another operator's network") : CardPage::tr("No");
+}
+
+QString deviceText(const CardState &state)
+{
+    QStringList parts{state.identity.manufacturer, state.identity.model};
+    parts.removeAll(QString());
+    return parts.isEmpty() ? state.deviceName : parts.join(u' ');
+}
+
+struct FactSpec {
+    int column;
+    const char *group; ///< opens a new group where it differs from the row above
+    const char *id;
+    const char *caption;
+    FactRow::Copy copy;
+    QString (*value)(const CardState &);
+};
+
+#define CORVA_WORDS(text) QT_TRANSLATE_NOOP("corva::CardPage", text)
+constexpr auto plain = FactRow::Copy::No;
+constexpr auto copied = FactRow::Copy::Yes;
+
+const FactSpec factSpecs[] = {
+    {0, CORVA_WORDS("Network"), "operator", CORVA_WORDS("Operator"), plain, operatorText},
+    {0, CORVA_WORDS("Network"), "networkType", CORVA_WORDS("Network type"), plain,
+     [](const CardState &state) { return networkTypeName(state.networkType); }},
+    {0, CORVA_WORDS("Network"), "registration", CORVA_WORDS("Registration"), plain,
+     [](const CardState &state) { return registrationText(state.registration); }},
+    {0, CORVA_WORDS("Network"), "service", CORVA_WORDS("Service"), plain,
+     [](const CardState &state) { return serviceText(state.service); }},
+    {0, CORVA_WORDS("Network"), "roaming", CORVA_WORDS("Roaming"), plain, roamingText},
+    {0, CORVA_WORDS("Network"), "signal", CORVA_WORDS("Signal"), plain, signalText},
+    {0, CORVA_WORDS("Network"), "operatorCode", CORVA_WORDS("Network code"), plain,
+     [](const CardState &state) { return state.operatorCode; }},
+    {0, CORVA_WORDS("Network"), "area", CORVA_WORDS("Area"), plain,
+     [](const CardState &state) { return number(state.locationArea); }},
+    {0, CORVA_WORDS("Network"), "cell", CORVA_WORDS("Cell"), plain,
+     [](const CardState &state) { return number(state.cellId); }},
+    {1, CORVA_WORDS("SIM card"), "sim", CORVA_WORDS("State"), plain,
+     [](const CardState &state) { return simText(state.sim); }},
+    {1, CORVA_WORDS("SIM card"), "ownNumber", CORVA_WORDS("Phone number"), copied,
+     [](const CardState &state) { return state.identity.ownNumber; }},
+    {1, CORVA_WORDS("SIM card"), "imsi", CORVA_WORDS("IMSI"), copied,
+     [](const CardState &state) { return state.identity.imsi; }},
+    {1, CORVA_WORDS("SIM card"), "iccid", CORVA_WORDS("Card number"), copied,
+     [](const CardState &state) { return state.identity.iccid; }},
+    {1, CORVA_WORDS("Device"), "device", CORVA_WORDS("Model"), copied, deviceText},
+    {1, CORVA_WORDS("Device"), "imei", CORVA_WORDS("IMEI"), copied,
+     [](const CardState &state) { return state.identity.imei; }},
+    {1, CORVA_WORDS("Device"), "firmware", CORVA_WORDS("Firmware"), copied,
+     [](const CardState &state) { return state.identity.firmware; }},
+    {1, CORVA_WORDS("Device"), "port", CORVA_WORDS("Port"), copied,
+     [](const CardState &state) { return state.portName; }},
+};
+#undef CORVA_WORDS
+
+} // namespace
+
+CardPage::CardPage(const PageInfo &info, const PageContext &context, QWidget *parent)
+    : Page(info, parent), m_context(context), m_refresh(new QPushButton(tr("&Refresh"), this)),
+      m_stack(new QStackedWidget(this)), m_empty(new StateHero(StateHero::Form::Centred, this)),
+      m_hero(new StateHero(StateHero::Form::Wide, this))
+{
+    m_refresh->setObjectName(u"refresh"_s);
+    m_refresh->setToolTip(tr("%1 (%2)").arg(tr("Ask the card for everything anew"), u"F5"_s));
+    addAction(m_refresh);
+    connect(m_refresh, &QPushButton::clicked, this, &CardPage::refresh);
+    m_stack->addWidget(m_empty);
+    m_stack->addWidget(buildFacts());
+    body()->addWidget(m_stack, 1);
+
+    for (StateHero *hero : {m_empty, m_hero}) {
+        connect(hero, &StateHero::sigMend, context.mender, &Mender::mend);
+        connect(hero, &StateHero::sigWhy, context.mender, &Mender::sigDiagnosisWanted);
+    }
+    connect(context.monitor, &CardMonitor::sigStateChanged, this, &CardPage::takeState);
+    takeState(context.monitor->state());
+}
+
+QWidget *CardPage::buildFacts()
+{
+    auto *facts = new QWidget(this);
+    auto *columns = new QHBoxLayout;
+    columns->setSpacing(metrics::GroupGap + metrics::Grid);
+    columns->addWidget(buildColumn(0), 1);
+    columns->addWidget(buildColumn(1), 1);
+
+    auto *layout = new QVBoxLayout(facts);
+    layout->setContentsMargins(0, 0, metrics::HalfGrid, 0);
+    layout->setSpacing(2 * metrics::Grid);
+    layout->addWidget(m_hero);
+    layout->addLayout(columns);
+    layout->addStretch(1);
+
+    auto *scroll = new QScrollArea(this);
+    scroll->setObjectName(u"facts"_s);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(facts);
+    facts->setAutoFillBackground(false);
+    scroll->viewport()->setAutoFillBackground(false);
+    return scroll;
+}
+
+QWidget *CardPage::buildColumn(int column)
+{
+    auto *widget = new QWidget(this);
+    auto *layout = new QVBoxLayout(widget);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    const char *group = "";
+    for (const FactSpec &spec : factSpecs) {
+        if (spec.column != column)
+            continue;
+        if (qstrcmp(group, spec.group) != 0) {
+            if (*group != '\0')
+                layout->addSpacing(2 * metrics::Grid);
+            group = spec.group;
+            layout->addWidget(new SectionHeader(tr(group), widget));
+        }
+        auto *row = new FactRow(QString::fromLatin1(spec.id), tr(spec.caption), spec.copy, widget);
+        m_rows.push_back(row);
+        layout->addWidget(row);
+    }
+    layout->addStretch(1);
+    return widget;
+}
+
+void CardPage::takeState(const CardState &state)
+{
+    for (std::size_t i = 0; i < m_rows.size(); ++i)
+        m_rows[i]->setValue(factSpecs[i].value(state));
+
+    const auto steps = diagnose(state);
+    const DiagnosisStep *problem = firstProblem(steps);
+    const bool hasCard = state.presence == CardPresence::Ready;
+    if (!problem)
+        m_hero->showNetwork(state);
+    else
+        (hasCard ? m_hero : m_empty)->showProblem(*problem);
+    m_stack->setCurrentIndex(hasCard ? 1 : 0);
+    m_refresh->setVisible(hasCard);
+}
+
+void CardPage::refresh()
+{
+    m_context.monitor->refreshNow();
+}
+
+PageEntry cardPageEntry()
+{
+    PageInfo info{u"card"_s, CardPage::tr("Card"), u"card"_s, 10, false};
+    return {info, [](const PageInfo &page, const PageContext &context, QWidget *parent) -> Page * {
+                return new CardPage(page, context, parent);
+            }};
+}
+
+} // namespace corva

@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "window/checkpin.h"
+
+#include "widgets/buttonkind.h"
+#include "widgets/skin.h"
+#include "widgets/textlabel.h"
+#include "window/pinfield.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+namespace
+{
+
+constexpr int fewestPinDigits = 4;
+constexpr int pukDigits = 8;
+constexpr int dialogWidth = 400;
+
+} // namespace
+
+CheckPIN::CheckPIN(CardMonitor *monitor, QWidget *parent)
+    : QDialog(parent), m_monitor(monitor), m_title(new TextLabel(TextRole::Title, this)),
+      m_about(new TextLabel(TextRole::Text, this)), m_attempts(new TextLabel(TextRole::Text, this)),
+      m_result(new TextLabel(TextRole::Text, this)), m_puk(new PinField(u"puk"_s, this)),
+      m_pin(new PinField(u"pin"_s, this)), m_repeat(new PinField(u"pinRepeat"_s, this)),
+      m_show(new QCheckBox(tr("&Show the digits"), this)), m_unlock(new QPushButton(this))
+{
+    setObjectName(u"checkPin"_s);
+    build();
+    setAsksForPuk(monitor->state().sim == SimState::PukNeeded);
+    takeState(monitor->state());
+    connect(monitor, &CardMonitor::sigStateChanged, this, &CheckPIN::takeState);
+}
+
+void CheckPIN::build()
+{
+    m_about->setWordWrap(true);
+    m_about->setMuted(true);
+    m_attempts->setObjectName(u"attempts"_s);
+    m_attempts->setWordWrap(true);
+    m_result->setObjectName(u"pinResult"_s);
+    m_result->setWordWrap(true);
+    m_unlock->setObjectName(u"unlock"_s);
+    m_unlock->setDefault(true);
+    setButtonKind(m_unlock, ButtonKind::Primary);
+    auto *cancel = new QPushButton(tr("&Later"), this);
+    cancel->setObjectName(u"later"_s);
+    cancel->setAutoDefault(false);
+
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(metrics::Grid);
+    buttons->addStretch();
+    buttons->addWidget(cancel);
+    buttons->addWidget(m_unlock);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setSpacing(metrics::RowGap);
+    layout->addWidget(m_title);
+    layout->addWidget(m_about);
+    layout->addSpacing(metrics::Grid);
+    for (PinField *field : {m_puk, m_pin, m_repeat})
+        layout->addWidget(field);
+    layout->addWidget(m_show);
+    layout->addWidget(m_attempts);
+    layout->addWidget(m_result);
+    layout->addSpacing(metrics::Grid);
+    layout->addLayout(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    m_title->setMinimumWidth(dialogWidth - 2 * metrics::PageMargin);
+
+    connect(m_show, &QCheckBox::toggled, this, [this](bool shown) {
+        for (PinField *field : {m_puk, m_pin, m_repeat})
+            field->setDigitsShown(shown);
+    });
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_unlock, &QPushButton::clicked, this, &CheckPIN::submit);
+}
+
+void CheckPIN::setAsksForPuk(bool asksForPuk)
+{
+    m_asksForPuk = asksForPuk;
+    m_title->setText(asksForPuk ? tr("The SIM card is blocked") : tr("The SIM card is locked"));
+    setWindowTitle(asksForPuk ? tr("Enter PUK") : tr("Enter PIN"));
+    m_about->setText(asksForPuk ? tr("Enter the PUK, which came with the SIM card, and choose a new PIN.")
+                                : tr("Enter its PIN to use the card."));
+    m_puk->setCaption(tr("P&UK, 8 digits"));
+    m_pin->setCaption(asksForPuk ? tr("New &PIN, 4 to 8 digits") : tr("&PIN, 4 to 8 digits"));
+    m_repeat->setCaption(tr("&Repeat the new PIN"));
+    m_puk->setVisible(asksForPuk);
+    m_repeat->setVisible(asksForPuk);
+    m_unlock->setText(asksForPuk ? tr("&Unblock") : tr("&Unlock"));
+    (asksForPuk ? m_puk : m_pin)->takeFocus();
+}
+
+void CheckPIN::takeState(const CardState &state)
+{
+    const bool needsPuk = state.sim == SimState::PukNeeded;
+    const bool needsPin = state.sim == SimState::PinNeeded;
+    if (state.presence != CardPresence::Ready || state.sim == SimState::Absent) {
+        reject();
+        return;
+    }
+    if (state.sim == SimState::Ready) {
+        accept();
+        return;
+    }
+    if ((needsPuk || needsPin) && needsPuk != m_asksForPuk) {
+        clearFields();
+        setAsksForPuk(needsPuk);
+    }
+    showAttempts(state);
+}
+
+void CheckPIN::showAttempts(const CardState &state)
+{
+    const std::optional<int> left = m_asksForPuk ? state.pukAttempts : state.pinAttempts;
+    m_attempts->setVisible(left.has_value());
+    if (!left)
+        return;
+    if (*left > 1)
+        m_attempts->setText(tr("%n attempts left", nullptr, *left));
+    else if (m_asksForPuk)
+        m_attempts->setText(tr("Last attempt: after another wrong PUK the SIM card is lost for good."));
+    else
+        m_attempts->setText(tr("Last attempt: after another wrong PIN the SIM card asks for its PUK."));
+}
+
+bool CheckPIN::checkFields()
+{
+    const bool pukIsWhole = !m_asksForPuk || m_puk->digits().size() == pukDigits;
+    const bool pinIsWhole = m_pin->digits().size() >= fewestPinDigits;
+    const bool isRepeated = !m_asksForPuk || m_repeat->digits() == m_pin->digits();
+    m_puk->setError(pukIsWhole ? QString() : tr("A PUK has 8 digits."));
+    m_pin->setError(pinIsWhole ? QString() : tr("A PIN has 4 to 8 digits."));
+    m_repeat->setError(isRepeated ? QString() : tr("The two PINs differ."));
+    if (!pukIsWhole)
+        m_puk->takeFocus();
+    else if (!pinIsWhole)
+        m_pin->takeFocus();
+    else if (!isRepeated)
+        m_repeat->takeFocus();
+    return pukIsWhole && pinIsWhole && isRepeated;
+}
+
+void CheckPIN::submit()
+{
+    if (m_isBusy || !checkFields())
+        return;
+    setBusy(true);
+    m_result->setText(tr("Asking the SIM card"));
+    QFuture<PinOutcome> answer = m_asksForPuk ? m_monitor->enterPuk(m_puk->digits(), m_pin->digits())
+                                              : m_monitor->enterPin(m_pin->digits());
+    answer.then(this, [this](PinOutcome outcome) { takeOutcome(outcome); }).onCanceled(this, [this] {
+        takeOutcome(PinOutcome::NoAnswer);
+    });
+}
+
+void CheckPIN::setBusy(bool busy)
+{
+    m_isBusy = busy;
+    for (QWidget *widget : std::initializer_list<QWidget *>{m_puk, m_pin, m_repeat, m_show, m_unlock})
+        widget->setEnabled(!busy);
+}
+
+void CheckPIN::takeOutcome(PinOutcome outcome)
+{
+    if (outcome == PinOutcome::Accepted) {
+        accept();
+        m_monitor->refreshNow();
+        return;
+    }
+    setBusy(false);
+    clearFields();
+    m_result->clear();
+    PinField *field = m_asksForPuk ? m_puk : m_pin;
+    switch (outcome) {
+    case PinOutcome::Wrong:
+        field->setError(m_asksForPuk ? tr("The PUK is wrong.") : tr("The PIN is wrong."));
+        break;
+    case PinOutcome::PukNeeded:
+        if (m_asksForPuk)
+            field->setError(tr("The PUK is wrong."));
+        else
+            setAsksForPuk(true);
+        field = m_puk;
+        break;
+    case PinOutcome::SimFailure:
+        m_result->setText(tr("The SIM card cannot be read. Take it out and put it in again."));
+        break;
+    case PinOutcome::NoAnswer:
+    case PinOutcome::Accepted:
+        m_result->setText(tr("The card did not answer. Nothing has changed; try again."));
+        break;
+    }
+    field->takeFocus();
+    // A wrong attempt costs one, and the last one turns the PIN into the PUK: the card knows.
+    m_monitor->refreshNow();
+}
+
+void CheckPIN::clearFields()
+{
+    for (PinField *field : {m_puk, m_pin, m_repeat}) {
+        field->clear();
+        field->setError({});
+    }
+}
+
+} // namespace corva

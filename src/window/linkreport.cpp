@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "window/linkreport.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+namespace
+{
+
+const QString callKey = u"call"_s;
+const QString messageKey = u"message"_s;
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("Notices", source);
+}
+
+ReportNotice incomingCall()
+{
+    return {callKey, text(QT_TRANSLATE_NOOP("Notices", "Incoming call")),
+            text(QT_TRANSLATE_NOOP("Notices", "The card is ringing."))};
+}
+
+std::optional<ReportNotice> ringOrMessage(const QString &report)
+{
+    if (report.contains("RING"_L1))
+        return incomingCall();
+    if (report.contains("+CMTI:"_L1))
+        return ReportNotice{messageKey, text(QT_TRANSLATE_NOOP("Notices", "New message")),
+                            text(QT_TRANSLATE_NOOP("Notices", "A new message has arrived on the card"))};
+    if (report.contains("+CMT:"_L1))
+        return ReportNotice{messageKey, text(QT_TRANSLATE_NOOP("Notices", "New message")),
+                            text(QT_TRANSLATE_NOOP("Notices", "A new message has arrived"))};
+    return {};
+}
+
+} // namespace
+
+void ReportHub::post(LinkReport report, const QString &text)
+{
+    QMetaObject::invokeMethod(
+        this, [this, report, text] { Q_EMIT sigReport(report, text); }, Qt::QueuedConnection);
+}
+
+std::optional<ReportNotice> noticeFor(LinkReport report, const QString &reportText)
+{
+    switch (report) {
+    case LinkReport::RingOrMessage: return ringOrMessage(reportText);
+    case LinkReport::CallWaiting:
+        return ReportNotice{callKey, text(QT_TRANSLATE_NOOP("Notices", "Incoming call")),
+                            text(QT_TRANSLATE_NOOP("Notices", "Another call is waiting."))};
+    default: return {};
+    }
+}
+
+QString noticeEndedBy(LinkReport report, const QString &reportText)
+{
+    const bool callEnded = report == LinkReport::RingStopped || report == LinkReport::CallFailed ||
+                           (report == LinkReport::RingOrMessage && reportText.isEmpty());
+    return callEnded ? callKey : QString();
+}
+
+} // namespace corva

@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "window/offlinepanel.h"
+
+#include "device/cardmonitor.h"
+#include "widgets/buttonkind.h"
+#include "widgets/cdepaint.h"
+#include "widgets/skinicon.h"
+#include "widgets/textlabel.h"
+#include "window/mender.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollArea>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+namespace
+{
+
+struct SignRow {
+    StepStatus status;
+    QLatin1StringView icon;
+    SkinRole role;
+    const char *name; ///< what the screen reader says for the sign
+};
+
+constexpr SignRow signRows[] = {
+    {StepStatus::Ok, "ok"_L1, SkinRole::Good, QT_TRANSLATE_NOOP("corva::DiagnosisRow", "in order")},
+    {StepStatus::Failed, "problem"_L1, SkinRole::Bad, QT_TRANSLATE_NOOP("corva::DiagnosisRow", "problem")},
+    {StepStatus::Running, "running"_L1, SkinRole::Warning,
+     QT_TRANSLATE_NOOP("corva::DiagnosisRow", "under way")},
+    {StepStatus::NotReached, "pending"_L1, SkinRole::MutedText,
+     QT_TRANSLATE_NOOP("corva::DiagnosisRow", "not known yet")},
+};
+
+const SignRow &signOf(StepStatus status)
+{
+    return signRows[static_cast<int>(status)];
+}
+
+} // namespace
+
+DiagnosisRow::DiagnosisRow(DiagnosisStepId id, QWidget *parent)
+    : QWidget(parent), m_sign(new QLabel(this)), m_title(new TextLabel(TextRole::Text, this)),
+      m_found(new TextLabel(TextRole::Text, this)), m_sentence(new TextLabel(TextRole::Text, this)),
+      m_mend(new QPushButton(this))
+{
+    setObjectName(u"step%1"_s.arg(int(id)));
+    m_title->setObjectName(u"title"_s);
+    m_found->setObjectName(u"found"_s);
+    m_sentence->setObjectName(u"sentence"_s);
+    m_mend->setObjectName(u"mend"_s);
+    m_found->setMuted(true);
+    m_found->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    m_found->setWordWrap(true);
+    m_sentence->setWordWrap(true);
+    setButtonKind(m_mend, ButtonKind::Primary);
+
+    auto *head = new QHBoxLayout;
+    head->setSpacing(metrics::Grid + metrics::HalfGrid);
+    head->addWidget(m_sign);
+    head->addWidget(m_title);
+    head->addWidget(m_found, 1);
+    auto *advice = new QVBoxLayout;
+    advice->setContentsMargins(metrics::IconSize + metrics::Grid + metrics::HalfGrid, 0, 0, 0);
+    advice->setSpacing(metrics::Grid);
+    advice->addWidget(m_sentence);
+    advice->addWidget(m_mend, 0, Qt::AlignLeading);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(metrics::Grid + metrics::HalfGrid, 5, metrics::Grid + metrics::HalfGrid, 5);
+    layout->setSpacing(metrics::HalfGrid);
+    layout->addLayout(head);
+    layout->addLayout(advice);
+    connect(m_mend, &QPushButton::clicked, this, [this] { Q_EMIT sigMend(m_step.action); });
+}
+
+void DiagnosisRow::setStep(const DiagnosisStep &step)
+{
+    m_step = step;
+    const bool isProblem = step.status == StepStatus::Failed || step.status == StepStatus::Running;
+    m_title->setText(step.title);
+    m_title->setMuted(step.status == StepStatus::NotReached);
+    QFont font = skinFont(isProblem ? TextRole::Strong : TextRole::Text);
+    m_title->setFont(font);
+    m_found->setText(step.headline);
+    m_sentence->setText(step.sentence);
+    m_sentence->setVisible(isProblem);
+    m_mend->setText(step.actionText);
+    m_mend->setVisible(step.action != MendAction::None);
+    m_mend->setAccessibleDescription(step.sentence);
+    const SignRow &sign = signOf(step.status);
+    m_sign->setAccessibleName(tr(sign.name));
+    setAccessibleName(tr("%1: %2").arg(step.title, tr(sign.name)));
+    drawSign();
+    update();
+}
+
+void DiagnosisRow::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::StyleChange)
+        setStep(m_step);
+}
+
+void DiagnosisRow::drawSign()
+{
+    const SignRow &sign = signOf(m_step.status);
+    m_sign->setPixmap(skinPixmap(sign.icon, skinColor(sign.role), metrics::IconSize, devicePixelRatioF()));
+}
+
+void DiagnosisRow::paintEvent(QPaintEvent *)
+{
+    if (m_step.status != StepStatus::Failed && m_step.status != StepStatus::Running)
+        return;
+    QPainter painter(this);
+    paint::box(painter, rect(), skinColor(SkinRole::Surface),
+               blend(skinColor(SkinRole::Window), skinColor(SkinRole::Line), 0.45));
+}
+
+OfflinePanel::OfflinePanel(CardMonitor *monitor, Mender *mender, QWidget *parent)
+    : QWidget(parent), m_monitor(monitor), m_conclusion(new TextLabel(TextRole::Text, this)),
+      m_back(new QPushButton(tr("&Back"), this))
+{
+    setObjectName(u"offlinePanel"_s);
+    m_back->setObjectName(u"back"_s);
+    m_back->setToolTip(tr("%1 (%2)").arg(tr("Back"), u"Esc"_s));
+    m_conclusion->setObjectName(u"conclusion"_s);
+    m_conclusion->setMuted(true);
+    m_conclusion->setWordWrap(true);
+
+    auto *titleRow = new QHBoxLayout;
+    titleRow->addWidget(new TextLabel(tr("Why am I offline?"), TextRole::Title, this), 1);
+    titleRow->addWidget(m_back);
+
+    auto *list = new QWidget(this);
+    auto *rows = new QVBoxLayout(list);
+    rows->setContentsMargins(0, 0, metrics::HalfGrid, 0);
+    rows->setSpacing(0);
+    for (const DiagnosisStep &step : diagnose(monitor->state())) {
+        m_rows.push_back(new DiagnosisRow(step.id, list));
+        rows->addWidget(m_rows.back());
+        connect(m_rows.back(), &DiagnosisRow::sigMend, mender, &Mender::mend);
+    }
+    rows->addStretch(1);
+    auto *scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(list);
+    scroll->viewport()->setAutoFillBackground(false);
+    list->setAutoFillBackground(false);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(metrics::PageMargin, metrics::PageMargin - metrics::Grid, metrics::PageMargin,
+                               metrics::PageMargin - metrics::Grid);
+    layout->setSpacing(metrics::Grid);
+    layout->addLayout(titleRow);
+    layout->addWidget(m_conclusion);
+    layout->addSpacing(metrics::Grid);
+    layout->addWidget(scroll, 1);
+
+    connect(m_back, &QPushButton::clicked, this, &OfflinePanel::sigBack);
+    connect(monitor, &CardMonitor::sigStateChanged, this, &OfflinePanel::takeState);
+    takeState(monitor->state());
+}
+
+void OfflinePanel::takeState(const CardState &state)
+{
+    const auto steps = diagnose(state);
+    for (std::size_t i = 0; i < m_rows.size(); ++i)
+        m_rows[i]->setStep(steps[i]);
+    const DiagnosisStep *problem = firstProblem(steps);
+    if (!problem)
+        m_conclusion->setText(tr("Everything from the socket to the network is in order."));
+    else if (problem->status == StepStatus::Running)
+        m_conclusion->setText(tr("Nothing is wrong so far; the card is at it."));
+    else
+        m_conclusion->setText(tr("One step is not in order. The steps after it follow by themselves."));
+}
+
+void OfflinePanel::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_back->setFocus(Qt::OtherFocusReason);
+}
+
+} // namespace corva

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "window/page.h"
+
+#include "widgets/skin.h"
+#include "widgets/textlabel.h"
+
+#include <QAbstractButton>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace corva
+{
+
+Page::Page(const PageInfo &info, QWidget *parent)
+    : QWidget(parent), m_info(info), m_about(new TextLabel(TextRole::Text, this)),
+      m_titleRow(new QHBoxLayout), m_body(new QVBoxLayout)
+{
+    setObjectName(info.id);
+    setAccessibleName(info.title);
+    m_about->setMuted(true);
+    m_about->setWordWrap(true);
+    m_about->hide();
+
+    auto *title = new TextLabel(info.title, TextRole::Title, this);
+    m_titleRow->setSpacing(metrics::Grid);
+    m_titleRow->addWidget(title, 1);
+    m_body->setContentsMargins(0, 0, 0, 0);
+    m_body->setSpacing(metrics::RowGap);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(metrics::PageMargin, metrics::PageMargin - metrics::Grid, metrics::PageMargin,
+                               metrics::PageMargin - metrics::Grid);
+    layout->setSpacing(0);
+    layout->addLayout(m_titleRow);
+    layout->addWidget(m_about);
+    layout->addSpacing(2 * metrics::Grid);
+    layout->addLayout(m_body, 1);
+    title->setMinimumHeight(metrics::ControlHeight);
+}
+
+void Page::setAbout(const QString &sentence)
+{
+    m_about->setText(sentence);
+    m_about->setVisible(!sentence.isEmpty());
+}
+
+void Page::addAction(QAbstractButton *button)
+{
+    m_titleRow->addWidget(button);
+}
+
+void Page::setBadge(const QString &badge)
+{
+    if (m_badge == badge)
+        return;
+    m_badge = badge;
+    Q_EMIT sigBadgeChanged(badge);
+}
+
+} // namespace corva

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "link/cardstate.h"
+#include "widgets/skinareawidget.h"
+#include "window/connectionstate.h"
+
+#include <QTimer>
+
+class QMenu;
+class QToolButton;
+
+namespace corva
+{
+
+class Badge;
+class ElidedLabel;
+class IconButton;
+class SignalBars;
+class StatusChip;
+class TextLabel;
+
+/// The window's own title bar: the program's menu, what the card's radio does, the SIM, the connection, the
+/// clock, and the buttons of the window. Dragging it moves the window; a double click fills the screen with
+/// it.
+class TopBar final : public SkinAreaWidget
+{
+    Q_OBJECT
+
+public:
+    TopBar(QMenu *menu, QWidget *parent);
+
+    void setState(const CardState &state);
+    void setConnection(ConnectionState connection);
+    void openMenu();
+
+Q_SIGNALS:
+    void sigMinimize();
+    void sigClose();
+    void sigFillScreen();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void build(QMenu *menu);
+    void showSim(const CardState &state);
+    void showTime();
+
+    QToolButton *m_menuButton;
+    SignalBars *m_bars;
+    ElidedLabel *m_operator;
+    Badge *m_networkType;
+    Badge *m_roaming;
+    ElidedLabel *m_service;
+    StatusChip *m_sim;
+    StatusChip *m_connection;
+    TextLabel *m_clock;
+    IconButton *m_minimize;
+    IconButton *m_close;
+    QTimer m_minute;
+};
+
+} // namespace corva

@@ -1,0 +1,415 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "window/wtmainwindow.h"
+
+#include "device/cardmonitor.h"
+#include "shell/commoncfg.h"
+#include "shell/commonconfig.h"
+#include "shell/logging.h"
+#include "widgets/line.h"
+#include "widgets/skin.h"
+#include "window/aboutbox.h"
+#include "window/desktopnotifier.h"
+#include "window/edgegrips.h"
+#include "window/keyboardmover.h"
+#include "window/mender.h"
+#include "window/navigation.h"
+#include "window/offlinepanel.h"
+#include "window/splash.h"
+#include "window/statusstrip.h"
+#include "window/topbar.h"
+#include "window/trayicon.h"
+#include "window/windowplace.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QPainter>
+#include <QScreen>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QTimer>
+#include <chrono>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace corva;
+
+namespace
+{
+
+constexpr QSize smallestSize(800, 520);
+const QString windowSection = u"window"_s;
+
+bool isOn(const QString &key)
+{
+    return cmcfg.getNumber(windowSection, key) == 1;
+}
+
+QList<QRect> screenAreas()
+{
+    QList<QRect> areas;
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    for (const QScreen *screen : screens)
+        areas += screen->availableGeometry();
+    return areas;
+}
+
+} // namespace
+
+WTMainWindow::WTMainWindow(QWidget *parent, const char *name, Qt::WindowFlags flags)
+    : QWidget(parent, flags | Qt::Window | Qt::FramelessWindowHint), m_monitor(new CardMonitor(this, this)),
+      m_reports(new ReportHub(this)), m_mender(new Mender(m_monitor, this)), m_registry(standardPages())
+{
+    setObjectName(QString::fromLatin1(name));
+    setWindowTitle(comcfg.softwareName);
+    applySkin();
+    build();
+    addShortcuts();
+    connectParts();
+    slotStateChanged(m_monitor->state());
+    showPage(cmcfg.getValue(windowSection, u"page"_s));
+    if (m_currentPage.isEmpty())
+        showPage(m_navigation->pageIds().value(0));
+    m_isReady = true;
+    m_monitor->start();
+}
+
+WTMainWindow::~WTMainWindow()
+{
+    stopLink();
+}
+
+void WTMainWindow::build()
+{
+    auto *menu = new QMenu(this);
+    m_mover = new KeyboardMover(this);
+    m_topBar = new TopBar(menu, this);
+    m_navigation = new Navigation(this);
+    m_stack = new QStackedWidget(this);
+    m_strip = new StatusStrip(this);
+    buildMenu(menu);
+    for (const PageEntry &entry : m_registry.entries())
+        m_navigation->addPage(entry.info);
+
+    auto *middle = new QHBoxLayout;
+    middle->setSpacing(0);
+    middle->addWidget(m_navigation);
+    middle->addWidget(m_stack, 1);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(1, 1, 1, 1); // the line around the window
+    layout->setSpacing(0);
+    layout->addWidget(m_topBar);
+    layout->addWidget(new Line(Qt::Horizontal, this));
+    layout->addLayout(middle, 1);
+    layout->addWidget(new Line(Qt::Horizontal, this));
+    layout->addWidget(m_strip);
+
+    new EdgeGrips(this);
+    setMinimumSize(smallestSize);
+    const auto place = placeFromText(cmcfg.getValue(windowSection, u"geometry"_s));
+    resize(place ? place->size() : QSize(comcfg.windowWidth, comcfg.windowHeight));
+}
+
+void WTMainWindow::buildMenu(QMenu *menu)
+{
+    const auto add = [&](const QString &text, const QKeySequence &keys, auto &&action) {
+        QAction *entry = menu->addAction(text);
+        entry->setShortcut(keys);
+        entry->setShortcutContext(Qt::WindowShortcut);
+        connect(entry, &QAction::triggered, this, action);
+        addAction(entry);
+    };
+    add(tr("&Why am I offline?"), Qt::Key_F1, [this] { showOfflinePanel(); });
+    add(tr("&Refresh"), Qt::Key_F5, [this] { m_monitor->refreshNow(); });
+    menu->addSeparator();
+    add(tr("&Move"), Qt::ALT | Qt::Key_F7, [this] { m_mover->startMove(); });
+    add(tr("Re&size"), Qt::ALT | Qt::Key_F8, [this] { m_mover->startResize(); });
+    add(tr("Mi&nimise"), Qt::CTRL | Qt::Key_M, [this] { showMinimized(); });
+    add(tr("&Fill the screen"), Qt::Key_F11, [this] { fillScreen(); });
+    menu->addSeparator();
+    add(tr("&About %1").arg(comcfg.softwareName), {}, [this] { aboutShow(); });
+    add(tr("&Close"), Qt::ALT | Qt::Key_F4, [this] { close(); });
+    add(tr("&Quit"), Qt::CTRL | Qt::Key_Q, [this] { quit(); });
+}
+
+void WTMainWindow::addShortcuts()
+{
+    const auto add = [this](const QKeySequence &keys, auto &&action) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
+    };
+    add(Qt::Key_F10, [this] { m_topBar->openMenu(); });
+    add(Qt::CTRL | Qt::Key_W, [this] { close(); });
+    const QStringList ids = m_navigation->pageIds();
+    for (int number = 1; number <= 9 && number <= ids.size(); ++number)
+        add(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_0 + number)),
+            [this, id = ids.at(number - 1)] { showPage(id); });
+}
+
+void WTMainWindow::connectParts()
+{
+    connect(m_topBar, &TopBar::sigMinimize, this, &QWidget::showMinimized);
+    connect(m_topBar, &TopBar::sigClose, this, &QWidget::close);
+    connect(m_topBar, &TopBar::sigFillScreen, this, &WTMainWindow::fillScreen);
+    connect(m_navigation, &Navigation::sigChosen, this, &WTMainWindow::showPage);
+    connect(m_strip, &StatusStrip::sigWhy, this, &WTMainWindow::showOfflinePanel);
+    connect(m_mender, &Mender::sigSaid, m_strip, &StatusStrip::say);
+    connect(m_mender, &Mender::sigDiagnosisWanted, this, &WTMainWindow::showOfflinePanel);
+    connect(m_mover, &KeyboardMover::sigSaid, m_strip, &StatusStrip::say);
+    connect(m_monitor, &CardMonitor::sigStateChanged, this, &WTMainWindow::slotStateChanged);
+    connect(m_monitor, &CardMonitor::sigActivity, m_strip, &StatusStrip::setActivity);
+    connect(m_reports, &ReportHub::sigReport, this, &WTMainWindow::slotReport);
+}
+
+bool WTMainWindow::getModemState() const
+{
+    return m_monitor->state().modemReady;
+}
+
+QString WTMainWindow::getFirmwareVersion() const
+{
+    return m_monitor->state().identity.firmware;
+}
+
+void WTMainWindow::wait2secsToShow()
+{
+    QTimer::singleShot(2000ms, this, &WTMainWindow::slotDelayShow);
+}
+
+void WTMainWindow::slotDelayShow()
+{
+    show();
+    if (splash) {
+        splash->close();
+        delete splash;
+        splash = nullptr;
+    }
+}
+
+void WTMainWindow::stopLink()
+{
+    m_isReady = false;
+    m_monitor->stop();
+}
+
+void WTMainWindow::aboutShow()
+{
+    auto *box = new AboutBox(m_monitor->state(), this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+void WTMainWindow::setConnection(ConnectionState connection)
+{
+    m_topBar->setConnection(connection);
+}
+
+void WTMainWindow::showPage(const QString &pageId)
+{
+    const auto &entries = m_registry.entries();
+    const auto entry = std::find_if(entries.begin(), entries.end(),
+                                    [&](const PageEntry &candidate) { return candidate.info.id == pageId; });
+    if (entry == entries.end())
+        return;
+    Page *&page = m_pages[pageId];
+    if (!page) {
+        page = entry->create(entry->info, {m_monitor, m_reports, m_mender}, m_stack);
+        m_stack->addWidget(page);
+        connect(page, &Page::sigBadgeChanged, m_navigation,
+                [this, pageId](const QString &badge) { m_navigation->setBadge(pageId, badge); });
+        m_navigation->setBadge(pageId, page->badge());
+    }
+    m_currentPage = pageId;
+    m_stack->setCurrentWidget(page);
+    m_navigation->setCurrent(pageId);
+}
+
+void WTMainWindow::showOfflinePanel()
+{
+    if (!m_offlinePanel) {
+        m_offlinePanel = new OfflinePanel(m_monitor, m_mender, m_stack);
+        m_stack->addWidget(m_offlinePanel);
+        connect(m_offlinePanel, &OfflinePanel::sigBack, this, &WTMainWindow::leaveOfflinePanel);
+        auto *back = new QShortcut(Qt::Key_Escape, m_offlinePanel);
+        back->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(back, &QShortcut::activated, this, &WTMainWindow::leaveOfflinePanel);
+    }
+    m_stack->setCurrentWidget(m_offlinePanel);
+    m_navigation->setCurrent({});
+    if (isHidden() || isMinimized())
+        showInFront();
+}
+
+void WTMainWindow::leaveOfflinePanel()
+{
+    showPage(m_currentPage);
+    m_navigation->takeFocus();
+}
+
+void WTMainWindow::slotStateChanged(const CardState &state)
+{
+    m_topBar->setState(state);
+    m_strip->setState(state);
+    if (m_tray)
+        m_tray->setState(state);
+    if (m_wasShown)
+        askForPinOnce(state);
+}
+
+void WTMainWindow::askForPinOnce(const CardState &state)
+{
+    const bool isLocked = state.presence == CardPresence::Ready &&
+                          (state.sim == SimState::PinNeeded || state.sim == SimState::PukNeeded);
+    if (!isLocked) {
+        // Another card, or the same one plugged in again, asks anew.
+        m_wasAskedForPin = m_wasAskedForPin && state.presence == CardPresence::Ready;
+        return;
+    }
+    if (m_wasAskedForPin)
+        return;
+    m_wasAskedForPin = true;
+    m_mender->askForPin();
+}
+
+void WTMainWindow::slotReport(LinkReport report, const QString &text)
+{
+    const auto notice = noticeFor(report, text);
+    const QString ended = noticeEndedBy(report, text);
+    if (!notice && ended.isEmpty()) {
+        qCDebug(lcWindow).noquote() << logTime() + u"the card reports:"_s << text.simplified();
+        return;
+    }
+    if (notice)
+        m_strip->say(notice->body);
+    if (!m_notifier)
+        return;
+    if (notice && isOn(u"notifications_enabled"_s))
+        m_notifier->notify(notice->key, notice->title, notice->body);
+    if (!ended.isEmpty())
+        m_notifier->withdraw(ended);
+}
+
+void WTMainWindow::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (m_tray)
+        m_tray->setWindowShown(true);
+    if (m_wasShown)
+        return;
+    m_wasShown = true;
+    restorePlace();
+    m_navigation->takeFocus();
+    // What the first sight of the window does not need comes after it.
+    QTimer::singleShot(0, this, &WTMainWindow::finishShowing);
+}
+
+void WTMainWindow::finishShowing()
+{
+    m_tray = new TrayIcon(this);
+    m_tray->setState(m_monitor->state());
+    connect(m_tray, &TrayIcon::sigShowOrHide, this, &WTMainWindow::showOrHide);
+    connect(m_tray, &TrayIcon::sigWhy, this, &WTMainWindow::showOfflinePanel);
+    connect(m_tray, &TrayIcon::sigAbout, this, [this] {
+        showInFront();
+        aboutShow();
+    });
+    connect(m_tray, &TrayIcon::sigQuit, this, &WTMainWindow::quit);
+    m_notifier = new DesktopNotifier(
+        [this](const QString &title, const QString &body) { m_tray->notify(title, body); }, this);
+    askForPinOnce(m_monitor->state());
+}
+
+void WTMainWindow::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    if (m_tray && !event->spontaneous())
+        m_tray->setWindowShown(false);
+}
+
+void WTMainWindow::showOrHide()
+{
+    if (isVisible() && !isMinimized())
+        hide();
+    else
+        showInFront();
+}
+
+void WTMainWindow::showInFront()
+{
+    if (isMinimized())
+        showNormal();
+    show();
+    raise();
+    activateWindow();
+}
+
+void WTMainWindow::fillScreen()
+{
+    if (isMaximized())
+        showNormal();
+    else
+        showMaximized();
+}
+
+void WTMainWindow::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    m_navigation->setFolded(width() < metrics::FoldBelowWidth);
+}
+
+void WTMainWindow::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::StyleChange)
+        update();
+}
+
+void WTMainWindow::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), skinColor(SkinRole::Window));
+    painter.setPen(blend(skinColor(SkinRole::Window), skinColor(SkinRole::Line), 0.7));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void WTMainWindow::restorePlace()
+{
+    const auto remembered = placeFromText(cmcfg.getValue(windowSection, u"geometry"_s));
+    if (!remembered)
+        return;
+    if (const auto place = fitPlace(*remembered, screenAreas(), minimumSize()))
+        setGeometry(*place);
+}
+
+void WTMainWindow::savePlace()
+{
+    const auto keep = [](const QString &key, const QString &value) {
+        if (cmcfg.getValue(windowSection, key) != value)
+            cmcfg.setValue(windowSection, key, value);
+    };
+    if (m_wasShown)
+        keep(u"geometry"_s, placeToText(isMaximized() ? normalGeometry() : geometry()));
+    keep(u"page"_s, m_currentPage);
+}
+
+void WTMainWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_isQuitting && m_tray && m_tray->isShown() && isOn(u"close_to_tray"_s)) {
+        event->ignore();
+        hide();
+        return;
+    }
+    event->accept();
+    quit();
+}
+
+void WTMainWindow::quit()
+{
+    if (m_isQuitting)
+        return;
+    m_isQuitting = true;
+    savePlace();
+    hide();
+    stopLink();
+    QCoreApplication::exit(0);
+}

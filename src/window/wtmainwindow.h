@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "link/linkowner.h"
+#include "window/connectionstate.h"
+#include "window/linkreport.h"
+#include "window/pageregistry.h"
+
+#include <QHash>
+#include <QWidget>
+#include <atomic>
+
+class QMenu;
+class QStackedWidget;
+
+namespace corva
+{
+struct CardState;
+class DesktopNotifier;
+class EdgeGrips;
+class KeyboardMover;
+class Navigation;
+class OfflinePanel;
+class StatusStrip;
+class TopBar;
+class TrayIcon;
+} // namespace corva
+
+/// The window: top bar, navigation, the pages, status strip, tray. A shell that owns the card's monitor,
+/// shows its state and passes the card's reports on; what is done with them is the pages' business.
+class WTMainWindow final : public QWidget, public LinkOwner
+{
+    Q_OBJECT
+
+public:
+    /// Builds the window and starts the link. `flags` are those of a frameless window: it draws its own top
+    /// bar.
+    WTMainWindow(QWidget *parent, const char *name, Qt::WindowFlags flags);
+    ~WTMainWindow() override;
+
+    /// True once the card has answered and its PIN state is settled.
+    bool getModemState() const;
+    /// Empty until it is known.
+    QString getFirmwareVersion() const;
+    /// Shows the window and closes the splash 2000 ms from now.
+    void wait2secsToShow();
+    /// Ends the link's threads. Safe to call twice; to be called on every way out of the program.
+    void stopLink();
+    void aboutShow();
+
+    /// What the data connection does, told by its owner.
+    void setConnection(corva::ConnectionState connection);
+    /// Opens a page by its id; an unknown one changes nothing.
+    void showPage(const QString &pageId);
+    void showOfflinePanel();
+
+    // From any thread, see LinkOwner.
+    bool isReadyForReports() const override;
+    bool wantsDeliveryReports() const override;
+    bool wantsStkSmsState() const override;
+    void findPortNames() override;
+    void findPortNamesNew() override;
+    void stkReportBuildMainMenu(const QString &text) override;
+    void stkRebuildMainMenu() override;
+    void stkEnterSubMenu(const QString &text) override;
+    void stkQueryInputText(const QString &text) override;
+    void stkShowText(const QString &text) override;
+    void stkReportSmsState(const QString &text) override;
+    void ussdReportService(const QString &text) override;
+    void peerStartRing() override;
+    void peerStartRingLocal() override;
+    void peerPickupPhone() override;
+    void getSmsAndVoice(const QString &text) override;
+    void cancelRing() override;
+    void callFailed() override;
+    void callIsWaiting(const QString &text) override;
+
+public Q_SLOTS:
+    void slotDelayShow();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private Q_SLOTS:
+    void slotStateChanged(const corva::CardState &state);
+    void slotReport(corva::LinkReport report, const QString &text);
+
+private:
+    void build();
+    void buildMenu(QMenu *menu);
+    void addShortcuts();
+    void connectParts();
+    void leaveOfflinePanel();
+    void showOrHide();
+    void showInFront();
+    void fillScreen();
+    void askForPinOnce(const corva::CardState &state);
+    void finishShowing();
+    void restorePlace();
+    void savePlace();
+    void quit();
+
+    corva::CardMonitor *m_monitor;
+    corva::ReportHub *m_reports;
+    corva::Mender *m_mender;
+    corva::PageRegistry m_registry;
+    corva::TopBar *m_topBar = nullptr;
+    corva::Navigation *m_navigation = nullptr;
+    QStackedWidget *m_stack = nullptr;
+    corva::StatusStrip *m_strip = nullptr;
+    corva::OfflinePanel *m_offlinePanel = nullptr;
+    corva::KeyboardMover *m_mover = nullptr;
+    corva::TrayIcon *m_tray = nullptr;
+    corva::DesktopNotifier *m_notifier = nullptr;
+    QHash<QString, corva::Page *> m_pages; ///< those that were built
+    QString m_currentPage;
+    std::atomic<bool> m_isReady = false;
+    bool m_wasShown = false;
+    bool m_wasAskedForPin = false;
+    bool m_isQuitting = false;
+};
