@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "link/parseatres.h"
+
+#include <QTest>
+
+namespace
+{
+
+constexpr int any = -1;
+
+struct Case {
+    const char *command;
+    const char *reply;
+    int code; ///< with the echo, and without it when the command is known
+    int bare; ///< from the reply alone; `any` where nothing is laid down
+};
+
+constexpr const char *ok = "\r\nOK\r\n";
+constexpr const char *error = "\r\nERROR\r\n";
+constexpr const char *wrongPin = "\r\n+CME ERROR: incorrect password\r\n";
+constexpr const char *pukRequired = "\r\n+CME ERROR: SIM PUK required\r\n";
+constexpr const char *simFailure = "\r\n+CME ERROR: SIM failure\r\n";
+constexpr const char *simBusy = "\r\n+CME ERROR: SIM busy\r\n";
+
+const Case cases[] = {
+    {"AT", ok, 86, any},
+    {"AT", error, 103, any},
+    {"AT+CMGS=20", "\r\n+CMGS: 7\r\n\r\nOK\r\n", 86, 86},
+    {"AT+CMGS=20", "\r\n+CMS ERROR: 500\r\n", 103, any},
+    {"AT+CMGW=20", "\r\n+CMGW: 7\r\n\r\nERROR\r\n", 103, 103},
+    {"ATD*99#", "\r\nNO CARRIER\r\n", 94, any},
+    {"ATD*99#", "\r\nBUSY\r\n", 95, any},
+    {"ATD5551234;", "\r\nNO ANSWER\r\n", 96, any},
+    {"ATD*99#", "\r\nCONNECT 7200000\r\n", 97, any},
+    {"ATD*99#", "\r\nNO DIALTONE\r\n", 103, any},
+    {"AT+CPIN?", "\r\n+CPIN: READY\r\n\r\nOK\r\n", 0, 0},
+    {"AT^CPIN?", "\r\n^CPIN: READY\r\n\r\nOK\r\n", 0, 0},
+    {"AT+CPIN?", "\r\n+CPIN: SIM PIN\r\n\r\nOK\r\n", 1, 1},
+    {"AT^CPIN?", "\r\n^CPIN: SIM PIN\r\n\r\nOK\r\n", 1, 1},
+    {"AT+CPIN?", "\r\n+CPIN: SIM PUK\r\n\r\nOK\r\n", 4, 4},
+    {"AT+CPIN?", "\r\n+CPIN: SIM PIN2\r\n\r\nOK\r\n", 0, 0},
+    {"AT+CPIN?", "\r\n+CPIN: SIM PUK2\r\n\r\nOK\r\n", 0, 0},
+    {"AT+CPIN?", "\r\n+CPIN: PH-NET PIN\r\n\r\nOK\r\n", 103, 103},
+    {"AT+CPIN?", simBusy, 2, 2},
+    {"AT+CPIN?", simFailure, 3, 3},
+    {"AT+CPIN?", "\r\n+CME ERROR: 14\r\n", 2, any},
+    {"AT+CPIN?", "\r\n+CME ERROR: 13\r\n", 3, any},
+    {"AT+CPIN?", "\r\n+CME ERROR: 12\r\n", 4, any},
+    {"AT+CPIN?", "\r\n+CME ERROR: 11\r\n", 1, any},
+    {"AT+CPIN?", "\r\n+CME ERROR: 141\r\n", 103, any},
+    {"AT+CLCK=\"SC\",2", "\r\n+CLCK: 1\r\n\r\nOK\r\n", 13, 13},
+    {"AT+CLCK=\"SC\",2", "\r\n+CLCK: 0\r\n\r\nOK\r\n", 14, 14},
+    {"AT+CLCK=\"SC\",2", pukRequired, 7, 7},
+    {"AT+CLCK=\"SC\",1,\"1234\"", ok, 15, 98},
+    {"AT+CLCK=\"SC\",1,\"1234\"", wrongPin, 16, 99},
+    {"AT+CLCK=\"SC\",1,\"1234\"", error, 16, 99},
+    {"AT+CLCK=\"SC\",1,\"1234\"", "\r\n+CME ERROR: 16\r\n", 16, 99},
+    {"AT+CLCK=\"SC\",1,\"1234\"", "\r\n+CME ERROR: 12\r\n", 7, any},
+    {"AT+CLCK=\"SC\",1,\"1234\"", simFailure, 3, 3},
+    {"AT+CLCK=\"SC\",1,\"1234\"", simBusy, 103, 2},
+    {"AT+CLCK=\"SC\",0,\"1234\"", ok, 17, 98},
+    {"AT+CLCK=\"SC\",0,\"1234\"", wrongPin, 18, 99},
+    {"AT+CLCK=\"SC\",0,\"1234\"", pukRequired, 7, 7},
+    {"AT+CPWD=\"SC\",\"1234\",\"4711\"", ok, 19, 98},
+    {"AT+CPWD=\"SC\",\"1234\",\"4711\"", wrongPin, 20, 99},
+    {"AT+CPWD=\"SC\",\"1234\",\"4711\"", error, 20, 99},
+    {"AT+CPWD=\"SC\",\"1234\",\"4711\"", pukRequired, 21, 7},
+    {"AT+CPWD=\"SC\",\"1234\",\"4711\"", simBusy, 22, 2},
+    {"AT+CGMR", "\r\n+CGMR: 1.0\r\n\r\nOK\r\n", 62, 62},
+    {"AT+CGMR", error, 63, any},
+    {"AT+CPBS=\"SM\"", ok, '0', any},
+    {"AT+CPBS=\"ME\"", ok, '0', any},
+    {"AT+CPBS=\"ME\"", error, '1', any},
+    {"AT+CPMS=\"SM\"", "\r\n+CPMS: 1,20\r\n\r\nOK\r\n", 44, 44},
+    {"AT+CPMS=\"XX\"", "\r\n+CMS ERROR: 302\r\n", 45, any},
+    {"AT+CPMS?", "\r\n+CPMS: \"SM\",1,20\r\n\r\nOK\r\n", 46, 44},
+    {"AT+CPMS?", error, 47, any},
+    {"AT+CSQ", "\r\n+CSQ: 0,99\r\n\r\nOK\r\n", 35, 35},
+    {"AT+CSQ", "\r\n+CSQ: 1,99\r\n\r\nOK\r\n", 30, 30},
+    {"AT+CSQ", "\r\n+CSQ: 10,99\r\n\r\nOK\r\n", 30, 30},
+    {"AT+CSQ", "\r\n+CSQ: 11,99\r\n\r\nOK\r\n", 31, 31},
+    {"AT+CSQ", "\r\n+CSQ: 15,99\r\n\r\nOK\r\n", 31, 31},
+    {"AT+CSQ", "\r\n+CSQ: 16,99\r\n\r\nOK\r\n", 32, 32},
+    {"AT+CSQ", "\r\n+CSQ: 22,99\r\n\r\nOK\r\n", 32, 32},
+    {"AT+CSQ", "\r\n+CSQ: 23,99\r\n\r\nOK\r\n", 33, 33},
+    {"AT+CSQ", "\r\n+CSQ: 28,99\r\n\r\nOK\r\n", 33, 33},
+    {"AT+CSQ", "\r\n+CSQ: 29,99\r\n\r\nOK\r\n", 34, 34},
+    {"AT+CSQ", "\r\n+CSQ: 31,99\r\n\r\nOK\r\n", 34, 34},
+    {"AT+CSQ", "\r\n+CSQ: 32,99\r\n\r\nOK\r\n", 35, 35},
+    {"AT+CSQ", "\r\n+CSQ: 99,99\r\n\r\nOK\r\n", 35, 35},
+    {"AT+CSQ", "\r\n+CSQ: 99999999999,99\r\n\r\nOK\r\n", 35, 35},
+    {"AT+CSQ", "\r\n+CSQ: ,99\r\n\r\nOK\r\n", 103, 103},
+    {"AT+CSQ", error, 103, any},
+    {"AT+CCWA=1,1", ok, 106, any},
+    {"AT+CCWA=1,1", error, 107, any},
+    {"AT+JOPRT?", "\r\n+JOPRT: 1\r\n\r\nOK\r\n", 28, any},
+    {"AT+JOPRT?", "\r\n+JOPRT: 0\r\n\r\nOK\r\n", 29, any},
+    {"AT+JOPRT=5", ok, 26, any},
+    {"AT+JOPRT=5", error, 103, any},
+    {"AT+COPS?", "", 103, 103},
+    {"AT+COPS?", "\r\n^SYSINFO: 2\r\n", 103, 103},
+};
+
+} // namespace
+
+class TestParseAtRes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void codes_data()
+    {
+        QTest::addColumn<QByteArray>("command");
+        QTest::addColumn<QByteArray>("reply");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<int>("bare");
+        for (const auto &[command, reply, code, bare] : cases)
+            QTest::addRow("%s: %s", command, QByteArray(reply).simplified().constData())
+                << QByteArray(command) << QByteArray(reply) << code << bare;
+    }
+    void codes()
+    {
+        QFETCH(QByteArray, command);
+        QFETCH(QByteArray, reply);
+        QFETCH(int, code);
+        QFETCH(int, bare);
+        const QByteArray line = command + "\r\n";
+        QCOMPARE(corva::classifyReply(reply, line), code);
+        QByteArray echoed = reply.isEmpty() ? reply : command + "\r" + reply;
+        QCOMPARE(corva::classifyReply(echoed, line), code);
+        QCOMPARE(Parse_At_Res(echoed.data()), unsigned(code));
+        if (bare != any)
+            QCOMPARE(Parse_At_Res(reply.data()), unsigned(bare));
+    }
+
+    void plainResults()
+    {
+        QCOMPARE(corva::classifyReply(ok, "AT+CMGF=0\r\n"), 48);
+        QCOMPARE(corva::classifyReply("AT+CMGF=0\r\r\nOK\r\n", "AT+CMGF=0\r\n"), 48);
+        QCOMPARE(corva::classifyReply(error, "AT+CMGF=0\r\n"), 49);
+        QByteArray echoed = "AT+CMGF=0\r\r\nOK\r\n";
+        QCOMPARE(Parse_At_Res(echoed.data()), 103U);
+        QCOMPARE(Parse_At_Res(nullptr), 103U);
+    }
+
+    /// What a network or a person wrote must not pass for an echo, nor another command's report for an
+    /// answer.
+    void textsInsideReplies()
+    {
+        QCOMPARE(corva::classifyReply("\r\n+CLCK: 1\r\n\r\nCOMBAT\r\nOK\r\n", "AT+CLCK=\"SC\",2\r\n"), 13);
+        QCOMPARE(corva::classifyReply("\r\n+CPIN: READY\r\n\r\n+CSQ: 9,9\r\nOK\r\n", "AT+CSQ\r\n"), 30);
+        QCOMPARE(corva::classifyReply("\r\n+CUSD: 0,\"AT+CSQ\"\r\n\r\nOK\r\n", "AT+CPBS=\"SM\"\r\n"), 48);
+        QCOMPARE(corva::classifyReply("\r\n+CMGS: 3\r\n\r\nOK\r\n", "0011000A91\x1a"), 86);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestParseAtRes)
+#include "tst_parseatres.moc"

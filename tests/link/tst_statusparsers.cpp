@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "link/statusparsers.h"
+
+#include <QTest>
+
+using namespace corva;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+QString say(const QString &text)
+{
+    return text;
+}
+QString say(int number)
+{
+    return QString::number(number);
+}
+QString say(SimState state)
+{
+    return say(int(state));
+}
+QString say(const std::optional<int> &number)
+{
+    return number ? say(*number) : u"-"_s;
+}
+QString say(const QDateTime &time)
+{
+    return time.toString(Qt::ISODate);
+}
+QString say(const SignalQuality &quality)
+{
+    return say(quality.rssi) + u' ' + say(quality.dbm);
+}
+QString say(const RadioQuality &quality)
+{
+    return u"%1 %2 %3"_s.arg(quality.rssi).arg(quality.ecio).arg(quality.rscp);
+}
+QString say(const OperatorSelection &selection)
+{
+    return u"%1 [%2] %3 %4"_s.arg(selection.mode)
+        .arg(selection.name, selection.code)
+        .arg(int(selection.networkType));
+}
+QString say(const RegistrationState &state)
+{
+    return u"%1 %2 %3 %4"_s.arg(int(state.stat))
+        .arg(say(state.lac), say(state.cellId))
+        .arg(int(state.networkType));
+}
+QString say(const SystemInformation &information)
+{
+    const auto flag = [](std::optional<bool> value) { return value ? say(int(*value)) : u"-"_s; };
+    return u"%1 %2 %3 %4"_s.arg(int(information.service))
+        .arg(flag(information.roaming))
+        .arg(int(information.networkType))
+        .arg(flag(information.simPresent));
+}
+QString say(const AttemptsLeft &left)
+{
+    return u"%1 %2"_s.arg(left.pin).arg(left.puk);
+}
+
+/// The value, or the error as "!kind detail".
+template <typename T> QString say(const ReplyResult<T> &result)
+{
+    static const char *const kinds[] = {"no reply", "refused", "no line", "bad field"};
+    if (result)
+        return say(*result);
+    return u"!%1 %2"_s
+        .arg(QLatin1StringView(kinds[result.error().kind]), QString::fromLatin1(result.error().detail))
+        .trimmed();
+}
+
+template <auto parse> QString parsed(const QByteArray &reply)
+{
+    return say(parse(reply));
+}
+template <auto parse> QString parsedLine(const QByteArray &reply)
+{
+    // The first word is the prefix.
+    const qsizetype blank = reply.indexOf(' ');
+    return say(parse(reply.sliced(blank + 1), QByteArrayView(reply).first(blank)));
+}
+
+using Parser = QString (*)(const QByteArray &);
+
+struct Row {
+    const char *name;
+    Parser parser;
+    QByteArray reply; ///< CR LF is put behind every "|"
+    const char *value;
+};
+
+constexpr Parser csq = parsed<&parseSignalQuality>;
+constexpr Parser jrssi = parsed<&parseRadioQuality>;
+constexpr Parser cops = parsed<&parseOperator>;
+constexpr Parser creg = parsedLine<&parseRegistration>;
+constexpr Parser sysinfo = parsed<&parseSysInfo>;
+constexpr Parser jpas = parsed<&parseJpas>;
+constexpr Parser jtime = parsedLine<&parseNetworkTime>;
+constexpr Parser cfun = parsed<&parseFunctionality>;
+constexpr Parser jant = parsed<&parseAntenna>;
+constexpr Parser attempts = parsed<&parseAttempts>;
+constexpr Parser cpin = parsed<&parseSimState>;
+constexpr Parser identity = parsedLine<&parseIdentity>;
+constexpr Parser cimi = parsed<&parseImsi>;
+constexpr Parser iccid = parsed<&parseIccid>;
+constexpr Parser cnum = parsed<&parseOwnNumber>;
+constexpr Parser cpbr = parsed<&parsePhonebookCapacity>;
+
+const Row rows[] = {
+    {"signal, weakest", csq, "|+CSQ: 0,99||OK|", "0 -113"},
+    {"signal, strongest, echoed", csq, "AT+CSQ|+CSQ: 31,0||OK|", "31 -51"},
+    {"signal unknown", csq, "|+CSQ: 99,99||OK|", "99 -"},
+    {"signal without blank", csq, "|+CSQ:20,99||OK|", "20 -73"},
+    {"signal beside reports", csq, "RING||+CREG: 1|+CSQ: 5,0||+CMTI: \"SM\",1|OK|", "5 -103"},
+    {"signal below zero", csq, "|+CSQ: -1,99||OK|", "!bad field rssi"},
+    {"signal is a word", csq, "|+CSQ: 20x,99||OK|", "!bad field rssi"},
+    {"signal refused", csq, "|+CME ERROR: no network service|", "!refused no network service"},
+    {"signal of nobody", csq, "|OK|", "!no line +CSQ:"},
+    {"no reply", csq, "", "!no reply"},
+    {"pending signal", jrssi, "|+JRSSI: -71,-6,-80|", "-71 -6 -80"},
+    {"pending signal, cut", jrssi, "|+JRSSI: -71,-6|", "!bad field rscp"},
+    {"pending signal, huge", jrssi, "|+JRSSI: 99999999999,1,1|", "!bad field rssi"},
+    {"operator by name", cops, "|+COPS: 0,0,\"Test, \"\"Net\",2|OK|", "0 [Test, Net]  5"},
+    {"operator in UCS2", cops, "|+COPS: 0,0,\"00540065007300740020004E\",0|OK|", "0 [Test N]  2"},
+    {"operator that looks like hex", cops, "|+COPS: 0,0,\"CAFE\",0|OK|", "0 [CAFE]  2"},
+    {"operator with half a pair", cops, "|+COPS: 0,0,\"D800D800\"|OK|", "0 [D800D800]  0"},
+    {"operator by number", cops, "|+COPS: 1,2,\"26201\",7|OK|", "1 [] 26201 15"},
+    {"operator by number as name", cops, "|+COPS: 0,0,\"310410\"|OK|", "0 [] 310410 0"},
+    {"no operator", cops, "|+COPS: 0|OK|", "0 []  0"},
+    {"operator, open quote", cops, "|+COPS: 0,0,\"Test|OK|", "0 [Test]  0"},
+    {"operator without mode", cops, "|+COPS: ,0,\"Test\"|OK|", "!bad field mode"},
+    {"registered at home", creg, "+CREG: AT+CREG?|+CREG: 2,1,\"1234\",\"ABCD\",2|OK|", "1 4660 43981 5"},
+    {"registered, long cell", creg, "+CGREG: |+CGREG: 2,5,\"00FF\",\"0ABCDEF0\"|OK|", "5 255 180150000 0"},
+    {"registration report", creg, "+CREG: |+CREG: 1,\"1234\",\"ABCD\"|", "1 4660 43981 0"},
+    {"registration, plain", creg, "+CREG: |+CREG: 0,2|OK|", "2 - - 0"},
+    {"registration for messages only", creg, "+CREG: |+CREG: 0,7|OK|", "5 - - 0"},
+    {"registration, wild area", creg, "+CREG: |+CREG: 2,1,\"12345\",\"GHIJ\"|OK|", "1 - - 0"},
+    {"registration beyond the list", creg, "+CREG: |+CREG: 2,11|OK|", "!bad field stat"},
+    {"data registration is another line", creg, "+CREG: |+CGREG: 0,1|OK|", "!no line +CREG:"},
+    {"service on 3G", sysinfo, "|^SYSINFO:2,3,0,5,1,0,5|OK|", "2 0 6 1"},
+    {"service abroad, CDMA form", sysinfo, "|^SYSINFO: 2,255,1,4,1|OK|", "2 1 13 1"},
+    {"no service, no SIM", sysinfo, "|^SYSINFO:0,0,0,0,255|OK|", "0 0 1 0"},
+    {"service beyond the list", sysinfo, "|^SYSINFO:9,0,7,99,1,,99|OK|", "255 - 0 1"},
+    {"service is a word", sysinfo, "|^SYSINFO:full|OK|", "!bad field service"},
+    {"access", jpas, "|+JPAS: 15,2,8|OK|", "2 - 10 -"},
+    {"access without service", jpas, "|+JPAS: 3|OK|", "255 - 2 -"},
+    {"access, nothing", jpas, "|+JPAS: |OK|", "!bad field mode"},
+    {"time with zone", jtime, "+JTIME: |+JTIME: \"26/02/28,23:59:59+08\"|OK|", "2026-02-28T23:59:59+02:00"},
+    {"time west, summer time behind", jtime, "+CCLK: |+CCLK: \"24/02/29,00:00:00-20,1\"|OK|",
+     "2024-02-29T00:00:00-05:00"},
+    {"time without quotes", jtime, "+JTIME: |+JTIME: 26/02/28,01:02:03+00|OK|", "2026-02-28T01:02:03+00:00"},
+    {"time without zone", jtime, "+JTIME: |+JTIME: \"26/02/28,01:02:03\"|OK|", "2026-02-28T01:02:03"},
+    {"no such day", jtime, "+JTIME: |+JTIME: \"26/02/29,01:02:03+00\"|OK|", "!bad field time"},
+    {"time cut", jtime, "+JTIME: |+JTIME: \"26/02/28,01\"|OK|", "!bad field time"},
+    {"radio on", cfun, "|+CFUN: 1|OK|", "1"},
+    {"radio, no number", cfun, "|+CFUN: |OK|", "!bad field fun"},
+    {"antenna", jant, "|+JANT: 1|OK|", "1"},
+    {"antenna, neither", jant, "|+JANT: 2|OK|", "!bad field antenna"},
+    {"attempts", attempts, "|+JPINPUK: 3,10|OK|", "3 10"},
+    {"attempts, one missing", attempts, "|+JPINPUK: 3|OK|", "!bad field puk"},
+    {"SIM ready", cpin, "|+CPIN: READY|OK|", "1"},
+    {"SIM wants PIN", cpin, "|^CPIN: SIM PIN|OK|", "2"},
+    {"SIM wants PUK", cpin, "|+CPIN:SIM PUK|OK|", "3"},
+    {"SIM wants PIN2 only", cpin, "|+CPIN: SIM PIN2|OK|", "1"},
+    {"SIM locked to a network", cpin, "|+CPIN: PH-NET PIN|OK|", "!bad field code"},
+    {"no SIM, words", cpin, "|+CME ERROR: SIM not inserted|", "6"},
+    {"no SIM, number", cpin, "|+CME ERROR: 10|", "6"},
+    {"SIM, other error", cpin, "|+CME ERROR: 100|", "!refused 100"},
+    {"model", identity, "+CGMM: AT+CGMM|EM7-W||OK|", "EM7-W"},
+    {"model behind its prefix", identity, "+CGMM: |+CGMM: \"EM7\"|OK|", "EM7"},
+    {"model that begins with AT", identity, "+CGMM: |ATLAS 3|OK|", "ATLAS 3"},
+    {"model beside reports", identity, "+CGMM: |STOPRING||^MODE: 5|EM7|OK|", "EM7"},
+    {"model with controls", identity, "+CGMM: |EM\0337\x7f|OK|", "EM7"},
+    {"model refused", identity, "+CGMM: |ERROR|", "!refused"},
+    {"model missing", identity, "+CGMM: |OK|", "!no line +CGMM:"},
+    {"subscriber", cimi, "|001010123456789|OK|", "001010123456789"},
+    {"subscriber, too long", cimi, "|0010101234567890|OK|", "!bad field IMSI"},
+    {"subscriber, no digits", cimi, "|ABCDEFGHIJ|OK|", "!bad field IMSI"},
+    {"SIM's number, odd", iccid, "|+CRSM: 144,0,\"980010102143658709F1\"|OK|", "8900010112345678901"},
+    {"SIM's number, no such file", iccid, "|+CRSM: 148,4|OK|", "!refused 148"},
+    {"SIM's number, cut", iccid, "|+CRSM: 144,0,9800|OK|", "!bad field ICCID"},
+    {"SIM's number, letters", iccid, "|+CRSM: 144,0,\"ABCDEABCDEABCDEABCDE\"|OK|", "!bad field ICCID"},
+    {"own number abroad", cnum, "|+CNUM: \"me, here\",\"12025550123\",145|OK|", "+12025550123"},
+    {"own number at home", cnum, "|+CNUM: ,\"0305550123\",129|OK|", "0305550123"},
+    {"own number, no number", cnum, "|+CNUM: \"\",\"call me\",129|OK|", "!bad field number"},
+    {"no own number", cnum, "|OK|", "!no line +CNUM:"},
+    {"phonebook", cpbr, "|+CPBR: (1-250),40,14|OK|", "250"},
+    {"phonebook from 0", cpbr, "|+CPBR: ( 0 - 249 ),40,14|OK|", "249"},
+    {"phonebook without end", cpbr, "|+CPBR: (1-99999999),40|OK|", "!bad field range"},
+    {"phonebook without range", cpbr, "|+CPBR: ()|OK|", "!bad field range"},
+};
+
+} // namespace
+
+class TestStatusParsers : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void forms_data()
+    {
+        QTest::addColumn<int>("index");
+        for (int i = 0; i < int(std::size(rows)); ++i)
+            QTest::newRow(rows[i].name) << i;
+    }
+    void forms()
+    {
+        QFETCH(int, index);
+        const Row &row = rows[index];
+        QCOMPARE(row.parser(QByteArray(row.reply).replace('|', "|\r\n").replace('|', QByteArrayView())),
+                 QLatin1StringView(row.value));
+    }
+};
+
+QTEST_APPLESS_MAIN(TestStatusParsers)
+#include "tst_statusparsers.moc"
