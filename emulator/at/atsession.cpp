@@ -33,6 +33,7 @@ void AtSession::work()
     while (!m_busy && !m_input.isEmpty()) {
         const QByteArray input = std::exchange(m_input, {});
         if (m_online) {
+            m_log.add(m_name, u"received"_s, input);
             m_escape.feed(input);
             return;
         }

@@ -63,6 +63,7 @@ void ControlServer::accept()
         connect(client, &QLocalSocket::readyRead, this, [this, client] { read(client); });
         connect(client, &QLocalSocket::disconnected, this, [this, client] {
             m_watchers.remove(client);
+            m_overlong.remove(client);
             client->deleteLater();
         });
         read(client);
@@ -71,11 +72,14 @@ void ControlServer::accept()
 
 void ControlServer::read(QLocalSocket *client)
 {
-    while (client->canReadLine())
-        sendLine(client, answer(client, client->readLine()));
+    while (client->canReadLine()) {
+        const QByteArray line = client->readLine();
+        const bool tooLong = m_overlong.remove(client) || line.size() > longestLine;
+        sendLine(client, tooLong ? refusal(u"the line is too long"_s) : answer(client, line));
+    }
     if (client->bytesAvailable() > longestLine) {
-        sendLine(client, refusal(u"the line is too long"_s));
-        client->disconnectFromServer();
+        client->skip(client->bytesAvailable());
+        m_overlong.insert(client);
     }
 }
 

@@ -24,7 +24,7 @@ public:
     /// Complains when another card answers on this socket; one that was left behind is replaced.
     QString listen(const QString &path);
 
-    /// A client that sends more than this without a line end is cut off.
+    /// A longer line is skipped, and that is answered when it ends.
     static constexpr qint64 longestLine = 1 << 20;
 
 private:
@@ -36,6 +36,7 @@ private:
     EmulatedCard &m_card;
     QLocalServer m_server;
     QSet<QLocalSocket *> m_watchers;
+    QSet<QLocalSocket *> m_overlong; ///< what they send up to the next line end is skipped
 };
 
 } // namespace cardemu

@@ -39,6 +39,12 @@ bool OpenWatch::isOpen()
     return m_blind || m_opens > 0;
 }
 
+bool OpenWatch::takeLeft()
+{
+    read();
+    return std::exchange(m_left, false);
+}
+
 void OpenWatch::read()
 {
     alignas(inotify_event) std::array<char, 4096> buffer{};
@@ -51,6 +57,7 @@ void OpenWatch::read()
             std::memcpy(&event, buffer.data() + at, sizeof event);
             m_opens += (event.mask & IN_OPEN) != 0 ? 1 : 0;
             m_opens -= (event.mask & IN_CLOSE) != 0 ? 1 : 0;
+            m_left = m_left || m_opens == 0;
             m_blind = m_blind || (event.mask & IN_Q_OVERFLOW) != 0;
             at += static_cast<ssize_t>(sizeof event + event.len);
         }

@@ -13,7 +13,7 @@ namespace cardemu
 class OpenWatch
 {
 public:
-    /// `changed` is called when reports came in; it is for the caller to look at isOpen().
+    /// `changed` is called when reports came in; it is for the caller to look at what they say.
     OpenWatch(const QString &path, std::function<void()> changed);
     ~OpenWatch();
     OpenWatch(const OpenWatch &) = delete;
@@ -21,6 +21,8 @@ public:
 
     /// As of now: reports that wait are read first. True where the kernel does not tell.
     bool isOpen();
+    /// True once after the last client left, also when another one has come since.
+    bool takeLeft();
 
 private:
     void read();
@@ -28,6 +30,7 @@ private:
     int m_descriptor = -1;
     bool m_blind = false; ///< reports were lost, or there are none
     int m_opens = 0;
+    bool m_left = false;
     std::unique_ptr<QSocketNotifier> m_notifier;
 };
 

@@ -98,12 +98,14 @@ void PtyPort::close()
     m_link.clear();
     m_device.clear();
     m_unwritten.clear();
-    m_hadClient = false;
 }
 
 void PtyPort::write(const QByteArray &bytes)
 {
-    if (m_master < 0 || !m_watch->isOpen())
+    if (m_master < 0)
+        return;
+    clientsChanged();
+    if (!m_watch->isOpen())
         return;
     m_unwritten += bytes;
     flush();
@@ -117,6 +119,7 @@ void PtyPort::setReading(bool reading)
 
 void PtyPort::read()
 {
+    clientsChanged();
     std::array<char, 4096> buffer{};
     const ssize_t size = ::read(m_master, buffer.data(), buffer.size());
     if (size > 0)
@@ -137,16 +140,16 @@ void PtyPort::flush()
         Q_EMIT flushed();
 }
 
+// A client may be gone and the next one there already: nothing that was meant for the first may reach the
+// second.
 void PtyPort::clientsChanged()
 {
-    const bool hasClient = m_watch->isOpen();
-    if (m_hadClient && !hasClient) {
-        m_unwritten.clear();
-        m_writable->setEnabled(false);
-        tcflush(m_slave, TCIFLUSH);
-        Q_EMIT clientLeft();
-    }
-    m_hadClient = hasClient;
+    if (!m_watch->takeLeft())
+        return;
+    m_unwritten.clear();
+    m_writable->setEnabled(false);
+    tcflush(m_slave, TCIFLUSH);
+    Q_EMIT clientLeft();
 }
 
 } // namespace cardemu

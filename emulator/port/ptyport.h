@@ -53,7 +53,6 @@ private:
     QString m_link;
     QString m_device;
     QByteArray m_unwritten;
-    bool m_hadClient = false;
     std::unique_ptr<OpenWatch> m_watch;
     std::unique_ptr<QSocketNotifier> m_readable;
     std::unique_ptr<QSocketNotifier> m_writable;

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cardthread.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QTemporaryDir>
+#include <QTest>
+#include <array>
+#include <fcntl.h>
+#include <poll.h>
+#include <stdexcept>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+/// A client of the card's ports with nothing between it and the bytes.
+class TestPort
+{
+public:
+    explicit TestPort(const QString &path)
+        : m_descriptor(
+              ::open(QFile::encodeName(path).constData(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))
+    {
+        if (m_descriptor < 0)
+            throw std::runtime_error("cannot open " + path.toStdString());
+    }
+    ~TestPort() { ::close(m_descriptor); }
+    TestPort(const TestPort &) = delete;
+    TestPort &operator=(const TestPort &) = delete;
+
+    bool write(const QByteArray &bytes)
+    {
+        return ::write(m_descriptor, bytes.data(), size_t(bytes.size())) == bytes.size();
+    }
+
+    /// What comes up to and with `end`; what came so far when nothing more comes for `patience` ms.
+    QByteArray readUntil(const QByteArray &end, int patience = 5000)
+    {
+        QByteArray text;
+        while (!text.endsWith(end) && waitForBytes(patience)) {
+            std::array<char, 1> byte{};
+            if (::read(m_descriptor, byte.data(), 1) != 1)
+                break;
+            text += byte[0];
+        }
+        return text;
+    }
+    /// How many bytes come up to `most`, or until nothing more comes.
+    qsizetype count(qsizetype most)
+    {
+        qsizetype size = 0;
+        std::array<char, 4096> chunk{};
+        while (size < most && waitForBytes(5000)) {
+            const ssize_t got = ::read(m_descriptor, chunk.data(), chunk.size());
+            if (got <= 0)
+                break;
+            size += got;
+        }
+        return size;
+    }
+    QByteArray exchange(const QByteArray &line, const QByteArray &end)
+    {
+        write(line);
+        return readUntil(end);
+    }
+    bool waitForBytes(int patience)
+    {
+        pollfd descriptor{m_descriptor, POLLIN, 0};
+        return ::poll(&descriptor, 1, patience) == 1;
+    }
+    /// True once the port has hung up: reads come to the end of file.
+    bool isAtEnd()
+    {
+        pollfd descriptor{m_descriptor, POLLIN, 0};
+        ::poll(&descriptor, 1, 5000);
+        std::array<char, 1> byte{};
+        return (descriptor.revents & POLLHUP) != 0 && ::read(m_descriptor, byte.data(), 1) <= 0;
+    }
+    int descriptor() const { return m_descriptor; }
+
+private:
+    int m_descriptor;
+};
+
+/// A card in a folder of its own.
+class TestCard
+{
+public:
+    explicit TestCard(const cardemu::Profile &profile) : m_card(profile)
+    {
+        if (const QString complaint = m_card.start(m_folder.path()); !complaint.isEmpty())
+            throw std::runtime_error(complaint.toStdString());
+    }
+    explicit TestCard(const QString &builtIn = u"wcdma"_s)
+        : TestCard(std::get<cardemu::Profile>(cardemu::Profile::builtIn(builtIn)))
+    {
+    }
+
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+    QJsonObject control(const QByteArray &json) { return m_card.control(json); }
+    /// True when the card did what it was told.
+    bool tell(const QByteArray &json)
+    {
+        const QJsonObject answer = control(json);
+        if (!answer[u"ok"_s].toBool())
+            qWarning("%s: %s", json.constData(), qPrintable(answer[u"error"_s].toString()));
+        return answer[u"ok"_s].toBool();
+    }
+    /// Waits until the card has taken in `text`, as its log shows it, or has answered.
+    bool hears(const QString &text)
+    {
+        return QTest::qWaitFor([&] {
+            for (const QJsonValue entry : control(R"({"command": "log", "last": 2})")[u"log"_s].toArray()) {
+                if (entry[u"received"_s].toString() == text)
+                    return true;
+            }
+            return false;
+        });
+    }
+    /// Moves the card's time on.
+    bool advance(int ms)
+    {
+        return tell("{\"command\": \"clock\", \"advance\": " + QByteArray::number(ms) + '}');
+    }
+
+    /// Everything the card has sent on the AT port until now, read by marking its end.
+    QByteArray pending(TestPort &port)
+    {
+        tell(R"({"command": "raw", "text": "<mark>"})");
+        QByteArray text = port.readUntil("<mark>");
+        text.chop(6);
+        return text;
+    }
+
+private:
+    QTemporaryDir m_folder;
+    cardemu::CardThread m_card;
+};
