@@ -42,13 +42,9 @@ private:
         case QXmlStreamReader::EndElement: return leave();
         case QXmlStreamReader::Characters: return addText();
         case QXmlStreamReader::Comment:
-            m_place.appendChild(m_document.createComment(m_reader.text().toString()));
+            m_place.appendChild(m_document.createComment(xmlText(m_reader.text().toString())));
             return;
-        case QXmlStreamReader::ProcessingInstruction:
-            m_place.appendChild(
-                m_document.createProcessingInstruction(m_reader.processingInstructionTarget().toString(),
-                                                       m_reader.processingInstructionData().toString()));
-            return;
+        case QXmlStreamReader::ProcessingInstruction: return addInstruction();
         default: return;
         }
     }
@@ -59,7 +55,7 @@ private:
             return m_reader.raiseError(u"elements are nested too deeply"_s);
         QDomElement element = m_document.createElement(m_reader.qualifiedName().toString());
         for (const QXmlStreamAttribute &attribute : m_reader.attributes())
-            element.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
+            element.setAttribute(attribute.qualifiedName().toString(), xmlText(attribute.value().toString()));
         m_place = m_place.appendChild(element);
     }
 
@@ -69,13 +65,23 @@ private:
         m_place = m_place.parentNode();
     }
 
+    /// The reader lets names pass that it refuses when they are written out again.
+    void addInstruction()
+    {
+        const QString name = m_reader.processingInstructionTarget().toString();
+        const QString data = m_reader.processingInstructionData().toString();
+        if (!isXmlName(name))
+            return m_reader.raiseError(u"an instruction has no proper name"_s);
+        m_place.appendChild(m_document.createProcessingInstruction(name, xmlText(data)));
+    }
+
     void addText()
     {
         if (m_depth == 0 || (m_depth < keyDepth && m_reader.isWhitespace()))
             return;
         // Text that strays between sections and keys must not grow with each indenting.
         const QString text =
-            m_depth < keyDepth ? m_reader.text().trimmed().toString() : m_reader.text().toString();
+            xmlText((m_depth < keyDepth ? m_reader.text().trimmed() : m_reader.text()).toString());
         m_place.appendChild(m_reader.isCDATA() ? m_document.createCDATASection(text)
                                                : m_document.createTextNode(text));
     }
