@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr qint64 largestFile = 4 * 1024 * 1024;
+constexpr qint64 largestFile = 4'194'304;
 
 QString configPath()
 {
@@ -103,7 +103,7 @@ QString CommonCfg::getValue(const QString &section, const QString &key) const
     if (cache && !cache->isEmpty())
         return *cache;
     const auto keys = m_values.constFind(section);
-    const QString value = keys == m_values.cend() ? QString() : keys->value(key);
+    QString value = keys == m_values.cend() ? QString() : keys->value(key);
     if (cache)
         *cache = value;
     return value;

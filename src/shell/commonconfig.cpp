@@ -17,7 +17,7 @@ CommonConfig comcfg;
 namespace
 {
 
-constexpr qint64 largestFile = 64 * 1024;
+constexpr qint64 largestFile = 65'536;
 constexpr auto notSet = "null"_L1;
 
 struct Number {

@@ -17,6 +17,12 @@ QBuffer buf;
 namespace
 {
 
+#ifdef CORVA_DEBUG_LOG
+constexpr bool isBuiltIn = true;
+#else
+constexpr bool isBuiltIn = false;
+#endif
+
 QMutex &bufferLock()
 {
     static QMutex mutex;
@@ -29,6 +35,13 @@ void appendToBuffer(const QString &message)
     if (!buf.isOpen() && !buf.open(QIODevice::WriteOnly | QIODevice::Append))
         return;
     buf.write(message.toUtf8() + "\r\n");
+}
+
+/// A copy, so that other threads can go on while it is written.
+QByteArray collected()
+{
+    const QMutexLocker locker(&bufferLock());
+    return buf.data();
 }
 
 } // namespace
@@ -46,26 +59,21 @@ void myMessageOutput(QtMsgType type, const QMessageLogContext & /*context*/, con
 
 void outputLog2File()
 {
-    QMutexLocker locker(&bufferLock());
-    const QByteArray content = buf.data();
-    locker.unlock();
     QString error;
-    if (!corva::writeFileSafely(basePath + u"/Data/debug.log"_s, content, &error))
+    if (!corva::writeFileSafely(basePath + u"/Data/debug.log"_s, collected(), &error))
         std::fprintf(stderr, "%s\n", qUtf8Printable(error));
 }
 
-#ifdef CORVA_DEBUG_LOG
 corva::DebugLog::DebugLog()
 {
-    qInstallMessageHandler(myMessageOutput);
+    if constexpr (isBuiltIn)
+        qInstallMessageHandler(myMessageOutput);
 }
 
 corva::DebugLog::~DebugLog()
 {
-    outputLog2File();
-    qInstallMessageHandler(nullptr);
+    if constexpr (isBuiltIn) {
+        outputLog2File();
+        qInstallMessageHandler(nullptr);
+    }
 }
-#else
-corva::DebugLog::DebugLog() = default;
-corva::DebugLog::~DebugLog() = default;
-#endif

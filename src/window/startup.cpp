@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QTranslator>
 #include <QWidget>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -48,13 +49,20 @@ QString chosenLanguage()
     return language;
 }
 
+/// Hands the translator to the application, for its life.
+void install(std::unique_ptr<QTranslator> translator)
+{
+    QCoreApplication::installTranslator(translator.get());
+    translator.release()->setParent(qApp);
+}
+
 /// The texts of the toolkit's own buttons and dialogs.
 void installToolkitTranslation(const QString &languageCode)
 {
-    auto *translator = new QTranslator(qApp);
+    auto translator = std::make_unique<QTranslator>();
     if (!languageCode.isEmpty() &&
         translator->load(u"qtbase_"_s + languageCode, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(translator);
+        install(std::move(translator));
 }
 
 Qt::LayoutDirection layoutDirection()
@@ -76,11 +84,11 @@ void installDefaultFont()
 
 void installTranslation()
 {
-    auto *translator = new QTranslator(qApp);
+    auto translator = std::make_unique<QTranslator>();
     const QString folder = QDir::currentPath() + u"/Language"_s;
     if (translator->load(chosenLanguage() + u".qm"_s, folder))
         installToolkitTranslation(translator->language());
-    QCoreApplication::installTranslator(translator);
+    install(std::move(translator));
     QApplication::setLayoutDirection(layoutDirection());
 }
 

@@ -234,7 +234,7 @@ private Q_SLOTS:
             << QByteArray("<!DOCTYPE r [<!ENTITY a \"0123456789\"><!ENTITY b \"") +
                    QByteArray("&a;").repeated(50) + "\"><!ENTITY c \"" + QByteArray("&b;").repeated(50) +
                    "\">]><r><s><k>&c;</k></s></r>";
-        QTest::newRow("too large") << document("<s><k>" + QByteArray(5 * 1024 * 1024, 'x') + "</k></s>");
+        QTest::newRow("too large") << document("<s><k>" + QByteArray(5'000'000, 'x') + "</k></s>");
     }
 
     void brokenFileIsKept()
