@@ -17,7 +17,7 @@ namespace corva
 namespace
 {
 
-constexpr qint64 maximumFileSize = 1024 * 1024; // thousands of cards; a larger file is a mistake
+constexpr qint64 maximumFileSize = 1'048'576; // 1 MiB: thousands of cards; a larger file is a mistake
 constexpr qsizetype maximumWarnings = 50;       // enough to mend a file by
 constexpr qsizetype maximumNameLength = 64;
 

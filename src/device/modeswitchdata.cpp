@@ -19,7 +19,7 @@ namespace corva
 namespace
 {
 
-constexpr qint64 maximumConfigSize = 16 * 1024; // they have a few hundred bytes
+constexpr qint64 maximumConfigSize = 16'384; // they have a few hundred bytes
 constexpr int maximumPackEntries = 10000;
 
 struct ArchiveDeleter {
@@ -78,7 +78,7 @@ void searchPack(const QString &path, UsbId id, const StickTexts &texts, Best &be
     const std::unique_ptr<archive, ArchiveDeleter> pack(archive_read_new());
     archive_read_support_filter_gzip(pack.get());
     archive_read_support_format_tar(pack.get());
-    if (archive_read_open_filename(pack.get(), QFile::encodeName(path).constData(), 16 * 1024) != ARCHIVE_OK)
+    if (archive_read_open_filename(pack.get(), QFile::encodeName(path).constData(), maximumConfigSize) != ARCHIVE_OK)
         return;
     archive_entry *entry = nullptr;
     for (int i = 0; i < maximumPackEntries && archive_read_next_header(pack.get(), &entry) == ARCHIVE_OK;

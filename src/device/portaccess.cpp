@@ -18,7 +18,7 @@ namespace corva
 namespace
 {
 
-constexpr size_t entryBufferSize = 64 * 1024; // groups with thousands of members
+constexpr size_t entryBufferSize = 65'536; // groups with thousands of members
 
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(PortAccess)
