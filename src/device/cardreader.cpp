@@ -181,15 +181,19 @@ void CardReader::readService()
 void CardReader::readOperator()
 {
     const QByteArray reply = ask(&SerialThread::get_COPS_Res_Str);
-    if (!m_isSilent) {
-        const OperatorSelection selection = parseOperator(reply).valueOr({});
-        m_state.operatorName = selection.name;
+    if (m_isSilent)
+        return;
+    const OperatorSelection selection = parseOperator(reply).valueOr({});
+    if (selection.name.isEmpty() || selection.name != m_state.operatorName)
         m_state.operatorCode = selection.code;
-        if (m_state.networkType == NetworkType::Unknown)
-            m_state.networkType = selection.networkType;
-        const int level = m_link.getOnlineStatus();
-        m_state.functionality = level >= 0 ? std::optional(level) : std::nullopt;
-    }
+    m_state.operatorName = selection.name;
+    // The code costs three commands: it is asked for once per operator.
+    if (!selection.name.isEmpty() && m_state.operatorCode.isEmpty())
+        m_state.operatorCode = QString::fromLatin1(ask(&SerialThread::getOperatorCode));
+    if (m_state.networkType == NetworkType::Unknown)
+        m_state.networkType = selection.networkType;
+    const int level = m_link.getOnlineStatus();
+    m_state.functionality = level >= 0 ? std::optional(level) : std::nullopt;
 }
 
 void CardReader::settle()

@@ -152,6 +152,8 @@ public:
     int get_COPS_Res_Str(char *text);
     /// The text behind "+COPS:".
     int getCOPS(char *text);
+    /// The operator's MCC and MNC, digits. Switches to the numeric form and back to the long name.
+    int getOperatorCode(char *text);
     int get_JTIME_Res_Str(char *text);
     int getJPCB(char *text);
     /// Raw replies of "AT+CREG?" and "AT+CGREG?".

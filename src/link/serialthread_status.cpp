@@ -159,6 +159,18 @@ int SerialThread::getCOPS(char *text)
     return at < 0 ? -1 : 1;
 }
 
+int SerialThread::getOperatorCode(char *text)
+{
+    text[0] = '\0';
+    transact("AT+COPS=3,2\r\n", 1s);
+    const auto selection = corva::parseOperator(transact("AT+COPS?\r\n", 1s).value_or(QByteArray()));
+    transact("AT+COPS=3,0\r\n", 1s);
+    if (!selection)
+        return selection.error().kind == corva::ReplyError::Refused ? 0 : -1;
+    copyText(text, selection->code.toLatin1());
+    return 1;
+}
+
 int SerialThread::get_JTIME_Res_Str(char *text)
 {
     return rawText("AT+JTIME?\r\n", text, 1s, false);

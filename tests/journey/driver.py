@@ -38,7 +38,7 @@ class Card:
         command = [APP / "cardemu", "--dir", folder]
         if profile:
             command += ["--profile", pathlib.Path(os.environ["CORVA_SOURCE"]) / "emulator/profiles" / profile]
-        self.process = subprocess.Popen(command)
+        self.process = subprocess.Popen(command, stdout=subprocess.DEVNULL)
         wait_for("the card's port", lambda: (folder / "at").exists())
 
     def say(self, *words):
@@ -72,9 +72,9 @@ class Program:
 
     def start(self, *arguments):
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_ACCESSIBILITY="1")
-        self.log = open(self.folder / "output.txt", "ab")
-        self.process = subprocess.Popen([self.folder / "corva", *arguments], cwd=self.folder, env=environment,
-                                        stdout=self.log, stderr=self.log)
+        with open(self.folder / "output.txt", "ab") as log:
+            self.process = subprocess.Popen([self.folder / "corva", *arguments], cwd=self.folder, env=environment,
+                                            stdout=log, stderr=log)
         return self
 
     def end(self):

@@ -44,7 +44,7 @@ class CardState(unittest.TestCase):
             program.start()
             program.wait_text("Test Network")
             program.picture("card")
-            for words, shown in ((("operator", "Another Network"), "Another Network"),
+            for words, shown in ((("operator", "00102", "long=Another Network"), "Another Network"),
                                  (("roaming", "on"), "Roaming")):
                 card.say(*words)
                 program.wait_text(shown)
@@ -69,7 +69,7 @@ class CardState(unittest.TestCase):
         with desk(call__enable="1") as (card, program):
             program.start()
             program.wait_text("Test Network")
-            card.say("ring", "+12025550199")
+            card.say("ring", "number=+12025550199")
             program.wait_text("Incoming call")
 
 
@@ -82,7 +82,7 @@ class Mending(unittest.TestCase):
             program.type("9999")
             program.keys("Return")
             program.wait_text("The PIN is wrong.")
-            pin = json.loads(card.say("show"))["sim"]["pin"]
+            pin = json.loads(card.say("show"))["state"]["sim"]["pin"]
             program.keys("ctrl+a")
             program.type(str(pin))
             program.keys("Return")
