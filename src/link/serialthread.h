@@ -180,7 +180,7 @@ public:
     int setErrorReporting(int mode);
     /// "AT+CREG=<n>" or "AT+CGREG=<n>": 2 adds the cell to the registration.
     int setRegistrationReporting(const char *name, int n);
-    /// 1 when the card is registered on a 3G network by "AT^SYSINFO", 0 when it is not, -1 unknown.
+    /// 1 when the card is on a WCDMA network by "AT^SYSINFO", 0 when it is not, -1 unknown.
     int isWcdmaNetwork();
     /// 1 when the card knows the maker's version command, 0 when it refuses it, -1 without an answer.
     int isNewPlatform();
