@@ -66,6 +66,7 @@ void Card::powerUp()
 {
     m_ringing.stop();
     m_registering.stop();
+    speak();
     m_state.sim.verified = false;
     m_state.call = {};
     m_state.radio.functionality = m_functionalityAtPowerUp;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The SIM: 3GPP TS 27.007 5.6, 7.1, 7.4, 7.5, 8.3 and 8.18; its files: 3GPP TS 31.102 4.2, TS 51.011 10.
+// The SIM: 3GPP TS 27.007 5.6, 7.1, 7.4, 7.5, 8.3, 8.17 and 8.18; its files: 3GPP TS 31.102 4.2,
+// TS 51.011 10.
 #include "at/commandtable.h"
 #include "at/errors.h"
 #include "at/replies.h"
@@ -169,6 +170,40 @@ Answer attempts(const Request &request)
     return ok("+JPINPUK: " + QByteArray::number(sim.pinAttempts) + ',' + QByteArray::number(sim.pukAttempts));
 }
 
+struct AttemptsQuery {
+    const char *apdu;
+    int Sim::*attempts;
+};
+
+// VERIFY and UNBLOCK without a secret only ask for the attempts left. 3GPP TS 31.101 11.1.9, 11.1.13.
+constexpr std::array attemptsQueries = {
+    AttemptsQuery{"0020000100", &Sim::pinAttempts},
+    AttemptsQuery{"002C000100", &Sim::pukAttempts},
+};
+
+// Status words: 63CX for X attempts left, 6983 for none, 6D00 for what this SIM does not know.
+QByteArray statusWord(const Sim &sim, const QByteArray &apdu)
+{
+    for (const AttemptsQuery &query : attemptsQueries) {
+        if (apdu.toUpper() != query.apdu)
+            continue;
+        const int left = sim.*query.attempts;
+        return left == 0 ? "6983" : "63C" + QByteArray::number(left, 16).toUpper();
+    }
+    return "6D00";
+}
+
+Answer genericAccess(const Request &request)
+{
+    const Sim &sim = request.state().sim;
+    const QByteArray apdu = request.arguments().text(1);
+    if (sim.condition != SimCondition::Ready)
+        return cmeError(*request.card.simError());
+    if (apdu.isEmpty() || request.arguments().number(0) != apdu.size())
+        return cmeError(cme::incorrectParameters);
+    return ok("+CSIM: 4,\"" + statusWord(sim, apdu) + '"');
+}
+
 Answer isUsim(const Request &request)
 {
     const Sim &sim = request.state().sim;
@@ -184,6 +219,7 @@ constexpr std::array table = {
     CommandRow{"^ICCID", Form::Read, everyFamily, Needs::Sim, iccid},
     CommandRow{"+CNUM", Form::Exec, everyFamily, Needs::Sim, ownNumber},
     CommandRow{"+CRSM", Form::Set, everyFamily, Needs::Sim, restrictedAccess},
+    CommandRow{"+CSIM", Form::Set, gsmLike, Needs::Nothing, genericAccess},
     CommandRow{"+CPIN", Form::Read, gsmLike, Needs::Nothing, readPin},
     CommandRow{"+CPIN", Form::Set, gsmLike, Needs::Nothing, givePin},
     CommandRow{"^CPIN", Form::Read, everyFamily, Needs::Nothing, readPin},

@@ -65,6 +65,8 @@ void TestEmulatorCard::threeWrongPinsAskForThePuk()
     QCOMPARE(talk.ask("AT+CPIN=\"12\""), "+CME ERROR: Incorrect parameters");
     QCOMPARE(talk.ask("AT+CPIN=\"1111\""), "+CME ERROR: incorrect password");
     QCOMPARE(talk.ask("AT+JPINPUK=?"), "+JPINPUK: 2,10|OK");
+    QCOMPARE(talk.ask("AT+CSIM=10,\"0020000100\";+CSIM=10,\"002C000100\""),
+             "+CSIM: 4,\"63C2\"|+CSIM: 4,\"63CA\"|OK");
     QCOMPARE(talk.ask("AT+CPIN=\"1111\""), "+CME ERROR: incorrect password");
     QCOMPARE(talk.ask("AT+CPIN=\"1111\""), "+CME ERROR: SIM PUK required");
     QCOMPARE(talk.ask("AT+CPIN?"), "+CPIN: SIM PUK|OK");
