@@ -42,6 +42,8 @@ CSetting::CSetting(const PageInfo &info, std::vector<SettingsEntry> groups, QWid
 
     auto *columns = new QHBoxLayout;
     columns->setSpacing(metrics::GroupGap);
+    // The groups keep that much room for the focus ring of what stands at their edges.
+    columns->setContentsMargins(-metrics::HalfGrid, 0, -metrics::HalfGrid, 0);
     columns->addWidget(m_list);
     columns->addWidget(m_stack, 1);
     body()->addLayout(columns, 1);

@@ -42,7 +42,7 @@ QWidget *captioned(const QString &caption, QWidget *control, QWidget *parent)
     control->setAccessibleName(QString(caption).remove(u'&'));
     control->setMinimumWidth(choiceWidth);
     auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(metrics::HalfGrid, 0, 0, 0);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(name);
     layout->addWidget(control);
     layout->addStretch(1);
@@ -54,7 +54,7 @@ QWidget *captioned(const QString &caption, QWidget *control, QWidget *parent)
 GeneralPage::GeneralPage(QWidget *parent) : SettingsPage(parent)
 {
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, metrics::Grid, metrics::Grid);
+    layout->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, metrics::Grid);
     layout->setSpacing(metrics::RowGap);
     if (cmcfg.getNumber(u"function"_s, u"lansetting_enabled"_s) == 1) {
         layout->addWidget(new SectionHeader(tr("Language"), this));
@@ -66,9 +66,11 @@ GeneralPage::GeneralPage(QWidget *parent) : SettingsPage(parent)
     layout->addSpacing(2 * metrics::Grid);
     layout->addWidget(new SectionHeader(tr("Beside other programs"), this));
     layout->addWidget(
-        buildSwitch(tr("&Keep running in the tray when the window is closed"), u"close_to_tray"_s));
+        buildSwitch(tr("&Keep running in the tray when the window is closed"), u"close_to_tray"_s), 0,
+        Qt::AlignLeading);
     layout->addWidget(
-        buildSwitch(tr("&Notify about calls and messages on the desktop"), u"notifications_enabled"_s));
+        buildSwitch(tr("&Notify about calls and messages on the desktop"), u"notifications_enabled"_s), 0,
+        Qt::AlignLeading);
     layout->addStretch(1);
 }
 

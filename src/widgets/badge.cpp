@@ -9,7 +9,7 @@ namespace corva
 Badge::Badge(QWidget *parent) : TextLabel(TextRole::Caption, parent)
 {
     setContentsMargins(6, 2, 6, 2);
-    setAlignment(Qt::AlignCenter);
+    setPlace(Qt::AlignCenter);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     hide();
 }

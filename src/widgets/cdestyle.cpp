@@ -234,7 +234,10 @@ QRect CdeStyle::subControlRect(ComplexControl control, const QStyleOptionComplex
     const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
     if (control == CC_ScrollBar && slider)
         return scrollBarPart(*slider, subControl);
-    return QProxyStyle::subControlRect(control, option, subControl, widget);
+    const QRect rect = QProxyStyle::subControlRect(control, option, subControl, widget);
+    if (control == CC_ComboBox && subControl == SC_ComboBoxEditField)
+        return rect.adjusted(metrics::HalfGrid, 0, -metrics::HalfGrid, 0);
+    return rect;
 }
 
 QSize CdeStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
@@ -245,7 +248,7 @@ QSize CdeStyle::sizeFromContents(ContentsType type, const QStyleOption *option, 
     switch (type) {
     case CT_PushButton:
         return {qMax(size.width() + 2 * metrics::Grid + metrics::Grid, controlHeight), controlHeight};
-    case CT_ComboBox: return {result.width() + metrics::Grid, controlHeight};
+    case CT_ComboBox: return {result.width() + 2 * metrics::Grid, controlHeight};
     case CT_LineEdit: return {result.width(), controlHeight};
     case CT_ItemViewItem: return {result.width() + metrics::Grid, qMax(metrics::RowHeight, result.height())};
     case CT_MenuItem: {

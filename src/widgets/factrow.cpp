@@ -15,29 +15,40 @@ namespace corva
 {
 
 FactRow::FactRow(const QString &id, const QString &caption, Copy copy, QWidget *parent)
-    : QWidget(parent), m_caption(caption), m_value(new ElidedLabel(TextRole::Text, this))
+    : QWidget(parent), m_caption(caption), m_name(new TextLabel(caption, TextRole::Text, this)),
+      m_value(new ElidedLabel(TextRole::Text, this))
 {
-    auto *name = new TextLabel(caption, TextRole::Text, this);
-    name->setMuted(true);
+    m_name->setMuted(true);
     m_value->setObjectName(id + u"Value"_s);
     m_value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_value->setFocusPolicy(Qt::NoFocus);
 
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(name, 2);
-    layout->addWidget(m_value, 3);
+    layout->setSpacing(metrics::Grid);
+    layout->addWidget(m_name);
+    layout->addSpacing(metrics::Grid);
+    layout->addWidget(m_value, 1);
     if (copy == Copy::Yes) {
         m_copy = new IconButton(u"copy"_s, tr("Copy %1").arg(caption), this, SkinRole::MutedText);
         m_copy->setObjectName(id + u"Copy"_s);
         connect(m_copy, &QToolButton::clicked, this,
                 [this] { QGuiApplication::clipboard()->setText(m_known); });
         layout->addWidget(m_copy);
-    } else {
-        layout->addSpacing(metrics::ControlHeight + metrics::Grid);
+    } else if (copy == Copy::Room) {
+        layout->addSpacing(metrics::ControlHeight);
     }
     setMinimumHeight(metrics::RowHeight);
     setValue({});
+}
+
+void FactRow::alignValues(const std::vector<FactRow *> &rows)
+{
+    int widest = 0;
+    for (const FactRow *row : rows)
+        widest = qMax(widest, row->m_name->sizeHint().width());
+    for (const FactRow *row : rows)
+        row->m_name->setMinimumWidth(widest);
 }
 
 void FactRow::setValue(const QString &value)

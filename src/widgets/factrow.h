@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <vector>
 
 namespace corva
 {
@@ -17,10 +18,17 @@ class FactRow final : public QWidget
     Q_OBJECT
 
 public:
-    enum class Copy { No, Yes };
+    enum class Copy {
+        No,
+        Yes,
+        Room ///< no button, but its room: for columns where other rows have one
+    };
 
     /// `id` names the value label "<id>Value" and the button "<id>Copy".
     FactRow(const QString &id, const QString &caption, Copy copy, QWidget *parent = nullptr);
+
+    /// Gives the values of a group of rows one common left edge.
+    static void alignValues(const std::vector<FactRow *> &rows);
 
     void setValue(const QString &value);
     QString value() const { return m_known; }
@@ -30,6 +38,7 @@ public:
 private:
     QString m_caption;
     QString m_known;
+    TextLabel *m_name;
     ElidedLabel *m_value;
     IconButton *m_copy = nullptr;
 };

@@ -14,6 +14,7 @@ namespace
 constexpr int barCount = 5;
 constexpr qreal grid = 24;
 constexpr qreal barStroke = 2.25;
+constexpr qreal crossStroke = 1.75;
 
 void paintBars(QPainter &painter, int level, const QColor &on, const QColor &off)
 {
@@ -38,9 +39,8 @@ void paintSignalBars(QPainter &painter, const QRectF &rect, std::optional<int> l
     painter.scale(rect.width() / grid, rect.height() / grid);
     paintBars(painter, level.value_or(0), on, off);
     if (!level) {
-        painter.setPen(QPen(on, barStroke, Qt::SolidLine, Qt::RoundCap));
-        painter.drawLine(QPointF(4, 4), QPointF(11, 11));
-        painter.drawLine(QPointF(11, 4), QPointF(4, 11));
+        painter.setPen(QPen(on, crossStroke, Qt::SolidLine, Qt::RoundCap));
+        painter.drawLine(QPointF(3.5, 3.5), QPointF(20.5, 20.5));
     }
     painter.restore();
 }

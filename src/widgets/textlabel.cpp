@@ -2,6 +2,7 @@
 #include "widgets/textlabel.h"
 
 #include <QEvent>
+#include <QStyle>
 
 using namespace Qt::StringLiterals;
 
@@ -12,6 +13,18 @@ TextLabel::TextLabel(const QString &text, TextRole role, QWidget *parent) : QLab
 {
     setTextFormat(Qt::PlainText);
     setFont(skinFont(role));
+    align();
+}
+
+void TextLabel::setPlace(Qt::Alignment place)
+{
+    m_place = place;
+    align();
+}
+
+void TextLabel::align()
+{
+    setAlignment(QStyle::visualAlignment(layoutDirection(), m_place) | Qt::AlignAbsolute);
 }
 
 void TextLabel::setMuted(bool muted)
@@ -22,13 +35,15 @@ void TextLabel::setMuted(bool muted)
 void TextLabel::changeEvent(QEvent *event)
 {
     QLabel::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange || event->type() == QEvent::ParentChange)
+        align();
     if (event->type() == QEvent::StyleChange && font() != skinFont(m_role))
         setFont(skinFont(m_role));
 }
 
 ElidedLabel::ElidedLabel(TextRole role, QWidget *parent) : TextLabel(role, parent)
 {
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 
 void ElidedLabel::setFullText(const QString &text)

@@ -19,12 +19,18 @@ public:
 
     /// Muted text stands behind the other: captions, explanations.
     void setMuted(bool muted);
+    /// Where the text stands in the label, in the layout's direction whatever script the text is in: a number
+    /// in a window that runs from right to left stands on the right.
+    void setPlace(Qt::Alignment place);
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void align();
+
     TextRole m_role;
+    Qt::Alignment m_place = Qt::AlignLeading | Qt::AlignVCenter;
 };
 
 /// A label for one line of unknown length: it gives way to its neighbours and ends in "…", with the whole

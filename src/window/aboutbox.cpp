@@ -60,6 +60,7 @@ AboutBox::AboutBox(const CardState &state, QWidget *parent) : QDialog(parent)
     addFact(u"imei"_s, tr("IMEI"), state.identity.imei);
     addFact(u"firmware"_s, tr("Firmware"), state.identity.firmware);
     addFact(u"internalVersion"_s, tr("Internal version"), state.identity.internalVersion);
+    FactRow::alignValues(m_rows);
     layout->addSpacing(metrics::GroupGap);
 
     auto *copyAll = new QPushButton(tr("&Copy all"), this);

@@ -32,7 +32,7 @@ QString roamingText(const CardState &state)
 {
     if (!state.roaming)
         return {};
-    return *state.roaming ? CardPage::tr("Yes, in another operator's network") : CardPage::tr("No");
+    return *state.roaming ? CardPage::tr("Yes") : CardPage::tr("No");
 }
 
 QString deviceText(const CardState &state)
@@ -64,14 +64,14 @@ const FactSpec factSpecs[] = {
     {0, CORVA_WORDS("Network"), "service", CORVA_WORDS("Service"), plain,
      [](const CardState &state) { return serviceText(state.service); }},
     {0, CORVA_WORDS("Network"), "roaming", CORVA_WORDS("Roaming"), plain, roamingText},
-    {0, CORVA_WORDS("Network"), "signal", CORVA_WORDS("Signal"), plain, signalText},
+    {0, CORVA_WORDS("Network"), "signal", CORVA_WORDS("Signal"), plain, signalWithBarsText},
     {0, CORVA_WORDS("Network"), "operatorCode", CORVA_WORDS("Network code"), plain,
      [](const CardState &state) { return state.operatorCode; }},
     {0, CORVA_WORDS("Network"), "area", CORVA_WORDS("Area"), plain,
      [](const CardState &state) { return number(state.locationArea); }},
     {0, CORVA_WORDS("Network"), "cell", CORVA_WORDS("Cell"), plain,
      [](const CardState &state) { return number(state.cellId); }},
-    {1, CORVA_WORDS("SIM card"), "sim", CORVA_WORDS("State"), plain,
+    {1, CORVA_WORDS("SIM card"), "sim", CORVA_WORDS("State"), FactRow::Copy::Room,
      [](const CardState &state) { return simText(state.sim); }},
     {1, CORVA_WORDS("SIM card"), "ownNumber", CORVA_WORDS("Phone number"), copied,
      [](const CardState &state) { return state.identity.ownNumber; }},
@@ -115,16 +115,16 @@ CardPage::CardPage(const PageInfo &info, const PageContext &context, QWidget *pa
 QWidget *CardPage::buildFacts()
 {
     auto *facts = new QWidget(this);
-    auto *columns = new QHBoxLayout;
-    columns->setSpacing(metrics::GroupGap + metrics::Grid);
-    columns->addWidget(buildColumn(0), 1);
-    columns->addWidget(buildColumn(1), 1);
+    m_columns = new QHBoxLayout;
+    m_columns->setSpacing(metrics::GroupGap + metrics::Grid);
+    m_columns->addWidget(buildColumn(0), 1);
+    m_columns->addWidget(buildColumn(1), 1);
 
     auto *layout = new QVBoxLayout(facts);
     layout->setContentsMargins(0, 0, metrics::HalfGrid, 0);
     layout->setSpacing(2 * metrics::Grid);
     layout->addWidget(m_hero);
-    layout->addLayout(columns);
+    layout->addLayout(m_columns);
     layout->addStretch(1);
 
     auto *scroll = new QScrollArea(this);
@@ -146,6 +146,7 @@ QWidget *CardPage::buildColumn(int column)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     const char *group = "";
+    std::vector<FactRow *> rows;
     for (const FactSpec &spec : factSpecs) {
         if (spec.column != column)
             continue;
@@ -157,8 +158,10 @@ QWidget *CardPage::buildColumn(int column)
         }
         auto *row = new FactRow(QString::fromLatin1(spec.id), tr(spec.caption), spec.copy, widget);
         m_rows.push_back(row);
+        rows.push_back(row);
         layout->addWidget(row);
     }
+    FactRow::alignValues(rows);
     layout->addStretch(1);
     return widget;
 }
@@ -177,6 +180,17 @@ void CardPage::takeState(const CardState &state)
         (hasCard ? m_hero : m_empty)->showProblem(*problem);
     m_stack->setCurrentIndex(hasCard ? 1 : 0);
     m_refresh->setVisible(hasCard);
+}
+
+void CardPage::resizeEvent(QResizeEvent *event)
+{
+    Page::resizeEvent(event);
+    // The longest caption, the twenty digits of a SIM card's number, and the button beside.
+    constexpr int charactersPerColumn = 34;
+    const int columnWidth = charactersPerColumn * fontMetrics().horizontalAdvance(u'0') +
+                            metrics::ControlHeight + metrics::GroupGap;
+    const bool isWide = width() >= 2 * (columnWidth + metrics::PageMargin);
+    m_columns->setDirection(isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
 void CardPage::refresh()

@@ -4,6 +4,7 @@
 #include "link/cardstate.h"
 #include "window/pageregistry.h"
 
+class QBoxLayout;
 class QPushButton;
 class QStackedWidget;
 
@@ -24,6 +25,9 @@ public:
 
     void refresh() override;
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     QWidget *buildFacts();
     QWidget *buildColumn(int column);
@@ -32,6 +36,7 @@ private:
     PageContext m_context;
     QPushButton *m_refresh;
     QStackedWidget *m_stack;
+    QBoxLayout *m_columns = nullptr;
     StateHero *m_empty;
     StateHero *m_hero;
     std::vector<FactRow *> m_rows; ///< in the order of the table of facts

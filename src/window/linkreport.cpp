@@ -25,16 +25,19 @@ ReportNotice incomingCall()
             text(QT_TRANSLATE_NOOP("Notices", "The card is ringing."))};
 }
 
+ReportNotice newMessage(const char *body)
+{
+    return {messageKey, text(QT_TRANSLATE_NOOP("Notices", "New message")), text(body)};
+}
+
 std::optional<ReportNotice> ringOrMessage(const QString &report)
 {
     if (report.contains("RING"_L1))
         return incomingCall();
     if (report.contains("+CMTI:"_L1))
-        return ReportNotice{messageKey, text(QT_TRANSLATE_NOOP("Notices", "New message")),
-                            text(QT_TRANSLATE_NOOP("Notices", "A new message has arrived on the card"))};
+        return newMessage(QT_TRANSLATE_NOOP("Notices", "A new message has arrived on the card"));
     if (report.contains("+CMT:"_L1))
-        return ReportNotice{messageKey, text(QT_TRANSLATE_NOOP("Notices", "New message")),
-                            text(QT_TRANSLATE_NOOP("Notices", "A new message has arrived"))};
+        return newMessage(QT_TRANSLATE_NOOP("Notices", "A new message has arrived"));
     return {};
 }
 
@@ -50,6 +53,8 @@ std::optional<ReportNotice> noticeFor(LinkReport report, const QString &reportTe
 {
     switch (report) {
     case LinkReport::RingOrMessage: return ringOrMessage(reportText);
+    case LinkReport::ImmediateMessage:
+        return newMessage(QT_TRANSLATE_NOOP("Notices", "An immediate message has arrived"));
     case LinkReport::CallWaiting:
         return ReportNotice{callKey, text(QT_TRANSLATE_NOOP("Notices", "Incoming call")),
                             text(QT_TRANSLATE_NOOP("Notices", "Another call is waiting."))};

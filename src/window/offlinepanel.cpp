@@ -56,7 +56,7 @@ DiagnosisRow::DiagnosisRow(DiagnosisStepId id, QWidget *parent)
     m_sentence->setObjectName(u"sentence"_s);
     m_mend->setObjectName(u"mend"_s);
     m_found->setMuted(true);
-    m_found->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    m_found->setPlace(Qt::AlignTrailing | Qt::AlignVCenter);
     m_found->setWordWrap(true);
     m_sentence->setWordWrap(true);
     setButtonKind(m_mend, ButtonKind::Primary);

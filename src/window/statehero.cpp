@@ -97,21 +97,26 @@ void StateHero::buildWide()
 
 void StateHero::buildCentred()
 {
-    m_headline->setAlignment(Qt::AlignCenter);
-    m_sentence->setAlignment(Qt::AlignCenter);
-    m_sentence->setFixedWidth(sentenceWidth);
-    m_headline->setFixedWidth(sentenceWidth);
-    auto *layout = new QVBoxLayout(this);
+    m_headline->setPlace(Qt::AlignCenter);
+    m_sentence->setPlace(Qt::AlignCenter);
+    auto *middle = new QVBoxLayout;
+    middle->setSpacing(metrics::Grid);
+    middle->addStretch(1);
+    middle->addWidget(m_picture, 0, Qt::AlignHCenter);
+    middle->addSpacing(metrics::Grid);
+    middle->addWidget(m_headline);
+    middle->addWidget(m_sentence);
+    middle->addSpacing(metrics::Grid);
+    middle->addWidget(m_mend, 0, Qt::AlignHCenter);
+    middle->addWidget(m_why, 0, Qt::AlignHCenter);
+    middle->addStretch(1);
+    m_sentence->setMinimumWidth(sentenceWidth);
+    m_sentence->setMaximumWidth(sentenceWidth);
+
+    auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, metrics::GroupGap);
-    layout->setSpacing(metrics::Grid);
     layout->addStretch(1);
-    layout->addWidget(m_picture, 0, Qt::AlignHCenter);
-    layout->addSpacing(metrics::Grid);
-    layout->addWidget(m_headline, 0, Qt::AlignHCenter);
-    layout->addWidget(m_sentence, 0, Qt::AlignHCenter);
-    layout->addSpacing(metrics::Grid);
-    layout->addWidget(m_mend, 0, Qt::AlignHCenter);
-    layout->addWidget(m_why, 0, Qt::AlignHCenter);
+    layout->addLayout(middle);
     layout->addStretch(1);
 }
 

@@ -118,9 +118,15 @@ QString signalText(const CardState &state)
 {
     if (!state.signalDbm)
         return {};
-    const QLocale locale;
-    return text(QT_TRANSLATE_NOOP("CardStatus", "%1 dBm, %2 of 5 bars"))
-        .arg(locale.toString(*state.signalDbm), locale.toString(state.signalBars()));
+    return text(QT_TRANSLATE_NOOP("CardStatus", "%1 dBm")).arg(QLocale().toString(*state.signalDbm));
+}
+
+QString signalWithBarsText(const CardState &state)
+{
+    if (!state.signalDbm)
+        return {};
+    return text(QT_TRANSLATE_NOOP("CardStatus", "%1, %2 of 5 bars"))
+        .arg(signalText(state), QLocale().toString(state.signalBars()));
 }
 
 bool isRegistered(const CardState &state)

@@ -26,8 +26,10 @@ QString simText(SimState sim);
 QString registrationText(Registration registration);
 QString serviceText(ServiceState service);
 
-/// "-73 dBm, 4 of 5 bars" in the person's locale; empty when no signal was measured.
+/// "-73 dBm" in the person's locale; empty when no signal was measured.
 QString signalText(const CardState &state);
+/// "-73 dBm, 4 of 5 bars".
+QString signalWithBarsText(const CardState &state);
 
 /// Whether a network took the card in.
 bool isRegistered(const CardState &state);

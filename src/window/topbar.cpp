@@ -44,10 +44,19 @@ QString connectionText(ConnectionState connection)
     return TopBar::tr("Not connected");
 }
 
+/// Hours and minutes as the person's locale writes them.
+QString clockText(QTime time)
+{
+    const QLocale locale;
+    QString format = locale.timeFormat(QLocale::ShortFormat);
+    format.remove(u":ss"_s);
+    return locale.toString(time, format);
+}
+
 } // namespace
 
 TopBar::TopBar(QMenu *menu, QWidget *parent)
-    : SkinAreaWidget(&CommonConfig::topBar, parent), m_menuButton(new QToolButton(this)),
+    : SkinAreaWidget(&CommonConfig::topBar, parent), m_menu(menu), m_menuButton(new QToolButton(this)),
       m_bars(new SignalBars(signalWidth(), this)), m_operator(new ElidedLabel(TextRole::Strong, this)),
       m_networkType(new Badge(this)), m_roaming(new Badge(this)),
       m_service(new ElidedLabel(TextRole::Text, this)), m_sim(new StatusChip(this)),
@@ -67,7 +76,7 @@ TopBar::TopBar(QMenu *menu, QWidget *parent)
     m_minimize->setName(tr("Minimise"), u"Ctrl+M"_s);
     m_close->setName(tr("Close"), u"Alt+F4"_s);
     m_service->setMuted(true);
-    build(menu);
+    build();
 
     connect(m_minimize, &QToolButton::clicked, this, &TopBar::sigMinimize);
     connect(m_close, &QToolButton::clicked, this, &TopBar::sigClose);
@@ -78,7 +87,7 @@ TopBar::TopBar(QMenu *menu, QWidget *parent)
     showTime();
 }
 
-void TopBar::build(QMenu *menu)
+void TopBar::build()
 {
     m_menuButton->setText(comcfg.softwareName);
     m_menuButton->setFont(skinFont(TextRole::Strong));
@@ -87,8 +96,7 @@ void TopBar::build(QMenu *menu)
     m_menuButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_menuButton->setAutoRaise(true);
     m_menuButton->setMinimumHeight(metrics::ControlHeight);
-    m_menuButton->setPopupMode(QToolButton::InstantPopup);
-    m_menuButton->setMenu(menu);
+    connect(m_menuButton, &QToolButton::clicked, this, &TopBar::openMenu);
     m_menuButton->setFocusPolicy(Qt::TabFocus);
     m_menuButton->setAccessibleName(tr("Menu of %1").arg(comcfg.softwareName));
     m_menuButton->setToolTip(tr("%1 (%2)").arg(tr("Menu"), u"F10"_s));
@@ -167,13 +175,16 @@ void TopBar::setConnection(ConnectionState connection)
 
 void TopBar::openMenu()
 {
-    m_menuButton->showMenu();
+    const QSize size = m_menuButton->size();
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    const int left = mirrored ? size.width() - m_menu->sizeHint().width() : 0;
+    m_menu->popup(m_menuButton->mapToGlobal(QPoint(left, size.height())));
 }
 
 void TopBar::showTime()
 {
     const QTime now = QTime::currentTime();
-    m_clock->setText(QLocale().toString(now, QLocale::ShortFormat));
+    m_clock->setText(clockText(now));
     m_clock->setAccessibleName(tr("Time: %1").arg(m_clock->text()));
     m_minute.start((60 - now.second()) * 1000);
 }

@@ -45,10 +45,11 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void build(QMenu *menu);
+    void build();
     void showSim(const CardState &state);
     void showTime();
 
+    QMenu *m_menu;
     QToolButton *m_menuButton;
     SignalBars *m_bars;
     ElidedLabel *m_operator;

@@ -106,9 +106,10 @@ void WTMainWindow::build()
     layout->addWidget(m_strip);
 
     new EdgeGrips(this);
-    setMinimumSize(smallestSize);
+    const QSize room = QGuiApplication::primaryScreen()->availableSize();
+    setMinimumSize(smallestSize.boundedTo(room));
     const auto place = placeFromText(cmcfg.getValue(windowSection, u"geometry"_s));
-    resize(place ? place->size() : QSize(comcfg.windowWidth, comcfg.windowHeight));
+    resize((place ? place->size() : QSize(comcfg.windowWidth, comcfg.windowHeight)).boundedTo(room));
 }
 
 void WTMainWindow::buildMenu(QMenu *menu)

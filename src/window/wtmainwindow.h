@@ -66,6 +66,9 @@ public:
     void stkQueryInputText(const QString &text) override;
     void stkShowText(const QString &text) override;
     void stkReportSmsState(const QString &text) override;
+    void smsStatusReported(const QString &text) override;
+    void class0SmsReceived(const QString &text) override;
+    void cellBroadcastReceived(const QString &text) override;
     void ussdReportService(const QString &text) override;
     void peerStartRing() override;
     void peerStartRingLocal() override;

@@ -63,6 +63,21 @@ void WTMainWindow::stkReportSmsState(const QString &text)
     m_reports->post(LinkReport::StkSmsState, text);
 }
 
+void WTMainWindow::smsStatusReported(const QString &text)
+{
+    m_reports->post(LinkReport::DeliveryReport, text);
+}
+
+void WTMainWindow::class0SmsReceived(const QString &text)
+{
+    m_reports->post(LinkReport::ImmediateMessage, text);
+}
+
+void WTMainWindow::cellBroadcastReceived(const QString &text)
+{
+    m_reports->post(LinkReport::CellBroadcast, text);
+}
+
 void WTMainWindow::ussdReportService(const QString &text)
 {
     m_reports->post(LinkReport::Ussd, text);
