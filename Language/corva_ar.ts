@@ -29,6 +29,130 @@
     </message>
 </context>
 <context>
+    <name>ModeSwitch</name>
+    <message>
+        <source>The stick is not there any more. Plug it in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>usb_modeswitch could not switch the stick: %1 Unplug it, wait a moment and plug it in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>usb_modeswitch did not run: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>usb_modeswitch did not finish in time. Unplug the stick, wait a moment and plug it in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program usb_modeswitch is missing. Install it with &quot;sudo apt install usb-modeswitch&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You may not switch the stick yourself. Switch it with &quot;%1&quot;, or unplug it and plug it in again: the system then switches it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModemTypes</name>
+    <message>
+        <source>The file has a document type declaration, which is not allowed here. What follows is not read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is not well-formed here: %1 What follows is not read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The outermost element is &quot;%1&quot;; it should be &quot;modem_types&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not known at this place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The card %1 is listed already; this entry is left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A rule needs the attribute &quot;drivers&quot;, with the names of kernel drivers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot;; it should be four hexadecimal digits other than 0000, as lsusb shows them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot;; it should be a number from %3 to %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;family&quot; is &quot;%1&quot;; it should be WCDMA, TD-SCDMA or CDMA.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;storage&quot; holds &quot;%1&quot;; it should be ids such as 1209:0002.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This entry is left out. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is larger than 1 MiB and is not read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PortAccess</name>
+    <message>
+        <source>You may not open %1, which belongs to the group &quot;%2&quot;. Join it with &quot;sudo usermod -aG %2 %3&quot;, then sign out and in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You may not open %1 yet: you are a member of the group &quot;%2&quot;, but were not when you signed in. Sign out and in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You may not open %1, and no group can be joined that may. Ask the administrator of this computer for a udev rule that gives the group &quot;dialout&quot; access to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PortHolder</name>
+    <message>
+        <source>process %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ModemManager is using the card on %1. Stop it with &quot;sudo systemctl stop ModemManager&quot;, or keep it off this card with the udev rule that comes with this program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The message service %1 is using the card on %2. Stop it with &quot;sudo systemctl stop %3&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is using the card on %2. Close that program; the card is then found by itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program is using the card on %1. &quot;sudo fuser -v %1&quot; names it; close it, and the card is found by itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -65,6 +189,13 @@
     <message>
         <source>%1 is a ring of links</source>
         <translation>%1 حلقة من الروابط</translation>
+    </message>
+</context>
+<context>
+    <name>corva::CardMonitor</name>
+    <message>
+        <source>Reading the card</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
