@@ -18,7 +18,7 @@ namespace
 {
 
 constexpr qint64 maximumFileSize = 1'048'576; // 1 MiB: thousands of cards; a larger file is a mistake
-constexpr qsizetype maximumWarnings = 50;       // enough to mend a file by
+constexpr qsizetype maximumWarnings = 50;     // enough to mend a file by
 constexpr qsizetype maximumNameLength = 64;
 
 struct FamilyName {

@@ -78,7 +78,8 @@ void searchPack(const QString &path, UsbId id, const StickTexts &texts, Best &be
     const std::unique_ptr<archive, ArchiveDeleter> pack(archive_read_new());
     archive_read_support_filter_gzip(pack.get());
     archive_read_support_format_tar(pack.get());
-    if (archive_read_open_filename(pack.get(), QFile::encodeName(path).constData(), maximumConfigSize) != ARCHIVE_OK)
+    if (archive_read_open_filename(pack.get(), QFile::encodeName(path).constData(), maximumConfigSize) !=
+        ARCHIVE_OK)
         return;
     archive_entry *entry = nullptr;
     for (int i = 0; i < maximumPackEntries && archive_read_next_header(pack.get(), &entry) == ARCHIVE_OK;

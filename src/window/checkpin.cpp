@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "window/checkpin.h"
 
+#include "shell/delivery.h"
 #include "widgets/buttonkind.h"
 #include "widgets/skin.h"
 #include "widgets/textlabel.h"
@@ -155,11 +156,11 @@ void CheckPIN::submit()
         return;
     setBusy(true);
     m_result->setText(tr("Asking the SIM card"));
-    QFuture<PinOutcome> answer = m_asksForPuk ? m_monitor->enterPuk(m_puk->digits(), m_pin->digits())
-                                              : m_monitor->enterPin(m_pin->digits());
-    answer.then(this, [this](PinOutcome outcome) { takeOutcome(outcome); }).onCanceled(this, [this] {
-        takeOutcome(PinOutcome::NoAnswer);
-    });
+    const QFuture<PinOutcome> answer = m_asksForPuk ? m_monitor->enterPuk(m_puk->digits(), m_pin->digits())
+                                                    : m_monitor->enterPin(m_pin->digits());
+    deliver(
+        answer, this, [this](PinOutcome outcome) { takeOutcome(outcome); },
+        [this] { takeOutcome(PinOutcome::NoAnswer); });
 }
 
 void CheckPIN::setBusy(bool busy)

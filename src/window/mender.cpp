@@ -2,6 +2,7 @@
 #include "window/mender.h"
 
 #include "device/cardmonitor.h"
+#include "shell/delivery.h"
 #include "window/checkpin.h"
 
 #include <QClipboard>
@@ -67,7 +68,7 @@ void Mender::copyGroupCommand()
 void Mender::switchMode()
 {
     Q_EMIT sigSaid(tr("Switching the card to a modem"));
-    m_monitor->switchMode().then(this, [this](const SwitchResult &result) {
+    deliver(m_monitor->switchMode(), this, [this](const SwitchResult &result) {
         Q_EMIT sigSaid(result.isOk() ? tr("Switched. The card comes back as a modem in a few seconds.")
                                      : result.detail);
     });
@@ -76,7 +77,7 @@ void Mender::switchMode()
 void Mender::switchRadioOn()
 {
     Q_EMIT sigSaid(tr("Switching the radio on"));
-    m_monitor->switchRadioOn().then(this, [this](bool isOn) {
+    deliver(m_monitor->switchRadioOn(), this, [this](bool isOn) {
         // A card may take its time and answer late; the next reading of its state shows it.
         Q_EMIT sigSaid(isOn ? tr("The radio is on.")
                             : tr("The card has not confirmed yet. Its state follows."));
