@@ -93,6 +93,9 @@ QLabel *SplashDialog::addLine(const char *name)
     auto *line = new QLabel(this);
     line->setObjectName(QLatin1StringView(name));
     line->setTextFormat(Qt::PlainText);
+    // By the layout: a label would go by its own text, and a Latin name lie apart from its Arabic neighbours.
+    line->setAlignment(Qt::AlignVCenter | Qt::AlignAbsolute |
+                       (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
     QPalette palette = line->palette();
     palette.setColor(QPalette::WindowText, lineColor);
     line->setPalette(palette);
