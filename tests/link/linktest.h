@@ -37,6 +37,7 @@ public:
     bool deliveryReports = true;
     bool stkSmsState = true;
     std::function<void()> onCall; ///< called by every receiver, on its thread
+    std::function<void()> onFind; ///< does the search
 
     /// "method" or "method(text)".
     QStringList calls();
@@ -46,7 +47,12 @@ public:
     bool isReadyForReports() const override { return ready; }
     bool wantsDeliveryReports() const override { return deliveryReports; }
     bool wantsStkSmsState() const override { return stkSmsState; }
-    void findPortNames() override { note("findPortNames"); }
+    void findPortNames() override
+    {
+        note("findPortNames");
+        if (onFind)
+            onFind();
+    }
     void findPortNamesNew() override { note("findPortNamesNew"); }
     void stkReportBuildMainMenu(const QString &text) override { note("stkReportBuildMainMenu", text); }
     void stkRebuildMainMenu() override { note("stkRebuildMainMenu"); }

@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cardthread.h"
+#include "device/cardmonitor.h"
+#include "link/serialthread.h"
+#include "linktest.h"
+#include "shell/commoncfg.h"
+#include "shell/globals.h"
+
+#include <QJsonArray>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace corva;
+
+constexpr int patience = 20000; // ms, for what takes a moment on a busy machine
+
+/// One card from plugging in to unplugging, on ports that the configuration names.
+class TestCardMonitor : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        basePath = m_folder.path();
+        cmcfg.setValue(u"device"_s, u"at_port"_s, m_folder.path() + u"/card/at"_s);
+        cmcfg.setValue(u"device"_s, u"modem_port"_s, m_folder.path() + u"/card/modem"_s);
+        cmcfg.setValue(u"network_dialer_setting"_s, u"send_nullatcommand_timer_100ms"_s, u"10"_s);
+        m_owner.onFind = [this] { m_monitor->findPorts(false); };
+        const CardMonitor opensWhatStaysOpen(&m_owner); // the bus of the session manager, and the like
+    }
+    void init()
+    {
+        m_descriptors = openDescriptors();
+        resetLinkGlobals();
+    }
+    void cleanup()
+    {
+        m_monitor.reset();
+        m_card.reset();
+        QTRY_COMPARE(openDescriptors(), m_descriptors);
+    }
+
+    void fullState_data()
+    {
+        QTest::addColumn<QString>("profile");
+        QTest::addColumn<int>("networkType");
+        QTest::addColumn<QString>("model");
+        QTest::newRow("WCDMA") << u"wcdma"_s << int(NetworkType::Umts) << u"EM7-W"_s;
+        QTest::newRow("TD-SCDMA") << u"tdscdma"_s << int(NetworkType::TdScdma) << u"EM7-T"_s;
+        QTest::newRow("standard commands only")
+            << u"standard"_s << int(NetworkType::Umts) << u"Standard card"_s;
+    }
+    void fullState()
+    {
+        QFETCH(QString, profile);
+        begin(profile);
+        QTRY_VERIFY_WITH_TIMEOUT(state().modemReady && !state().identity.iccid.isEmpty(), patience);
+        QCOMPARE(state().presence, CardPresence::Ready);
+        QCOMPARE(state().portName, m_folder.path() + u"/card/at"_s);
+        QCOMPARE(state().modemPortName, m_folder.path() + u"/card/modem"_s);
+        QCOMPARE(state().sim, SimState::Ready);
+        QCOMPARE(state().registration, Registration::Home);
+        QCOMPARE(state().roaming, std::optional(false));
+        QCOMPARE(state().service, ServiceState::Full);
+        QTEST(int(state().networkType), "networkType");
+        QCOMPARE(state().operatorName, u"Test Network"_s);
+        QCOMPARE(state().signalBars(), 3);
+        QCOMPARE(state().signalDbm, std::optional(-73));
+        QCOMPARE(state().locationArea, std::optional(4660));
+        QCOMPARE(state().cellId, std::optional(43981));
+        QCOMPARE(state().functionality, std::optional(1));
+        QTEST(state().identity.model, "model");
+        QCOMPARE(state().identity.imei, u"001012345678902"_s);
+        QCOMPARE(state().identity.imsi, u"001010123456789"_s);
+        QCOMPARE(state().identity.iccid, u"89001010123456789015"_s);
+        QCOMPARE(state().identity.ownNumber, u"+12025550123"_s);
+    }
+
+    void changesAreSeen()
+    {
+        begin(u"wcdma"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(state().modemReady, patience);
+        tell(R"({"command": "roaming", "on": true})");
+        tell(R"({"command": "signal", "rssi": 99})");
+        m_monitor->refreshNow();
+        QTRY_COMPARE_WITH_TIMEOUT(state().registration, Registration::Roaming, patience);
+        QCOMPARE(state().roaming, std::optional(true));
+        QCOMPARE(state().signalBars(), 0);
+        tell(R"({"command": "register", "service": "denied"})");
+        m_monitor->refreshNow();
+        QTRY_COMPARE_WITH_TIMEOUT(state().registration, Registration::Denied, patience);
+        QCOMPARE(state().service, ServiceState::Limited);
+        QCOMPARE(state().roaming, std::optional<bool>());
+    }
+
+    void makersCommandsAreAskedOnce()
+    {
+        begin(u"standard"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!state().identity.iccid.isEmpty(), patience);
+        m_monitor->refreshNow();
+        QTRY_VERIFY_WITH_TIMEOUT(asked("AT+CSQ") >= 2, patience);
+        m_monitor->refreshNow();
+        QTRY_VERIFY_WITH_TIMEOUT(asked("AT+CSQ") >= 3, patience);
+        for (const char *command : {"AT^SYSINFO", "AT+JPAS?", "AT+JTIME?", "AT+JVN"})
+            QCOMPARE(asked(command), 1);
+    }
+
+    void pinEntry()
+    {
+        begin(u"locked"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(state().pinAttempts, std::optional(3), patience);
+        QCOMPARE(state().sim, SimState::PinNeeded);
+        QVERIFY(!state().modemReady);
+        QCOMPARE(m_monitor->enterPin(u"9999"_s).result(), PinOutcome::Wrong);
+        QTRY_COMPARE_WITH_TIMEOUT(state().pinAttempts, std::optional(2), patience);
+        QCOMPARE(m_monitor->enterPin(u"1234"_s).result(), PinOutcome::Accepted);
+        QTRY_COMPARE_WITH_TIMEOUT(state().identity.imsi, u"001010123456789"_s, patience);
+        QCOMPARE(state().sim, SimState::Ready);
+        QCOMPARE(state().pinAttempts, std::optional<int>());
+    }
+
+    void pukEntry()
+    {
+        begin(u"locked"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(state().sim, SimState::PinNeeded, patience);
+        tell(R"({"command": "pin", "pinAttempts": 0})");
+        m_monitor->refreshNow();
+        QTRY_COMPARE_WITH_TIMEOUT(state().sim, SimState::PukNeeded, patience);
+        QCOMPARE(m_monitor->enterPuk(u"00000000"_s, u"4711"_s).result(), PinOutcome::Wrong);
+        QCOMPARE(m_monitor->enterPuk(u"12345678"_s, u"4711"_s).result(), PinOutcome::Accepted);
+        QTRY_COMPARE_WITH_TIMEOUT(state().sim, SimState::Ready, patience);
+    }
+
+    void silentCard()
+    {
+        begin(u"wcdma"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!state().identity.iccid.isEmpty(), patience);
+        tell(R"({"command": "silence"})");
+        QTRY_COMPARE_WITH_TIMEOUT((m_monitor->refreshNow(), state().presence), CardPresence::Silent,
+                                  2 * patience);
+        QVERIFY(!state().modemReady);
+        tell(R"({"command": "speak"})");
+        QTRY_COMPARE_WITH_TIMEOUT((m_monitor->refreshNow(), state().presence), CardPresence::Ready, patience);
+        QVERIFY(state().modemReady);
+    }
+
+    void unpluggedInMidCommand()
+    {
+        begin(u"wcdma"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!state().identity.iccid.isEmpty(), patience);
+        tell(R"({"command": "fault", "kind": "noreply", "count": 0})");
+        m_monitor->refreshNow();
+        QTRY_VERIFY_WITH_TIMEOUT(asked("AT+CPIN?") >= 2, patience);
+        tell(R"({"command": "unplug"})");
+        QTRY_COMPARE_WITH_TIMEOUT(state().presence, CardPresence::Absent, 1000); // not after a time-out
+        QCOMPARE(state().identity, CardIdentity());
+        Pty takesTheNumber; // the card comes back on another one
+        tell(R"({"command": "plug"})");
+        tell(R"({"command": "clear"})");
+        QTRY_VERIFY_WITH_TIMEOUT(state().modemReady && !state().identity.iccid.isEmpty(), patience);
+    }
+
+    void pollsDoNotQueueUp()
+    {
+        begin(u"wcdma"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!state().identity.iccid.isEmpty(), patience);
+        tell(R"({"command": "pace", "delay": 50})");
+        const int before = asked("AT+CSQ");
+        for (int i = 0; i < 100; ++i)
+            m_monitor->refreshNow();
+        const auto last = m_monitor->enterPin(u"1234"_s); // behind every poll that waits; polls once itself
+        QTRY_VERIFY_WITH_TIMEOUT(last.isFinished(), patience);
+        QVERIFY(asked("AT+CSQ") - before <= 3);
+    }
+
+    void stopDuringTheSearch()
+    {
+        m_card = std::make_unique<cardemu::CardThread>(
+            std::get<cardemu::Profile>(cardemu::Profile::builtIn(u"wcdma"_s)));
+        QCOMPARE(m_card->start(m_folder.path() + u"/card"_s), QString());
+        tell(R"({"command": "fault", "kind": "noreply", "count": 0})");
+        startMonitor();
+        QTRY_VERIFY_WITH_TIMEOUT(asked("AT") >= 1, patience);
+        m_monitor->stop();
+        QVERIFY(!foundPortFlag);
+        m_monitor->stop();
+    }
+
+private:
+    void begin(const QString &profile)
+    {
+        m_card = std::make_unique<cardemu::CardThread>(
+            std::get<cardemu::Profile>(cardemu::Profile::builtIn(profile)));
+        QCOMPARE(m_card->start(m_folder.path() + u"/card"_s), QString());
+        startMonitor();
+    }
+    void startMonitor()
+    {
+        m_monitor = std::make_unique<CardMonitor>(&m_owner);
+        m_monitor->start();
+    }
+    void tell(const QByteArray &json)
+    {
+        const QJsonObject answer = m_card->control(json);
+        QVERIFY2(answer[u"ok"_s].toBool(), qPrintable(answer[u"error"_s].toString()));
+    }
+    const CardState &state() const { return m_monitor->state(); }
+    /// How often the card heard a command.
+    int asked(const char *command)
+    {
+        int count = 0;
+        for (const QJsonValue entry : m_card->control(R"({"command": "log"})")[u"log"_s].toArray())
+            count += entry[u"received"_s].toString().trimmed() == QLatin1StringView(command);
+        return count;
+    }
+
+    ScratchFolder m_folder;
+    FakeOwner m_owner;
+    std::unique_ptr<cardemu::CardThread> m_card;
+    std::unique_ptr<CardMonitor> m_monitor;
+    qsizetype m_descriptors = 0;
+};
+
+QTEST_GUILESS_MAIN(TestCardMonitor)
+#include "tst_cardmonitor.moc"
