@@ -18,10 +18,6 @@ if(CORVA_SANITIZE)
         -fsanitize=${CORVA_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(corva_flags INTERFACE -fsanitize=${CORVA_SANITIZE})
 endif()
-if(CORVA_FUZZ)
-    target_compile_options(corva_flags INTERFACE -fsanitize=fuzzer-no-link)
-endif()
-
 # corva_add_test(NAME SOURCES... [LIBS targets...]): one Qt Test program under CTest, without a display.
 function(corva_add_test name)
     cmake_parse_arguments(ARG "" "" "LIBS" ${ARGN})

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QDir>
+#include <QDomDocument>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const QString folder = QStringLiteral(CORVA_SOURCE_DIR "/Language");
+
+/// The places of values in the text ("%1", "%n"), sorted.
+QStringList placesIn(const QString &text)
+{
+    static const QRegularExpression place(u"%L?[0-9n]+"_s);
+    QStringList places;
+    for (const QRegularExpressionMatch &match : place.globalMatch(text))
+        places += match.captured();
+    places.removeDuplicates();
+    places.sort();
+    return places;
+}
+
+bool hasMnemonic(QString text)
+{
+    static const QRegularExpression mnemonic(u"&[^\\s&]"_s);
+    return text.remove(u"&&"_s).contains(mnemonic);
+}
+
+/// One plain translation, or one for each plural form.
+QStringList translationsOf(const QDomElement &message)
+{
+    const QDomElement translation = message.firstChildElement(u"translation"_s);
+    QDomElement form = translation.firstChildElement(u"numerusform"_s);
+    if (form.isNull())
+        return {translation.text()};
+    QStringList forms;
+    for (; !form.isNull(); form = form.nextSiblingElement(u"numerusform"_s))
+        forms += form.text();
+    return forms;
+}
+
+QString faultOf(const QString &source, const QString &translation)
+{
+    QStringList wanted = placesIn(source);
+    QStringList found = placesIn(translation);
+    // A plural form for one, two or none may do without the number.
+    wanted.removeAll(u"%n"_s);
+    found.removeAll(u"%n"_s);
+    if (found != wanted)
+        return u"other places for values"_s;
+    if (hasMnemonic(source) != hasMnemonic(translation))
+        return u"a mnemonic is missing, or too many"_s;
+    if (source.contains(u'<') != translation.contains(u'<'))
+        return u"markup"_s;
+    return {};
+}
+
+} // namespace
+
+class TestTranslations : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void textsFitTheirSources_data()
+    {
+        QTest::addColumn<QString>("file");
+        for (const QString &file : QDir(folder).entryList({u"*.ts"_s}))
+            QTest::newRow(qPrintable(file)) << file;
+    }
+
+    void textsFitTheirSources()
+    {
+        QFETCH(QString, file);
+        QFile ts(folder + u'/' + file);
+        QVERIFY(ts.open(QIODevice::ReadOnly));
+        QDomDocument document;
+        QVERIFY(document.setContent(&ts));
+        const QDomNodeList messages = document.elementsByTagName(u"message"_s);
+        for (int i = 0; i < messages.size(); ++i) {
+            const QDomElement message = messages.at(i).toElement();
+            const QString source = message.firstChildElement(u"source"_s).text();
+            for (const QString &translation : translationsOf(message)) {
+                const QString fault = faultOf(source, translation);
+                QVERIFY2(fault.isEmpty(), qPrintable(fault + u": "_s + source + u" / "_s + translation));
+            }
+        }
+    }
+};
+
+QTEST_APPLESS_MAIN(TestTranslations)
+#include "tst_translations.moc"
