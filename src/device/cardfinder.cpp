@@ -136,7 +136,7 @@ FoundCard CardFinder::findOnUsb(const PortProbe &probe)
         if (best.presence == CardPresence::Ready)
             break;
     }
-    if (best.presence == CardPresence::Absent)
+    if (best.presence != CardPresence::Ready)
         best = nearer(best, storageStick(sticks, m_types, m_settings.modeSwitchFolders));
     if (!m_settings.modemPort.isEmpty())
         best.ports.modem = m_settings.modemPort;
