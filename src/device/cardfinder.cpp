@@ -136,7 +136,7 @@ FoundCard CardFinder::findOnUsb(const PortProbe &probe)
         if (best.presence == CardPresence::Ready)
             break;
     }
-    if (best.presence == CardPresence::Absent)
+    if (best.presence != CardPresence::Ready)
         best = nearer(best, storageStick(sticks, m_types, m_settings.modeSwitchFolders));
     if (!m_settings.modemPort.isEmpty())
         best.ports.modem = m_settings.modemPort;
@@ -151,8 +151,9 @@ FoundCard CardFinder::tryStick(const UsbStick &stick, const PortProbe &probe)
     FoundCard card;
     if (type)
         card = tryKnown(stick, *type, probe);
-    const ProbeRule *rule =
-        m_types.cardFor(stick.usb.id) ? nullptr : m_types.ruleFor(stick.usb.id, stick.drivers());
+    // Half of the ports would teach the wrong roles: the rest is waited for, the next search is not far.
+    const bool mayProbe = !m_types.cardFor(stick.usb.id) && stick.isSettled();
+    const ProbeRule *rule = mayProbe ? m_types.ruleFor(stick.usb.id, stick.drivers()) : nullptr;
     if (rule && card.presence != CardPresence::Ready) {
         card = tryUnknown(stick, *rule, probe);
         if (card.presence == CardPresence::Ready)

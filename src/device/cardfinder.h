@@ -28,8 +28,10 @@ struct ProbeResult {
     int error = 0; ///< CannotOpen: errno of the step that failed
 };
 
-/// Opens one port, writes "AT", waits for any reply and closes the port again. The finder itself opens
-/// nothing and writes nothing. Called on the finder's thread, one port after another.
+/// Opens one port, writes "AT" and waits for any reply. The finder itself opens nothing and writes nothing.
+/// Called on the finder's thread, one port after another; the port that the finder settles on is not always
+/// the last. A silent port should lose its unsent "AT" (tcflush) before it is closed: closing waits 30 s for
+/// a device that takes nothing.
 using PortProbe = std::function<ProbeResult(const QString &port)>;
 
 /// The ports of one card, as device names to open; empty where there is none.

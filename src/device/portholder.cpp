@@ -102,7 +102,7 @@ using Objects = QMap<QDBusObjectPath, Properties>;
 bool listsPort(const QVariant &ports, const QStringList &names)
 {
     const auto argument = ports.value<QDBusArgument>();
-    if (argument.currentType() != QDBusArgument::ArrayType)
+    if (argument.currentSignature() != "a(su)"_L1)
         return false;
     bool found = false;
     argument.beginArray();

@@ -46,9 +46,10 @@ CardPresence presenceOf(const ProbeResult &result)
     return row == errorRows.end() ? CardPresence::Absent : row->presence;
 }
 
-/// The steps from nothing to a working card.
-constexpr std::array steps{CardPresence::Absent,   CardPresence::StorageMode, CardPresence::Silent,
-                           CardPresence::NoRights, CardPresence::PortBusy,    CardPresence::Ready};
+/// The steps from nothing to a working card. A disk that is known to be a card comes before a silent port,
+/// which may well be something else.
+constexpr std::array steps{CardPresence::Absent,   CardPresence::Silent,   CardPresence::StorageMode,
+                           CardPresence::NoRights, CardPresence::PortBusy, CardPresence::Ready};
 
 auto step(const FoundCard &card)
 {

@@ -41,6 +41,8 @@ void PortWatcher::slotLook()
     // First the folders: what changes after this is reported, what changed before is seen below.
     watchFolders();
     for (const QString &path : m_nodes.keys()) {
+        if (!m_nodes.contains(path))
+            continue; // a receiver asked for another list meanwhile
         const Node now = look(path);
         const Node before = std::exchange(m_nodes[path], now);
         if (now == before)

@@ -15,6 +15,7 @@ struct UdevDeleter {
     void operator()(udev_device *p) const { udev_device_unref(p); }
     void operator()(udev_enumerate *p) const { udev_enumerate_unref(p); }
     void operator()(udev_monitor *p) const { udev_monitor_unref(p); }
+    void operator()(udev_queue *p) const { udev_queue_unref(p); }
 };
 template <typename T> using UdevPtr = std::unique_ptr<T, UdevDeleter>;
 

@@ -7,18 +7,23 @@
 #include <QFileInfo>
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <libusb-1.0/libusb.h>
 #include <map>
 #include <sys/stat.h>
 #include <vector>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace corva
 {
 
 namespace
 {
+
+/// The ports of one card appear within a few milliseconds of each other.
+constexpr auto portSettleTime = 100ms;
 
 struct LibusbDeleter {
     void operator()(libusb_context *p) const { libusb_exit(p); }
@@ -103,6 +108,19 @@ udev_device *usbDeviceOf(udev_device *child)
     return udev_device_get_parent_with_subsystem_devtype(child, "usb", "usb_device");
 }
 
+/// A port that udev has not finished with does not have its group yet. Where no udev runs, nobody ever will.
+bool isUsable(udev *context, udev_device *tty)
+{
+    const UdevPtr<udev_queue> queue(udev_queue_new(context));
+    return !queue || !udev_queue_get_udev_is_active(queue.get()) || udev_device_get_is_initialized(tty);
+}
+
+bool isSettled(udev_device *tty)
+{
+    const std::chrono::microseconds age(udev_device_get_usec_since_initialized(tty));
+    return age == 0us || age >= portSettleTime; // 0 where it is not known
+}
+
 std::optional<SerialPort> serialPort(udev_device *tty)
 {
     const char *devnode = udev_device_get_devnode(tty);
@@ -114,7 +132,7 @@ std::optional<SerialPort> serialPort(udev_device *tty)
     if (!number)
         return std::nullopt;
     return SerialPort{QFile::decodeName(devnode), *number,
-                      QString::fromUtf8(udev_device_get_driver(interface))};
+                      QString::fromUtf8(udev_device_get_driver(interface)), isSettled(tty)};
 }
 
 void addTexts(UsbStick &stick, udev_device *device)
@@ -161,7 +179,7 @@ void addUdevKnowledge(Sticks &sticks, udev *context)
     forEach(context, "tty", [&](udev_device *tty) {
         auto *device = usbDeviceOf(tty);
         UsbStick *stick = device ? stickOf(sticks, device) : nullptr;
-        const auto port = stick ? serialPort(tty) : std::nullopt;
+        const auto port = stick && isUsable(context, tty) ? serialPort(tty) : std::nullopt;
         if (port)
             stick->ports.append(*port);
     });
@@ -188,6 +206,11 @@ bool UsbStick::isDiskOnly() const
 {
     return !interfaceClasses.isEmpty() &&
            std::ranges::all_of(interfaceClasses, [](int c) { return c == LIBUSB_CLASS_MASS_STORAGE; });
+}
+
+bool UsbStick::isSettled() const
+{
+    return std::ranges::all_of(ports, &SerialPort::isSettled);
 }
 
 QList<UsbStick> scanUsb()

@@ -14,7 +14,8 @@ namespace corva
 struct SerialPort {
     QString devnode; ///< "/dev/ttyUSB2"
     int interfaceNumber = 0;
-    QString driver; ///< the kernel driver of the interface: "option"
+    QString driver;        ///< the kernel driver of the interface: "option"
+    bool isSettled = true; ///< there for so long that its neighbours, if any, are there as well
     bool operator==(const SerialPort &) const = default;
 };
 
@@ -31,6 +32,8 @@ struct UsbStick {
     QString portOn(int interfaceNumber) const;
     /// Every interface is mass storage, and there is at least one.
     bool isDiskOnly() const;
+    /// No port has come just now: more of them may be about to.
+    bool isSettled() const;
     bool operator==(const UsbStick &) const = default;
 };
 

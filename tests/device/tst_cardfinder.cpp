@@ -293,6 +293,13 @@ void TestCardFinder::storageMode()
     const FoundCard found = finder(settings).find(m_ports.probe());
     QCOMPARE(found.presence, presence);
     QCOMPARE(found.usb.id, presence == CardPresence::Absent ? UsbId() : id);
+
+    // Something silent beside does not hide it, a card that works does.
+    m_bus->plug(card(unknownId, 0, 5));
+    m_ports.results = {{tty(0), silent}, {tty(1), silent}, {tty(2), silent}};
+    QCOMPARE(finder(settings).find(m_ports.probe()).presence,
+             presence == CardPresence::Absent ? CardPresence::Silent : presence);
+    QCOMPARE(finder(settings).find(Ports().probe()).presence, CardPresence::Ready);
 }
 
 void TestCardFinder::configuredPorts()
