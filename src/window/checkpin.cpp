@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "window/checkpin.h"
 
-#include "shell/delivery.h"
 #include "widgets/buttonkind.h"
 #include "widgets/skin.h"
 #include "widgets/textlabel.h"
+#include "widgets/whendone.h"
 #include "window/pinfield.h"
 
 #include <QCheckBox>
@@ -51,7 +51,7 @@ void CheckPIN::build()
     m_unlock->setObjectName(u"unlock"_s);
     m_unlock->setDefault(true);
     setButtonKind(m_unlock, ButtonKind::Primary);
-    auto *cancel = new QPushButton(tr("&Later"), this);
+    auto *cancel = new QPushButton(tr("La&ter"), this);
     cancel->setObjectName(u"later"_s);
     cancel->setAutoDefault(false);
 
@@ -96,7 +96,7 @@ void CheckPIN::setAsksForPuk(bool asksForPuk)
     m_repeat->setCaption(tr("&Repeat the new PIN"));
     m_puk->setVisible(asksForPuk);
     m_repeat->setVisible(asksForPuk);
-    m_unlock->setText(asksForPuk ? tr("&Unblock") : tr("&Unlock"));
+    m_unlock->setText(asksForPuk ? tr("Un&block") : tr("Un&lock"));
     (asksForPuk ? m_puk : m_pin)->takeFocus();
 }
 
@@ -158,9 +158,14 @@ void CheckPIN::submit()
     m_result->setText(tr("Asking the SIM card"));
     const QFuture<PinOutcome> answer = m_asksForPuk ? m_monitor->enterPuk(m_puk->digits(), m_pin->digits())
                                                     : m_monitor->enterPin(m_pin->digits());
-    deliver(
-        answer, this, [this](PinOutcome outcome) { takeOutcome(outcome); },
-        [this] { takeOutcome(PinOutcome::NoAnswer); });
+    whenDone(answer, this, [this, askedForPuk = m_asksForPuk](const std::optional<PinOutcome> &outcome) {
+        setBusy(false);
+        m_result->clear();
+        // The card may have told its new state before the answer was here; then the fields ask for something
+        // else already.
+        if (askedForPuk == m_asksForPuk)
+            takeOutcome(outcome.value_or(PinOutcome::NoAnswer));
+    });
 }
 
 void CheckPIN::setBusy(bool busy)
@@ -177,9 +182,7 @@ void CheckPIN::takeOutcome(PinOutcome outcome)
         m_monitor->refreshNow();
         return;
     }
-    setBusy(false);
     clearFields();
-    m_result->clear();
     PinField *field = m_asksForPuk ? m_puk : m_pin;
     switch (outcome) {
     case PinOutcome::Wrong:

@@ -2,7 +2,7 @@
 #include "window/mender.h"
 
 #include "device/cardmonitor.h"
-#include "shell/delivery.h"
+#include "widgets/whendone.h"
 #include "window/checkpin.h"
 
 #include <QClipboard>
@@ -68,7 +68,8 @@ void Mender::copyGroupCommand()
 void Mender::switchMode()
 {
     Q_EMIT sigSaid(tr("Switching the card to a modem"));
-    deliver(m_monitor->switchMode(), this, [this](const SwitchResult &result) {
+    whenDone(m_monitor->switchMode(), this, [this](const std::optional<SwitchResult> &answer) {
+        const SwitchResult result = answer.value_or(SwitchResult());
         Q_EMIT sigSaid(result.isOk() ? tr("Switched. The card comes back as a modem in a few seconds.")
                                      : result.detail);
     });
@@ -77,10 +78,10 @@ void Mender::switchMode()
 void Mender::switchRadioOn()
 {
     Q_EMIT sigSaid(tr("Switching the radio on"));
-    deliver(m_monitor->switchRadioOn(), this, [this](bool isOn) {
+    whenDone(m_monitor->switchRadioOn(), this, [this](std::optional<bool> isOn) {
         // A card may take its time and answer late; the next reading of its state shows it.
-        Q_EMIT sigSaid(isOn ? tr("The radio is on.")
-                            : tr("The card has not confirmed yet. Its state follows."));
+        Q_EMIT sigSaid(isOn.value_or(false) ? tr("The radio is on.")
+                                            : tr("The card has not confirmed yet. Its state follows."));
         m_monitor->refreshNow();
     });
 }

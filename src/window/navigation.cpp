@@ -61,10 +61,11 @@ void NavigationButton::name()
 QSize NavigationButton::sizeHint() const
 {
     const int height = qMax(metrics::RowHeight + metrics::HalfGrid, fontMetrics().height() + metrics::Grid);
-    const int iconOnly = metrics::IconSize + 2 * inset;
     if (m_isFolded)
-        return {iconOnly, height};
-    return {iconOnly + inset + QFontMetrics(skinFont(TextRole::Strong)).horizontalAdvance(text()), height};
+        return {metrics::IconSize + 2 * metrics::Grid, height};
+    return {metrics::IconSize + 3 * inset +
+                QFontMetrics(skinFont(TextRole::Strong)).horizontalAdvance(text()),
+            height};
 }
 
 QColor NavigationButton::inkColor() const

@@ -174,7 +174,7 @@ QString WTMainWindow::getFirmwareVersion() const
 
 void WTMainWindow::wait2secsToShow()
 {
-    QTimer::singleShot(2000ms, this, &WTMainWindow::slotDelayShow);
+    QTimer::singleShot(2000ms, Qt::PreciseTimer, this, &WTMainWindow::slotDelayShow);
 }
 
 void WTMainWindow::slotDelayShow()

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/globals.h"
+#include "widgets/buttonkind.h"
+#include "widgets/cdestyle.h"
+#include "widgets/skin.h"
+#include "widgets/textlabel.h"
+
+#include <QApplication>
+#include <QFocusFrame>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyleFactory>
+#include <QStyleOption>
+#include <QTest>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+using namespace corva;
+
+class TestCdeStyle : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        basePath = QStringLiteral(CORVA_SOURCE_DIR);
+        installCdeStyle();
+        applySkin();
+    }
+
+    void isAStyleOfThatName()
+    {
+        QCOMPARE(QApplication::style()->name(), u"cde"_s);
+        QVERIFY(QStyleFactory::keys().contains(u"cde"_s, Qt::CaseInsensitive));
+        const std::unique_ptr<QStyle> made(QStyleFactory::create(u"CDE"_s));
+        QVERIFY(qobject_cast<CdeStyle *>(made.get()));
+    }
+
+    void buttonsArePaintedByKind_data()
+    {
+        QTest::addColumn<ButtonKind>("kind");
+        QTest::addColumn<QColor>("fill");
+        QTest::newRow("primary") << ButtonKind::Primary << comcfg.accent;
+        QTest::newRow("plain") << ButtonKind::Plain << comcfg.raised;
+        QTest::newRow("flat shows what is below") << ButtonKind::Flat << comcfg.window;
+    }
+
+    void buttonsArePaintedByKind()
+    {
+        QFETCH(const ButtonKind, kind);
+        QWidget window;
+        QPushButton button(&window);
+        setButtonKind(&button, kind);
+        button.resize(80, 32);
+        const QImage image = window.grab(button.geometry()).toImage();
+        QTEST(image.pixelColor(6, 16), "fill");
+    }
+
+    void aChangedSkinIsSeenAtOnce()
+    {
+        QWidget window;
+        QPushButton button(&window);
+        setButtonKind(&button, ButtonKind::Primary);
+        button.resize(80, 32);
+        window.show();
+        const CommonConfig before = comcfg;
+        comcfg.accent = QColor(0x80, 0x00, 0x80);
+        comcfg.window = QColor(0x10, 0x10, 0x10);
+        applySkin();
+        QCOMPARE(button.grab().toImage().pixelColor(6, 16), comcfg.accent);
+        QTRY_COMPARE(window.palette().color(QPalette::Window), comcfg.window);
+        comcfg = before;
+        applySkin();
+    }
+
+    void theFocusRingStandsOutsideOfTheControl()
+    {
+        QWidget window;
+        auto *layout = new QVBoxLayout(&window);
+        auto *first = new QPushButton(u"First"_s, &window);
+        auto *second = new QPushButton(u"Second"_s, &window);
+        layout->addWidget(first);
+        layout->addWidget(second);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QTest::keyClick(&window, Qt::Key_Tab);
+        QTest::keyClick(&window, Qt::Key_Tab);
+        auto *focused = qobject_cast<QPushButton *>(QApplication::focusWidget());
+        QVERIFY(focused);
+        const auto *ring = window.findChild<QFocusFrame *>();
+        QVERIFY(ring && ring->isVisible());
+        QCOMPARE(ring->widget(), focused);
+        const int outside = metrics::FocusGap + metrics::FocusWidth;
+        QCOMPARE(ring->geometry(), focused->geometry().adjusted(-outside, -outside, outside, outside));
+    }
+
+    void aScrollBarReachesBothEnds()
+    {
+        QScrollBar bar(Qt::Vertical);
+        bar.setRange(0, 100);
+        bar.setPageStep(10);
+        bar.resize(12, 200);
+        QStyleOptionSlider option;
+        option.initFrom(&bar);
+        option.orientation = Qt::Vertical;
+        option.maximum = 100;
+        option.pageStep = 10;
+        const auto handle = [&](int position) {
+            option.sliderPosition = position;
+            return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider,
+                                               &bar);
+        };
+        QCOMPARE(handle(0).top(), 0);
+        QCOMPARE(handle(100).bottom(), 199);
+        QVERIFY(handle(50).height() >= 32);
+    }
+
+    void textsStandAtTheLeadingEdgeInBothDirections()
+    {
+        QWidget window;
+        window.setLayoutDirection(Qt::RightToLeft);
+        TextLabel number(u"490154203237518"_s, TextRole::Text, &window);
+        QVERIFY(number.alignment() & Qt::AlignRight);
+        QVERIFY(number.alignment() & Qt::AlignAbsolute);
+        window.setLayoutDirection(Qt::LeftToRight);
+        QVERIFY(number.alignment() & Qt::AlignLeft);
+    }
+
+    void aLongTextGivesWayAndStaysReadable()
+    {
+        ElidedLabel label(TextRole::Text);
+        const QString name = u"An operator's name that is far too long for its place"_s;
+        label.setFullText(name);
+        label.resize(80, 20);
+        label.show();
+        QVERIFY(label.text().endsWith(u'…'));
+        QCOMPARE(label.toolTip(), name);
+        QCOMPARE(label.accessibleName(), name);
+        label.resize(label.sizeHint());
+        QCOMPARE(label.text(), name);
+        QVERIFY(label.toolTip().isEmpty());
+    }
+};
+
+QTEST_MAIN(TestCdeStyle)
+#include "tst_cdestyle.moc"
