@@ -43,7 +43,7 @@ ReplyResult<AtFields> AtFields::find(const QByteArray &reply, QByteArrayView pre
         if (line.startsWith(prefix))
             return AtFields(QByteArrayView(line).sliced(prefix.size()));
     }
-    return refusal(reply).value_or(reply.isEmpty() ? ReplyError{ReplyError::NoReply, {}}
+    return refusal(reply).value_or(reply.isEmpty() ? ReplyError{ReplyError::Silent, {}}
                                                    : ReplyError{ReplyError::NoLine, prefix.toByteArray()});
 }
 

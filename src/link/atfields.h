@@ -13,7 +13,7 @@ namespace corva
 /// Why a reply gave no value.
 struct ReplyError {
     enum Kind {
-        NoReply,  ///< nothing came, or the command was not written
+        Silent,   ///< nothing came, or the command was not written
         Refused,  ///< "ERROR" or "+CME ERROR: <detail>"
         NoLine,   ///< the expected line is not in the reply
         BadField, ///< the line is there and does not have its shape

@@ -161,7 +161,7 @@ int judgeEvdoSignal(const QByteArray &reply)
 /// "OK" behind the message reference or index.
 int judgeMessageSent(const QByteArray &reply)
 {
-    const qsizetype at = std::max(reply.indexOf("+CMGS"), reply.indexOf("+CMGW"));
+    const qsizetype at = std::max(reply.indexOf("+CMGS:"), reply.indexOf("+CMGW:"));
     return at >= 0 && reply.indexOf("OK", at) >= 0 ? Acknowledged : NotWritten;
 }
 

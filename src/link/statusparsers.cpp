@@ -293,7 +293,7 @@ ReplyResult<SimState> parseSimState(const QByteArray &reply)
     }
     const auto refused = refusal(reply);
     if (!refused)
-        return ReplyError{reply.isEmpty() ? ReplyError::NoReply : ReplyError::NoLine, "+CPIN:"};
+        return ReplyError{reply.isEmpty() ? ReplyError::Silent : ReplyError::NoLine, "+CPIN:"};
     const auto state = find(errors, refused->detail);
     return state ? ReplyResult<SimState>(*state) : *refused;
 }
@@ -309,7 +309,7 @@ ReplyResult<QString> parseIdentity(const QByteArray &reply, QByteArrayView prefi
         if (!isEchoOrReport(line))
             return QString::fromLatin1(line).remove(u'"').trimmed();
     }
-    return ReplyError{reply.isEmpty() ? ReplyError::NoReply : ReplyError::NoLine, prefix.toByteArray()};
+    return ReplyError{reply.isEmpty() ? ReplyError::Silent : ReplyError::NoLine, prefix.toByteArray()};
 }
 
 ReplyResult<QString> parseImsi(const QByteArray &reply)

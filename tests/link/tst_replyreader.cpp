@@ -1,20 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "byterules.h"
 #include "link/replyreader.h"
 
 #include <QRandomGenerator>
 #include <QTest>
 
-using corva::ReplyReader;
-
-namespace
+namespace byterules
 {
-
-struct Outcome {
-    bool isComplete = false;
-    QByteArray reply;
-    qsizetype consumed = 0;
-    bool operator==(const Outcome &) const = default;
-};
 
 char *toString(const Outcome &outcome)
 {
@@ -23,55 +15,13 @@ char *toString(const Outcome &outcome)
                            outcome.reply.toPercentEncoding(" ,+:"));
 }
 
-/// The rules as they are written: after every byte, the whole text is looked through for every mark.
-Outcome byteByByte(const QByteArray &stream)
+} // namespace byterules
+
+using byterules::Outcome;
+using corva::ReplyReader;
+
+namespace
 {
-    const char *const ends[] = {"> ", "not support\r\n", "CONNECT\r\n", "OK\r\n", "NO CARRIER"};
-    const char *const reports[] = {"+JPDPACT: 1,1", "+JPDPACT: 1,2", "+JPDPACT: 1,0", "+JPDPACT: 1,3"};
-    QByteArray text;
-    QByteArray reply;
-    bool continuation = false;
-    for (qsizetype i = 0; i < stream.size(); ++i) {
-        if (stream[i] == '\0')
-            continue;
-        text.append(stream[i]);
-        bool done = false;
-        if (continuation) {
-            if (text.contains("\r\n") || text.contains("no network service")) {
-                reply += text;
-                done = true;
-            }
-        } else {
-            if (text.contains("JEND\r\n")) {
-                reply = text;
-                text.clear();
-            }
-            for (const char *end : ends)
-                done = done || text.contains(end);
-            done = done || (text.contains("ERROR\r\n") && !text.contains("+CME ERROR"));
-            if (done)
-                reply = text;
-            if (text.contains("+CME ERROR")) {
-                reply = text;
-                if (text.contains("no network service")) {
-                    done = true;
-                } else if (!done) {
-                    text.clear();
-                    continuation = true;
-                }
-            }
-        }
-        for (const char *report : reports) {
-            if (text.contains(report)) {
-                reply = text;
-                done = true;
-            }
-        }
-        if (done)
-            return {true, reply, i + 1};
-    }
-    return {false, reply, stream.size()};
-}
 
 /// Fed in random chunks.
 Outcome inChunks(const QByteArray &stream, QRandomGenerator &random)
@@ -135,7 +85,7 @@ private Q_SLOTS:
         int completed = 0;
         for (int i = 0; i < 20000; ++i) {
             const QByteArray stream = randomStream(random);
-            const Outcome expected = byteByByte(stream);
+            const Outcome expected = byterules::read(stream);
             const Outcome actual = inChunks(stream, random);
             if (actual != expected)
                 qWarning("seed %u, stream %d: %s", seed, i, stream.toPercentEncoding().constData());

@@ -100,7 +100,7 @@ private Q_SLOTS:
         QTest::newRow("refused") << QByteArray("\r\n+CME ERROR: 14\r\n") << 103;
         QTest::newRow("no network") << QByteArray("\r\n+CME ERROR: no network service") << 103;
         QTest::newRow("end of call in front") << QByteArray("+JEND\r\n\r\n+CSQ: 31,0\r\n\r\nOK\r\n") << 34;
-        QTest::newRow("noise") << QByteArray("\0\xff\r\n\r\n+CSQ: 1,0\r\n\r\nOK\r\n", 25) << 30;
+        QTest::newRow("noise") << QByteArray(1, 0) + "\xff\r\n\r\n+CSQ: 1,0\r\n\r\nOK\r\n" << 30;
     }
     void codes()
     {
