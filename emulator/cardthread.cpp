@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cardthread.h"
 
+#include <QEventLoop>
 #include <QJsonDocument>
+#include <future>
 
 namespace cardemu
 {
@@ -10,35 +12,35 @@ using namespace Qt::StringLiterals;
 
 CardThread::CardThread(const Profile &profile)
 {
-    auto *anchor = new QObject;
-    anchor->moveToThread(&m_thread);
-    QObject::connect(&m_thread, &QThread::finished, anchor, &QObject::deleteLater);
-    m_thread.setObjectName(u"emulated card"_s);
-    m_thread.start();
-    QMetaObject::invokeMethod(
-        anchor, [this, anchor, &profile] { m_card = new EmulatedCard(profile, anchor); },
-        Qt::BlockingQueuedConnection);
+    std::promise<EmulatedCard *> made;
+    m_thread.reset(QThread::create([&made, &profile] {
+        EmulatedCard card(profile);
+        made.set_value(&card);
+        QEventLoop().exec();
+    }));
+    m_thread->start();
+    m_card = made.get_future().get();
 }
 
 CardThread::~CardThread()
 {
-    m_thread.quit();
-    m_thread.wait();
+    m_thread->quit();
+    m_thread->wait();
 }
 
-Complaint CardThread::start(const QString &folder)
+QString CardThread::start(const QString &folder)
 {
-    Complaint complaint;
-    QMetaObject::invokeMethod(
-        m_card, [&] { complaint = m_card->start(folder); }, Qt::BlockingQueuedConnection);
+    QString complaint;
+    QMetaObject::invokeMethod(m_card, "start", Qt::BlockingQueuedConnection, Q_RETURN_ARG(QString, complaint),
+                              Q_ARG(QString, folder));
     return complaint;
 }
 
 QJsonObject CardThread::control(const QJsonObject &request)
 {
     QJsonObject answer;
-    QMetaObject::invokeMethod(
-        m_card, [&] { answer = m_card->control(request); }, Qt::BlockingQueuedConnection);
+    QMetaObject::invokeMethod(m_card, "control", Qt::BlockingQueuedConnection,
+                              Q_RETURN_ARG(QJsonObject, answer), Q_ARG(QJsonObject, request));
     return answer;
 }
 

@@ -4,6 +4,7 @@
 #include "emulatedcard.h"
 
 #include <QThread>
+#include <memory>
 
 namespace cardemu
 {
@@ -18,14 +19,15 @@ public:
     CardThread(const CardThread &) = delete;
     CardThread &operator=(const CardThread &) = delete;
 
-    [[nodiscard]] Complaint start(const QString &folder);
+    /// See EmulatedCard::start().
+    [[nodiscard]] QString start(const QString &folder);
     /// See EmulatedCard::control().
     QJsonObject control(const QJsonObject &request);
     /// The same with a line of JSON text: control(R"({"command": "roaming", "on": true})").
     QJsonObject control(const QByteArray &json);
 
 private:
-    QThread m_thread;
+    std::unique_ptr<QThread> m_thread;
     EmulatedCard *m_card = nullptr;
 };
 

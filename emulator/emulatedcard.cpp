@@ -44,15 +44,15 @@ void EmulatedCard::addPort(const QString &role, bool speaksAt)
     port->role = port->name = role;
     if (!speaksAt)
         return;
-    port->session = std::make_unique<AtSession>(role, *m_card, m_log, [this, port](const QByteArray &bytes) {
+    port->session = std::make_unique<AtSession>(role, *m_card, m_log, [port](const QByteArray &bytes) {
         port->pty.write(bytes);
         balance(*port);
     });
-    connect(&port->pty, &PtyPort::received, this, [this, port](const QByteArray &bytes) {
+    connect(&port->pty, &PtyPort::received, this, [port](const QByteArray &bytes) {
         port->session->receive(bytes);
         balance(*port);
     });
-    connect(&port->pty, &PtyPort::flushed, this, [this, port] { balance(*port); });
+    connect(&port->pty, &PtyPort::flushed, this, [port] { balance(*port); });
     connect(&port->pty, &PtyPort::clientLeft, port->session.get(), &AtSession::clientLeft);
 }
 
@@ -72,7 +72,7 @@ EmulatedCard::Port *EmulatedCard::portOf(const QString &role) const
     return nullptr;
 }
 
-Complaint EmulatedCard::start(const QString &folder)
+QString EmulatedCard::start(const QString &folder)
 {
     stop();
     if (!QDir().mkpath(folder))
@@ -96,7 +96,7 @@ void EmulatedCard::stop()
 Complaint EmulatedCard::openPorts()
 {
     for (const auto &port : m_ports) {
-        if (const Complaint complaint = port->pty.open(m_folder + u'/' + port->name); !complaint.isEmpty()) {
+        if (Complaint complaint = port->pty.open(m_folder + u'/' + port->name); !complaint.isEmpty()) {
             closePorts();
             return complaint;
         }

@@ -32,13 +32,13 @@ public:
     /// Makes the folder where it is missing, and in it the links "at", "modem", "voice" and the socket
     /// "control". Returns what went wrong, in words; empty when the card is there. Two cards cannot share a
     /// folder.
-    [[nodiscard]] Complaint start(const QString &folder);
+    [[nodiscard]] Q_INVOKABLE QString start(const QString &folder);
     /// Takes the links and the socket away again. The destructor does the same.
     void stop();
 
     /// Carries out one control command, exactly as a line on the socket does: {"command": "signal", "rssi":
     /// 12}. The result has "ok", and "error" with a sentence where that is false.
-    QJsonObject control(const QJsonObject &request);
+    Q_INVOKABLE QJsonObject control(const QJsonObject &request);
 
     // What control commands work on.
 

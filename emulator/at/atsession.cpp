@@ -104,7 +104,7 @@ Answer AtSession::carryOut(const Command &command)
         return {{}, {Final::Kind::Literal, 0, text.isEmpty() ? "ERROR" : text}};
     }
     m_carryingOut = true;
-    const Answer answer = execute({m_card, m_port, command});
+    Answer answer = execute({m_card, m_port, command});
     m_carryingOut = false;
     return answer;
 }

@@ -17,15 +17,15 @@ namespace
 constexpr char noise[] = "\x7f\x00\xff}#\r\x80\xc3(\x1b[K\x9d~\n\xfe";
 
 constexpr std::array kindNames = {
-    Choice{FaultKind::NoReply, u"noreply"},
-    Choice{FaultKind::Late, u"late"},
-    Choice{FaultKind::Garbage, u"garbage"},
-    Choice{FaultKind::Cut, u"cut"},
-    Choice{FaultKind::Interleave, u"interleave"},
-    Choice{FaultKind::Truncate, u"truncate"},
-    Choice{FaultKind::Long, u"long"},
-    Choice{FaultKind::EchoStorm, u"echostorm"},
-    Choice{FaultKind::Refuse, u"refuse"},
+    Choice<FaultKind>{FaultKind::NoReply, u"noreply"},
+    Choice<FaultKind>{FaultKind::Late, u"late"},
+    Choice<FaultKind>{FaultKind::Garbage, u"garbage"},
+    Choice<FaultKind>{FaultKind::Cut, u"cut"},
+    Choice<FaultKind>{FaultKind::Interleave, u"interleave"},
+    Choice<FaultKind>{FaultKind::Truncate, u"truncate"},
+    Choice<FaultKind>{FaultKind::Long, u"long"},
+    Choice<FaultKind>{FaultKind::EchoStorm, u"echostorm"},
+    Choice<FaultKind>{FaultKind::Refuse, u"refuse"},
 };
 
 qsizetype place(const Fault &fault, const Reply &reply, qsizetype otherwise)

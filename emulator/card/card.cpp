@@ -138,7 +138,7 @@ Answer Card::enterPin(const QByteArray &pin)
 {
     if (pinState() == "READY")
         return cmeError(cme::notAllowed);
-    const Answer answer = checkPin(pin);
+    Answer answer = checkPin(pin);
     if (answer.final.isSuccess()) {
         m_state.sim.verified = true;
         review();
@@ -167,7 +167,7 @@ Answer Card::enterPuk(const QByteArray &puk, const QByteArray &newPin)
 
 Answer Card::setPinLock(bool on, const QByteArray &pin)
 {
-    const Answer answer = checkPin(pin);
+    Answer answer = checkPin(pin);
     if (answer.final.isSuccess()) {
         m_state.sim.pinLock = on;
         m_state.sim.verified = true;
@@ -182,7 +182,7 @@ Answer Card::changePin(const QByteArray &oldPin, const QByteArray &newPin)
         return cmeError(cme::notAllowed);
     if (!isPin(newPin))
         return cmeError(cme::incorrectParameters);
-    const Answer answer = checkPin(oldPin);
+    Answer answer = checkPin(oldPin);
     if (answer.final.isSuccess())
         m_state.sim.pin = QString::fromLatin1(newPin);
     return answer;

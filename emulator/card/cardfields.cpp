@@ -69,17 +69,20 @@ Complaint dialText(const QString &text)
     return results.contains(text) ? Complaint() : u"must be one of: "_s + results.join(u", "_s);
 }
 
-constexpr std::array families = {Choice{Family::Wcdma, u"WCDMA"}, Choice{Family::TdScdma, u"TD-SCDMA"},
-                                 Choice{Family::Cdma, u"CDMA"}};
-constexpr std::array simConditions = {
-    Choice{SimCondition::Ready, u"ready"}, Choice{SimCondition::Absent, u"absent"},
-    Choice{SimCondition::Busy, u"busy"}, Choice{SimCondition::Failure, u"failure"}};
-constexpr std::array simTypes = {Choice{SimType::Sim, u"SIM"}, Choice{SimType::Usim, u"USIM"},
-                                 Choice{SimType::Uim, u"UIM"}};
+constexpr std::array families = {Choice<Family>{Family::Wcdma, u"WCDMA"},
+                                 Choice<Family>{Family::TdScdma, u"TD-SCDMA"},
+                                 Choice<Family>{Family::Cdma, u"CDMA"}};
+constexpr std::array simConditions = {Choice<SimCondition>{SimCondition::Ready, u"ready"},
+                                      Choice<SimCondition>{SimCondition::Absent, u"absent"},
+                                      Choice<SimCondition>{SimCondition::Busy, u"busy"},
+                                      Choice<SimCondition>{SimCondition::Failure, u"failure"}};
+constexpr std::array simTypes = {Choice<SimType>{SimType::Sim, u"SIM"},
+                                 Choice<SimType>{SimType::Usim, u"USIM"},
+                                 Choice<SimType>{SimType::Uim, u"UIM"}};
 constexpr std::array services = {
-    Choice{Service::Full, u"full"},           Choice{Service::Restricted, u"restricted"},
-    Choice{Service::Searching, u"searching"}, Choice{Service::Denied, u"denied"},
-    Choice{Service::Unknown, u"unknown"},     Choice{Service::None, u"none"}};
+    Choice<Service>{Service::Full, u"full"},           Choice<Service>{Service::Restricted, u"restricted"},
+    Choice<Service>{Service::Searching, u"searching"}, Choice<Service>{Service::Denied, u"denied"},
+    Choice<Service>{Service::Unknown, u"unknown"},     Choice<Service>{Service::None, u"none"}};
 
 const Fields<Identity> &identityFields()
 {

@@ -155,7 +155,7 @@ Answer readMessage(const Request &request)
     const auto entry = entries.find(request.arguments().number(0).value_or(0));
     if (entry == entries.end())
         return cmsError(cms::invalidIndex);
-    const Answer answer = ok({"+CMGR: " + header(*entry), entry->pdu});
+    Answer answer = ok({"+CMGR: " + header(*entry), entry->pdu});
     markRead(*entry);
     return answer;
 }

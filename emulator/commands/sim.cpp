@@ -87,14 +87,14 @@ Answer restrictedAccess(const Request &request)
     const auto *const file = std::ranges::find(files, *id, &SimFile::id);
     if (file == files.end())
         return ok(QByteArray("+CRSM: 148,4"));
-    const QByteArray content = file->content(request.state());
+    const QByteArray octets = QByteArray::fromHex(file->content(request.state()));
     const int offset = *high * 256 + *low;
-    if (offset * 2 >= content.size())
+    if (offset >= octets.size())
         return ok(QByteArray("+CRSM: 107,0"));
-    const qsizetype wanted = *length == 0 ? content.size() - offset * 2 : *length * 2;
-    if (offset * 2 + wanted > content.size())
+    const qsizetype wanted = *length == 0 ? octets.size() - offset : *length;
+    if (offset + wanted > octets.size())
         return ok(QByteArray("+CRSM: 103,0"));
-    return ok("+CRSM: 144,0,\"" + content.mid(offset * 2, wanted) + '"');
+    return ok("+CRSM: 144,0,\"" + octets.mid(offset, wanted).toHex().toUpper() + '"');
 }
 
 Answer imsi(const Request &request)

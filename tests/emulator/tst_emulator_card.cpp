@@ -194,9 +194,9 @@ void TestEmulatorCard::operatorSearchKeepsOthersWaiting()
     Talk talk;
     talk.port.write("AT+COPS=?\rAT+CSQ\r");
     QVERIFY(talk.card.hears(u"AT+COPS=?"_s));
-    QVERIFY(talk.card.advance(2900));
+    QVERIFY(talk.card.advance(1000));
     QCOMPARE(talk.card.pending(talk.port), "");
-    QVERIFY(talk.card.advance(100));
+    QVERIFY(talk.card.advance(2000));
     const QByteArray list = "\r\n+COPS: (2,\"Test Network\",\"TestNet\",\"00101\",2),"
                             "(1,\"Other Network\",\"OtherNet\",\"00102\",0),"
                             "(3,\"Closed Network\",\"Closed\",\"00103\",2),,(0-4),(0-2)\r\n\r\nOK\r\n";
@@ -277,9 +277,9 @@ void TestEmulatorCard::dataCallEndsByEscapeOrClosing()
     QCOMPARE(talk.card.pending(talk.port), "");
     talk.port.write("+++");
     QVERIFY(talk.card.hears(u"+++"_s));
-    talk.card.advance(999);
+    talk.card.advance(300);
     QCOMPARE(talk.card.pending(talk.port), "");
-    talk.card.advance(1);
+    talk.card.advance(700);
     QCOMPARE(talk.card.pending(talk.port), "\r\nOK\r\n");
     QCOMPARE(talk.ask("AT+CSQ"), "+CSQ: 20,99|OK");
     QCOMPARE(talk.ask("ATO"), "CONNECT");

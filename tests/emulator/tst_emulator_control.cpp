@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The control socket against hostile clients, and what profiles may hold.
+#include "at/commandtable.h"
+#include "control/controltable.h"
 #include "testcard.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLocalSocket>
+#include <QRegularExpression>
 #include <QTest>
 
 using cardemu::Profile;
@@ -26,6 +29,8 @@ private Q_SLOTS:
     void brokenProfile_data();
     void brokenProfile();
     void profileFaultsWaitFromTheStart();
+    void documentationNamesEverything_data();
+    void documentationNamesEverything();
 };
 
 namespace
@@ -237,6 +242,27 @@ void TestEmulatorControl::profileFaultsWaitFromTheStart()
     TestPort port(card.path(u"at"_s));
     QCOMPARE(port.exchange("AT+CSQ\r", "BUSY\r\n"), "\r\nBUSY\r\n");
     QCOMPARE(port.exchange("AT+CSQ\r", "OK\r\n"), "\r\n+CSQ: 20,99\r\n\r\nOK\r\n");
+}
+
+void TestEmulatorControl::documentationNamesEverything_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const cardemu::ControlRow &row : cardemu::controlTable())
+        QTest::addRow("control %s", qPrintable(row.name)) << row.name;
+    for (const QString &profile : {u"wcdma"_s, u"cdma"_s}) {
+        for (const QByteArray &name :
+             cardemu::commandNames(std::get<Profile>(Profile::builtIn(profile)).card))
+            QTest::addRow("%s %s", qPrintable(profile), name.constData()) << QString::fromLatin1(name);
+    }
+}
+
+void TestEmulatorControl::documentationNamesEverything()
+{
+    QFETCH(QString, name);
+    QFile page(QStringLiteral(CORVA_SOURCE_DIR "/docs/emulator.md"));
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    const QRegularExpression word(u"[` ]"_s + QRegularExpression::escape(name) + u"(<n>)?[`, =?]"_s);
+    QVERIFY(QString::fromUtf8(page.readAll()).contains(word));
 }
 
 QTEST_GUILESS_MAIN(TestEmulatorControl)
