@@ -26,8 +26,7 @@ struct Texts {
 
 std::optional<struct stat> nodeStatus(const QString &port)
 {
-    struct stat status {
-    };
+    struct stat status = {};
     if (stat(QFile::encodeName(port).constData(), &status) != 0)
         return std::nullopt;
     return status;

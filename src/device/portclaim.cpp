@@ -17,8 +17,7 @@ namespace
 /// 143.
 bool isPseudoTerminal(int fd)
 {
-    struct stat status {
-    };
+    struct stat status = {};
     return fstat(fd, &status) == 0 && major(status.st_rdev) >= 136 && major(status.st_rdev) <= 143;
 }
 

@@ -68,8 +68,7 @@ qint64 pidInLockFile(const QString &path)
 /// The character device behind a path; 0 when there is none.
 dev_t characterDevice(const QString &path)
 {
-    struct stat status {
-    };
+    struct stat status = {};
     if (stat(QFile::encodeName(path).constData(), &status) != 0 || !S_ISCHR(status.st_mode))
         return 0;
     return status.st_rdev;

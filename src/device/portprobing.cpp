@@ -20,8 +20,7 @@ namespace
 
 bool isCharacterDevice(const QString &port)
 {
-    struct stat status {
-    };
+    struct stat status = {};
     return stat(QFile::encodeName(port).constData(), &status) == 0 && S_ISCHR(status.st_mode);
 }
 

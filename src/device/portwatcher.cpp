@@ -57,10 +57,8 @@ void PortWatcher::slotLook()
 PortWatcher::Node PortWatcher::look(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
-    struct stat link {
-    };
-    struct stat target {
-    };
+    struct stat link = {};
+    struct stat target = {};
     // A link that leads nowhere is no port.
     if (lstat(name.constData(), &link) != 0 || stat(name.constData(), &target) != 0)
         return {};

@@ -229,8 +229,7 @@ QList<UsbStick> scanUsb()
 
 UsbStick stickOfPort(const QString &port)
 {
-    struct stat status {
-    };
+    struct stat status = {};
     if (stat(QFile::encodeName(port).constData(), &status) != 0 || !S_ISCHR(status.st_mode))
         return {};
     const UdevPtr<udev> context(udev_new());
