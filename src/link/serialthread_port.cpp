@@ -83,6 +83,7 @@ bool SerialThread::closePortNormal(int fd)
 {
     if (fd < 0)
         return false;
+    tcflush(fd, TCIOFLUSH); // closing would wait for a device that takes no data
     ::close(fd);
     if (fd == m_fd)
         m_ahead.clear();
