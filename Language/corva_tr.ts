@@ -2,6 +2,93 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr" sourcelanguage="en">
 <context>
+    <name>CardStatus</name>
+    <message>
+        <source>Ready</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Locked, PIN needed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blocked, PUK needed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Starting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No SIM card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not searching</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Home network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Emergency calls only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Full service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No service in this region</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving power</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 dBm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2 of 5 bars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Offline: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FrmDisclaimer</name>
     <message>
         <source>Before you begin</source>
@@ -115,6 +202,320 @@
     </message>
 </context>
 <context>
+    <name>Notices</name>
+    <message>
+        <source>Incoming call</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The card is ringing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New message</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A new message has arrived on the card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A new message has arrived</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An immediate message has arrived</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another call is waiting.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OfflineDiagnosis</name>
+    <message>
+        <source>The card shows itself as a disk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Many cards start as a disk with drivers on it. Switch it over, and it becomes a modem within a few seconds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No card found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plug the card into a USB socket of this computer. If it is plugged in, take it out and try another socket.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The card is plugged in as a modem</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The card has no serial port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The computer sees &quot;%1&quot; but made no port for it. Take it out, wait ten seconds and plug it in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The computer made a port for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You may use the port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No right to use the port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The port %1 may be used only by members of the group &quot;%2&quot;. Run the command that the button copies, then log out and in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (process %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No other program holds the port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The port is in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 holds the port %2. Close that program or stop its service, then search again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The card does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The port %1 is open, but nothing answers there. A card that was just plugged in needs up to half a minute; after that, take it out and plug it in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The card answers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No SIM card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the card out, put a SIM card in with its contacts down, and plug the card in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The SIM card cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the SIM card out, wipe its contacts and put it in again. If that does not help, ask your operator for a new one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The SIM card is starting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This takes a few seconds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asking for the SIM card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The card has not said yet whether it has a SIM card.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A SIM card is in the card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The SIM card is locked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It asks for its PIN before it lets the card into a network.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The SIM card is blocked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A wrong PIN was entered too often. The PUK, which came with the SIM card, sets a new PIN.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The SIM card is unlocked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The radio is off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The card neither sends nor receives until it is switched on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The radio is on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not looking for a network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The card found no network that it may use and gave up. Move to a place with better reception, then switch the radio on anew.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The network refused the SIM card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The SIM card may not be activated yet, or may not be used here. Your operator can tell you why.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looking for a network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This can take a minute, longer abroad. A place near a window helps.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asking for the network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The card has not said yet whether a network took it in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your operator&apos;s network took the card in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another operator&apos;s network took the card in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The network gives no service here at the moment. Move to a place with better reception.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Emergency calls only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The network does not serve this SIM card here. Your operator can tell you why.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No service in this region</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your operator serves this SIM card elsewhere, not in this region.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The network serves the card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Card in the USB socket</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serial port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right to use the port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Port free</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Answer of the card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SIM card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PIN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Radio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Registration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Search again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Switch to modem</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Enter PIN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Enter PUK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Switch radio on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Ask again</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PortAccess</name>
     <message>
         <source>You may not open %1, which belongs to the group &quot;%2&quot;. Join it with &quot;sudo usermod -aG %2 %3&quot;, then sign out and in again.</source>
@@ -192,10 +593,448 @@
     </message>
 </context>
 <context>
+    <name>Skins</name>
+    <message>
+        <source>The colours in &quot;%1&quot; cannot be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WTMainWindow</name>
+    <message>
+        <source>&amp;Why am I offline?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mi&amp;nimise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Fill the screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;About %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::AboutBox</name>
+    <message>
+        <source>About %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connection manager for USB data cards</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Toolkit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>IMEI</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::CSetting</name>
+    <message>
+        <source>Groups of settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>corva::CardMonitor</name>
     <message>
         <source>Reading the card</source>
         <translation>Kart okunuyor</translation>
+    </message>
+</context>
+<context>
+    <name>corva::CardPage</name>
+    <message>
+        <source>Yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask the card for everything anew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::CheckPIN</name>
+    <message>
+        <source>&amp;Show the digits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>La&amp;ter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The SIM card is blocked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The SIM card is locked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter PUK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter PIN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the PUK, which came with the SIM card, and choose a new PIN.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter its PIN to use the card.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;UK, 8 digits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New &amp;PIN, 4 to 8 digits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;PIN, 4 to 8 digits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Repeat the new PIN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Un&amp;block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Un&amp;lock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n attempts left</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Last attempt: after another wrong PUK the SIM card is lost for good.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last attempt: after another wrong PIN the SIM card asks for its PUK.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PUK has 8 digits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A PIN has 4 to 8 digits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The two PINs differ.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asking the SIM card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The PUK is wrong.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The PIN is wrong.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The SIM card cannot be read. Take it out and put it in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The card did not answer. Nothing has changed; try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::DiagnosisRow</name>
+    <message>
+        <source>in order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>problem</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>under way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::FactRow</name>
+    <message>
+        <source>Copy %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::GeneralPage</name>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Beside other programs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep running in the tray when the window is closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Notify about calls and messages on the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Colours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The language is stored. It takes effect when the program starts next.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The colours could not be stored: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::IconButton</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::KeyboardMover</name>
+    <message>
+        <source>Arrow keys move the window. Enter keeps the place, Esc brings it back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arrow keys resize the window. Enter keeps the size, Esc brings the old one back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::Mender</name>
+    <message>
+        <source>Searching for the card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asking the card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copied. Paste the command into a terminal, then log out and in again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switching the card to a modem</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switched. The card comes back as a modem in a few seconds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switching the radio on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The radio is on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The card has not confirmed yet. Its state follows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::Navigation</name>
+    <message>
+        <source>Pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::NavigationButton</name>
+    <message>
+        <source>%1, %2 new</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::OfflinePanel</name>
+    <message>
+        <source>&amp;Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Why am I offline?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Everything from the socket to the network is in order.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is wrong so far; the card is at it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One step is not in order. The steps after it follow by themselves.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::SignalBars</name>
+    <message>
+        <source>Signal: %1 of %2 bars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No signal</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -211,6 +1050,136 @@
     <message>
         <source>Firmware Version:</source>
         <translation>Donanım yazılımı sürümü: </translation>
+    </message>
+</context>
+<context>
+    <name>corva::StateHero</name>
+    <message>
+        <source>&amp;Why am I offline?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>  ·  </source>
+        <comment>between facts</comment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::StatusStrip</name>
+    <message>
+        <source>&amp;Why?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Why am I offline?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::TopBar</name>
+    <message>
+        <source>Connecting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disconnecting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minimise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network type %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>R</source>
+        <comment>roaming</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SIM</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SIM card: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data connection: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>corva::TrayIcon</name>
+    <message>
+        <source>&amp;Why am I offline?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;About %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Hide the window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show the window</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>
