@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Start, memory and idle CPU of the real program, beside an empty Qt Widgets window in the same run.
 

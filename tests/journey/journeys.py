@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
 """What a person does with the window, from plugging in to the state on screen. See driver.py."""
 import json

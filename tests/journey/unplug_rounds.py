@@ -1,0 +1,50 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Pulls the card out and puts it back at random moments: unplug_rounds.py [ROUNDS [SEED]].
+
+The window must be right each time, and no thread and no descriptor may be left over. Run on a program that was built with
+AddressSanitizer, its report or a leak makes the exit status wrong.
+"""
+import pathlib
+import random
+import sys
+import time
+
+from driver import desk
+
+
+def count(pid, what):
+    return len(list(pathlib.Path(f"/proc/{pid}/{what}").iterdir()))
+
+
+def main():
+    rounds = int(sys.argv[1]) if len(sys.argv) > 1 else 20
+    seed = int(sys.argv[2]) if len(sys.argv) > 2 else random.randrange(1 << 30)
+    print(f"{rounds} rounds, seed {seed}")
+    chance = random.Random(seed)
+    with desk() as (card, program):
+        card.say("pace", "delay=10")
+        program.start()
+        program.wait_text("Test Network", 30)
+        time.sleep(5)  # the echo is set, the first polls are through
+        before = {what: count(program.process.pid, what) for what in ("task", "fd")}
+        for number in range(rounds):
+            time.sleep(chance.uniform(0, 0.4))  # also in the middle of a poll or of the first reading
+            card.say("unplug")
+            if chance.random() < 0.5:
+                program.wait_text("No card", 10)
+            time.sleep(chance.uniform(0, 0.2))
+            card.say("plug")
+            if chance.random() < 0.7 or number == rounds - 1:
+                program.wait_text("Test Network", 10)
+        time.sleep(1)
+        after = {what: count(program.process.pid, what) for what in ("task", "fd")}
+        assert after["task"] <= before["task"] and after["fd"] <= before["fd"], f"left over: {before} -> {after}"
+        program.keys("ctrl+q")
+        status = program.process.wait(60)
+        assert status == 0, f"exit status {status}"
+    print(f"{rounds} rounds: the window was right each time; threads and descriptors {before} -> {after}")
+
+
+if __name__ == "__main__":
+    main()
