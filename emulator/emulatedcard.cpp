@@ -127,15 +127,26 @@ Complaint EmulatedCard::plug(const PortNames &names)
         return u"the card is plugged in"_s;
     if (m_folder.isEmpty())
         return u"the card has no folder yet"_s;
-    for (const auto &[role, name] : {std::pair(u"at"_s, names.at), std::pair(u"modem"_s, names.modem),
-                                     std::pair(u"voice"_s, names.voice)}) {
-        if (name.contains(u'/') || name == u"control"_s || name.startsWith(u'.'))
-            return u"\"%1\" cannot be a port's name"_s.arg(name);
-        if (!name.isEmpty())
-            portOf(role)->name = name;
-    }
+    if (const Complaint complaint = renamePorts({names.at, names.modem, names.voice}); !complaint.isEmpty())
+        return complaint;
     m_card->powerUp();
     return openPorts();
+}
+
+// In the ports' own order; an empty name keeps the one that was.
+Complaint EmulatedCard::renamePorts(QStringList names)
+{
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        if (names[i].isEmpty())
+            names[i] = m_ports[size_t(i)]->name;
+        if (names[i].contains(u'/') || names[i].startsWith(u'.') || names[i] == u"control"_s)
+            return u"\"%1\" cannot be a port's name"_s.arg(names[i]);
+    }
+    if (names.removeDuplicates() > 0)
+        return u"two ports cannot have one name"_s;
+    for (qsizetype i = 0; i < names.size(); ++i)
+        m_ports[size_t(i)]->name = names[i];
+    return {};
 }
 
 QJsonObject EmulatedCard::portsAsJson() const

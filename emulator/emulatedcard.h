@@ -66,6 +66,7 @@ private:
 
     Port *portOf(const QString &role) const;
     void addPort(const QString &role, bool speaksAt);
+    Complaint renamePorts(QStringList names);
     Complaint openPorts();
     void closePorts();
     static void balance(Port &port);

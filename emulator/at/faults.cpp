@@ -82,7 +82,8 @@ void makeLong(const Fault &fault, Reply &reply)
 
 void echoStorm(const Fault &fault, Reply &reply)
 {
-    insert(reply, 0, reply.echo.repeated(fault.bytes));
+    constexpr qsizetype most = 4000000;
+    insert(reply, 0, reply.echo.repeated(std::min(qsizetype(fault.bytes), most / reply.echo.size())));
 }
 
 struct Effect {

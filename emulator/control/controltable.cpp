@@ -290,9 +290,10 @@ Outcome moveClock(EmulatedCard &emulated, const QJsonObject &values)
             return refused(u"time: must be like 2026-02-28T12:00:00Z"_s);
         emulated.scheduler().setNow(time);
     }
+    constexpr int day = 86400000;
     const int ms = values[u"advance"_s].toInt();
-    if (ms < 0)
-        return refused(u"advance: must not be negative"_s);
+    if (ms < 0 || ms > day)
+        return refused(u"advance: must be a whole number from 0 to %1"_s.arg(day));
     emulated.scheduler().advance(milliseconds(ms));
     return done({{u"clock"_s, emulated.scheduler().now().toString(Qt::ISODateWithMs)}});
 }

@@ -2,6 +2,7 @@
 // What the card makes of the bytes of a command line, and the form of its answers: ITU-T V.250 5.
 #include "testcard.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 
 class TestEmulatorGrammar : public QObject
@@ -11,6 +12,7 @@ class TestEmulatorGrammar : public QObject
 private Q_SLOTS:
     void answers_data();
     void answers();
+    void randomBytesDoNoHarm();
     void settingsStayUntilReset();
     void portsHaveTheirOwnSettings();
     void familiesKnowTheirCommands_data();
@@ -80,6 +82,40 @@ void TestEmulatorGrammar::answers()
     TestPort port(card.path(u"at"_s));
     QCOMPARE(port.exchange(sent, answered), answered);
     QCOMPARE(card.pending(port), QByteArray());
+}
+
+// Pieces of commands and noise in any order; afterwards the card must still answer.
+void TestEmulatorGrammar::randomBytesDoNoHarm()
+{
+    const QByteArrayList pieces{"AT",        "+C",
+                                "+CREG",     "=",
+                                "?",         "=?",
+                                "\"",        ";",
+                                ",",         "2147483648",
+                                "-1",        "\r",
+                                "\r\n",      "A/",
+                                "\b",        "\x1a",
+                                "+COPS=1,2", "ATS3",
+                                "D",         "^SYSINFO",
+                                "\xff",      "+CRSM=176,12258,",
+                                "+CPIN=",    "+CSCS=\"UCS2\"",
+                                "+CMGL=4",   "+CPBW=",
+                                "&F",        "E1"};
+    QRandomGenerator random(20240229);
+    TestCard card;
+    card.tell(R"({"command": "delay", "match": "+COPS=?", "ms": 0})");
+    TestPort port(card.path(u"at"_s));
+    for (int round = 0; round < 200; ++round) {
+        QByteArray bytes;
+        for (int i = 0; i < 30; ++i)
+            bytes += pieces[random.bounded(pieces.size())];
+        QVERIFY(port.write(bytes));
+        card.pending(port);
+    }
+    QVERIFY(card.tell(R"({"command": "unplug"})"));
+    QVERIFY(card.tell(R"({"command": "plug"})"));
+    TestPort again(card.path(u"at"_s));
+    QCOMPARE(again.exchange("AT\r", "OK\r\n"), "AT\r\r\nOK\r\n");
 }
 
 void TestEmulatorGrammar::settingsStayUntilReset()

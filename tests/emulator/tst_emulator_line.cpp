@@ -213,6 +213,10 @@ void TestEmulatorLine::unplugEndsClientsAndPlugIsNew()
     QVERIFY(port.isAtEnd());
     QVERIFY(!QFileInfo(card.path(u"at"_s)).isSymLink());
     QVERIFY(!card.control(R"({"command": "unplug"})")[u"ok"_s].toBool());
+    QCOMPARE(card.control(R"({"command": "plug", "at": "../at"})")[u"error"_s].toString(),
+             u"\"../at\" cannot be a port's name"_s);
+    QCOMPARE(card.control(R"({"command": "plug", "at": "x", "voice": "x"})")[u"error"_s].toString(),
+             u"two ports cannot have one name"_s);
     QVERIFY(card.tell(R"({"command": "plug", "at": "at2"})"));
     QVERIFY(!QFileInfo(card.path(u"at"_s)).isSymLink());
     TestPort again(card.path(u"at2"_s));
