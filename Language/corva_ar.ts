@@ -5,87 +5,87 @@
     <name>CardStatus</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>جاهزة</translation>
     </message>
     <message>
         <source>Locked, PIN needed</source>
-        <translation type="unfinished"></translation>
+        <translation>مقفلة، يلزم رمز PIN</translation>
     </message>
     <message>
         <source>Blocked, PUK needed</source>
-        <translation type="unfinished"></translation>
+        <translation>محظورة، يلزم رمز PUK</translation>
     </message>
     <message>
         <source>Starting</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ البدء</translation>
     </message>
     <message>
         <source>Cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>تتعذر قراءتها</translation>
     </message>
     <message>
         <source>No SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد شريحة SIM</translation>
     </message>
     <message>
         <source>Not searching</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يجري البحث</translation>
     </message>
     <message>
         <source>Home network</source>
-        <translation type="unfinished"></translation>
+        <translation>الشبكة الأم</translation>
     </message>
     <message>
         <source>Searching</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ البحث</translation>
     </message>
     <message>
         <source>Refused</source>
-        <translation type="unfinished"></translation>
+        <translation>مرفوض</translation>
     </message>
     <message>
         <source>Roaming</source>
-        <translation type="unfinished"></translation>
+        <translation>تجوال</translation>
     </message>
     <message>
         <source>No service</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد خدمة</translation>
     </message>
     <message>
         <source>Emergency calls only</source>
-        <translation type="unfinished"></translation>
+        <translation>مكالمات الطوارئ فقط</translation>
     </message>
     <message>
         <source>Full service</source>
-        <translation type="unfinished"></translation>
+        <translation>خدمة كاملة</translation>
     </message>
     <message>
         <source>No service in this region</source>
-        <translation type="unfinished"></translation>
+        <translation>لا خدمة في هذه المنطقة</translation>
     </message>
     <message>
         <source>Saving power</source>
-        <translation type="unfinished"></translation>
+        <translation>توفير الطاقة</translation>
     </message>
     <message>
         <source>%1 dBm</source>
-        <translation type="unfinished"></translation>
+        <translation>‪%1 dBm‬</translation>
     </message>
     <message>
         <source>%1, %2 of 5 bars</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، %2 من 5 أشرطة</translation>
     </message>
     <message>
         <source>Offline: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>غير متصل: %1</translation>
     </message>
     <message>
         <source>In the network</source>
-        <translation type="unfinished"></translation>
+        <translation>مسجَّل في الشبكة</translation>
     </message>
     <message>
         <source>, </source>
-        <translation type="unfinished"></translation>
+        <translation>، </translation>
     </message>
 </context>
 <context>
@@ -205,314 +205,314 @@
     <name>Notices</name>
     <message>
         <source>Incoming call</source>
-        <translation type="unfinished"></translation>
+        <translation>مكالمة واردة</translation>
     </message>
     <message>
         <source>The card is ringing.</source>
-        <translation type="unfinished"></translation>
+        <translation>البطاقة ترنّ.</translation>
     </message>
     <message>
         <source>New message</source>
-        <translation type="unfinished"></translation>
+        <translation>رسالة جديدة</translation>
     </message>
     <message>
         <source>A new message has arrived on the card</source>
-        <translation type="unfinished"></translation>
+        <translation>وصلت رسالة جديدة إلى البطاقة</translation>
     </message>
     <message>
         <source>A new message has arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>وصلت رسالة جديدة</translation>
     </message>
     <message>
         <source>An immediate message has arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>وصلت رسالة فورية</translation>
     </message>
     <message>
         <source>Another call is waiting.</source>
-        <translation type="unfinished"></translation>
+        <translation>مكالمة أخرى في الانتظار.</translation>
     </message>
 </context>
 <context>
     <name>OfflineDiagnosis</name>
     <message>
         <source>The card shows itself as a disk</source>
-        <translation type="unfinished"></translation>
+        <translation>تظهر البطاقة كقرص</translation>
     </message>
     <message>
         <source>Many cards start as a disk with drivers on it. Switch it over, and it becomes a modem within a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>تبدأ بطاقات كثيرة كقرص عليه برامج التشغيل. حوّلها فتصير مودمًا خلال ثوانٍ.</translation>
     </message>
     <message>
         <source>No card found</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُعثر على بطاقة</translation>
     </message>
     <message>
         <source>Plug the card into a USB socket of this computer. If it is plugged in, take it out and try another socket.</source>
-        <translation type="unfinished"></translation>
+        <translation>أدخل البطاقة في مقبس USB بهذا الحاسوب. إن كانت موصولة فأخرجها وجرّب مقبسًا آخر.</translation>
     </message>
     <message>
         <source>The card is plugged in as a modem</source>
-        <translation type="unfinished"></translation>
+        <translation>البطاقة موصولة كمودم</translation>
     </message>
     <message>
         <source>The card has no serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس للبطاقة منفذ تسلسلي</translation>
     </message>
     <message>
         <source>The computer sees &quot;%1&quot; but made no port for it. Take it out, wait ten seconds and plug it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>يرى الحاسوب ‪&quot;%1&quot;‬ لكنه لم ينشئ لها منفذًا. أخرجها وانتظر عشر ثوانٍ ثم أعد توصيلها.</translation>
     </message>
     <message>
         <source>The computer made a port for it</source>
-        <translation type="unfinished"></translation>
+        <translation>أنشأ الحاسوب منفذًا لها</translation>
     </message>
     <message>
         <source>You may use the port</source>
-        <translation type="unfinished"></translation>
+        <translation>يُسمح لك باستخدام المنفذ</translation>
     </message>
     <message>
         <source>No right to use the port</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُسمح لك باستخدام المنفذ</translation>
     </message>
     <message>
         <source>The port %1 may be used only by members of the group &quot;%2&quot;. Run the command that the button copies, then log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>استخدام المنفذ ‪%1‬ مقصور على أعضاء المجموعة ‪&quot;%2&quot;‬. نفّذ الأمر الذي ينسخه الزر، ثم اخرج من الجلسة وادخل من جديد.</translation>
     </message>
     <message>
         <source>Another program</source>
-        <translation type="unfinished"></translation>
+        <translation>برنامج آخر</translation>
     </message>
     <message>
         <source>%1 (process %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (العملية %2)</translation>
     </message>
     <message>
         <source>No other program holds the port</source>
-        <translation type="unfinished"></translation>
+        <translation>لا برنامج آخر يشغل المنفذ</translation>
     </message>
     <message>
         <source>The port is in use</source>
-        <translation type="unfinished"></translation>
+        <translation>المنفذ مشغول</translation>
     </message>
     <message>
         <source>%1 holds the port %2. Close that program or stop its service, then search again.</source>
-        <translation type="unfinished"></translation>
+        <translation>يشغل %1 المنفذ ‪%2‬. أغلق ذلك البرنامج أو أوقف خدمته، ثم أعد البحث.</translation>
     </message>
     <message>
         <source>The card does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>البطاقة لا تستجيب</translation>
     </message>
     <message>
         <source>The port %1 is open, but nothing answers there. A card that was just plugged in needs up to half a minute; after that, take it out and plug it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>المنفذ ‪%1‬ مفتوح لكن لا استجابة منه. تحتاج البطاقة الموصولة للتو إلى نصف دقيقة على الأكثر؛ بعد ذلك أخرجها ثم أعد توصيلها.</translation>
     </message>
     <message>
         <source>The card answers</source>
-        <translation type="unfinished"></translation>
+        <translation>البطاقة تستجيب</translation>
     </message>
     <message>
         <source>No SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد شريحة SIM</translation>
     </message>
     <message>
         <source>Take the card out, put a SIM card in with its contacts down, and plug the card in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>أخرج البطاقة وضع فيها شريحة SIM وملامساتها إلى الأسفل، ثم أعد توصيل البطاقة.</translation>
     </message>
     <message>
         <source>The SIM card cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>تتعذر قراءة شريحة SIM</translation>
     </message>
     <message>
         <source>Take the SIM card out, wipe its contacts and put it in again. If that does not help, ask your operator for a new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>أخرج شريحة SIM وامسح ملامساتها ثم أعدها. إن لم يُجدِ ذلك فاطلب من المشغّل شريحة جديدة.</translation>
     </message>
     <message>
         <source>The SIM card is starting</source>
-        <translation type="unfinished"></translation>
+        <translation>شريحة SIM قيد بدء التشغيل</translation>
     </message>
     <message>
         <source>This takes a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>يستغرق هذا بضع ثوانٍ.</translation>
     </message>
     <message>
         <source>Asking for the SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ الاستعلام عن شريحة SIM</translation>
     </message>
     <message>
         <source>The card has not said yet whether it has a SIM card.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تُبلغ البطاقة بعد هل فيها شريحة SIM.</translation>
     </message>
     <message>
         <source>A SIM card is in the card</source>
-        <translation type="unfinished"></translation>
+        <translation>في البطاقة شريحة SIM</translation>
     </message>
     <message>
         <source>The SIM card is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>شريحة SIM مقفلة</translation>
     </message>
     <message>
         <source>It asks for its PIN before it lets the card into a network.</source>
-        <translation type="unfinished"></translation>
+        <translation>تطلب رمز PIN قبل أن تسمح للبطاقة بدخول شبكة.</translation>
     </message>
     <message>
         <source>The SIM card is blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>شريحة SIM محظورة</translation>
     </message>
     <message>
         <source>A wrong PIN was entered too often. The PUK, which came with the SIM card, sets a new PIN.</source>
-        <translation type="unfinished"></translation>
+        <translation>أُدخل رمز PIN خاطئ مرات كثيرة. يتيح رمز PUK المرفق بشريحة SIM تعيين رمز PIN جديد.</translation>
     </message>
     <message>
         <source>The SIM card is unlocked</source>
-        <translation type="unfinished"></translation>
+        <translation>شريحة SIM غير مقفلة</translation>
     </message>
     <message>
         <source>The radio is off</source>
-        <translation type="unfinished"></translation>
+        <translation>اللاسلكي متوقف</translation>
     </message>
     <message>
         <source>The card neither sends nor receives until it is switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا ترسل البطاقة ولا تستقبل حتى يُشغَّل اللاسلكي.</translation>
     </message>
     <message>
         <source>The radio is on</source>
-        <translation type="unfinished"></translation>
+        <translation>اللاسلكي يعمل</translation>
     </message>
     <message>
         <source>Not looking for a network</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يجري البحث عن شبكة</translation>
     </message>
     <message>
         <source>The card found no network that it may use and gave up. Move to a place with better reception, then switch the radio on anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تجد البطاقة شبكة يحق لها استخدامها فتوقفت. انتقل إلى مكان استقباله أفضل، ثم شغّل اللاسلكي من جديد.</translation>
     </message>
     <message>
         <source>The network refused the SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>رفضت الشبكة شريحة SIM</translation>
     </message>
     <message>
         <source>The SIM card may not be activated yet, or may not be used here. Your operator can tell you why.</source>
-        <translation type="unfinished"></translation>
+        <translation>ربما لم تُفعَّل شريحة SIM بعد، أو لا يُسمح باستخدامها هنا. يستطيع المشغّل إخبارك بالسبب.</translation>
     </message>
     <message>
         <source>Looking for a network</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ البحث عن شبكة</translation>
     </message>
     <message>
         <source>This can take a minute, longer abroad. A place near a window helps.</source>
-        <translation type="unfinished"></translation>
+        <translation>قد يستغرق هذا دقيقة، وأطول في الخارج. يساعد القرب من نافذة.</translation>
     </message>
     <message>
         <source>Asking for the network</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ الاستعلام عن الشبكة</translation>
     </message>
     <message>
         <source>The card has not said yet whether a network took it in.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تُبلغ البطاقة بعد هل قبلتها شبكة.</translation>
     </message>
     <message>
         <source>Your operator&apos;s network took the card in</source>
-        <translation type="unfinished"></translation>
+        <translation>قبلت شبكة مشغّلك البطاقة</translation>
     </message>
     <message>
         <source>Another operator&apos;s network took the card in</source>
-        <translation type="unfinished"></translation>
+        <translation>قبلت شبكة مشغّل آخر البطاقة</translation>
     </message>
     <message>
         <source>No service</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد خدمة</translation>
     </message>
     <message>
         <source>The network gives no service here at the moment. Move to a place with better reception.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تقدّم الشبكة خدمة هنا حاليًا. انتقل إلى مكان استقباله أفضل.</translation>
     </message>
     <message>
         <source>Emergency calls only</source>
-        <translation type="unfinished"></translation>
+        <translation>مكالمات الطوارئ فقط</translation>
     </message>
     <message>
         <source>The network does not serve this SIM card here. Your operator can tell you why.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تخدم الشبكة شريحة SIM هذه هنا. يستطيع المشغّل إخبارك بالسبب.</translation>
     </message>
     <message>
         <source>No service in this region</source>
-        <translation type="unfinished"></translation>
+        <translation>لا خدمة في هذه المنطقة</translation>
     </message>
     <message>
         <source>Your operator serves this SIM card elsewhere, not in this region.</source>
-        <translation type="unfinished"></translation>
+        <translation>يخدم المشغّل شريحة SIM هذه في أماكن أخرى، لا في هذه المنطقة.</translation>
     </message>
     <message>
         <source>The network serves the card</source>
-        <translation type="unfinished"></translation>
+        <translation>الشبكة تخدم البطاقة</translation>
     </message>
     <message>
         <source>Card in the USB socket</source>
-        <translation type="unfinished"></translation>
+        <translation>البطاقة في مقبس USB</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>المنفذ التسلسلي</translation>
     </message>
     <message>
         <source>Right to use the port</source>
-        <translation type="unfinished"></translation>
+        <translation>حق استخدام المنفذ</translation>
     </message>
     <message>
         <source>Port free</source>
-        <translation type="unfinished"></translation>
+        <translation>خلوّ المنفذ</translation>
     </message>
     <message>
         <source>Answer of the card</source>
-        <translation type="unfinished"></translation>
+        <translation>استجابة البطاقة</translation>
     </message>
     <message>
         <source>SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>شريحة SIM</translation>
     </message>
     <message>
         <source>PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN</translation>
     </message>
     <message>
         <source>Radio</source>
-        <translation type="unfinished"></translation>
+        <translation>اللاسلكي</translation>
     </message>
     <message>
         <source>Registration</source>
-        <translation type="unfinished"></translation>
+        <translation>التسجيل</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>الشبكة</translation>
     </message>
     <message>
         <source>&amp;Search again</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة ال&amp;بحث</translation>
     </message>
     <message>
         <source>&amp;Switch to modem</source>
-        <translation type="unfinished"></translation>
+        <translation>تحويل إلى &amp;مودم</translation>
     </message>
     <message>
         <source>&amp;Copy command</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;نسخ الأمر</translation>
     </message>
     <message>
         <source>&amp;Enter PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;دخال PIN</translation>
     </message>
     <message>
         <source>&amp;Enter PUK</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;دخال PUK</translation>
     </message>
     <message>
         <source>&amp;Switch radio on</source>
-        <translation type="unfinished"></translation>
+        <translation>ت&amp;شغيل اللاسلكي</translation>
     </message>
     <message>
         <source>&amp;Ask again</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة الاست&amp;علام</translation>
     </message>
 </context>
 <context>
@@ -596,112 +596,112 @@
     <name>Skins</name>
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت قراءة الألوان في ‪&quot;%1&quot;‬.</translation>
     </message>
 </context>
 <context>
     <name>WTMainWindow</name>
     <message>
         <source>&amp;Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;لماذا لا يوجد اتصال؟</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;تحديث</translation>
     </message>
     <message>
         <source>&amp;Move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;نقل</translation>
     </message>
     <message>
         <source>Re&amp;size</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير الح&amp;جم</translation>
     </message>
     <message>
         <source>Mi&amp;nimise</source>
-        <translation type="unfinished"></translation>
+        <translation>ت&amp;صغير</translation>
     </message>
     <message>
         <source>&amp;Fill the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;ملء الشاشة</translation>
     </message>
     <message>
         <source>&amp;About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;حول %1</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;غلاق</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;خروج</translation>
     </message>
 </context>
 <context>
     <name>corva::AboutBox</name>
     <message>
         <source>About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>حول %1</translation>
     </message>
     <message>
         <source>Connection manager for USB data cards</source>
-        <translation type="unfinished"></translation>
+        <translation>مدير اتصال لبطاقات بيانات USB</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation>البرنامج</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>الإصدار</translation>
     </message>
     <message>
         <source>Toolkit</source>
-        <translation type="unfinished"></translation>
+        <translation>مكتبة الواجهة</translation>
     </message>
     <message>
         <source>Licence</source>
-        <translation type="unfinished"></translation>
+        <translation>الرخصة</translation>
     </message>
     <message>
         <source>Card</source>
-        <translation type="unfinished"></translation>
+        <translation>البطاقة</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>الطراز</translation>
     </message>
     <message>
         <source>IMEI</source>
-        <translation type="unfinished"></translation>
+        <translation>IMEI</translation>
     </message>
     <message>
         <source>Firmware</source>
-        <translation type="unfinished"></translation>
+        <translation>البرنامج الثابت</translation>
     </message>
     <message>
         <source>Internal version</source>
-        <translation type="unfinished"></translation>
+        <translation>الإصدار الداخلي</translation>
     </message>
     <message>
         <source>&amp;Copy all</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;نسخ الكل</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;غلاق</translation>
     </message>
 </context>
 <context>
     <name>corva::CSetting</name>
     <message>
         <source>Groups of settings</source>
-        <translation type="unfinished"></translation>
+        <translation>مجموعات الإعدادات</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات</translation>
     </message>
 </context>
 <context>
@@ -715,331 +715,331 @@
     <name>corva::CardPage</name>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>نعم</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>لا</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;تحديث</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Ask the card for everything anew</source>
-        <translation type="unfinished"></translation>
+        <translation>الاستعلام من البطاقة عن كل شيء من جديد</translation>
     </message>
     <message>
         <source>Card</source>
-        <translation type="unfinished"></translation>
+        <translation>البطاقة</translation>
     </message>
 </context>
 <context>
     <name>corva::CheckPIN</name>
     <message>
         <source>&amp;Show the digits</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;ظهار الأرقام</translation>
     </message>
     <message>
         <source>La&amp;ter</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;لاحقًا</translation>
     </message>
     <message>
         <source>The SIM card is blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>شريحة SIM محظورة</translation>
     </message>
     <message>
         <source>The SIM card is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>شريحة SIM مقفلة</translation>
     </message>
     <message>
         <source>Enter PUK</source>
-        <translation type="unfinished"></translation>
+        <translation>إدخال PUK</translation>
     </message>
     <message>
         <source>Enter PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>إدخال PIN</translation>
     </message>
     <message>
         <source>Enter the PUK, which came with the SIM card, and choose a new PIN.</source>
-        <translation type="unfinished"></translation>
+        <translation>أدخل رمز PUK المرفق بشريحة SIM، واختر رمز PIN جديدًا.</translation>
     </message>
     <message>
         <source>Enter its PIN to use the card.</source>
-        <translation type="unfinished"></translation>
+        <translation>أدخل رمز PIN لاستخدام البطاقة.</translation>
     </message>
     <message>
         <source>P&amp;UK, 8 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;رمز PUK، 8 أرقام</translation>
     </message>
     <message>
         <source>New &amp;PIN, 4 to 8 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>رمز PIN ال&amp;جديد، من 4 إلى 8 أرقام</translation>
     </message>
     <message>
         <source>&amp;PIN, 4 to 8 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>ر&amp;مز PIN، من 4 إلى 8 أرقام</translation>
     </message>
     <message>
         <source>&amp;Repeat the new PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;كرّر رمز PIN الجديد</translation>
     </message>
     <message>
         <source>Un&amp;block</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء ال&amp;حظر</translation>
     </message>
     <message>
         <source>Un&amp;lock</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;فتح القفل</translation>
     </message>
     <message numerus="yes">
         <source>%n attempts left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم تبقَ أي محاولة</numerusform>
+            <numerusform>بقيت محاولة واحدة</numerusform>
+            <numerusform>بقيت محاولتان</numerusform>
+            <numerusform>بقيت %n محاولات</numerusform>
+            <numerusform>بقيت %n محاولة</numerusform>
+            <numerusform>بقيت %n محاولة</numerusform>
         </translation>
     </message>
     <message>
         <source>Last attempt: after another wrong PUK the SIM card is lost for good.</source>
-        <translation type="unfinished"></translation>
+        <translation>المحاولة الأخيرة: إذا أخطأت في رمز PUK مرة أخرى فستتلف شريحة SIM نهائيًا.</translation>
     </message>
     <message>
         <source>Last attempt: after another wrong PIN the SIM card asks for its PUK.</source>
-        <translation type="unfinished"></translation>
+        <translation>المحاولة الأخيرة: إذا أخطأت في رمز PIN مرة أخرى فستطلب شريحة SIM رمز PUK.</translation>
     </message>
     <message>
         <source>A PUK has 8 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>يتكوّن رمز PUK من 8 أرقام.</translation>
     </message>
     <message>
         <source>A PIN has 4 to 8 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>يتكوّن رمز PIN من 4 إلى 8 أرقام.</translation>
     </message>
     <message>
         <source>The two PINs differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>رمزا PIN مختلفان.</translation>
     </message>
     <message>
         <source>Asking the SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>بانتظار رد شريحة SIM</translation>
     </message>
     <message>
         <source>The PUK is wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>رمز PUK خاطئ.</translation>
     </message>
     <message>
         <source>The PIN is wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>رمز PIN خاطئ.</translation>
     </message>
     <message>
         <source>The SIM card cannot be read. Take it out and put it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>تتعذر قراءة شريحة SIM. أخرجها ثم أعدها.</translation>
     </message>
     <message>
         <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تستجب البطاقة. لم يتغيّر شيء؛ حاول مرة أخرى.</translation>
     </message>
 </context>
 <context>
     <name>corva::DiagnosisRow</name>
     <message>
         <source>in order</source>
-        <translation type="unfinished"></translation>
+        <translation>سليم</translation>
     </message>
     <message>
         <source>problem</source>
-        <translation type="unfinished"></translation>
+        <translation>مشكلة</translation>
     </message>
     <message>
         <source>under way</source>
-        <translation type="unfinished"></translation>
+        <translation>قيد التنفيذ</translation>
     </message>
     <message>
         <source>not known yet</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُعرف بعد</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>corva::FactRow</name>
     <message>
         <source>Copy %1</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ %1</translation>
     </message>
 </context>
 <context>
     <name>corva::GeneralPage</name>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>فاتح</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>داكن</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>اللغة</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>المظهر</translation>
     </message>
     <message>
         <source>Beside other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>إلى جانب البرامج الأخرى</translation>
     </message>
     <message>
         <source>&amp;Keep running in the tray when the window is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;متابعة العمل في علبة النظام عند إغلاق النافذة</translation>
     </message>
     <message>
         <source>&amp;Notify about calls and messages on the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>الإ&amp;شعار بالمكالمات والرسائل على سطح المكتب</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>الل&amp;غة</translation>
     </message>
     <message>
         <source>&amp;Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>الأل&amp;وان</translation>
     </message>
     <message>
         <source>The language is stored. It takes effect when the program starts next.</source>
-        <translation type="unfinished"></translation>
+        <translation>حُفظت اللغة، وتُعتمد عند بدء البرنامج في المرة القادمة.</translation>
     </message>
     <message>
         <source>The colours could not be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر حفظ الألوان: %1</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>عام</translation>
     </message>
 </context>
 <context>
     <name>corva::IconButton</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>corva::KeyboardMover</name>
     <message>
         <source>Arrow keys move the window. Enter keeps the place, Esc brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرّك مفاتيح الأسهم النافذة. يثبّت Enter موضعها، ويعيدها Esc.</translation>
     </message>
     <message>
         <source>Arrow keys resize the window. Enter keeps the size, Esc brings the old one back.</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيّر مفاتيح الأسهم حجم النافذة. يثبّت Enter الحجم، ويعيد Esc الحجم السابق.</translation>
     </message>
 </context>
 <context>
     <name>corva::Mender</name>
     <message>
         <source>Searching for the card</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ البحث عن البطاقة</translation>
     </message>
     <message>
         <source>Asking the card</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ الاستعلام من البطاقة</translation>
     </message>
     <message>
         <source>Copied. Paste the command into a terminal, then log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>نُسخ. ألصق الأمر في الطرفية، ثم اخرج من الجلسة وادخل من جديد.</translation>
     </message>
     <message>
         <source>Switching the card to a modem</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تحويل البطاقة إلى مودم</translation>
     </message>
     <message>
         <source>Switched. The card comes back as a modem in a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>تم التحويل. تعود البطاقة كمودم خلال ثوانٍ.</translation>
     </message>
     <message>
         <source>Switching the radio on</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تشغيل اللاسلكي</translation>
     </message>
     <message>
         <source>The radio is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>اللاسلكي يعمل.</translation>
     </message>
     <message>
         <source>The card has not confirmed yet. Its state follows.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تؤكّد البطاقة بعد. ستظهر حالتها لاحقًا.</translation>
     </message>
 </context>
 <context>
     <name>corva::Navigation</name>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>الصفحات</translation>
     </message>
 </context>
 <context>
     <name>corva::NavigationButton</name>
     <message>
         <source>%1, %2 new</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، الجديد: %2</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>corva::OfflinePanel</name>
     <message>
         <source>&amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;رجوع</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>رجوع</translation>
     </message>
     <message>
         <source>Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>لماذا لا يوجد اتصال؟</translation>
     </message>
     <message>
         <source>Everything from the socket to the network is in order.</source>
-        <translation type="unfinished"></translation>
+        <translation>كل شيء سليم، من المقبس إلى الشبكة.</translation>
     </message>
     <message>
         <source>Nothing is wrong so far; the card is at it.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا مشكلة حتى الآن؛ البطاقة ماضية في عملها.</translation>
     </message>
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>إحدى الخطوات غير سليمة. بعد إصلاحها تتبعها الخطوات التالية تلقائيًا.</translation>
     </message>
 </context>
 <context>
     <name>corva::SignalBars</name>
     <message>
         <source>Signal: %1 of %2 bars</source>
-        <translation type="unfinished"></translation>
+        <translation>الإشارة: %1 من %2 أشرطة</translation>
     </message>
     <message>
         <source>No signal</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد إشارة</translation>
     </message>
 </context>
 <context>
@@ -1061,130 +1061,130 @@
     <name>corva::StateHero</name>
     <message>
         <source>&amp;Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;لماذا لا يوجد اتصال؟</translation>
     </message>
     <message>
         <source>In the network</source>
-        <translation type="unfinished"></translation>
+        <translation>مسجَّل في الشبكة</translation>
     </message>
     <message>
         <source>  ·  </source>
         <comment>between facts</comment>
-        <translation type="unfinished"></translation>
+        <translation>  ·  </translation>
     </message>
 </context>
 <context>
     <name>corva::StatusStrip</name>
     <message>
         <source>&amp;Why?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;لماذا؟</translation>
     </message>
     <message>
         <source>Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>لماذا لا يوجد اتصال؟</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>corva::TopBar</name>
     <message>
         <source>Connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ الاتصال</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>متصل</translation>
     </message>
     <message>
         <source>Disconnecting</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ قطع الاتصال</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>غير متصل</translation>
     </message>
     <message>
         <source>Minimise</source>
-        <translation type="unfinished"></translation>
+        <translation>تصغير</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>إغلاق</translation>
     </message>
     <message>
         <source>Menu of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>قائمة %1</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>القائمة</translation>
     </message>
     <message>
         <source>Network type %1</source>
-        <translation type="unfinished"></translation>
+        <translation>نوع الشبكة %1</translation>
     </message>
     <message>
         <source>R</source>
         <comment>roaming</comment>
-        <translation type="unfinished"></translation>
+        <translation>R</translation>
     </message>
     <message>
         <source>Roaming</source>
-        <translation type="unfinished"></translation>
+        <translation>تجوال</translation>
     </message>
     <message>
         <source>No card</source>
-        <translation type="unfinished"></translation>
+        <translation>لا بطاقة</translation>
     </message>
     <message>
         <source>SIM</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM</translation>
     </message>
     <message>
         <source>SIM card: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>شريحة SIM: %1</translation>
     </message>
     <message>
         <source>not known yet</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تُعرف حالتها بعد</translation>
     </message>
     <message>
         <source>Data connection: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>اتصال البيانات: %1</translation>
     </message>
     <message>
         <source>Time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الوقت: %1</translation>
     </message>
 </context>
 <context>
     <name>corva::TrayIcon</name>
     <message>
         <source>&amp;Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;لماذا لا يوجد اتصال؟</translation>
     </message>
     <message>
         <source>&amp;About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;حول %1</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;خروج</translation>
     </message>
     <message>
         <source>&amp;Hide the window</source>
-        <translation type="unfinished"></translation>
+        <translation>إخ&amp;فاء النافذة</translation>
     </message>
     <message>
         <source>&amp;Show the window</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;ظهار النافذة</translation>
     </message>
 </context>
 </TS>
