@@ -51,43 +51,44 @@ struct FactSpec {
     QString (*value)(const CardState &);
 };
 
-#define CORVA_WORDS(text) QT_TRANSLATE_NOOP("corva::CardPage", text)
+constexpr const char *networkGroup = QT_TRANSLATE_NOOP("corva::CardPage", "Network");
+constexpr const char *simGroup = QT_TRANSLATE_NOOP("corva::CardPage", "SIM card");
+constexpr const char *deviceGroup = QT_TRANSLATE_NOOP("corva::CardPage", "Device");
 constexpr auto plain = FactRow::Copy::No;
 constexpr auto copied = FactRow::Copy::Yes;
 
 const FactSpec factSpecs[] = {
-    {0, CORVA_WORDS("Network"), "operator", CORVA_WORDS("Operator"), plain, operatorText},
-    {0, CORVA_WORDS("Network"), "networkType", CORVA_WORDS("Network type"), plain,
+    {0, networkGroup, "operator", QT_TRANSLATE_NOOP("corva::CardPage", "Operator"), plain, operatorText},
+    {0, networkGroup, "networkType", QT_TRANSLATE_NOOP("corva::CardPage", "Network type"), plain,
      [](const CardState &state) { return networkTypeName(state.networkType); }},
-    {0, CORVA_WORDS("Network"), "registration", CORVA_WORDS("Registration"), plain,
+    {0, networkGroup, "registration", QT_TRANSLATE_NOOP("corva::CardPage", "Registration"), plain,
      [](const CardState &state) { return registrationText(state.registration); }},
-    {0, CORVA_WORDS("Network"), "service", CORVA_WORDS("Service"), plain,
+    {0, networkGroup, "service", QT_TRANSLATE_NOOP("corva::CardPage", "Service"), plain,
      [](const CardState &state) { return serviceText(state.service); }},
-    {0, CORVA_WORDS("Network"), "roaming", CORVA_WORDS("Roaming"), plain, roamingText},
-    {0, CORVA_WORDS("Network"), "signal", CORVA_WORDS("Signal"), plain, signalWithBarsText},
-    {0, CORVA_WORDS("Network"), "operatorCode", CORVA_WORDS("Network code"), plain,
+    {0, networkGroup, "roaming", QT_TRANSLATE_NOOP("corva::CardPage", "Roaming"), plain, roamingText},
+    {0, networkGroup, "signal", QT_TRANSLATE_NOOP("corva::CardPage", "Signal"), plain, signalWithBarsText},
+    {0, networkGroup, "operatorCode", QT_TRANSLATE_NOOP("corva::CardPage", "Network code"), plain,
      [](const CardState &state) { return state.operatorCode; }},
-    {0, CORVA_WORDS("Network"), "area", CORVA_WORDS("Area"), plain,
+    {0, networkGroup, "area", QT_TRANSLATE_NOOP("corva::CardPage", "Area"), plain,
      [](const CardState &state) { return number(state.locationArea); }},
-    {0, CORVA_WORDS("Network"), "cell", CORVA_WORDS("Cell"), plain,
+    {0, networkGroup, "cell", QT_TRANSLATE_NOOP("corva::CardPage", "Cell"), plain,
      [](const CardState &state) { return number(state.cellId); }},
-    {1, CORVA_WORDS("SIM card"), "sim", CORVA_WORDS("State"), FactRow::Copy::Room,
+    {1, simGroup, "sim", QT_TRANSLATE_NOOP("corva::CardPage", "State"), FactRow::Copy::Room,
      [](const CardState &state) { return simText(state.sim); }},
-    {1, CORVA_WORDS("SIM card"), "ownNumber", CORVA_WORDS("Phone number"), copied,
+    {1, simGroup, "ownNumber", QT_TRANSLATE_NOOP("corva::CardPage", "Phone number"), copied,
      [](const CardState &state) { return state.identity.ownNumber; }},
-    {1, CORVA_WORDS("SIM card"), "imsi", CORVA_WORDS("IMSI"), copied,
+    {1, simGroup, "imsi", QT_TRANSLATE_NOOP("corva::CardPage", "IMSI"), copied,
      [](const CardState &state) { return state.identity.imsi; }},
-    {1, CORVA_WORDS("SIM card"), "iccid", CORVA_WORDS("Card number"), copied,
+    {1, simGroup, "iccid", QT_TRANSLATE_NOOP("corva::CardPage", "Card number"), copied,
      [](const CardState &state) { return state.identity.iccid; }},
-    {1, CORVA_WORDS("Device"), "device", CORVA_WORDS("Model"), copied, deviceText},
-    {1, CORVA_WORDS("Device"), "imei", CORVA_WORDS("IMEI"), copied,
+    {1, deviceGroup, "device", QT_TRANSLATE_NOOP("corva::CardPage", "Model"), copied, deviceText},
+    {1, deviceGroup, "imei", QT_TRANSLATE_NOOP("corva::CardPage", "IMEI"), copied,
      [](const CardState &state) { return state.identity.imei; }},
-    {1, CORVA_WORDS("Device"), "firmware", CORVA_WORDS("Firmware"), copied,
+    {1, deviceGroup, "firmware", QT_TRANSLATE_NOOP("corva::CardPage", "Firmware"), copied,
      [](const CardState &state) { return state.identity.firmware; }},
-    {1, CORVA_WORDS("Device"), "port", CORVA_WORDS("Port"), copied,
+    {1, deviceGroup, "port", QT_TRANSLATE_NOOP("corva::CardPage", "Port"), copied,
      [](const CardState &state) { return state.portName; }},
 };
-#undef CORVA_WORDS
 
 } // namespace
 
