@@ -5,9 +5,9 @@
     <name>corva::CheckPIN</name>
     <message numerus="yes">
         <source>%n attempts left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n attempt left</numerusform>
+            <numerusform>%n attempts left</numerusform>
         </translation>
     </message>
 </context>

@@ -5,87 +5,87 @@
     <name>CardStatus</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto</translation>
     </message>
     <message>
         <source>Locked, PIN needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueado, requer PIN</translation>
     </message>
     <message>
         <source>Blocked, PUK needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueado, requer PUK</translation>
     </message>
     <message>
         <source>Starting</source>
-        <translation type="unfinished"></translation>
+        <translation>A iniciar</translation>
     </message>
     <message>
         <source>Cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Não pode ser lido</translation>
     </message>
     <message>
         <source>No SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem cartão SIM</translation>
     </message>
     <message>
         <source>Not searching</source>
-        <translation type="unfinished"></translation>
+        <translation>Não procura rede</translation>
     </message>
     <message>
         <source>Home network</source>
-        <translation type="unfinished"></translation>
+        <translation>Rede de origem</translation>
     </message>
     <message>
         <source>Searching</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar rede</translation>
     </message>
     <message>
         <source>Refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Recusado</translation>
     </message>
     <message>
         <source>Roaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Roaming</translation>
     </message>
     <message>
         <source>No service</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem serviço</translation>
     </message>
     <message>
         <source>Emergency calls only</source>
-        <translation type="unfinished"></translation>
+        <translation>Só chamadas de emergência</translation>
     </message>
     <message>
         <source>Full service</source>
-        <translation type="unfinished"></translation>
+        <translation>Serviço completo</translation>
     </message>
     <message>
         <source>No service in this region</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem serviço nesta região</translation>
     </message>
     <message>
         <source>Saving power</source>
-        <translation type="unfinished"></translation>
+        <translation>Poupança de energia</translation>
     </message>
     <message>
         <source>%1 dBm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dBm</translation>
     </message>
     <message>
         <source>%1, %2 of 5 bars</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 de 5 barras</translation>
     </message>
     <message>
         <source>Offline: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem ligação: %1</translation>
     </message>
     <message>
         <source>In the network</source>
-        <translation type="unfinished"></translation>
+        <translation>Registado na rede</translation>
     </message>
     <message>
         <source>, </source>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -205,314 +205,314 @@
     <name>Notices</name>
     <message>
         <source>Incoming call</source>
-        <translation type="unfinished"></translation>
+        <translation>Chamada recebida</translation>
     </message>
     <message>
         <source>The card is ringing.</source>
-        <translation type="unfinished"></translation>
+        <translation>A placa está a tocar.</translation>
     </message>
     <message>
         <source>New message</source>
-        <translation type="unfinished"></translation>
+        <translation>Nova mensagem</translation>
     </message>
     <message>
         <source>A new message has arrived on the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Chegou uma nova mensagem à placa</translation>
     </message>
     <message>
         <source>A new message has arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>Chegou uma nova mensagem</translation>
     </message>
     <message>
         <source>An immediate message has arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>Chegou uma mensagem imediata</translation>
     </message>
     <message>
         <source>Another call is waiting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Há outra chamada em espera.</translation>
     </message>
 </context>
 <context>
     <name>OfflineDiagnosis</name>
     <message>
         <source>The card shows itself as a disk</source>
-        <translation type="unfinished"></translation>
+        <translation>A placa apresenta-se como disco</translation>
     </message>
     <message>
         <source>Many cards start as a disk with drivers on it. Switch it over, and it becomes a modem within a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muitas placas começam como um disco com controladores. Mude-lhe o modo e passa a modem em poucos segundos.</translation>
     </message>
     <message>
         <source>No card found</source>
-        <translation type="unfinished"></translation>
+        <translation>Placa não encontrada</translation>
     </message>
     <message>
         <source>Plug the card into a USB socket of this computer. If it is plugged in, take it out and try another socket.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligue a placa a uma entrada USB deste computador. Se já estiver ligada, retire-a e tente outra entrada.</translation>
     </message>
     <message>
         <source>The card is plugged in as a modem</source>
-        <translation type="unfinished"></translation>
+        <translation>A placa está ligada como modem</translation>
     </message>
     <message>
         <source>The card has no serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>A placa não tem porta série</translation>
     </message>
     <message>
         <source>The computer sees &quot;%1&quot; but made no port for it. Take it out, wait ten seconds and plug it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>O computador vê «%1», mas não lhe criou uma porta. Retire a placa, espere dez segundos e volte a ligá-la.</translation>
     </message>
     <message>
         <source>The computer made a port for it</source>
-        <translation type="unfinished"></translation>
+        <translation>O computador criou-lhe uma porta</translation>
     </message>
     <message>
         <source>You may use the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Tem permissão para usar a porta</translation>
     </message>
     <message>
         <source>No right to use the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem permissão para usar a porta</translation>
     </message>
     <message>
         <source>The port %1 may be used only by members of the group &quot;%2&quot;. Run the command that the button copies, then log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Só os membros do grupo «%2» podem usar a porta %1. Execute o comando que o botão copia, termine a sessão e volte a iniciá-la.</translation>
     </message>
     <message>
         <source>Another program</source>
-        <translation type="unfinished"></translation>
+        <translation>Outro programa</translation>
     </message>
     <message>
         <source>%1 (process %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (processo %2)</translation>
     </message>
     <message>
         <source>No other program holds the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum outro programa usa a porta</translation>
     </message>
     <message>
         <source>The port is in use</source>
-        <translation type="unfinished"></translation>
+        <translation>A porta está ocupada</translation>
     </message>
     <message>
         <source>%1 holds the port %2. Close that program or stop its service, then search again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está a usar a porta %2. Feche esse programa ou pare o respetivo serviço e procure de novo.</translation>
     </message>
     <message>
         <source>The card does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>A placa não responde</translation>
     </message>
     <message>
         <source>The port %1 is open, but nothing answers there. A card that was just plugged in needs up to half a minute; after that, take it out and plug it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>A porta %1 está aberta, mas nada responde. Uma placa acabada de ligar precisa de até meio minuto; depois disso, retire-a e volte a ligá-la.</translation>
     </message>
     <message>
         <source>The card answers</source>
-        <translation type="unfinished"></translation>
+        <translation>A placa responde</translation>
     </message>
     <message>
         <source>No SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem cartão SIM</translation>
     </message>
     <message>
         <source>Take the card out, put a SIM card in with its contacts down, and plug the card in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retire a placa, insira um cartão SIM com os contactos para baixo e volte a ligar a placa.</translation>
     </message>
     <message>
         <source>The SIM card cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível ler o cartão SIM</translation>
     </message>
     <message>
         <source>Take the SIM card out, wipe its contacts and put it in again. If that does not help, ask your operator for a new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retire o cartão SIM, limpe os contactos e volte a inseri-lo. Se não resultar, peça um novo ao seu operador.</translation>
     </message>
     <message>
         <source>The SIM card is starting</source>
-        <translation type="unfinished"></translation>
+        <translation>O cartão SIM está a iniciar</translation>
     </message>
     <message>
         <source>This takes a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Demora alguns segundos.</translation>
     </message>
     <message>
         <source>Asking for the SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>A verificar o cartão SIM</translation>
     </message>
     <message>
         <source>The card has not said yet whether it has a SIM card.</source>
-        <translation type="unfinished"></translation>
+        <translation>A placa ainda não indicou se tem um cartão SIM.</translation>
     </message>
     <message>
         <source>A SIM card is in the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Há um cartão SIM na placa</translation>
     </message>
     <message>
         <source>The SIM card is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>O cartão SIM requer o PIN</translation>
     </message>
     <message>
         <source>It asks for its PIN before it lets the card into a network.</source>
-        <translation type="unfinished"></translation>
+        <translation>Só com o PIN deixa a placa entrar numa rede.</translation>
     </message>
     <message>
         <source>The SIM card is blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>O cartão SIM está bloqueado</translation>
     </message>
     <message>
         <source>A wrong PIN was entered too often. The PUK, which came with the SIM card, sets a new PIN.</source>
-        <translation type="unfinished"></translation>
+        <translation>Foi introduzido um PIN errado demasiadas vezes. O PUK, que veio com o cartão SIM, permite definir um novo PIN.</translation>
     </message>
     <message>
         <source>The SIM card is unlocked</source>
-        <translation type="unfinished"></translation>
+        <translation>O cartão SIM está desbloqueado</translation>
     </message>
     <message>
         <source>The radio is off</source>
-        <translation type="unfinished"></translation>
+        <translation>O rádio está desligado</translation>
     </message>
     <message>
         <source>The card neither sends nor receives until it is switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>A placa não envia nem recebe até o rádio ser ligado.</translation>
     </message>
     <message>
         <source>The radio is on</source>
-        <translation type="unfinished"></translation>
+        <translation>O rádio está ligado</translation>
     </message>
     <message>
         <source>Not looking for a network</source>
-        <translation type="unfinished"></translation>
+        <translation>Não está a procurar rede</translation>
     </message>
     <message>
         <source>The card found no network that it may use and gave up. Move to a place with better reception, then switch the radio on anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>A placa não encontrou nenhuma rede que possa usar e desistiu. Vá para um local com melhor receção e volte a ligar o rádio.</translation>
     </message>
     <message>
         <source>The network refused the SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>A rede recusou o cartão SIM</translation>
     </message>
     <message>
         <source>The SIM card may not be activated yet, or may not be used here. Your operator can tell you why.</source>
-        <translation type="unfinished"></translation>
+        <translation>O cartão SIM pode ainda não estar ativado ou não poder ser usado aqui. O seu operador pode dizer-lhe porquê.</translation>
     </message>
     <message>
         <source>Looking for a network</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar uma rede</translation>
     </message>
     <message>
         <source>This can take a minute, longer abroad. A place near a window helps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pode demorar um minuto, mais no estrangeiro. Um lugar junto a uma janela ajuda.</translation>
     </message>
     <message>
         <source>Asking for the network</source>
-        <translation type="unfinished"></translation>
+        <translation>A verificar a rede</translation>
     </message>
     <message>
         <source>The card has not said yet whether a network took it in.</source>
-        <translation type="unfinished"></translation>
+        <translation>A placa ainda não indicou se uma rede a aceitou.</translation>
     </message>
     <message>
         <source>Your operator&apos;s network took the card in</source>
-        <translation type="unfinished"></translation>
+        <translation>A rede do seu operador aceitou a placa</translation>
     </message>
     <message>
         <source>Another operator&apos;s network took the card in</source>
-        <translation type="unfinished"></translation>
+        <translation>A rede de outro operador aceitou a placa</translation>
     </message>
     <message>
         <source>No service</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem serviço</translation>
     </message>
     <message>
         <source>The network gives no service here at the moment. Move to a place with better reception.</source>
-        <translation type="unfinished"></translation>
+        <translation>De momento, a rede não presta serviço aqui. Vá para um local com melhor receção.</translation>
     </message>
     <message>
         <source>Emergency calls only</source>
-        <translation type="unfinished"></translation>
+        <translation>Só chamadas de emergência</translation>
     </message>
     <message>
         <source>The network does not serve this SIM card here. Your operator can tell you why.</source>
-        <translation type="unfinished"></translation>
+        <translation>A rede não presta serviço a este cartão SIM aqui. O seu operador pode dizer-lhe porquê.</translation>
     </message>
     <message>
         <source>No service in this region</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem serviço nesta região</translation>
     </message>
     <message>
         <source>Your operator serves this SIM card elsewhere, not in this region.</source>
-        <translation type="unfinished"></translation>
+        <translation>O seu operador presta serviço a este cartão SIM noutros locais, não nesta região.</translation>
     </message>
     <message>
         <source>The network serves the card</source>
-        <translation type="unfinished"></translation>
+        <translation>A rede presta serviço à placa</translation>
     </message>
     <message>
         <source>Card in the USB socket</source>
-        <translation type="unfinished"></translation>
+        <translation>Placa na entrada USB</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>Porta série</translation>
     </message>
     <message>
         <source>Right to use the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Permissão para usar a porta</translation>
     </message>
     <message>
         <source>Port free</source>
-        <translation type="unfinished"></translation>
+        <translation>Porta livre</translation>
     </message>
     <message>
         <source>Answer of the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Resposta da placa</translation>
     </message>
     <message>
         <source>SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartão SIM</translation>
     </message>
     <message>
         <source>PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN</translation>
     </message>
     <message>
         <source>Radio</source>
-        <translation type="unfinished"></translation>
+        <translation>Rádio</translation>
     </message>
     <message>
         <source>Registration</source>
-        <translation type="unfinished"></translation>
+        <translation>Registo</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Rede</translation>
     </message>
     <message>
         <source>&amp;Search again</source>
-        <translation type="unfinished"></translation>
+        <translation>Procurar de &amp;novo</translation>
     </message>
     <message>
         <source>&amp;Switch to modem</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mudar para modem</translation>
     </message>
     <message>
         <source>&amp;Copy command</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar comando</translation>
     </message>
     <message>
         <source>&amp;Enter PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Introduzir PIN</translation>
     </message>
     <message>
         <source>&amp;Enter PUK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Introduzir PUK</translation>
     </message>
     <message>
         <source>&amp;Switch radio on</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ligar o rádio</translation>
     </message>
     <message>
         <source>&amp;Ask again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Consultar de novo</translation>
     </message>
 </context>
 <context>
@@ -596,112 +596,112 @@
     <name>Skins</name>
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível ler as cores em «%1».</translation>
     </message>
 </context>
 <context>
     <name>WTMainWindow</name>
     <message>
         <source>&amp;Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Porque estou sem ligação?</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Atualizar</translation>
     </message>
     <message>
         <source>&amp;Move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mover</translation>
     </message>
     <message>
         <source>Re&amp;size</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Redimensionar</translation>
     </message>
     <message>
         <source>Mi&amp;nimise</source>
-        <translation type="unfinished"></translation>
+        <translation>Mi&amp;nimizar</translation>
     </message>
     <message>
         <source>&amp;Fill the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Preencher o &amp;ecrã</translation>
     </message>
     <message>
         <source>&amp;About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;cerca de %1</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fechar</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sair</translation>
     </message>
 </context>
 <context>
     <name>corva::AboutBox</name>
     <message>
         <source>About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de %1</translation>
     </message>
     <message>
         <source>Connection manager for USB data cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestor de ligações para placas de dados USB</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation>Programa</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versão</translation>
     </message>
     <message>
         <source>Toolkit</source>
-        <translation type="unfinished"></translation>
+        <translation>Biblioteca</translation>
     </message>
     <message>
         <source>Licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Licença</translation>
     </message>
     <message>
         <source>Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Placa</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo</translation>
     </message>
     <message>
         <source>IMEI</source>
-        <translation type="unfinished"></translation>
+        <translation>IMEI</translation>
     </message>
     <message>
         <source>Firmware</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware</translation>
     </message>
     <message>
         <source>Internal version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versão interna</translation>
     </message>
     <message>
         <source>&amp;Copy all</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar tudo</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fechar</translation>
     </message>
 </context>
 <context>
     <name>corva::CSetting</name>
     <message>
         <source>Groups of settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupos de definições</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Definições</translation>
     </message>
 </context>
 <context>
@@ -715,327 +715,327 @@
     <name>corva::CardPage</name>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sim</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Não</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Atualizar</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Ask the card for everything anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltar a consultar tudo na placa</translation>
     </message>
     <message>
         <source>Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Placa</translation>
     </message>
 </context>
 <context>
     <name>corva::CheckPIN</name>
     <message>
         <source>&amp;Show the digits</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar os algarismos</translation>
     </message>
     <message>
         <source>La&amp;ter</source>
-        <translation type="unfinished"></translation>
+        <translation>Mais &amp;tarde</translation>
     </message>
     <message>
         <source>The SIM card is blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>O cartão SIM está bloqueado</translation>
     </message>
     <message>
         <source>The SIM card is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>O cartão SIM requer o PIN</translation>
     </message>
     <message>
         <source>Enter PUK</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzir PUK</translation>
     </message>
     <message>
         <source>Enter PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzir PIN</translation>
     </message>
     <message>
         <source>Enter the PUK, which came with the SIM card, and choose a new PIN.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduza o PUK, que veio com o cartão SIM, e escolha um novo PIN.</translation>
     </message>
     <message>
         <source>Enter its PIN to use the card.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduza o PIN do cartão SIM para usar a placa.</translation>
     </message>
     <message>
         <source>P&amp;UK, 8 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;UK, 8 algarismos</translation>
     </message>
     <message>
         <source>New &amp;PIN, 4 to 8 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>Novo &amp;PIN, 4 a 8 algarismos</translation>
     </message>
     <message>
         <source>&amp;PIN, 4 to 8 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;PIN, 4 a 8 algarismos</translation>
     </message>
     <message>
         <source>&amp;Repeat the new PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Repetir o novo PIN</translation>
     </message>
     <message>
         <source>Un&amp;block</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Desbloquear</translation>
     </message>
     <message>
         <source>Un&amp;lock</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Desbloquear</translation>
     </message>
     <message numerus="yes">
         <source>%n attempts left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Resta %n tentativa</numerusform>
+            <numerusform>Restam %n tentativas</numerusform>
         </translation>
     </message>
     <message>
         <source>Last attempt: after another wrong PUK the SIM card is lost for good.</source>
-        <translation type="unfinished"></translation>
+        <translation>Última tentativa: com outro PUK errado, o cartão SIM fica inutilizado para sempre.</translation>
     </message>
     <message>
         <source>Last attempt: after another wrong PIN the SIM card asks for its PUK.</source>
-        <translation type="unfinished"></translation>
+        <translation>Última tentativa: com outro PIN errado, o cartão SIM passa a pedir o PUK.</translation>
     </message>
     <message>
         <source>A PUK has 8 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um PUK tem 8 algarismos.</translation>
     </message>
     <message>
         <source>A PIN has 4 to 8 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um PIN tem 4 a 8 algarismos.</translation>
     </message>
     <message>
         <source>The two PINs differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>Os dois PIN são diferentes.</translation>
     </message>
     <message>
         <source>Asking the SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>A consultar o cartão SIM</translation>
     </message>
     <message>
         <source>The PUK is wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>O PUK está errado.</translation>
     </message>
     <message>
         <source>The PIN is wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>O PIN está errado.</translation>
     </message>
     <message>
         <source>The SIM card cannot be read. Take it out and put it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível ler o cartão SIM. Retire-o e volte a inseri-lo.</translation>
     </message>
     <message>
         <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>A placa não respondeu. Nada mudou; tente de novo.</translation>
     </message>
 </context>
 <context>
     <name>corva::DiagnosisRow</name>
     <message>
         <source>in order</source>
-        <translation type="unfinished"></translation>
+        <translation>em ordem</translation>
     </message>
     <message>
         <source>problem</source>
-        <translation type="unfinished"></translation>
+        <translation>problema</translation>
     </message>
     <message>
         <source>under way</source>
-        <translation type="unfinished"></translation>
+        <translation>em curso</translation>
     </message>
     <message>
         <source>not known yet</source>
-        <translation type="unfinished"></translation>
+        <translation>ainda desconhecido</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>corva::FactRow</name>
     <message>
         <source>Copy %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar %1</translation>
     </message>
 </context>
 <context>
     <name>corva::GeneralPage</name>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Claro</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Escuro</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Aparência</translation>
     </message>
     <message>
         <source>Beside other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>A par de outros programas</translation>
     </message>
     <message>
         <source>&amp;Keep running in the tray when the window is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Continuar na área de notificação ao fechar a janela</translation>
     </message>
     <message>
         <source>&amp;Notify about calls and messages on the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notificar chamadas e mensagens no ambiente de trabalho</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Idioma</translation>
     </message>
     <message>
         <source>&amp;Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;res</translation>
     </message>
     <message>
         <source>The language is stored. It takes effect when the program starts next.</source>
-        <translation type="unfinished"></translation>
+        <translation>O idioma foi guardado. Terá efeito no próximo arranque do programa.</translation>
     </message>
     <message>
         <source>The colours could not be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível guardar as cores: %1</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Geral</translation>
     </message>
 </context>
 <context>
     <name>corva::IconButton</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>corva::KeyboardMover</name>
     <message>
         <source>Arrow keys move the window. Enter keeps the place, Esc brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>As setas movem a janela. Enter mantém a posição, Esc repõe a anterior.</translation>
     </message>
     <message>
         <source>Arrow keys resize the window. Enter keeps the size, Esc brings the old one back.</source>
-        <translation type="unfinished"></translation>
+        <translation>As setas redimensionam a janela. Enter mantém o tamanho, Esc repõe o anterior.</translation>
     </message>
 </context>
 <context>
     <name>corva::Mender</name>
     <message>
         <source>Searching for the card</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar a placa</translation>
     </message>
     <message>
         <source>Asking the card</source>
-        <translation type="unfinished"></translation>
+        <translation>A consultar a placa</translation>
     </message>
     <message>
         <source>Copied. Paste the command into a terminal, then log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiado. Cole o comando num terminal, termine a sessão e volte a iniciá-la.</translation>
     </message>
     <message>
         <source>Switching the card to a modem</source>
-        <translation type="unfinished"></translation>
+        <translation>A mudar a placa para modem</translation>
     </message>
     <message>
         <source>Switched. The card comes back as a modem in a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo mudado. A placa volta como modem dentro de alguns segundos.</translation>
     </message>
     <message>
         <source>Switching the radio on</source>
-        <translation type="unfinished"></translation>
+        <translation>A ligar o rádio</translation>
     </message>
     <message>
         <source>The radio is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>O rádio está ligado.</translation>
     </message>
     <message>
         <source>The card has not confirmed yet. Its state follows.</source>
-        <translation type="unfinished"></translation>
+        <translation>A placa ainda não confirmou. O estado será mostrado em breve.</translation>
     </message>
 </context>
 <context>
     <name>corva::Navigation</name>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas</translation>
     </message>
 </context>
 <context>
     <name>corva::NavigationButton</name>
     <message>
         <source>%1, %2 new</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 por ver</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>corva::OfflinePanel</name>
     <message>
         <source>&amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voltar</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltar</translation>
     </message>
     <message>
         <source>Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>Porque estou sem ligação?</translation>
     </message>
     <message>
         <source>Everything from the socket to the network is in order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Da entrada USB à rede, está tudo em ordem.</translation>
     </message>
     <message>
         <source>Nothing is wrong so far; the card is at it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Até agora está tudo bem; a placa está a tratar disso.</translation>
     </message>
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um passo não está em ordem. Os passos seguintes vêm por si.</translation>
     </message>
 </context>
 <context>
     <name>corva::SignalBars</name>
     <message>
         <source>Signal: %1 of %2 bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinal: %1 de %2 barras</translation>
     </message>
     <message>
         <source>No signal</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem sinal</translation>
     </message>
 </context>
 <context>
@@ -1057,130 +1057,130 @@
     <name>corva::StateHero</name>
     <message>
         <source>&amp;Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Porque estou sem ligação?</translation>
     </message>
     <message>
         <source>In the network</source>
-        <translation type="unfinished"></translation>
+        <translation>Registado na rede</translation>
     </message>
     <message>
         <source>  ·  </source>
         <comment>between facts</comment>
-        <translation type="unfinished"></translation>
+        <translation>  ·  </translation>
     </message>
 </context>
 <context>
     <name>corva::StatusStrip</name>
     <message>
         <source>&amp;Why?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Porquê?</translation>
     </message>
     <message>
         <source>Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>Porque estou sem ligação?</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>corva::TopBar</name>
     <message>
         <source>Connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>A ligar</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligado</translation>
     </message>
     <message>
         <source>Disconnecting</source>
-        <translation type="unfinished"></translation>
+        <translation>A desligar</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Não ligado</translation>
     </message>
     <message>
         <source>Minimise</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimizar</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>Menu of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu de %1</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Network type %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de rede: %1</translation>
     </message>
     <message>
         <source>R</source>
         <comment>roaming</comment>
-        <translation type="unfinished"></translation>
+        <translation>R</translation>
     </message>
     <message>
         <source>Roaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Roaming</translation>
     </message>
     <message>
         <source>No card</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem placa</translation>
     </message>
     <message>
         <source>SIM</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM</translation>
     </message>
     <message>
         <source>SIM card: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartão SIM: %1</translation>
     </message>
     <message>
         <source>not known yet</source>
-        <translation type="unfinished"></translation>
+        <translation>ainda desconhecido</translation>
     </message>
     <message>
         <source>Data connection: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligação de dados: %1</translation>
     </message>
     <message>
         <source>Time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora: %1</translation>
     </message>
 </context>
 <context>
     <name>corva::TrayIcon</name>
     <message>
         <source>&amp;Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Porque estou sem ligação?</translation>
     </message>
     <message>
         <source>&amp;About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;cerca de %1</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sair</translation>
     </message>
     <message>
         <source>&amp;Hide the window</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ocultar a janela</translation>
     </message>
     <message>
         <source>&amp;Show the window</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar a janela</translation>
     </message>
 </context>
 </TS>

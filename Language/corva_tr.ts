@@ -5,87 +5,87 @@
     <name>CardStatus</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Hazır</translation>
     </message>
     <message>
         <source>Locked, PIN needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Kilitli, PIN gerekli</translation>
     </message>
     <message>
         <source>Blocked, PUK needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloke, PUK gerekli</translation>
     </message>
     <message>
         <source>Starting</source>
-        <translation type="unfinished"></translation>
+        <translation>Başlatılıyor</translation>
     </message>
     <message>
         <source>Cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Okunamıyor</translation>
     </message>
     <message>
         <source>No SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kart yok</translation>
     </message>
     <message>
         <source>Not searching</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağ aranmıyor</translation>
     </message>
     <message>
         <source>Home network</source>
-        <translation type="unfinished"></translation>
+        <translation>Ana ağ</translation>
     </message>
     <message>
         <source>Searching</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağ aranıyor</translation>
     </message>
     <message>
         <source>Refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Reddedildi</translation>
     </message>
     <message>
         <source>Roaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Dolaşım</translation>
     </message>
     <message>
         <source>No service</source>
-        <translation type="unfinished"></translation>
+        <translation>Servis yok</translation>
     </message>
     <message>
         <source>Emergency calls only</source>
-        <translation type="unfinished"></translation>
+        <translation>Yalnızca acil aramalar</translation>
     </message>
     <message>
         <source>Full service</source>
-        <translation type="unfinished"></translation>
+        <translation>Tam servis</translation>
     </message>
     <message>
         <source>No service in this region</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu bölgede servis yok</translation>
     </message>
     <message>
         <source>Saving power</source>
-        <translation type="unfinished"></translation>
+        <translation>Güç tasarrufu</translation>
     </message>
     <message>
         <source>%1 dBm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dBm</translation>
     </message>
     <message>
         <source>%1, %2 of 5 bars</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2/5 çubuk</translation>
     </message>
     <message>
         <source>Offline: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Çevrimdışı: %1</translation>
     </message>
     <message>
         <source>In the network</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağa kayıtlı</translation>
     </message>
     <message>
         <source>, </source>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -205,314 +205,314 @@
     <name>Notices</name>
     <message>
         <source>Incoming call</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelen arama</translation>
     </message>
     <message>
         <source>The card is ringing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart çalıyor.</translation>
     </message>
     <message>
         <source>New message</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeni mesaj</translation>
     </message>
     <message>
         <source>A new message has arrived on the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Karta yeni bir mesaj geldi</translation>
     </message>
     <message>
         <source>A new message has arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeni bir mesaj geldi</translation>
     </message>
     <message>
         <source>An immediate message has arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir flaş mesaj geldi</translation>
     </message>
     <message>
         <source>Another call is waiting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Başka bir arama bekliyor.</translation>
     </message>
 </context>
 <context>
     <name>OfflineDiagnosis</name>
     <message>
         <source>The card shows itself as a disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart disk olarak görünüyor</translation>
     </message>
     <message>
         <source>Many cards start as a disk with drivers on it. Switch it over, and it becomes a modem within a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Birçok kart, içinde sürücüler olan bir disk olarak başlar. Kipini değiştirin; birkaç saniyede modem olur.</translation>
     </message>
     <message>
         <source>No card found</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart bulunamadı</translation>
     </message>
     <message>
         <source>Plug the card into a USB socket of this computer. If it is plugged in, take it out and try another socket.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartı bu bilgisayarın bir USB girişine takın. Takılıysa çıkarıp başka bir girişi deneyin.</translation>
     </message>
     <message>
         <source>The card is plugged in as a modem</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart modem olarak takılı</translation>
     </message>
     <message>
         <source>The card has no serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartın seri portu yok</translation>
     </message>
     <message>
         <source>The computer sees &quot;%1&quot; but made no port for it. Take it out, wait ten seconds and plug it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilgisayar &quot;%1&quot; aygıtını görüyor, ama ona port oluşturmadı. Çıkarın, on saniye bekleyin ve yeniden takın.</translation>
     </message>
     <message>
         <source>The computer made a port for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilgisayar ona bir port oluşturdu</translation>
     </message>
     <message>
         <source>You may use the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Portu kullanma izniniz var</translation>
     </message>
     <message>
         <source>No right to use the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Portu kullanma izni yok</translation>
     </message>
     <message>
         <source>The port %1 may be used only by members of the group &quot;%2&quot;. Run the command that the button copies, then log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 portunu yalnızca &quot;%2&quot; grubunun üyeleri kullanabilir. Düğmenin kopyaladığı komutu çalıştırın, sonra oturumu kapatıp yeniden açın.</translation>
     </message>
     <message>
         <source>Another program</source>
-        <translation type="unfinished"></translation>
+        <translation>Başka bir program</translation>
     </message>
     <message>
         <source>%1 (process %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (süreç %2)</translation>
     </message>
     <message>
         <source>No other program holds the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Portu başka program kullanmıyor</translation>
     </message>
     <message>
         <source>The port is in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Port kullanımda</translation>
     </message>
     <message>
         <source>%1 holds the port %2. Close that program or stop its service, then search again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 portunu kullanıyor. O programı kapatın ya da hizmetini durdurun, sonra yeniden arayın.</translation>
     </message>
     <message>
         <source>The card does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart yanıt vermiyor</translation>
     </message>
     <message>
         <source>The port %1 is open, but nothing answers there. A card that was just plugged in needs up to half a minute; after that, take it out and plug it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 portu açık, ama yanıt veren yok. Yeni takılan bir kart yarım dakikaya kadar süre ister; sonra çıkarıp yeniden takın.</translation>
     </message>
     <message>
         <source>The card answers</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart yanıt veriyor</translation>
     </message>
     <message>
         <source>No SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kart yok</translation>
     </message>
     <message>
         <source>Take the card out, put a SIM card in with its contacts down, and plug the card in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartı çıkarın, temas yüzeyi aşağı bakacak şekilde bir SIM kart yerleştirin ve kartı yeniden takın.</translation>
     </message>
     <message>
         <source>The SIM card cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kart okunamıyor</translation>
     </message>
     <message>
         <source>Take the SIM card out, wipe its contacts and put it in again. If that does not help, ask your operator for a new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kartı çıkarın, temas yüzeyini silin ve yeniden takın. İşe yaramazsa operatörünüzden yenisini isteyin.</translation>
     </message>
     <message>
         <source>The SIM card is starting</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kart başlatılıyor</translation>
     </message>
     <message>
         <source>This takes a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu birkaç saniye sürer.</translation>
     </message>
     <message>
         <source>Asking for the SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kart denetleniyor</translation>
     </message>
     <message>
         <source>The card has not said yet whether it has a SIM card.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart, SIM kartı olup olmadığını henüz bildirmedi.</translation>
     </message>
     <message>
         <source>A SIM card is in the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartta SIM kart var</translation>
     </message>
     <message>
         <source>The SIM card is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kart kilitli</translation>
     </message>
     <message>
         <source>It asks for its PIN before it lets the card into a network.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartın bir ağa girmesine izin vermeden önce PIN&apos;ini ister.</translation>
     </message>
     <message>
         <source>The SIM card is blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kart bloke oldu</translation>
     </message>
     <message>
         <source>A wrong PIN was entered too often. The PUK, which came with the SIM card, sets a new PIN.</source>
-        <translation type="unfinished"></translation>
+        <translation>Çok fazla kez yanlış PIN girildi. SIM kartla birlikte gelen PUK ile yeni bir PIN belirlenir.</translation>
     </message>
     <message>
         <source>The SIM card is unlocked</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kartın kilidi açık</translation>
     </message>
     <message>
         <source>The radio is off</source>
-        <translation type="unfinished"></translation>
+        <translation>Radyo kapalı</translation>
     </message>
     <message>
         <source>The card neither sends nor receives until it is switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Radyo açılana kadar kart ne gönderir ne alır.</translation>
     </message>
     <message>
         <source>The radio is on</source>
-        <translation type="unfinished"></translation>
+        <translation>Radyo açık</translation>
     </message>
     <message>
         <source>Not looking for a network</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağ aranmıyor</translation>
     </message>
     <message>
         <source>The card found no network that it may use and gave up. Move to a place with better reception, then switch the radio on anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart, kullanabileceği bir ağ bulamadı ve aramayı bıraktı. Çekimin daha iyi olduğu bir yere geçin, sonra radyoyu yeniden açın.</translation>
     </message>
     <message>
         <source>The network refused the SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağ SIM kartı reddetti</translation>
     </message>
     <message>
         <source>The SIM card may not be activated yet, or may not be used here. Your operator can tell you why.</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kart henüz etkinleştirilmemiş olabilir ya da burada kullanılamıyor olabilir. Nedenini operatörünüz söyleyebilir.</translation>
     </message>
     <message>
         <source>Looking for a network</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağ aranıyor</translation>
     </message>
     <message>
         <source>This can take a minute, longer abroad. A place near a window helps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu bir dakika, yurt dışında daha uzun sürebilir. Pencere kenarı işe yarar.</translation>
     </message>
     <message>
         <source>Asking for the network</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağ denetleniyor</translation>
     </message>
     <message>
         <source>The card has not said yet whether a network took it in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart, bir ağın onu kabul edip etmediğini henüz bildirmedi.</translation>
     </message>
     <message>
         <source>Your operator&apos;s network took the card in</source>
-        <translation type="unfinished"></translation>
+        <translation>Operatörünüzün ağı kartı kabul etti</translation>
     </message>
     <message>
         <source>Another operator&apos;s network took the card in</source>
-        <translation type="unfinished"></translation>
+        <translation>Başka bir operatörün ağı kartı kabul etti</translation>
     </message>
     <message>
         <source>No service</source>
-        <translation type="unfinished"></translation>
+        <translation>Servis yok</translation>
     </message>
     <message>
         <source>The network gives no service here at the moment. Move to a place with better reception.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağ şu anda burada servis vermiyor. Çekimin daha iyi olduğu bir yere geçin.</translation>
     </message>
     <message>
         <source>Emergency calls only</source>
-        <translation type="unfinished"></translation>
+        <translation>Yalnızca acil aramalar</translation>
     </message>
     <message>
         <source>The network does not serve this SIM card here. Your operator can tell you why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağ burada bu SIM karta servis vermiyor. Nedenini operatörünüz söyleyebilir.</translation>
     </message>
     <message>
         <source>No service in this region</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu bölgede servis yok</translation>
     </message>
     <message>
         <source>Your operator serves this SIM card elsewhere, not in this region.</source>
-        <translation type="unfinished"></translation>
+        <translation>Operatörünüz bu SIM karta bu bölgede değil, başka yerlerde servis veriyor.</translation>
     </message>
     <message>
         <source>The network serves the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağ karta servis veriyor</translation>
     </message>
     <message>
         <source>Card in the USB socket</source>
-        <translation type="unfinished"></translation>
+        <translation>USB girişindeki kart</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>Seri port</translation>
     </message>
     <message>
         <source>Right to use the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Portu kullanma izni</translation>
     </message>
     <message>
         <source>Port free</source>
-        <translation type="unfinished"></translation>
+        <translation>Portun boş olması</translation>
     </message>
     <message>
         <source>Answer of the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartın yanıtı</translation>
     </message>
     <message>
         <source>SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kart</translation>
     </message>
     <message>
         <source>PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN</translation>
     </message>
     <message>
         <source>Radio</source>
-        <translation type="unfinished"></translation>
+        <translation>Radyo</translation>
     </message>
     <message>
         <source>Registration</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağa kayıt</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağ</translation>
     </message>
     <message>
         <source>&amp;Search again</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeniden &amp;ara</translation>
     </message>
     <message>
         <source>&amp;Switch to modem</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modem kipine geçir</translation>
     </message>
     <message>
         <source>&amp;Copy command</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Komutu kopyala</translation>
     </message>
     <message>
         <source>&amp;Enter PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;PIN&apos;i gir</translation>
     </message>
     <message>
         <source>&amp;Enter PUK</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;UK&apos;u gir</translation>
     </message>
     <message>
         <source>&amp;Switch radio on</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Radyoyu aç</translation>
     </message>
     <message>
         <source>&amp;Ask again</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeniden &amp;sor</translation>
     </message>
 </context>
 <context>
@@ -596,112 +596,112 @@
     <name>Skins</name>
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; içindeki renkler okunamıyor.</translation>
     </message>
 </context>
 <context>
     <name>WTMainWindow</name>
     <message>
         <source>&amp;Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neden çevrimdışıyım?</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yenile</translation>
     </message>
     <message>
         <source>&amp;Move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Taşı</translation>
     </message>
     <message>
         <source>Re&amp;size</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Boyutlandır</translation>
     </message>
     <message>
         <source>Mi&amp;nimise</source>
-        <translation type="unfinished"></translation>
+        <translation>Küçü&amp;lt</translation>
     </message>
     <message>
         <source>&amp;Fill the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ekranı kapla</translation>
     </message>
     <message>
         <source>&amp;About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 &amp;hakkında</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Ka&amp;pat</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Çı&amp;k</translation>
     </message>
 </context>
 <context>
     <name>corva::AboutBox</name>
     <message>
         <source>About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hakkında</translation>
     </message>
     <message>
         <source>Connection manager for USB data cards</source>
-        <translation type="unfinished"></translation>
+        <translation>USB veri kartları için bağlantı yöneticisi</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation>Program</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Sürüm</translation>
     </message>
     <message>
         <source>Toolkit</source>
-        <translation type="unfinished"></translation>
+        <translation>Araç takımı</translation>
     </message>
     <message>
         <source>Licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Lisans</translation>
     </message>
     <message>
         <source>Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>IMEI</source>
-        <translation type="unfinished"></translation>
+        <translation>IMEI</translation>
     </message>
     <message>
         <source>Firmware</source>
-        <translation type="unfinished"></translation>
+        <translation>Donanım yazılımı</translation>
     </message>
     <message>
         <source>Internal version</source>
-        <translation type="unfinished"></translation>
+        <translation>İç sürüm</translation>
     </message>
     <message>
         <source>&amp;Copy all</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tümünü kopyala</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>Ka&amp;pat</translation>
     </message>
 </context>
 <context>
     <name>corva::CSetting</name>
     <message>
         <source>Groups of settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayar grupları</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayarlar</translation>
     </message>
 </context>
 <context>
@@ -715,326 +715,326 @@
     <name>corva::CardPage</name>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Evet</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Hayır</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yenile</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Ask the card for everything anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Karttan her şeyi yeniden iste</translation>
     </message>
     <message>
         <source>Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart</translation>
     </message>
 </context>
 <context>
     <name>corva::CheckPIN</name>
     <message>
         <source>&amp;Show the digits</source>
-        <translation type="unfinished"></translation>
+        <translation>Rakamları &amp;göster</translation>
     </message>
     <message>
         <source>La&amp;ter</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sonra</translation>
     </message>
     <message>
         <source>The SIM card is blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kart bloke oldu</translation>
     </message>
     <message>
         <source>The SIM card is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kart kilitli</translation>
     </message>
     <message>
         <source>Enter PUK</source>
-        <translation type="unfinished"></translation>
+        <translation>PUK girişi</translation>
     </message>
     <message>
         <source>Enter PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN girişi</translation>
     </message>
     <message>
         <source>Enter the PUK, which came with the SIM card, and choose a new PIN.</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kartla birlikte gelen PUK&apos;u girin ve yeni bir PIN seçin.</translation>
     </message>
     <message>
         <source>Enter its PIN to use the card.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartı kullanmak için SIM kartın PIN&apos;ini girin.</translation>
     </message>
     <message>
         <source>P&amp;UK, 8 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;UK, 8 hane</translation>
     </message>
     <message>
         <source>New &amp;PIN, 4 to 8 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeni &amp;PIN, 4-8 hane</translation>
     </message>
     <message>
         <source>&amp;PIN, 4 to 8 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;PIN, 4-8 hane</translation>
     </message>
     <message>
         <source>&amp;Repeat the new PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeni PIN&apos;i &amp;tekrarlayın</translation>
     </message>
     <message>
         <source>Un&amp;block</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Blokeyi kaldır</translation>
     </message>
     <message>
         <source>Un&amp;lock</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kilidi aç</translation>
     </message>
     <message numerus="yes">
         <source>%n attempts left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n deneme hakkı kaldı</numerusform>
         </translation>
     </message>
     <message>
         <source>Last attempt: after another wrong PUK the SIM card is lost for good.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son deneme: bir yanlış PUK daha girilirse SIM kart bir daha kullanılamaz.</translation>
     </message>
     <message>
         <source>Last attempt: after another wrong PIN the SIM card asks for its PUK.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son deneme: bir yanlış PIN daha girilirse SIM kart PUK&apos;u ister.</translation>
     </message>
     <message>
         <source>A PUK has 8 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>PUK 8 hanelidir.</translation>
     </message>
     <message>
         <source>A PIN has 4 to 8 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN 4-8 hanelidir.</translation>
     </message>
     <message>
         <source>The two PINs differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>İki PIN birbirinden farklı.</translation>
     </message>
     <message>
         <source>Asking the SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM karta soruluyor</translation>
     </message>
     <message>
         <source>The PUK is wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>PUK yanlış.</translation>
     </message>
     <message>
         <source>The PIN is wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN yanlış.</translation>
     </message>
     <message>
         <source>The SIM card cannot be read. Take it out and put it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kart okunamıyor. Çıkarıp yeniden takın.</translation>
     </message>
     <message>
         <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart yanıt vermedi. Hiçbir şey değişmedi; yeniden deneyin.</translation>
     </message>
 </context>
 <context>
     <name>corva::DiagnosisRow</name>
     <message>
         <source>in order</source>
-        <translation type="unfinished"></translation>
+        <translation>yolunda</translation>
     </message>
     <message>
         <source>problem</source>
-        <translation type="unfinished"></translation>
+        <translation>sorun</translation>
     </message>
     <message>
         <source>under way</source>
-        <translation type="unfinished"></translation>
+        <translation>sürüyor</translation>
     </message>
     <message>
         <source>not known yet</source>
-        <translation type="unfinished"></translation>
+        <translation>henüz bilinmiyor</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>corva::FactRow</name>
     <message>
         <source>Copy %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopyala: %1</translation>
     </message>
 </context>
 <context>
     <name>corva::GeneralPage</name>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Açık</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Koyu</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Dil</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Görünüm</translation>
     </message>
     <message>
         <source>Beside other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Diğer programların yanında</translation>
     </message>
     <message>
         <source>&amp;Keep running in the tray when the window is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Pencere kapatılınca &amp;sistem tepsisinde çalışmayı sürdür</translation>
     </message>
     <message>
         <source>&amp;Notify about calls and messages on the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Aramaları ve mesajları &amp;masaüstünde bildir</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dil</translation>
     </message>
     <message>
         <source>&amp;Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Renkler</translation>
     </message>
     <message>
         <source>The language is stored. It takes effect when the program starts next.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dil kaydedildi. Program bir sonraki açılışında bu dili kullanır.</translation>
     </message>
     <message>
         <source>The colours could not be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Renkler kaydedilemedi: %1</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Genel</translation>
     </message>
 </context>
 <context>
     <name>corva::IconButton</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>corva::KeyboardMover</name>
     <message>
         <source>Arrow keys move the window. Enter keeps the place, Esc brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ok tuşları pencereyi taşır. Enter yeni yeri korur, Esc eskisine döner.</translation>
     </message>
     <message>
         <source>Arrow keys resize the window. Enter keeps the size, Esc brings the old one back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ok tuşları pencereyi boyutlandırır. Enter yeni boyutu korur, Esc eskisine döner.</translation>
     </message>
 </context>
 <context>
     <name>corva::Mender</name>
     <message>
         <source>Searching for the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart aranıyor</translation>
     </message>
     <message>
         <source>Asking the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Karta soruluyor</translation>
     </message>
     <message>
         <source>Copied. Paste the command into a terminal, then log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopyalandı. Komutu bir uçbirime yapıştırın, sonra oturumu kapatıp yeniden açın.</translation>
     </message>
     <message>
         <source>Switching the card to a modem</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart modem kipine geçiriliyor</translation>
     </message>
     <message>
         <source>Switched. The card comes back as a modem in a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kip değişti. Kart birkaç saniye içinde modem olarak döner.</translation>
     </message>
     <message>
         <source>Switching the radio on</source>
-        <translation type="unfinished"></translation>
+        <translation>Radyo açılıyor</translation>
     </message>
     <message>
         <source>The radio is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Radyo açık.</translation>
     </message>
     <message>
         <source>The card has not confirmed yet. Its state follows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart henüz onaylamadı. Durumu birazdan gösterilecek.</translation>
     </message>
 </context>
 <context>
     <name>corva::Navigation</name>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Sayfalar</translation>
     </message>
 </context>
 <context>
     <name>corva::NavigationButton</name>
     <message>
         <source>%1, %2 new</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 yeni</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>corva::OfflinePanel</name>
     <message>
         <source>&amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Geri</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Geri</translation>
     </message>
     <message>
         <source>Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>Neden çevrimdışıyım?</translation>
     </message>
     <message>
         <source>Everything from the socket to the network is in order.</source>
-        <translation type="unfinished"></translation>
+        <translation>USB girişinden ağa kadar her şey yolunda.</translation>
     </message>
     <message>
         <source>Nothing is wrong so far; the card is at it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Şimdilik sorun yok; kart işini yapıyor.</translation>
     </message>
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir adım yolunda değil. Sonraki adımlar kendiliğinden gelir.</translation>
     </message>
 </context>
 <context>
     <name>corva::SignalBars</name>
     <message>
         <source>Signal: %1 of %2 bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinyal: %1/%2 çubuk</translation>
     </message>
     <message>
         <source>No signal</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinyal yok</translation>
     </message>
 </context>
 <context>
@@ -1056,130 +1056,130 @@
     <name>corva::StateHero</name>
     <message>
         <source>&amp;Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neden çevrimdışıyım?</translation>
     </message>
     <message>
         <source>In the network</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağa kayıtlı</translation>
     </message>
     <message>
         <source>  ·  </source>
         <comment>between facts</comment>
-        <translation type="unfinished"></translation>
+        <translation>  ·  </translation>
     </message>
 </context>
 <context>
     <name>corva::StatusStrip</name>
     <message>
         <source>&amp;Why?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neden?</translation>
     </message>
     <message>
         <source>Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>Neden çevrimdışıyım?</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>corva::TopBar</name>
     <message>
         <source>Connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>Bağlanıyor</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Bağlı</translation>
     </message>
     <message>
         <source>Disconnecting</source>
-        <translation type="unfinished"></translation>
+        <translation>Bağlantı kesiliyor</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Bağlı değil</translation>
     </message>
     <message>
         <source>Minimise</source>
-        <translation type="unfinished"></translation>
+        <translation>Küçült</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapat</translation>
     </message>
     <message>
         <source>Menu of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 menüsü</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menü</translation>
     </message>
     <message>
         <source>Network type %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağ türü: %1</translation>
     </message>
     <message>
         <source>R</source>
         <comment>roaming</comment>
-        <translation type="unfinished"></translation>
+        <translation>R</translation>
     </message>
     <message>
         <source>Roaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Dolaşım</translation>
     </message>
     <message>
         <source>No card</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart yok</translation>
     </message>
     <message>
         <source>SIM</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM</translation>
     </message>
     <message>
         <source>SIM card: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM kart: %1</translation>
     </message>
     <message>
         <source>not known yet</source>
-        <translation type="unfinished"></translation>
+        <translation>henüz bilinmiyor</translation>
     </message>
     <message>
         <source>Data connection: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Veri bağlantısı: %1</translation>
     </message>
     <message>
         <source>Time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Saat: %1</translation>
     </message>
 </context>
 <context>
     <name>corva::TrayIcon</name>
     <message>
         <source>&amp;Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neden çevrimdışıyım?</translation>
     </message>
     <message>
         <source>&amp;About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 &amp;hakkında</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Çı&amp;k</translation>
     </message>
     <message>
         <source>&amp;Hide the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Pencereyi &amp;gizle</translation>
     </message>
     <message>
         <source>&amp;Show the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Pencereyi &amp;göster</translation>
     </message>
 </context>
 </TS>
