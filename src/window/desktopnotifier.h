@@ -11,8 +11,8 @@ namespace corva
 {
 
 /// Notifications of the desktop (service "org.freedesktop.Notifications" on the session bus). Where nothing
-/// answers there, the fallback shows them. Nothing waits: the bus is asked in the background. Source: Desktop
-/// Notifications Specification 1.2.
+/// answers there, the fallback shows them. Nothing waits: the bus is asked in the background. Source:
+/// freedesktop.org, Desktop Notifications 1.2.
 class DesktopNotifier final : public QObject
 {
     Q_OBJECT
