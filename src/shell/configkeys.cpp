@@ -22,6 +22,7 @@ constexpr ConfigKey keys[] = {
     {"function"_L1, "splash_firmversion_enabled"_L1, Flag, "0"_L1, "1: the splash shows the card's firmware version and waits for it."_L1},
     {"function"_L1, "findAtAndModemNewWay"_L1, Flag, "0"_L1, "1: the ports are taken from the fixed names /dev/at and /dev/modem, and nothing is searched."_L1},
     {"function"_L1, "stk_enabled"_L1, Flag, "1"_L1, "The SIM's own menu (SIM Toolkit) is offered."_L1},
+    {"function"_L1, "stk_smsstate_enabled"_L1, Flag, "0"_L1, "1: what becomes of messages that the SIM's own menu sends is told."_L1},
     {"function"_L1, "sms_enabled"_L1, Flag, "1"_L1, "The page of messages is there."_L1},
     {"function"_L1, "naming3GToH"_L1, Flag, "0"_L1, "1: fast 3G networks (HSDPA, HSUPA, HSPA) are shown as \"H\"."_L1},
     {"function"_L1, "modemSide_enabled"_L1, Flag, "0"_L1, "Messages and contacts may be kept in the card's own memory, beside the SIM's and the computer's."_L1},
@@ -31,7 +32,7 @@ constexpr ConfigKey keys[] = {
 
     {"setting"_L1, "operator"_L1, Text, ""_L1, "Name of the customisation profile; empty for the general program. Seen after a restart."_L1},
     {"setting"_L1, "system_enabled"_L1, Flag, "0"_L1, "Together with systemsetting/disclaimer_show: the disclaimer is shown at start."_L1},
-    {"setting"_L1, "flushright_enable"_L1, Flag, "0"_L1, "The layout runs from right to left. Written by the program at start."_L1},
+    {"setting"_L1, "flushright_enable"_L1, Flag, "0"_L1, "The layout runs from right to left, whatever the language."_L1},
     {"setting"_L1, "mybutton_disable_color"_L1, Colour, "120,126,135"_L1, "Colour of the text of disabled buttons. Empty: the skin's."_L1},
 
     {"systemsetting"_L1, "disclaimer_show"_L1, Flag, "0"_L1, "Any number but 0 shows the disclaimer at start, where setting/system_enabled allows it."_L1},

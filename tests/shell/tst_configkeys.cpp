@@ -3,7 +3,9 @@
 
 #include "shell/configxml.h"
 
+#include <QDirIterator>
 #include <QFile>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTest>
 
@@ -62,6 +64,28 @@ private Q_SLOTS:
             QVERIFY2(isValueOf(key.type, key.value), qPrintable(name));
             QVERIFY2(key.meaning.endsWith(u'.') || key.meaning.endsWith(u')'), qPrintable(name));
         }
+    }
+
+    void whatTheSourcesReadIsDeclared()
+    {
+        QSet<QString> declared;
+        for (const ConfigKey &key : configKeys())
+            declared += key.section + u'/' + key.name;
+        static const QRegularExpression use(
+            uR"re(cmcfg\.(?:getNumber|getValue|setValue)\(\s*u"([^"]+)"_s,\s*u"([^"]+)"_s)re"_s);
+        int uses = 0;
+        QDirIterator files(QStringLiteral(CORVA_SOURCE_DIR) + u"/src"_s, {u"*.cpp"_s}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            for (const auto &match : use.globalMatch(QString::fromUtf8(file.readAll()))) {
+                const QString name = match.captured(1) + u'/' + match.captured(2);
+                QVERIFY2(declared.contains(name), qPrintable(file.fileName() + u": "_s + name));
+                ++uses;
+            }
+        }
+        QVERIFY(uses > 10);
     }
 
     void valuesHaveForms_data()
