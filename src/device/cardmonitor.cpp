@@ -36,6 +36,13 @@ std::chrono::milliseconds interval(const QString &key, std::chrono::milliseconds
     return seconds > 0 ? std::chrono::seconds(seconds) : otherwise;
 }
 
+/// The time between two looks at the card, or for it.
+std::chrono::milliseconds statusPeriod(bool isThere)
+{
+    return interval(isThere ? u"slottimer_interval"_s : u"slottimer_interval_iscardoffline"_s,
+                    statusInterval);
+}
+
 PinOutcome pinOutcome(int result)
 {
     switch (result) {
@@ -63,6 +70,7 @@ public:
     void poll();
     void setEcho();
     void checkPort();
+    void loseCard();
     void closePorts();
     void wokeUp();
     void publish();
@@ -224,12 +232,17 @@ void CardMonitor::Private::checkPort()
     if (!foundPortFlag || !link.isPortLost())
         return;
     qCInfo(lcDevice).noquote().nospace() << logTime() << "the port " << openPort << " is gone";
-    closePorts();
-    SerialThread::writeUpdateHardwareCfg(nullptr);
+    loseCard();
     CardState state;
     state.family = link.family();
     reader.begin(state);
     publish();
+}
+
+void CardMonitor::Private::loseCard()
+{
+    closePorts();
+    SerialThread::writeUpdateHardwareCfg(nullptr);
 }
 
 void CardMonitor::Private::closePorts()
@@ -248,7 +261,7 @@ void CardMonitor::Private::closePorts()
 void CardMonitor::Private::wokeUp()
 {
     if (foundPortFlag && link.sendNULL_ATCmd() != 1 && link.sendNULL_ATCmd() != 1) {
-        closePorts();
+        loseCard();
         search(newWay);
     } else if (foundPortFlag) {
         poll();
@@ -277,9 +290,7 @@ void CardMonitor::Private::publish(const CardState &state)
             q->m_state = state;
             const bool isThere = state.presence == CardPresence::Ready;
             if (wasThere != isThere && statusTimer.isActive())
-                statusTimer.start(
-                    interval(isThere ? u"slottimer_interval"_s : u"slottimer_interval_iscardoffline"_s,
-                             statusInterval));
+                statusTimer.start(statusPeriod(isThere));
             Q_EMIT q->sigStateChanged(q->m_state);
         },
         Qt::QueuedConnection);
@@ -320,7 +331,7 @@ void CardMonitor::start()
         if (d->isStopped)
             return;
         d->worker.submit([this](SerialThread &) { d->setEcho(); });
-        d->statusTimer.start(interval(u"slottimer_interval"_s, statusInterval));
+        d->statusTimer.start(statusPeriod(m_state.presence == CardPresence::Ready));
         const auto keepAlive = interval(u"send_nullatcommand_interval"_s, 0ms);
         if (keepAlive > 0ms)
             d->keepAliveTimer.start(keepAlive);
