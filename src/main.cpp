@@ -48,6 +48,7 @@ int main(int argc, char **argv)
     // The toolkit gets no arguments: it would take its own out of them, and may end the process over them.
     int ownNameOnly = std::min(argc, 1);
     const QApplication app(ownNameOnly, argv);
+    qSetMessagePattern(u"%{message}"_s); // the lines bring their time along, and begin with it
     const corva::DebugLog debugLog;
     corva::installCdeStyle();
     readConfig(comcfg);

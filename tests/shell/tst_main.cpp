@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -82,6 +83,19 @@ private Q_SLOTS:
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         QCOMPARE(process.exitCode(), 0);
         QTEST(stepsOf(process), "steps");
+    }
+
+    void diagnosticsBeginWithTheTime()
+    {
+        QVERIFY(QFile::remove(m_start->filePath(u"Data/config"_s)));
+        QProcess process;
+        start(process, {u"any"_s}, {});
+        QVERIFY(process.waitForFinished(longestRun));
+        static const QRegularExpression line(
+            u"^\\d\\d-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d  read file error!$"_s,
+            QRegularExpression::MultilineOption);
+        const QString said = QString::fromUtf8(process.readAllStandardError());
+        QVERIFY2(said.contains(line), qPrintable(said));
     }
 
     void anyArgumentEndsIt_data()
