@@ -33,7 +33,7 @@ constexpr ConfigKey keys[] = {
     {"setting"_L1, "operator"_L1, Text, ""_L1, "Name of the customisation profile; empty for the general program. Seen after a restart."_L1},
     {"setting"_L1, "system_enabled"_L1, Flag, "0"_L1, "Together with systemsetting/disclaimer_show: the disclaimer is shown at start."_L1},
     {"setting"_L1, "flushright_enable"_L1, Flag, "0"_L1, "The layout runs from right to left, whatever the language."_L1},
-    {"setting"_L1, "mybutton_disable_color"_L1, Colour, "120,126,135"_L1, "Colour of the text of disabled buttons. Empty: the skin's."_L1},
+    {"setting"_L1, "mybutton_disable_color"_L1, Colour, ""_L1, "Colour of the text of disabled buttons. Empty: the skin's."_L1},
 
     {"systemsetting"_L1, "disclaimer_show"_L1, Flag, "0"_L1, "Any number but 0 shows the disclaimer at start, where setting/system_enabled allows it."_L1},
 

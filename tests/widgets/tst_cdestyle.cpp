@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/commoncfg.h"
 #include "shell/globals.h"
 #include "widgets/buttonkind.h"
 #include "widgets/cdestyle.h"
@@ -12,6 +13,7 @@
 #include <QScrollBar>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -26,6 +28,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         basePath = QStringLiteral(CORVA_SOURCE_DIR);
+        QVERIFY(QDir::setCurrent(m_folder.path())); // where the configuration is written
         installCdeStyle();
         applySkin();
     }
@@ -56,6 +59,29 @@ private Q_SLOTS:
         button.resize(80, 32);
         const QImage image = window.grab(button.geometry()).toImage();
         QTEST(image.pixelColor(6, 16), "fill");
+    }
+
+    void disabledButtonsTakeTheConfiguredColour_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QColor>("color");
+        QTest::newRow("named") << u"200, 0,0"_s << QColor(200, 0, 0);
+        QTest::newRow("none named") << QString() << comcfg.disabledText;
+        QTest::newRow("no colour") << u"200,0,900"_s << comcfg.disabledText;
+    }
+
+    void disabledButtonsTakeTheConfiguredColour()
+    {
+        QFETCH(const QString, value);
+        const QString section = u"setting"_s;
+        const QString key = u"mybutton_disable_color"_s;
+        cmcfg.setValue(section, key, value);
+        QPushButton button(u"████"_s);
+        button.setEnabled(false);
+        button.resize(120, 32);
+        const QImage image = button.grab().toImage();
+        cmcfg.setValue(section, key, {});
+        QTEST(image.pixelColor(60, 16), "color");
     }
 
     void aChangedSkinIsSeenAtOnce()
@@ -142,6 +168,9 @@ private Q_SLOTS:
         QCOMPARE(label.text(), name);
         QVERIFY(label.toolTip().isEmpty());
     }
+
+private:
+    QTemporaryDir m_folder;
 };
 
 QTEST_MAIN(TestCdeStyle)
