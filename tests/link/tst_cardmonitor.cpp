@@ -5,6 +5,7 @@
 #include "linktest.h"
 #include "shell/commoncfg.h"
 #include "shell/globals.h"
+#include "shell/updatecfg.h"
 
 #include <QJsonArray>
 #include <QSignalSpy>
@@ -150,12 +151,14 @@ private Q_SLOTS:
     {
         begin(u"wcdma"_s);
         QTRY_VERIFY_WITH_TIMEOUT(!state().identity.iccid.isEmpty(), patience);
+        QTRY_COMPARE_WITH_TIMEOUT(UpdateCfg::value(UpdateKey::DeviceReady), u"1"_s, patience);
         tell(R"({"command": "fault", "kind": "noreply", "count": 0})");
         m_monitor->refreshNow();
         QTRY_VERIFY_WITH_TIMEOUT(asked("AT+CPIN?") >= 2, patience);
         tell(R"({"command": "unplug"})");
         QTRY_COMPARE_WITH_TIMEOUT(state().presence, CardPresence::Absent, 1000); // not after a time-out
         QCOMPARE(state().identity, CardIdentity());
+        QCOMPARE(UpdateCfg::value(UpdateKey::DeviceReady), u"0"_s);
         Pty takesTheNumber; // the card comes back on another one
         tell(R"({"command": "plug"})");
         tell(R"({"command": "clear"})");
