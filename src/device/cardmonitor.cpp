@@ -82,6 +82,7 @@ public:
     std::unique_ptr<SerialThread> voiceLink; ///< the voice port, when calls are on; its thread has no work
     CardWorker worker;
     HotplugMonitor hotplug;
+    QTimer echoTimer;
     QTimer statusTimer;
     QTimer keepAliveTimer;
     CardFinder finder;      // (worker)
@@ -303,6 +304,14 @@ CardMonitor::CardMonitor(LinkOwner *owner, QObject *parent)
     : QObject(parent), d(std::make_unique<Private>(this, owner))
 {
     m_state.family = d->link.family();
+    d->echoTimer.setSingleShot(true);
+    connect(&d->echoTimer, &QTimer::timeout, this, [this] {
+        d->worker.submit([this](SerialThread &) { d->setEcho(); });
+        d->statusTimer.start(statusPeriod(m_state.presence == CardPresence::Ready));
+        const auto keepAlive = interval(u"send_nullatcommand_interval"_s, 0ms);
+        if (keepAlive > 0ms)
+            d->keepAliveTimer.start(keepAlive);
+    });
     connect(&d->statusTimer, &QTimer::timeout, this, &CardMonitor::refreshNow);
     connect(&d->keepAliveTimer, &QTimer::timeout, this, [this] {
         d->worker.submitOnce("keep alive", [](SerialThread &link) {
@@ -327,15 +336,7 @@ void CardMonitor::start()
     d->hotplug.watchPorts(d->finder.portsToWatch(newWay));
     d->worker.start();
     d->link.start();
-    QTimer::singleShot(echoDelay, this, [this] {
-        if (d->isStopped)
-            return;
-        d->worker.submit([this](SerialThread &) { d->setEcho(); });
-        d->statusTimer.start(statusPeriod(m_state.presence == CardPresence::Ready));
-        const auto keepAlive = interval(u"send_nullatcommand_interval"_s, 0ms);
-        if (keepAlive > 0ms)
-            d->keepAliveTimer.start(keepAlive);
-    });
+    d->echoTimer.start(echoDelay);
 }
 
 void CardMonitor::stop()
@@ -343,6 +344,7 @@ void CardMonitor::stop()
     if (d->isStopped)
         return;
     d->isStopped = true;
+    d->echoTimer.stop();
     d->statusTimer.stop();
     d->keepAliveTimer.stop();
     d->hotplug.disconnect(this);

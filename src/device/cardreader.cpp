@@ -57,7 +57,7 @@ QByteArray CardReader::askMaker(TextQuery query, const char *name)
 {
     if (!isKnown(name))
         return {};
-    const QByteArray text = ask(query);
+    QByteArray text = ask(query);
     const auto refused = refusal(m_link.lastReply());
     if (!m_isSilent && refused && isUnknownCommand(*refused))
         m_refused.insert(name);

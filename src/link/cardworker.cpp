@@ -22,7 +22,7 @@ CardWorker::~CardWorker()
 void CardWorker::enqueue(Job job)
 {
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::scoped_lock lock(m_mutex);
         const bool isAskedFor =
             !job.key.isEmpty() &&
             (m_runningKey == job.key ||
@@ -43,7 +43,7 @@ void CardWorker::stop()
 {
     std::deque<Job> dropped;
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::scoped_lock lock(m_mutex);
         m_stop = true;
         dropped.swap(m_jobs);
     }
@@ -54,7 +54,7 @@ void CardWorker::stop()
 
 bool CardWorker::takeJob(Job &job)
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::scoped_lock lock(m_mutex);
     m_runningKey.clear();
     if (m_jobs.empty() || m_stop)
         return false;

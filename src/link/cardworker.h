@@ -3,13 +3,13 @@
 
 #include <QByteArray>
 #include <QFuture>
-#include <QMutex>
 #include <QPromise>
 #include <QThread>
 #include <atomic>
 #include <deque>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <type_traits>
 
 class SerialThread;
@@ -72,7 +72,7 @@ private:
 
     SerialThread &m_link;
     std::function<void(SerialThread &)> m_afterEach;
-    QMutex m_mutex;
+    std::mutex m_mutex;
     std::deque<Job> m_jobs;
     QByteArray m_runningKey;
     std::atomic<bool> m_stop = false;

@@ -65,9 +65,9 @@ public:
 
     /// Opens `name` as 115200 8N1 raw with RTS/CTS and XON/XOFF. Returns the descriptor, or -1 with `errno`
     /// of the failing step (ENOTTY for what is not a character device, which is not opened at all).
-    int openPort(QString name);
+    int openPort(const QString &name);
     /// The same with the input flags left as the device had them.
-    int openPortWithoutSoftFlowControl(QString name);
+    int openPortWithoutSoftFlowControl(const QString &name);
     /// False for a negative descriptor. Does not reset the stored one: see `forgetPort`.
     bool closePortNormal(int fd);
     /// Closes `fd` if it is open and sets `errno` to `err`. Returns -1. `step` names what failed.
@@ -118,10 +118,10 @@ public:
     // -------------------------------------------------------------------------------------------------
 
     void findUpReportAtCmd(QString text);
-    void findAtiveMsg(QString &text, QString mark);
-    void findSmsStatusReport(QString text);
-    void receiveClass0Sms(QString text);
-    void handleCellBoard(QString text);
+    void findAtiveMsg(QString &text, const QString &mark);
+    void findSmsStatusReport(const QString &text);
+    void receiveClass0Sms(const QString &text);
+    void handleCellBoard(const QString &text);
     /// The last state of "+JPDPACT: 1,<state>", 0..3.
     int dataCallState() const { return m_dataCallState; }
 
@@ -217,7 +217,8 @@ public:
     /// "AT+COPS=?": the raw list of networks. Up to three minutes.
     int getNetworkList(char *text);
     /// "AT+COPS=<mode>,<format>,"<operator>"[,<act>]".
-    int setManualNetworkMode(QString act, QString opt, QString format, QString mode);
+    int setManualNetworkMode(const QString &act, const QString &opt, const QString &format,
+                             const QString &mode);
     void setCOPSCmdSendingStatus(bool sending) { m_searching = sending; }
 
 protected:

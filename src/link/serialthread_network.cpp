@@ -13,7 +13,8 @@ int SerialThread::getNetworkList(char *text)
     return result;
 }
 
-int SerialThread::setManualNetworkMode(QString act, QString opt, QString format, QString mode)
+int SerialThread::setManualNetworkMode(const QString &act, const QString &opt, const QString &format,
+                                       const QString &mode)
 {
     const bool isClean =
         std::ranges::all_of(act + format + mode, [](QChar c) { return c >= u'0' && c <= u'9'; }) &&

@@ -44,12 +44,12 @@ bool isCharacterDevice(const QByteArray &path)
 
 } // namespace
 
-int SerialThread::openPort(QString name)
+int SerialThread::openPort(const QString &name)
 {
     return openWith(name, true);
 }
 
-int SerialThread::openPortWithoutSoftFlowControl(QString name)
+int SerialThread::openPortWithoutSoftFlowControl(const QString &name)
 {
     return openWith(name, false);
 }

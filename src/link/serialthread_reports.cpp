@@ -48,22 +48,22 @@ void SerialThread::findUpReportAtCmd(QString text)
     }
 }
 
-void SerialThread::findAtiveMsg(QString &text, QString)
+void SerialThread::findAtiveMsg(QString &text, const QString &)
 {
     m_owner->getSmsAndVoice(text);
 }
 
-void SerialThread::findSmsStatusReport(QString text)
+void SerialThread::findSmsStatusReport(const QString &text)
 {
     m_owner->smsStatusReported(text);
 }
 
-void SerialThread::receiveClass0Sms(QString text)
+void SerialThread::receiveClass0Sms(const QString &text)
 {
     m_owner->class0SmsReceived(text);
 }
 
-void SerialThread::handleCellBoard(QString text)
+void SerialThread::handleCellBoard(const QString &text)
 {
     m_owner->cellBroadcastReceived(text);
 }

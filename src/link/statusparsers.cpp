@@ -57,8 +57,8 @@ NetworkType networkTypeOfMode(std::optional<int> mode, std::optional<int> submod
     case 2: return NetworkType::Cdma1x;
     case 3: return NetworkType::Gsm;
     case 4: return NetworkType::Evdo;
-    case 5: return NetworkType::Umts;
-    case 7: return NetworkType::Umts; // GSM and WCDMA
+    case 5:
+    case 7: return NetworkType::Umts; // 7: GSM and WCDMA
     case 8: return NetworkType::Hybrid;
     case 15: return NetworkType::TdScdma;
     default: return NetworkType::Unknown;
@@ -100,7 +100,7 @@ bool isEchoOrReport(const QByteArray &line)
 
 QString decodeCardText(const QByteArray &text)
 {
-    const QString plain = QString::fromLatin1(text).trimmed();
+    QString plain = QString::fromLatin1(text).trimmed();
     const bool mayBeUcs2 = text.size() >= 4 && text.size() % 4 == 0 && isHexText(text) &&
                            (text.size() >= 8 || text.startsWith("00"));
     if (!mayBeUcs2)

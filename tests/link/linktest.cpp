@@ -51,7 +51,7 @@ void Pty::unplug()
 void FakeOwner::note(const char *method, const QString &text)
 {
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::scoped_lock lock(m_mutex);
         const QString name = QString::fromLatin1(method);
         m_calls.append(text.isEmpty() ? name : u"%1(%2)"_s.arg(name, text));
     }
@@ -61,26 +61,26 @@ void FakeOwner::note(const char *method, const QString &text)
 
 QStringList FakeOwner::calls()
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::scoped_lock lock(m_mutex);
     return m_calls;
 }
 
 QStringList FakeOwner::takeCalls()
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::scoped_lock lock(m_mutex);
     return std::exchange(m_calls, {});
 }
 
 namespace
 {
 
-QMutex logMutex;
+std::mutex logMutex;
 QStringList logged;
 
 void keepLine(QtMsgType, const QMessageLogContext &, const QString &message)
 {
     static const QRegularExpression time(u"^\\d\\d-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d  "_s);
-    const QMutexLocker lock(&logMutex);
+    const std::scoped_lock lock(logMutex);
     const auto match = time.match(message);
     logged.append(match.hasMatch() ? message.sliced(match.capturedLength()) : u'?' + message);
 }
@@ -100,7 +100,7 @@ LogCapture::~LogCapture()
 
 QStringList LogCapture::lines() const
 {
-    const QMutexLocker lock(&logMutex);
+    const std::scoped_lock lock(logMutex);
     return logged;
 }
 

@@ -4,11 +4,11 @@
 #include "link/linkowner.h"
 
 #include <QByteArray>
-#include <QMutex>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <functional>
 #include <future>
+#include <mutex>
 
 /// The card's side of a pseudo-terminal.
 class Pty
@@ -75,7 +75,7 @@ public:
 private:
     void note(const char *method, const QString &text = {});
 
-    QMutex m_mutex;
+    std::mutex m_mutex;
     QStringList m_calls;
 };
 

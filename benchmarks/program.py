@@ -69,7 +69,7 @@ def main():
         card = Card(folder / "card")
         program = Program(folder / "app", card)
         try:
-            empty_start, empty = measure([APP.parent / "bench/emptywindow"], folder)
+            empty_start, empty = measure([APP.parent / "benchmarks/emptywindow"], folder)
             empty_memory = private_memory(empty.pid)
             empty.terminate()
             start, running = measure([program.folder / "corva"], program.folder)
