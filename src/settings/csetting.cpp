@@ -39,11 +39,10 @@ CSetting::CSetting(const PageInfo &info, std::vector<SettingsEntry> groups, QWid
     m_said->setObjectName(u"settingsSaid"_s);
     m_said->setWordWrap(true);
     m_said->setMuted(true);
+    m_said->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, 0);
 
     auto *columns = new QHBoxLayout;
     columns->setSpacing(metrics::GroupGap);
-    // The groups keep that much room for the focus ring of what stands at their edges.
-    columns->setContentsMargins(-metrics::HalfGrid, 0, -metrics::HalfGrid, 0);
     columns->addWidget(m_list);
     columns->addWidget(m_stack, 1);
     body()->addLayout(columns, 1);

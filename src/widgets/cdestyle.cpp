@@ -124,7 +124,7 @@ const Row *find(const Row *begin, const Row *end, Key Row::*member, Key key)
 QColor labelColor(const QStyleOption &option, const QWidget *widget)
 {
     if (!option.state.testFlag(QStyle::State_Enabled))
-        return corva::skinColor(corva::SkinRole::DisabledText);
+        return corva::disabledButtonColor();
     switch (corva::buttonKind(widget)) {
     case corva::ButtonKind::Primary: return corva::skinColor(corva::SkinRole::OnAccent);
     case corva::ButtonKind::Dangerous: return corva::skinColor(corva::SkinRole::Bad);
@@ -263,6 +263,9 @@ QSize CdeStyle::sizeFromContents(ContentsType type, const QStyleOption *option, 
 
 int CdeStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
 {
+    // The room beside the text of a row.
+    if (metric == PM_FocusFrameHMargin && qobject_cast<const QAbstractItemView *>(widget))
+        return metrics::Grid;
     const auto *row = find(std::begin(pixelMetrics), std::end(pixelMetrics), &MetricRow::metric, metric);
     return row ? row->pixels : QProxyStyle::pixelMetric(metric, option, widget);
 }

@@ -73,6 +73,8 @@ const FactSpec factSpecs[] = {
      [](const CardState &state) { return number(state.locationArea); }},
     {0, networkGroup, "cell", QT_TRANSLATE_NOOP("corva::CardPage", "Cell"), plain,
      [](const CardState &state) { return number(state.cellId); }},
+    {0, networkGroup, "networkTime", QT_TRANSLATE_NOOP("corva::CardPage", "Network time"), plain,
+     [](const CardState &state) { return QLocale().toString(state.networkTime, QLocale::ShortFormat); }},
     {1, simGroup, "sim", QT_TRANSLATE_NOOP("corva::CardPage", "State"), FactRow::Copy::Room,
      [](const CardState &state) { return simText(state.sim); }},
     {1, simGroup, "ownNumber", QT_TRANSLATE_NOOP("corva::CardPage", "Phone number"), copied,
@@ -122,7 +124,7 @@ QWidget *CardPage::buildFacts()
     m_columns->addWidget(buildColumn(1), 1);
 
     auto *layout = new QVBoxLayout(facts);
-    layout->setContentsMargins(0, 0, metrics::HalfGrid, 0);
+    layout->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, 0);
     layout->setSpacing(2 * metrics::Grid);
     layout->addWidget(m_hero);
     layout->addLayout(m_columns);
