@@ -22,6 +22,7 @@ constexpr ConfigKey keys[] = {
     {"function"_L1, "splash_firmversion_enabled"_L1, Flag, "0"_L1, "1: the splash shows the card's firmware version and waits for it."_L1},
     {"function"_L1, "findAtAndModemNewWay"_L1, Flag, "0"_L1, "1: the ports are taken from the fixed names /dev/at and /dev/modem, and nothing is searched."_L1},
     {"function"_L1, "stk_enabled"_L1, Flag, "1"_L1, "The SIM's own menu (SIM Toolkit) is offered."_L1},
+    {"function"_L1, "stk_smsstate_enabled"_L1, Flag, "0"_L1, "The SIM's own programs may report what became of their messages."_L1},
     {"function"_L1, "sms_enabled"_L1, Flag, "1"_L1, "The page of messages is there."_L1},
     {"function"_L1, "naming3GToH"_L1, Flag, "0"_L1, "1: fast 3G networks (HSDPA, HSUPA, HSPA) are shown as \"H\"."_L1},
     {"function"_L1, "modemSide_enabled"_L1, Flag, "0"_L1, "Messages and contacts may be kept in the card's own memory, beside the SIM's and the computer's."_L1},
