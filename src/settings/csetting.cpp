@@ -28,7 +28,7 @@ std::vector<SettingsEntry> standardGroups()
 
 } // namespace
 
-CSetting::CSetting(const PageInfo &info, std::vector<SettingsEntry> groups, QWidget *parent)
+CSetting::CSetting(const PageInfo &info, const std::vector<SettingsEntry> &groups, QWidget *parent)
     : Page(info, parent), m_list(new QListWidget(this)), m_stack(new QStackedWidget(this)),
       m_said(new TextLabel(TextRole::Text, this))
 {

@@ -28,7 +28,6 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
-#include <QTimer>
 #include <chrono>
 
 using namespace Qt::StringLiterals;
@@ -149,6 +148,11 @@ void WTMainWindow::addShortcuts()
 
 void WTMainWindow::connectParts()
 {
+    m_delayShow.setSingleShot(true);
+    m_delayShow.setTimerType(Qt::PreciseTimer);
+    m_afterShow.setSingleShot(true);
+    connect(&m_delayShow, &QTimer::timeout, this, &WTMainWindow::slotDelayShow);
+    connect(&m_afterShow, &QTimer::timeout, this, &WTMainWindow::finishShowing);
     connect(m_topBar, &TopBar::sigMinimize, this, &QWidget::showMinimized);
     connect(m_topBar, &TopBar::sigClose, this, &QWidget::close);
     connect(m_topBar, &TopBar::sigFillScreen, this, &WTMainWindow::fillScreen);
@@ -174,7 +178,7 @@ QString WTMainWindow::getFirmwareVersion() const
 
 void WTMainWindow::wait2secsToShow()
 {
-    QTimer::singleShot(2000ms, Qt::PreciseTimer, this, &WTMainWindow::slotDelayShow);
+    m_delayShow.start(2000ms);
 }
 
 void WTMainWindow::slotDelayShow()
@@ -301,7 +305,7 @@ void WTMainWindow::showEvent(QShowEvent *event)
     restorePlace();
     m_navigation->takeFocus();
     // What the first sight of the window does not need comes after it.
-    QTimer::singleShot(0, this, &WTMainWindow::finishShowing);
+    m_afterShow.start(0ms);
 }
 
 void WTMainWindow::finishShowing()

@@ -7,6 +7,7 @@
 #include "window/pageregistry.h"
 
 #include <QHash>
+#include <QTimer>
 #include <QWidget>
 #include <atomic>
 
@@ -122,6 +123,8 @@ private:
     corva::DesktopNotifier *m_notifier = nullptr;
     QHash<QString, corva::Page *> m_pages; ///< those that were built
     QString m_currentPage;
+    QTimer m_delayShow; ///< from the splash to the window
+    QTimer m_afterShow; ///< to the next turn of the event loop after the first show
     std::atomic<bool> m_isReady = false;
     bool m_wasShown = false;
     bool m_wasAskedForPin = false;
