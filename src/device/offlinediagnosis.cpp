@@ -178,7 +178,8 @@ Finding checkPin(const CardState &state)
 
 Finding checkRadio(const CardState &state)
 {
-    if (state.functionality == 0 || state.functionality == 4)
+    const int level = state.functionality.value_or(1);
+    if (level == 0 || level == 4)
         return failed(QT_TRANSLATE_NOOP("OfflineDiagnosis", "The radio is off"),
                       QT_TRANSLATE_NOOP("OfflineDiagnosis",
                                         "The card neither sends nor receives until it is switched on."),

@@ -28,7 +28,7 @@ std::vector<SettingsEntry> standardGroups()
 
 } // namespace
 
-CSetting::CSetting(const PageInfo &info, std::vector<SettingsEntry> groups, QWidget *parent)
+CSetting::CSetting(const PageInfo &info, const std::vector<SettingsEntry> &groups, QWidget *parent)
     : Page(info, parent), m_list(new QListWidget(this)), m_stack(new QStackedWidget(this)),
       m_said(new TextLabel(TextRole::Text, this))
 {
@@ -39,11 +39,10 @@ CSetting::CSetting(const PageInfo &info, std::vector<SettingsEntry> groups, QWid
     m_said->setObjectName(u"settingsSaid"_s);
     m_said->setWordWrap(true);
     m_said->setMuted(true);
+    m_said->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, 0);
 
     auto *columns = new QHBoxLayout;
     columns->setSpacing(metrics::GroupGap);
-    // The groups keep that much room for the focus ring of what stands at their edges.
-    columns->setContentsMargins(-metrics::HalfGrid, 0, -metrics::HalfGrid, 0);
     columns->addWidget(m_list);
     columns->addWidget(m_stack, 1);
     body()->addLayout(columns, 1);

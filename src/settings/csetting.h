@@ -19,7 +19,7 @@ class CSetting final : public Page
     Q_OBJECT
 
 public:
-    CSetting(const PageInfo &info, std::vector<SettingsEntry> groups, QWidget *parent);
+    CSetting(const PageInfo &info, const std::vector<SettingsEntry> &groups, QWidget *parent);
 
 private:
     void addGroup(const SettingsEntry &entry);

@@ -34,7 +34,7 @@ std::vector<Skin> availableSkins()
     return skins;
 }
 
-CommonConfig withColoursOf(CommonConfig config, const CommonConfig &skin)
+CommonConfig withColoursOf(const CommonConfig &config, const CommonConfig &skin)
 {
     CommonConfig merged = skin;
     merged.windowWidth = config.windowWidth;

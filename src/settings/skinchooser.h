@@ -18,7 +18,7 @@ struct Skin {
 std::vector<Skin> availableSkins();
 
 /// `config` in the colours and under the name of `skin`; sizes, fonts and everything that is no colour stay.
-CommonConfig withColoursOf(CommonConfig config, const CommonConfig &skin);
+CommonConfig withColoursOf(const CommonConfig &config, const CommonConfig &skin);
 
 /// Takes the skin's colours into `comcfg`, shows them at once and writes "Data/config". On failure a sentence
 /// stands in `error`; when only the writing failed the colours are shown until the program ends.

@@ -61,8 +61,13 @@ void chevron(QPainter &painter, const QRect &rect, Qt::ArrowType direction, cons
 
 void nothing(const QStyleOption &, QPainter &, const QWidget *) {}
 
-void frame(const QStyleOption &option, QPainter &painter, const QWidget *)
+void frame(const QStyleOption &option, QPainter &painter, const QWidget *widget)
 {
+    // What pops up is a window of its own: its corners are square.
+    if (widget && widget->window()->windowType() == Qt::Popup) {
+        menuPanel(option, painter, widget);
+        return;
+    }
     box(painter, option.rect, QColor(), skinColor(SkinRole::Line));
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/cdestyle.h"
 
-#include "shell/commoncfg.h"
 #include "widgets/buttonkind.h"
 #include "widgets/cdepaint.h"
 #include "widgets/skin.h"
@@ -14,7 +13,6 @@
 #include <QScrollBar>
 #include <QStyleFactory>
 #include <QStyleOption>
-#include <array>
 
 using namespace Qt::StringLiterals;
 namespace metrics = corva::metrics;
@@ -122,23 +120,11 @@ const Row *find(const Row *begin, const Row *end, Key Row::*member, Key key)
     return row == end ? nullptr : row;
 }
 
-/// Key "mybutton_disable_color": red, green and blue. The skin's colour where the key names none.
-QColor disabledButtonColor()
-{
-    std::array<int, 3> rgb{};
-    const QStringList parts = cmcfg.getValue(u"setting"_s, u"mybutton_disable_color"_s).split(u',');
-    bool isColor = parts.size() == qsizetype(rgb.size());
-    for (std::size_t i = 0; isColor && i < rgb.size(); ++i)
-        rgb[i] = parts.at(qsizetype(i)).toInt(&isColor);
-    const QColor color = isColor ? QColor(rgb[0], rgb[1], rgb[2]) : QColor();
-    return color.isValid() ? color : corva::skinColor(corva::SkinRole::DisabledText);
-}
-
 /// A primary or dangerous button is written on in the colour that belongs to its filling.
 QColor labelColor(const QStyleOption &option, const QWidget *widget)
 {
     if (!option.state.testFlag(QStyle::State_Enabled))
-        return disabledButtonColor();
+        return corva::disabledButtonColor();
     switch (corva::buttonKind(widget)) {
     case corva::ButtonKind::Primary: return corva::skinColor(corva::SkinRole::OnAccent);
     case corva::ButtonKind::Dangerous: return corva::skinColor(corva::SkinRole::Bad);
@@ -277,6 +263,9 @@ QSize CdeStyle::sizeFromContents(ContentsType type, const QStyleOption *option, 
 
 int CdeStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
 {
+    // The room beside the text of a row.
+    if (metric == PM_FocusFrameHMargin && qobject_cast<const QAbstractItemView *>(widget))
+        return metrics::Grid;
     const auto *row = find(std::begin(pixelMetrics), std::end(pixelMetrics), &MetricRow::metric, metric);
     return row ? row->pixels : QProxyStyle::pixelMetric(metric, option, widget);
 }

@@ -99,6 +99,15 @@ QColor skinColor(SkinRole role)
     return colorOf(role);
 }
 
+QColor disabledButtonColor()
+{
+    const QStringList parts = cmcfg.getValue(u"setting"_s, u"mybutton_disable_color"_s).split(u',');
+    if (parts.size() != 3)
+        return comcfg.disabledText;
+    const QColor configured(parts.at(0).toInt(), parts.at(1).toInt(), parts.at(2).toInt());
+    return configured.isValid() ? configured : comcfg.disabledText;
+}
+
 QColor blend(const QColor &base, const QColor &over, qreal amount)
 {
     const auto mix = [amount](float from, float to) { return float(from + (to - from) * amount); };

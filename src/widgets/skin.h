@@ -59,6 +59,9 @@ inline constexpr int FocusWidth = 2;
 } // namespace metrics
 
 QColor skinColor(SkinRole role);
+/// The text of buttons that cannot be pressed: key "mybutton_disable_color" of section "setting"
+/// ("red,green,blue"), else the skin's disabled text.
+QColor disabledButtonColor();
 /// `base` with `amount` (0..1) of `over` mixed in: hover and pressed steps come from this, not from more
 /// colours.
 QColor blend(const QColor &base, const QColor &over, qreal amount);

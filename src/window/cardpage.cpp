@@ -44,10 +44,10 @@ QString deviceText(const CardState &state)
 
 struct FactSpec {
     int column;
+    FactRow::Copy copy;
     const char *group; ///< opens a new group where it differs from the row above
     const char *id;
     const char *caption;
-    FactRow::Copy copy;
     QString (*value)(const CardState &);
 };
 
@@ -58,35 +58,37 @@ constexpr auto plain = FactRow::Copy::No;
 constexpr auto copied = FactRow::Copy::Yes;
 
 const FactSpec factSpecs[] = {
-    {0, networkGroup, "operator", QT_TRANSLATE_NOOP("corva::CardPage", "Operator"), plain, operatorText},
-    {0, networkGroup, "networkType", QT_TRANSLATE_NOOP("corva::CardPage", "Network type"), plain,
+    {0, plain, networkGroup, "operator", QT_TRANSLATE_NOOP("corva::CardPage", "Operator"), operatorText},
+    {0, plain, networkGroup, "networkType", QT_TRANSLATE_NOOP("corva::CardPage", "Network type"),
      [](const CardState &state) { return networkTypeName(state.networkType); }},
-    {0, networkGroup, "registration", QT_TRANSLATE_NOOP("corva::CardPage", "Registration"), plain,
+    {0, plain, networkGroup, "registration", QT_TRANSLATE_NOOP("corva::CardPage", "Registration"),
      [](const CardState &state) { return registrationText(state.registration); }},
-    {0, networkGroup, "service", QT_TRANSLATE_NOOP("corva::CardPage", "Service"), plain,
+    {0, plain, networkGroup, "service", QT_TRANSLATE_NOOP("corva::CardPage", "Service"),
      [](const CardState &state) { return serviceText(state.service); }},
-    {0, networkGroup, "roaming", QT_TRANSLATE_NOOP("corva::CardPage", "Roaming"), plain, roamingText},
-    {0, networkGroup, "signal", QT_TRANSLATE_NOOP("corva::CardPage", "Signal"), plain, signalWithBarsText},
-    {0, networkGroup, "operatorCode", QT_TRANSLATE_NOOP("corva::CardPage", "Network code"), plain,
+    {0, plain, networkGroup, "roaming", QT_TRANSLATE_NOOP("corva::CardPage", "Roaming"), roamingText},
+    {0, plain, networkGroup, "signal", QT_TRANSLATE_NOOP("corva::CardPage", "Signal"), signalWithBarsText},
+    {0, plain, networkGroup, "operatorCode", QT_TRANSLATE_NOOP("corva::CardPage", "Network code"),
      [](const CardState &state) { return state.operatorCode; }},
-    {0, networkGroup, "area", QT_TRANSLATE_NOOP("corva::CardPage", "Area"), plain,
+    {0, plain, networkGroup, "area", QT_TRANSLATE_NOOP("corva::CardPage", "Area"),
      [](const CardState &state) { return number(state.locationArea); }},
-    {0, networkGroup, "cell", QT_TRANSLATE_NOOP("corva::CardPage", "Cell"), plain,
+    {0, plain, networkGroup, "cell", QT_TRANSLATE_NOOP("corva::CardPage", "Cell"),
      [](const CardState &state) { return number(state.cellId); }},
-    {1, simGroup, "sim", QT_TRANSLATE_NOOP("corva::CardPage", "State"), FactRow::Copy::Room,
+    {0, plain, networkGroup, "networkTime", QT_TRANSLATE_NOOP("corva::CardPage", "Network time"),
+     [](const CardState &state) { return QLocale().toString(state.networkTime, QLocale::ShortFormat); }},
+    {1, FactRow::Copy::Room, simGroup, "sim", QT_TRANSLATE_NOOP("corva::CardPage", "State"),
      [](const CardState &state) { return simText(state.sim); }},
-    {1, simGroup, "ownNumber", QT_TRANSLATE_NOOP("corva::CardPage", "Phone number"), copied,
+    {1, copied, simGroup, "ownNumber", QT_TRANSLATE_NOOP("corva::CardPage", "Phone number"),
      [](const CardState &state) { return state.identity.ownNumber; }},
-    {1, simGroup, "imsi", QT_TRANSLATE_NOOP("corva::CardPage", "IMSI"), copied,
+    {1, copied, simGroup, "imsi", QT_TRANSLATE_NOOP("corva::CardPage", "IMSI"),
      [](const CardState &state) { return state.identity.imsi; }},
-    {1, simGroup, "iccid", QT_TRANSLATE_NOOP("corva::CardPage", "Card number"), copied,
+    {1, copied, simGroup, "iccid", QT_TRANSLATE_NOOP("corva::CardPage", "Card number"),
      [](const CardState &state) { return state.identity.iccid; }},
-    {1, deviceGroup, "device", QT_TRANSLATE_NOOP("corva::CardPage", "Model"), copied, deviceText},
-    {1, deviceGroup, "imei", QT_TRANSLATE_NOOP("corva::CardPage", "IMEI"), copied,
+    {1, copied, deviceGroup, "device", QT_TRANSLATE_NOOP("corva::CardPage", "Model"), deviceText},
+    {1, copied, deviceGroup, "imei", QT_TRANSLATE_NOOP("corva::CardPage", "IMEI"),
      [](const CardState &state) { return state.identity.imei; }},
-    {1, deviceGroup, "firmware", QT_TRANSLATE_NOOP("corva::CardPage", "Firmware"), copied,
+    {1, copied, deviceGroup, "firmware", QT_TRANSLATE_NOOP("corva::CardPage", "Firmware"),
      [](const CardState &state) { return state.identity.firmware; }},
-    {1, deviceGroup, "port", QT_TRANSLATE_NOOP("corva::CardPage", "Port"), copied,
+    {1, copied, deviceGroup, "port", QT_TRANSLATE_NOOP("corva::CardPage", "Port"),
      [](const CardState &state) { return state.portName; }},
 };
 
@@ -122,7 +124,7 @@ QWidget *CardPage::buildFacts()
     m_columns->addWidget(buildColumn(1), 1);
 
     auto *layout = new QVBoxLayout(facts);
-    layout->setContentsMargins(0, 0, metrics::HalfGrid, 0);
+    layout->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, 0);
     layout->setSpacing(2 * metrics::Grid);
     layout->addWidget(m_hero);
     layout->addLayout(m_columns);

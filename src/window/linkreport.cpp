@@ -43,10 +43,14 @@ std::optional<ReportNotice> ringOrMessage(const QString &report)
 
 } // namespace
 
+ReportHub::ReportHub(QObject *parent) : QObject(parent)
+{
+    connect(this, &ReportHub::sigPosted, this, &ReportHub::sigReport, Qt::QueuedConnection);
+}
+
 void ReportHub::post(LinkReport report, const QString &text)
 {
-    QMetaObject::invokeMethod(
-        this, [this, report, text] { Q_EMIT sigReport(report, text); }, Qt::QueuedConnection);
+    Q_EMIT sigPosted(report, text);
 }
 
 std::optional<ReportNotice> noticeFor(LinkReport report, const QString &reportText)

@@ -36,13 +36,15 @@ class ReportHub final : public QObject
     Q_OBJECT
 
 public:
-    using QObject::QObject;
+    explicit ReportHub(QObject *parent = nullptr);
 
     /// To be called on any thread; the signal follows on this object's thread.
     void post(LinkReport report, const QString &text = {});
 
 Q_SIGNALS:
     void sigReport(corva::LinkReport report, const QString &text);
+    /// The same still on the thread that posted it; not to be listened to.
+    void sigPosted(corva::LinkReport report, const QString &text);
 };
 
 /// A notification for the desktop. A newer one with the same `key` replaces the older.

@@ -24,17 +24,17 @@ namespace
 
 struct SignRow {
     StepStatus status;
-    QLatin1StringView icon;
     SkinRole role;
+    QLatin1StringView icon;
     const char *name; ///< what the screen reader says for the sign
 };
 
 constexpr SignRow signRows[] = {
-    {StepStatus::Ok, "ok"_L1, SkinRole::Good, QT_TRANSLATE_NOOP("corva::DiagnosisRow", "in order")},
-    {StepStatus::Failed, "problem"_L1, SkinRole::Bad, QT_TRANSLATE_NOOP("corva::DiagnosisRow", "problem")},
-    {StepStatus::Running, "running"_L1, SkinRole::Warning,
+    {StepStatus::Ok, SkinRole::Good, "ok"_L1, QT_TRANSLATE_NOOP("corva::DiagnosisRow", "in order")},
+    {StepStatus::Failed, SkinRole::Bad, "problem"_L1, QT_TRANSLATE_NOOP("corva::DiagnosisRow", "problem")},
+    {StepStatus::Running, SkinRole::Warning, "running"_L1,
      QT_TRANSLATE_NOOP("corva::DiagnosisRow", "under way")},
-    {StepStatus::NotReached, "pending"_L1, SkinRole::MutedText,
+    {StepStatus::NotReached, SkinRole::MutedText, "pending"_L1,
      QT_TRANSLATE_NOOP("corva::DiagnosisRow", "not known yet")},
 };
 

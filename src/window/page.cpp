@@ -23,13 +23,16 @@ Page::Page(const PageInfo &info, QWidget *parent)
 
     auto *title = new TextLabel(info.title, TextRole::Title, this);
     m_titleRow->setSpacing(metrics::Grid);
+    m_titleRow->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, 0);
+    m_about->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, 0);
     m_titleRow->addWidget(title, 1);
     m_body->setContentsMargins(0, 0, 0, 0);
     m_body->setSpacing(metrics::RowGap);
 
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(metrics::PageMargin, metrics::PageMargin - metrics::Grid, metrics::PageMargin,
-                               metrics::PageMargin - metrics::Grid);
+    constexpr int side = metrics::PageMargin - metrics::HalfGrid;
+    constexpr int end = metrics::PageMargin - metrics::Grid;
+    layout->setContentsMargins(side, end, side, end);
     layout->setSpacing(0);
     layout->addLayout(m_titleRow);
     layout->addWidget(m_about);

@@ -46,6 +46,8 @@ protected:
     /// Adds a button to the end of the title row. At most one of them is primary.
     void addAction(QAbstractButton *button);
     void setBadge(const QString &badge);
+    /// Where the page puts its content. It reaches `metrics::HalfGrid` over the title's edges, so that what
+    /// scrolls has room for the focus ring: a page insets its content by as much.
     QVBoxLayout *body() { return m_body; }
 
 private:

@@ -10,6 +10,7 @@
 #include "window/statuschip.h"
 #include "window/statustexts.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLocale>
@@ -191,10 +192,17 @@ void TopBar::showTime()
 
 void TopBar::mousePressEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton)
+    m_pressedAt = event->position().toPoint();
+    event->setAccepted(event->button() == Qt::LeftButton);
+}
+
+void TopBar::mouseMoveEvent(QMouseEvent *event)
+{
+    // The window manager takes the pointer over for the move: not before it is one, or a double click would
+    // never come.
+    const QPoint way = event->position().toPoint() - m_pressedAt;
+    if (event->buttons() & Qt::LeftButton && way.manhattanLength() >= QApplication::startDragDistance())
         window()->windowHandle()->startSystemMove();
-    else
-        SkinAreaWidget::mousePressEvent(event);
 }
 
 void TopBar::mouseDoubleClickEvent(QMouseEvent *event)

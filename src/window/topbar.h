@@ -41,6 +41,7 @@ Q_SIGNALS:
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void changeEvent(QEvent *event) override;
 
@@ -62,6 +63,7 @@ private:
     IconButton *m_minimize;
     IconButton *m_close;
     QTimer m_minute;
+    QPoint m_pressedAt;
 };
 
 } // namespace corva

@@ -8,16 +8,15 @@
 #include "widgets/line.h"
 #include "widgets/skin.h"
 #include "window/aboutbox.h"
-#include "window/desktopnotifier.h"
+#include "window/desktoppresence.h"
 #include "window/edgegrips.h"
 #include "window/keyboardmover.h"
 #include "window/mender.h"
 #include "window/navigation.h"
-#include "window/offlinepanel.h"
+#include "window/pagehost.h"
 #include "window/splash.h"
 #include "window/statusstrip.h"
 #include "window/topbar.h"
-#include "window/trayicon.h"
 #include "window/windowplace.h"
 
 #include <QApplication>
@@ -27,8 +26,6 @@
 #include <QPainter>
 #include <QScreen>
 #include <QShortcut>
-#include <QStackedWidget>
-#include <QTimer>
 #include <chrono>
 
 using namespace Qt::StringLiterals;
@@ -41,9 +38,10 @@ namespace
 constexpr QSize smallestSize(800, 520);
 const QString windowSection = u"window"_s;
 
-bool isOn(const QString &key)
+/// A report without what it says, which is the person's own: "+CUSD".
+QString reportName(const QString &text)
 {
-    return cmcfg.getNumber(windowSection, key) == 1;
+    return text.section(u':', 0, 0).simplified().left(16);
 }
 
 QList<QRect> screenAreas()
@@ -59,7 +57,7 @@ QList<QRect> screenAreas()
 
 WTMainWindow::WTMainWindow(QWidget *parent, const char *name, Qt::WindowFlags flags)
     : QWidget(parent, flags | Qt::Window | Qt::FramelessWindowHint), m_monitor(new CardMonitor(this, this)),
-      m_reports(new ReportHub(this)), m_mender(new Mender(m_monitor, this)), m_registry(standardPages())
+      m_reports(new ReportHub(this)), m_mender(new Mender(m_monitor, this))
 {
     setObjectName(QString::fromLatin1(name));
     setWindowTitle(comcfg.softwareName);
@@ -69,7 +67,7 @@ WTMainWindow::WTMainWindow(QWidget *parent, const char *name, Qt::WindowFlags fl
     connectParts();
     slotStateChanged(m_monitor->state());
     showPage(cmcfg.getValue(windowSection, u"page"_s));
-    if (m_currentPage.isEmpty())
+    if (m_pages->currentPage().isEmpty())
         showPage(m_navigation->pageIds().value(0));
     m_isReady = true;
     m_monitor->start();
@@ -86,16 +84,16 @@ void WTMainWindow::build()
     m_mover = new KeyboardMover(this);
     m_topBar = new TopBar(menu, this);
     m_navigation = new Navigation(this);
-    m_stack = new QStackedWidget(this);
+    m_pages = new PageHost(standardPages(), {m_monitor, m_reports, m_mender}, this);
     m_strip = new StatusStrip(this);
     buildMenu(menu);
-    for (const PageEntry &entry : m_registry.entries())
+    for (const PageEntry &entry : m_pages->registry().entries())
         m_navigation->addPage(entry.info);
 
     auto *middle = new QHBoxLayout;
     middle->setSpacing(0);
     middle->addWidget(m_navigation);
-    middle->addWidget(m_stack, 1);
+    middle->addWidget(m_pages, 1);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1); // the line around the window
     layout->setSpacing(0);
@@ -149,10 +147,18 @@ void WTMainWindow::addShortcuts()
 
 void WTMainWindow::connectParts()
 {
+    m_delayShow.setSingleShot(true);
+    m_delayShow.setTimerType(Qt::PreciseTimer);
+    m_afterShow.setSingleShot(true);
+    connect(&m_delayShow, &QTimer::timeout, this, &WTMainWindow::slotDelayShow);
+    connect(&m_afterShow, &QTimer::timeout, this, &WTMainWindow::finishShowing);
     connect(m_topBar, &TopBar::sigMinimize, this, &QWidget::showMinimized);
     connect(m_topBar, &TopBar::sigClose, this, &QWidget::close);
     connect(m_topBar, &TopBar::sigFillScreen, this, &WTMainWindow::fillScreen);
     connect(m_navigation, &Navigation::sigChosen, this, &WTMainWindow::showPage);
+    connect(m_pages, &PageHost::sigOpened, m_navigation, &Navigation::setCurrent);
+    connect(m_pages, &PageHost::sigBadgeChanged, m_navigation, &Navigation::setBadge);
+    connect(m_pages, &PageHost::sigDiagnosisLeft, m_navigation, &Navigation::takeFocus);
     connect(m_strip, &StatusStrip::sigWhy, this, &WTMainWindow::showOfflinePanel);
     connect(m_mender, &Mender::sigSaid, m_strip, &StatusStrip::say);
     connect(m_mender, &Mender::sigDiagnosisWanted, this, &WTMainWindow::showOfflinePanel);
@@ -174,7 +180,7 @@ QString WTMainWindow::getFirmwareVersion() const
 
 void WTMainWindow::wait2secsToShow()
 {
-    QTimer::singleShot(2000ms, Qt::PreciseTimer, this, &WTMainWindow::slotDelayShow);
+    m_delayShow.start(2000ms);
 }
 
 void WTMainWindow::slotDelayShow()
@@ -207,52 +213,22 @@ void WTMainWindow::setConnection(ConnectionState connection)
 
 void WTMainWindow::showPage(const QString &pageId)
 {
-    const auto &entries = m_registry.entries();
-    const auto entry = std::find_if(entries.begin(), entries.end(),
-                                    [&](const PageEntry &candidate) { return candidate.info.id == pageId; });
-    if (entry == entries.end())
-        return;
-    Page *&page = m_pages[pageId];
-    if (!page) {
-        page = entry->create(entry->info, {m_monitor, m_reports, m_mender}, m_stack);
-        m_stack->addWidget(page);
-        connect(page, &Page::sigBadgeChanged, m_navigation,
-                [this, pageId](const QString &badge) { m_navigation->setBadge(pageId, badge); });
-        m_navigation->setBadge(pageId, page->badge());
-    }
-    m_currentPage = pageId;
-    m_stack->setCurrentWidget(page);
-    m_navigation->setCurrent(pageId);
+    m_pages->openPage(pageId);
 }
 
 void WTMainWindow::showOfflinePanel()
 {
-    if (!m_offlinePanel) {
-        m_offlinePanel = new OfflinePanel(m_monitor, m_mender, m_stack);
-        m_stack->addWidget(m_offlinePanel);
-        connect(m_offlinePanel, &OfflinePanel::sigBack, this, &WTMainWindow::leaveOfflinePanel);
-        auto *back = new QShortcut(Qt::Key_Escape, m_offlinePanel);
-        back->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(back, &QShortcut::activated, this, &WTMainWindow::leaveOfflinePanel);
-    }
-    m_stack->setCurrentWidget(m_offlinePanel);
-    m_navigation->setCurrent({});
+    m_pages->openDiagnosis();
     if (isHidden() || isMinimized())
         showInFront();
-}
-
-void WTMainWindow::leaveOfflinePanel()
-{
-    showPage(m_currentPage);
-    m_navigation->takeFocus();
 }
 
 void WTMainWindow::slotStateChanged(const CardState &state)
 {
     m_topBar->setState(state);
     m_strip->setState(state);
-    if (m_tray)
-        m_tray->setState(state);
+    if (m_desktop)
+        m_desktop->tray().setState(state);
     if (m_wasShown)
         askForPinOnce(state);
 }
@@ -274,57 +250,48 @@ void WTMainWindow::askForPinOnce(const CardState &state)
 
 void WTMainWindow::slotReport(LinkReport report, const QString &text)
 {
-    const auto notice = noticeFor(report, text);
-    const QString ended = noticeEndedBy(report, text);
-    if (!notice && ended.isEmpty()) {
-        qCDebug(lcWindow).noquote() << logTime() + u"the card reports:"_s << text.simplified();
-        return;
-    }
-    if (notice)
+    if (const auto notice = noticeFor(report, text))
         m_strip->say(notice->body);
-    if (!m_notifier)
-        return;
-    if (notice && isOn(u"notifications_enabled"_s))
-        m_notifier->notify(notice->key, notice->title, notice->body);
-    if (!ended.isEmpty())
-        m_notifier->withdraw(ended);
+    else
+        qCDebug(lcWindow).noquote() << logTime() + u"the card reports"_s << reportName(text);
+    if (m_desktop)
+        m_desktop->report(report, text);
 }
 
 void WTMainWindow::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    if (m_tray)
-        m_tray->setWindowShown(true);
+    if (m_desktop)
+        m_desktop->tray().setWindowShown(true);
     if (m_wasShown)
         return;
     m_wasShown = true;
     restorePlace();
     m_navigation->takeFocus();
     // What the first sight of the window does not need comes after it.
-    QTimer::singleShot(0, this, &WTMainWindow::finishShowing);
+    m_afterShow.start(0ms);
 }
 
 void WTMainWindow::finishShowing()
 {
-    m_tray = new TrayIcon(this);
-    m_tray->setState(m_monitor->state());
-    connect(m_tray, &TrayIcon::sigShowOrHide, this, &WTMainWindow::showOrHide);
-    connect(m_tray, &TrayIcon::sigWhy, this, &WTMainWindow::showOfflinePanel);
-    connect(m_tray, &TrayIcon::sigAbout, this, [this] {
+    m_desktop = new DesktopPresence(this);
+    TrayIcon &tray = m_desktop->tray();
+    tray.setState(m_monitor->state());
+    connect(&tray, &TrayIcon::sigShowOrHide, this, &WTMainWindow::showOrHide);
+    connect(&tray, &TrayIcon::sigWhy, this, &WTMainWindow::showOfflinePanel);
+    connect(&tray, &TrayIcon::sigQuit, this, &WTMainWindow::quit);
+    connect(&tray, &TrayIcon::sigAbout, this, [this] {
         showInFront();
         aboutShow();
     });
-    connect(m_tray, &TrayIcon::sigQuit, this, &WTMainWindow::quit);
-    m_notifier = new DesktopNotifier(
-        [this](const QString &title, const QString &body) { m_tray->notify(title, body); }, this);
     askForPinOnce(m_monitor->state());
 }
 
 void WTMainWindow::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
-    if (m_tray && !event->spontaneous())
-        m_tray->setWindowShown(false);
+    if (m_desktop && !event->spontaneous())
+        m_desktop->tray().setWindowShown(false);
 }
 
 void WTMainWindow::showOrHide()
@@ -390,12 +357,12 @@ void WTMainWindow::savePlace()
     };
     if (m_wasShown)
         keep(u"geometry"_s, placeToText(isMaximized() ? normalGeometry() : geometry()));
-    keep(u"page"_s, m_currentPage);
+    keep(u"page"_s, m_pages->currentPage());
 }
 
 void WTMainWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_isQuitting && m_tray && m_tray->isShown() && isOn(u"close_to_tray"_s)) {
+    if (!m_isQuitting && m_desktop && m_desktop->keepsWindow()) {
         event->ignore();
         hide();
         return;

@@ -4,26 +4,24 @@
 #include "link/linkowner.h"
 #include "window/connectionstate.h"
 #include "window/linkreport.h"
-#include "window/pageregistry.h"
 
-#include <QHash>
+#include <QTimer>
 #include <QWidget>
 #include <atomic>
 
 class QMenu;
-class QStackedWidget;
 
 namespace corva
 {
-struct CardState;
-class DesktopNotifier;
-class EdgeGrips;
+class CardMonitor;
+class DesktopPresence;
 class KeyboardMover;
+class Mender;
 class Navigation;
-class OfflinePanel;
+class PageHost;
 class StatusStrip;
 class TopBar;
-class TrayIcon;
+struct CardState;
 } // namespace corva
 
 /// The window: top bar, navigation, the pages, status strip, tray. A shell that owns the card's monitor,
@@ -98,7 +96,6 @@ private:
     void buildMenu(QMenu *menu);
     void addShortcuts();
     void connectParts();
-    void leaveOfflinePanel();
     void showOrHide();
     void showInFront();
     void fillScreen();
@@ -111,17 +108,14 @@ private:
     corva::CardMonitor *m_monitor;
     corva::ReportHub *m_reports;
     corva::Mender *m_mender;
-    corva::PageRegistry m_registry;
     corva::TopBar *m_topBar = nullptr;
     corva::Navigation *m_navigation = nullptr;
-    QStackedWidget *m_stack = nullptr;
+    corva::PageHost *m_pages = nullptr;
     corva::StatusStrip *m_strip = nullptr;
-    corva::OfflinePanel *m_offlinePanel = nullptr;
     corva::KeyboardMover *m_mover = nullptr;
-    corva::TrayIcon *m_tray = nullptr;
-    corva::DesktopNotifier *m_notifier = nullptr;
-    QHash<QString, corva::Page *> m_pages; ///< those that were built
-    QString m_currentPage;
+    corva::DesktopPresence *m_desktop = nullptr; ///< from the first show on
+    QTimer m_delayShow;                          ///< from the splash to the window
+    QTimer m_afterShow;                          ///< to the next turn of the event loop after the first show
     std::atomic<bool> m_isReady = false;
     bool m_wasShown = false;
     bool m_wasAskedForPin = false;

@@ -283,6 +283,7 @@ CardState registeredCard()
     state.signalDbm = -67;
     state.locationArea = 4711;
     state.cellId = 815;
+    state.networkTime = QDateTime(QDate(2026, 11, 21), QTime(12, 34));
     state.modemReady = true;
     return state;
 }

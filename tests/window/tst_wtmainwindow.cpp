@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windowtest.h"
 
+#include "settings/languages.h"
 #include "window/offlinepanel.h"
 #include "window/pageregistry.h"
 #include "window/splash.h"
@@ -13,11 +14,10 @@
 #include <QSignalSpy>
 #include <QTimer>
 #include <QToolButton>
+#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
-
-Q_DECLARE_METATYPE(Qt::LayoutDirection)
 
 namespace
 {
@@ -162,14 +162,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("state");
         QTest::addColumn<QString>("page");
-        QTest::addColumn<Qt::LayoutDirection>("direction");
-        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
-            const char *name = direction == Qt::LeftToRight ? "left to right" : "right to left";
-            QTest::addRow("settings, %s", name) << u"registered"_s << u"settings"_s << direction;
+        QTest::addColumn<QString>("language");
+        for (const Language &language : languages()) {
+            const QString file = QString::fromLatin1(language.file);
+            QTest::addRow("%s, settings", language.file) << u"registered"_s << u"settings"_s << file;
             for (const QString &state : fakecard::stateNames()) {
-                QTest::addRow("%s, card, %s", qPrintable(state), name) << state << u"card"_s << direction;
-                QTest::addRow("%s, diagnosis, %s", qPrintable(state), name)
-                    << state << QString() << direction;
+                QTest::addRow("%s, %s, card", language.file, qPrintable(state)) << state << u"card"_s << file;
+                QTest::addRow("%s, %s, diagnosis", language.file, qPrintable(state))
+                    << state << QString() << file;
             }
         }
     }
@@ -178,8 +178,11 @@ private Q_SLOTS:
     {
         QFETCH(const QString, state);
         QFETCH(const QString, page);
-        QFETCH(const Qt::LayoutDirection, direction);
-        QApplication::setLayoutDirection(direction);
+        QFETCH(const QString, language);
+        QTranslator translator;
+        QVERIFY(translator.load(QStringLiteral(CORVA_APP_DIR) + u"/Language/%1.qm"_s.arg(language)));
+        QCoreApplication::installTranslator(&translator);
+        QApplication::setLayoutDirection(language == "Arabic"_L1 ? Qt::RightToLeft : Qt::LeftToRight);
         m_window.reset(makeWindow());
         m_window->resize(800, 520);
         m_window->show();

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "window/desktoppresence.h"
+
+#include "shell/commoncfg.h"
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+namespace
+{
+
+bool isOn(const QString &key)
+{
+    return cmcfg.getNumber(u"window"_s, key) == 1;
+}
+
+} // namespace
+
+DesktopPresence::DesktopPresence(QObject *parent)
+    : QObject(parent), m_tray(nullptr),
+      m_notifier([this](const QString &title, const QString &body) { m_tray.notify(title, body); })
+{
+}
+
+bool DesktopPresence::keepsWindow() const
+{
+    return isOn(u"close_to_tray"_s) && m_tray.isShown();
+}
+
+void DesktopPresence::report(LinkReport report, const QString &text)
+{
+    if (const auto notice = noticeFor(report, text); notice && isOn(u"notifications_enabled"_s))
+        m_notifier.notify(notice->key, notice->title, notice->body);
+    if (const QString ended = noticeEndedBy(report, text); !ended.isEmpty())
+        m_notifier.withdraw(ended);
+}
+
+} // namespace corva

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "window/desktopnotifier.h"
+#include "window/linkreport.h"
+#include "window/trayicon.h"
+
+namespace corva
+{
+
+/// What the program shows outside of its window: the tray icon, and notifications about what the card
+/// reports.
+class DesktopPresence final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit DesktopPresence(QObject *parent);
+
+    TrayIcon &tray() { return m_tray; }
+    /// Whether closing the window may hide it: the settings ask for it, and there is a tray to bring it back
+    /// from.
+    bool keepsWindow() const;
+    /// Notifies, or takes a notification back, as far as the settings want notifications.
+    void report(LinkReport report, const QString &text);
+
+private:
+    TrayIcon m_tray;
+    DesktopNotifier m_notifier;
+};
+
+} // namespace corva
