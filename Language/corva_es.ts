@@ -5,87 +5,87 @@
     <name>CardStatus</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista</translation>
     </message>
     <message>
         <source>Locked, PIN needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueada, requiere PIN</translation>
     </message>
     <message>
         <source>Blocked, PUK needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueada, requiere PUK</translation>
     </message>
     <message>
         <source>Starting</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciando</translation>
     </message>
     <message>
         <source>Cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer</translation>
     </message>
     <message>
         <source>No SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin tarjeta SIM</translation>
     </message>
     <message>
         <source>Not searching</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin buscar red</translation>
     </message>
     <message>
         <source>Home network</source>
-        <translation type="unfinished"></translation>
+        <translation>Red de origen</translation>
     </message>
     <message>
         <source>Searching</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando</translation>
     </message>
     <message>
         <source>Refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechazado</translation>
     </message>
     <message>
         <source>Roaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Itinerancia</translation>
     </message>
     <message>
         <source>No service</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin servicio</translation>
     </message>
     <message>
         <source>Emergency calls only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo llamadas de emergencia</translation>
     </message>
     <message>
         <source>Full service</source>
-        <translation type="unfinished"></translation>
+        <translation>Servicio completo</translation>
     </message>
     <message>
         <source>No service in this region</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin servicio en esta región</translation>
     </message>
     <message>
         <source>Saving power</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahorro de energía</translation>
     </message>
     <message>
         <source>%1 dBm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;dBm</translation>
     </message>
     <message>
         <source>%1, %2 of 5 bars</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 de 5 barras</translation>
     </message>
     <message>
         <source>Offline: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin conexión: %1</translation>
     </message>
     <message>
         <source>In the network</source>
-        <translation type="unfinished"></translation>
+        <translation>En la red</translation>
     </message>
     <message>
         <source>, </source>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -205,314 +205,314 @@
     <name>Notices</name>
     <message>
         <source>Incoming call</source>
-        <translation type="unfinished"></translation>
+        <translation>Llamada entrante</translation>
     </message>
     <message>
         <source>The card is ringing.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta está sonando.</translation>
     </message>
     <message>
         <source>New message</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensaje nuevo</translation>
     </message>
     <message>
         <source>A new message has arrived on the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Ha llegado un mensaje nuevo a la tarjeta</translation>
     </message>
     <message>
         <source>A new message has arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>Ha llegado un mensaje nuevo</translation>
     </message>
     <message>
         <source>An immediate message has arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>Ha llegado un mensaje inmediato</translation>
     </message>
     <message>
         <source>Another call is waiting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay otra llamada en espera.</translation>
     </message>
 </context>
 <context>
     <name>OfflineDiagnosis</name>
     <message>
         <source>The card shows itself as a disk</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta se presenta como un disco</translation>
     </message>
     <message>
         <source>Many cards start as a disk with drivers on it. Switch it over, and it becomes a modem within a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muchas tarjetas arrancan como un disco con sus controladores. Cambie el modo y en unos segundos será un módem.</translation>
     </message>
     <message>
         <source>No card found</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró ninguna tarjeta</translation>
     </message>
     <message>
         <source>Plug the card into a USB socket of this computer. If it is plugged in, take it out and try another socket.</source>
-        <translation type="unfinished"></translation>
+        <translation>Conecte la tarjeta a un puerto USB de este equipo. Si ya está conectada, retírela y pruebe otro puerto USB.</translation>
     </message>
     <message>
         <source>The card is plugged in as a modem</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta está conectada como módem</translation>
     </message>
     <message>
         <source>The card has no serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta no tiene puerto serie</translation>
     </message>
     <message>
         <source>The computer sees &quot;%1&quot; but made no port for it. Take it out, wait ten seconds and plug it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El equipo ve «%1», pero no le ha creado ningún puerto. Retire la tarjeta, espere diez segundos y vuelva a conectarla.</translation>
     </message>
     <message>
         <source>The computer made a port for it</source>
-        <translation type="unfinished"></translation>
+        <translation>El equipo le ha creado un puerto</translation>
     </message>
     <message>
         <source>You may use the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiene acceso al puerto</translation>
     </message>
     <message>
         <source>No right to use the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin permiso para usar el puerto</translation>
     </message>
     <message>
         <source>The port %1 may be used only by members of the group &quot;%2&quot;. Run the command that the button copies, then log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo los miembros del grupo «%2» pueden usar el puerto %1. Ejecute el comando que copia el botón, cierre la sesión y vuelva a iniciarla.</translation>
     </message>
     <message>
         <source>Another program</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro programa</translation>
     </message>
     <message>
         <source>%1 (process %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (proceso %2)</translation>
     </message>
     <message>
         <source>No other program holds the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún otro programa ocupa el puerto</translation>
     </message>
     <message>
         <source>The port is in use</source>
-        <translation type="unfinished"></translation>
+        <translation>El puerto está ocupado</translation>
     </message>
     <message>
         <source>%1 holds the port %2. Close that program or stop its service, then search again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ocupa el puerto %2. Cierre ese programa o detenga su servicio y busque de nuevo.</translation>
     </message>
     <message>
         <source>The card does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta no responde</translation>
     </message>
     <message>
         <source>The port %1 is open, but nothing answers there. A card that was just plugged in needs up to half a minute; after that, take it out and plug it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El puerto %1 está abierto, pero nada responde en él. Una tarjeta recién conectada puede tardar hasta medio minuto; pasado ese tiempo, retírela y vuelva a conectarla.</translation>
     </message>
     <message>
         <source>The card answers</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta responde</translation>
     </message>
     <message>
         <source>No SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin tarjeta SIM</translation>
     </message>
     <message>
         <source>Take the card out, put a SIM card in with its contacts down, and plug the card in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retire la tarjeta, inserte una tarjeta SIM con los contactos hacia abajo y vuelva a conectar la tarjeta.</translation>
     </message>
     <message>
         <source>The SIM card cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer la tarjeta SIM</translation>
     </message>
     <message>
         <source>Take the SIM card out, wipe its contacts and put it in again. If that does not help, ask your operator for a new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saque la tarjeta SIM, limpie sus contactos y vuelva a insertarla. Si no sirve, pida una nueva a su operador.</translation>
     </message>
     <message>
         <source>The SIM card is starting</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta SIM se está iniciando</translation>
     </message>
     <message>
         <source>This takes a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarda unos segundos.</translation>
     </message>
     <message>
         <source>Asking for the SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobando la tarjeta SIM</translation>
     </message>
     <message>
         <source>The card has not said yet whether it has a SIM card.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta aún no ha indicado si contiene una tarjeta SIM.</translation>
     </message>
     <message>
         <source>A SIM card is in the card</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta contiene una tarjeta SIM</translation>
     </message>
     <message>
         <source>The SIM card is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta SIM está bloqueada con PIN</translation>
     </message>
     <message>
         <source>It asks for its PIN before it lets the card into a network.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pide su PIN antes de dejar que la tarjeta entre en una red.</translation>
     </message>
     <message>
         <source>The SIM card is blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta SIM está bloqueada con PUK</translation>
     </message>
     <message>
         <source>A wrong PIN was entered too often. The PUK, which came with the SIM card, sets a new PIN.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se introdujo un PIN incorrecto demasiadas veces. El PUK, entregado con la tarjeta SIM, permite fijar un PIN nuevo.</translation>
     </message>
     <message>
         <source>The SIM card is unlocked</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta SIM está desbloqueada</translation>
     </message>
     <message>
         <source>The radio is off</source>
-        <translation type="unfinished"></translation>
+        <translation>La radio está desactivada</translation>
     </message>
     <message>
         <source>The card neither sends nor receives until it is switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta no emite ni recibe nada hasta que se active la radio.</translation>
     </message>
     <message>
         <source>The radio is on</source>
-        <translation type="unfinished"></translation>
+        <translation>La radio está activada</translation>
     </message>
     <message>
         <source>Not looking for a network</source>
-        <translation type="unfinished"></translation>
+        <translation>No se está buscando red</translation>
     </message>
     <message>
         <source>The card found no network that it may use and gave up. Move to a place with better reception, then switch the radio on anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta no encontró ninguna red permitida y dejó de buscar. Vaya a un lugar con mejor cobertura y vuelva a activar la radio.</translation>
     </message>
     <message>
         <source>The network refused the SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>La red rechazó la tarjeta SIM</translation>
     </message>
     <message>
         <source>The SIM card may not be activated yet, or may not be used here. Your operator can tell you why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puede que la tarjeta SIM aún no esté activada o que no se permita aquí. Su operador puede decirle por qué.</translation>
     </message>
     <message>
         <source>Looking for a network</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando una red</translation>
     </message>
     <message>
         <source>This can take a minute, longer abroad. A place near a window helps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puede tardar un minuto, más en el extranjero. Ayuda estar cerca de una ventana.</translation>
     </message>
     <message>
         <source>Asking for the network</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobando la red</translation>
     </message>
     <message>
         <source>The card has not said yet whether a network took it in.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta aún no ha indicado si una red la ha admitido.</translation>
     </message>
     <message>
         <source>Your operator&apos;s network took the card in</source>
-        <translation type="unfinished"></translation>
+        <translation>La red de su operador ha admitido la tarjeta</translation>
     </message>
     <message>
         <source>Another operator&apos;s network took the card in</source>
-        <translation type="unfinished"></translation>
+        <translation>La red de otro operador ha admitido la tarjeta</translation>
     </message>
     <message>
         <source>No service</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin servicio</translation>
     </message>
     <message>
         <source>The network gives no service here at the moment. Move to a place with better reception.</source>
-        <translation type="unfinished"></translation>
+        <translation>La red no da servicio aquí en este momento. Vaya a un lugar con mejor cobertura.</translation>
     </message>
     <message>
         <source>Emergency calls only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo llamadas de emergencia</translation>
     </message>
     <message>
         <source>The network does not serve this SIM card here. Your operator can tell you why.</source>
-        <translation type="unfinished"></translation>
+        <translation>La red no da servicio a esta tarjeta SIM aquí. Su operador puede decirle por qué.</translation>
     </message>
     <message>
         <source>No service in this region</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin servicio en esta región</translation>
     </message>
     <message>
         <source>Your operator serves this SIM card elsewhere, not in this region.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su operador da servicio a esta tarjeta SIM en otros lugares, pero no en esta región.</translation>
     </message>
     <message>
         <source>The network serves the card</source>
-        <translation type="unfinished"></translation>
+        <translation>La red da servicio a la tarjeta</translation>
     </message>
     <message>
         <source>Card in the USB socket</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarjeta en el puerto USB</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerto serie</translation>
     </message>
     <message>
         <source>Right to use the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Permiso para usar el puerto</translation>
     </message>
     <message>
         <source>Port free</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerto libre</translation>
     </message>
     <message>
         <source>Answer of the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Respuesta de la tarjeta</translation>
     </message>
     <message>
         <source>SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarjeta SIM</translation>
     </message>
     <message>
         <source>PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN</translation>
     </message>
     <message>
         <source>Radio</source>
-        <translation type="unfinished"></translation>
+        <translation>Radio</translation>
     </message>
     <message>
         <source>Registration</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Red</translation>
     </message>
     <message>
         <source>&amp;Search again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar de nuevo</translation>
     </message>
     <message>
         <source>&amp;Switch to modem</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar a &amp;módem</translation>
     </message>
     <message>
         <source>&amp;Copy command</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar comando</translation>
     </message>
     <message>
         <source>&amp;Enter PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Introducir PIN</translation>
     </message>
     <message>
         <source>&amp;Enter PUK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Introducir PUK</translation>
     </message>
     <message>
         <source>&amp;Switch radio on</source>
-        <translation type="unfinished"></translation>
+        <translation>Activar la &amp;radio</translation>
     </message>
     <message>
         <source>&amp;Ask again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Consultar de nuevo</translation>
     </message>
 </context>
 <context>
@@ -596,112 +596,112 @@
     <name>Skins</name>
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden leer los colores de «%1».</translation>
     </message>
 </context>
 <context>
     <name>WTMainWindow</name>
     <message>
         <source>&amp;Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿&amp;Por qué estoy sin conexión?</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Actualizar</translation>
     </message>
     <message>
         <source>&amp;Move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mover</translation>
     </message>
     <message>
         <source>Re&amp;size</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar &amp;tamaño</translation>
     </message>
     <message>
         <source>Mi&amp;nimise</source>
-        <translation type="unfinished"></translation>
+        <translation>Mi&amp;nimizar</translation>
     </message>
     <message>
         <source>&amp;Fill the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ma&amp;ximizar</translation>
     </message>
     <message>
         <source>&amp;About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca &amp;de %1</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cerrar</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
 </context>
 <context>
     <name>corva::AboutBox</name>
     <message>
         <source>About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de %1</translation>
     </message>
     <message>
         <source>Connection manager for USB data cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestor de conexiones para tarjetas de datos USB</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation>Programa</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión</translation>
     </message>
     <message>
         <source>Toolkit</source>
-        <translation type="unfinished"></translation>
+        <translation>Biblioteca</translation>
     </message>
     <message>
         <source>Licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Licencia</translation>
     </message>
     <message>
         <source>Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarjeta</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo</translation>
     </message>
     <message>
         <source>IMEI</source>
-        <translation type="unfinished"></translation>
+        <translation>IMEI</translation>
     </message>
     <message>
         <source>Firmware</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware</translation>
     </message>
     <message>
         <source>Internal version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión interna</translation>
     </message>
     <message>
         <source>&amp;Copy all</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar todo</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;errar</translation>
     </message>
 </context>
 <context>
     <name>corva::CSetting</name>
     <message>
         <source>Groups of settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupos de ajustes</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes</translation>
     </message>
 </context>
 <context>
@@ -715,327 +715,327 @@
     <name>corva::CardPage</name>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Actualizar</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Ask the card for everything anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Consultar todo de nuevo en la tarjeta</translation>
     </message>
     <message>
         <source>Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarjeta</translation>
     </message>
 </context>
 <context>
     <name>corva::CheckPIN</name>
     <message>
         <source>&amp;Show the digits</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar los dígitos</translation>
     </message>
     <message>
         <source>La&amp;ter</source>
-        <translation type="unfinished"></translation>
+        <translation>Más &amp;tarde</translation>
     </message>
     <message>
         <source>The SIM card is blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta SIM está bloqueada con PUK</translation>
     </message>
     <message>
         <source>The SIM card is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta SIM está bloqueada con PIN</translation>
     </message>
     <message>
         <source>Enter PUK</source>
-        <translation type="unfinished"></translation>
+        <translation>Introducir PUK</translation>
     </message>
     <message>
         <source>Enter PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>Introducir PIN</translation>
     </message>
     <message>
         <source>Enter the PUK, which came with the SIM card, and choose a new PIN.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca el PUK entregado con la tarjeta SIM y elija un PIN nuevo.</translation>
     </message>
     <message>
         <source>Enter its PIN to use the card.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca su PIN para usar la tarjeta.</translation>
     </message>
     <message>
         <source>P&amp;UK, 8 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;UK, 8 dígitos</translation>
     </message>
     <message>
         <source>New &amp;PIN, 4 to 8 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;PIN nuevo, de 4 a 8 dígitos</translation>
     </message>
     <message>
         <source>&amp;PIN, 4 to 8 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;PIN, de 4 a 8 dígitos</translation>
     </message>
     <message>
         <source>&amp;Repeat the new PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Repetir el PIN nuevo</translation>
     </message>
     <message>
         <source>Un&amp;block</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Desbloquear</translation>
     </message>
     <message>
         <source>Un&amp;lock</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Desbloquear</translation>
     </message>
     <message numerus="yes">
         <source>%n attempts left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Queda %n intento</numerusform>
+            <numerusform>Quedan %n intentos</numerusform>
         </translation>
     </message>
     <message>
         <source>Last attempt: after another wrong PUK the SIM card is lost for good.</source>
-        <translation type="unfinished"></translation>
+        <translation>Último intento: tras otro PUK incorrecto, la tarjeta SIM quedará inutilizada para siempre.</translation>
     </message>
     <message>
         <source>Last attempt: after another wrong PIN the SIM card asks for its PUK.</source>
-        <translation type="unfinished"></translation>
+        <translation>Último intento: tras otro PIN incorrecto, la tarjeta SIM pedirá su PUK.</translation>
     </message>
     <message>
         <source>A PUK has 8 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un PUK tiene 8 dígitos.</translation>
     </message>
     <message>
         <source>A PIN has 4 to 8 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un PIN tiene de 4 a 8 dígitos.</translation>
     </message>
     <message>
         <source>The two PINs differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los dos PIN no coinciden.</translation>
     </message>
     <message>
         <source>Asking the SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>Consultando la tarjeta SIM</translation>
     </message>
     <message>
         <source>The PUK is wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>El PUK es incorrecto.</translation>
     </message>
     <message>
         <source>The PIN is wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>El PIN es incorrecto.</translation>
     </message>
     <message>
         <source>The SIM card cannot be read. Take it out and put it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer la tarjeta SIM. Sáquela y vuelva a insertarla.</translation>
     </message>
     <message>
         <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta no respondió. Nada ha cambiado; inténtelo de nuevo.</translation>
     </message>
 </context>
 <context>
     <name>corva::DiagnosisRow</name>
     <message>
         <source>in order</source>
-        <translation type="unfinished"></translation>
+        <translation>en orden</translation>
     </message>
     <message>
         <source>problem</source>
-        <translation type="unfinished"></translation>
+        <translation>problema</translation>
     </message>
     <message>
         <source>under way</source>
-        <translation type="unfinished"></translation>
+        <translation>en curso</translation>
     </message>
     <message>
         <source>not known yet</source>
-        <translation type="unfinished"></translation>
+        <translation>aún no se sabe</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>corva::FactRow</name>
     <message>
         <source>Copy %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar «%1»</translation>
     </message>
 </context>
 <context>
     <name>corva::GeneralPage</name>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Claro</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Oscuro</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Apariencia</translation>
     </message>
     <message>
         <source>Beside other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Junto a otros programas</translation>
     </message>
     <message>
         <source>&amp;Keep running in the tray when the window is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seguir en la bandeja del sistema al cerrar la ventana</translation>
     </message>
     <message>
         <source>&amp;Notify about calls and messages on the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notificar llamadas y mensajes en el escritorio</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Idioma</translation>
     </message>
     <message>
         <source>&amp;Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Colores</translation>
     </message>
     <message>
         <source>The language is stored. It takes effect when the program starts next.</source>
-        <translation type="unfinished"></translation>
+        <translation>El idioma se ha guardado. Se aplicará la próxima vez que se inicie el programa.</translation>
     </message>
     <message>
         <source>The colours could not be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron guardar los colores: %1</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
 </context>
 <context>
     <name>corva::IconButton</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>corva::KeyboardMover</name>
     <message>
         <source>Arrow keys move the window. Enter keeps the place, Esc brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las flechas mueven la ventana. Intro mantiene la posición, Esc recupera la anterior.</translation>
     </message>
     <message>
         <source>Arrow keys resize the window. Enter keeps the size, Esc brings the old one back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las flechas cambian el tamaño de la ventana. Intro lo mantiene, Esc recupera el anterior.</translation>
     </message>
 </context>
 <context>
     <name>corva::Mender</name>
     <message>
         <source>Searching for the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando la tarjeta</translation>
     </message>
     <message>
         <source>Asking the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Consultando la tarjeta</translation>
     </message>
     <message>
         <source>Copied. Paste the command into a terminal, then log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiado. Pegue el comando en un terminal, cierre la sesión y vuelva a iniciarla.</translation>
     </message>
     <message>
         <source>Switching the card to a modem</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiando la tarjeta a módem</translation>
     </message>
     <message>
         <source>Switched. The card comes back as a modem in a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hecho. La tarjeta volverá como módem en unos segundos.</translation>
     </message>
     <message>
         <source>Switching the radio on</source>
-        <translation type="unfinished"></translation>
+        <translation>Activando la radio</translation>
     </message>
     <message>
         <source>The radio is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>La radio está activada.</translation>
     </message>
     <message>
         <source>The card has not confirmed yet. Its state follows.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta aún no ha confirmado. Su estado se mostrará enseguida.</translation>
     </message>
 </context>
 <context>
     <name>corva::Navigation</name>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas</translation>
     </message>
 </context>
 <context>
     <name>corva::NavigationButton</name>
     <message>
         <source>%1, %2 new</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, novedades: %2</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>corva::OfflinePanel</name>
     <message>
         <source>&amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volver</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver</translation>
     </message>
     <message>
         <source>Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Por qué estoy sin conexión?</translation>
     </message>
     <message>
         <source>Everything from the socket to the network is in order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo está en orden, desde el puerto USB hasta la red.</translation>
     </message>
     <message>
         <source>Nothing is wrong so far; the card is at it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo va bien por ahora; la tarjeta está en ello.</translation>
     </message>
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un paso presenta un problema. Los siguientes se harán por sí solos.</translation>
     </message>
 </context>
 <context>
     <name>corva::SignalBars</name>
     <message>
         <source>Signal: %1 of %2 bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Señal: %1 de %2 barras</translation>
     </message>
     <message>
         <source>No signal</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin señal</translation>
     </message>
 </context>
 <context>
@@ -1057,130 +1057,130 @@
     <name>corva::StateHero</name>
     <message>
         <source>&amp;Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿&amp;Por qué estoy sin conexión?</translation>
     </message>
     <message>
         <source>In the network</source>
-        <translation type="unfinished"></translation>
+        <translation>En la red</translation>
     </message>
     <message>
         <source>  ·  </source>
         <comment>between facts</comment>
-        <translation type="unfinished"></translation>
+        <translation>  ·  </translation>
     </message>
 </context>
 <context>
     <name>corva::StatusStrip</name>
     <message>
         <source>&amp;Why?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Por &amp;qué?</translation>
     </message>
     <message>
         <source>Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Por qué estoy sin conexión?</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>corva::TopBar</name>
     <message>
         <source>Connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectando</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectado</translation>
     </message>
     <message>
         <source>Disconnecting</source>
-        <translation type="unfinished"></translation>
+        <translation>Desconectando</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>No conectado</translation>
     </message>
     <message>
         <source>Minimise</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimizar</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Menu of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Menú de %1</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menú</translation>
     </message>
     <message>
         <source>Network type %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de red %1</translation>
     </message>
     <message>
         <source>R</source>
         <comment>roaming</comment>
-        <translation type="unfinished"></translation>
+        <translation>R</translation>
     </message>
     <message>
         <source>Roaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Itinerancia</translation>
     </message>
     <message>
         <source>No card</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin tarjeta</translation>
     </message>
     <message>
         <source>SIM</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM</translation>
     </message>
     <message>
         <source>SIM card: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarjeta SIM: %1</translation>
     </message>
     <message>
         <source>not known yet</source>
-        <translation type="unfinished"></translation>
+        <translation>estado aún desconocido</translation>
     </message>
     <message>
         <source>Data connection: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión de datos: %1</translation>
     </message>
     <message>
         <source>Time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora: %1</translation>
     </message>
 </context>
 <context>
     <name>corva::TrayIcon</name>
     <message>
         <source>&amp;Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿&amp;Por qué estoy sin conexión?</translation>
     </message>
     <message>
         <source>&amp;About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca &amp;de %1</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>&amp;Hide the window</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ocultar la ventana</translation>
     </message>
     <message>
         <source>&amp;Show the window</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar la ventana</translation>
     </message>
 </context>
 </TS>

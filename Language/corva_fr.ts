@@ -5,87 +5,87 @@
     <name>CardStatus</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Prête</translation>
     </message>
     <message>
         <source>Locked, PIN needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouillée, PIN requis</translation>
     </message>
     <message>
         <source>Blocked, PUK needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquée, PUK requis</translation>
     </message>
     <message>
         <source>Starting</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrage</translation>
     </message>
     <message>
         <source>Cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Illisible</translation>
     </message>
     <message>
         <source>No SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de carte SIM</translation>
     </message>
     <message>
         <source>Not searching</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de recherche</translation>
     </message>
     <message>
         <source>Home network</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau d’origine</translation>
     </message>
     <message>
         <source>Searching</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche</translation>
     </message>
     <message>
         <source>Refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Refusé</translation>
     </message>
     <message>
         <source>Roaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Itinérance</translation>
     </message>
     <message>
         <source>No service</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun service</translation>
     </message>
     <message>
         <source>Emergency calls only</source>
-        <translation type="unfinished"></translation>
+        <translation>Appels d’urgence uniquement</translation>
     </message>
     <message>
         <source>Full service</source>
-        <translation type="unfinished"></translation>
+        <translation>Service complet</translation>
     </message>
     <message>
         <source>No service in this region</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun service dans cette région</translation>
     </message>
     <message>
         <source>Saving power</source>
-        <translation type="unfinished"></translation>
+        <translation>Économie d’énergie</translation>
     </message>
     <message>
         <source>%1 dBm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;dBm</translation>
     </message>
     <message>
         <source>%1, %2 of 5 bars</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 barres sur 5</translation>
     </message>
     <message>
         <source>Offline: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hors ligne&#xa0;: %1</translation>
     </message>
     <message>
         <source>In the network</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur le réseau</translation>
     </message>
     <message>
         <source>, </source>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -205,314 +205,314 @@
     <name>Notices</name>
     <message>
         <source>Incoming call</source>
-        <translation type="unfinished"></translation>
+        <translation>Appel entrant</translation>
     </message>
     <message>
         <source>The card is ringing.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte sonne.</translation>
     </message>
     <message>
         <source>New message</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau message</translation>
     </message>
     <message>
         <source>A new message has arrived on the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nouveau message est arrivé sur la carte</translation>
     </message>
     <message>
         <source>A new message has arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nouveau message est arrivé</translation>
     </message>
     <message>
         <source>An immediate message has arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>Un message immédiat est arrivé</translation>
     </message>
     <message>
         <source>Another call is waiting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre appel est en attente.</translation>
     </message>
 </context>
 <context>
     <name>OfflineDiagnosis</name>
     <message>
         <source>The card shows itself as a disk</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte se présente comme un disque</translation>
     </message>
     <message>
         <source>Many cards start as a disk with drivers on it. Switch it over, and it becomes a modem within a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beaucoup de cartes démarrent comme un disque contenant leurs pilotes. Changez de mode, et la carte devient un modem en quelques secondes.</translation>
     </message>
     <message>
         <source>No card found</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune carte trouvée</translation>
     </message>
     <message>
         <source>Plug the card into a USB socket of this computer. If it is plugged in, take it out and try another socket.</source>
-        <translation type="unfinished"></translation>
+        <translation>Branchez la carte sur une prise USB de cet ordinateur. Si elle est déjà branchée, retirez-la et essayez une autre prise.</translation>
     </message>
     <message>
         <source>The card is plugged in as a modem</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte est branchée comme modem</translation>
     </message>
     <message>
         <source>The card has no serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte n’a pas de port série</translation>
     </message>
     <message>
         <source>The computer sees &quot;%1&quot; but made no port for it. Take it out, wait ten seconds and plug it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’ordinateur voit «&#xa0;%1&#xa0;» mais ne lui a pas créé de port. Retirez la carte, attendez dix secondes et rebranchez-la.</translation>
     </message>
     <message>
         <source>The computer made a port for it</source>
-        <translation type="unfinished"></translation>
+        <translation>L’ordinateur lui a créé un port</translation>
     </message>
     <message>
         <source>You may use the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous avez accès au port</translation>
     </message>
     <message>
         <source>No right to use the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de droit d’accès au port</translation>
     </message>
     <message>
         <source>The port %1 may be used only by members of the group &quot;%2&quot;. Run the command that the button copies, then log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuls les membres du groupe «&#xa0;%2&#xa0;» peuvent utiliser le port %1. Exécutez la commande que le bouton copie, puis fermez la session et rouvrez-la.</translation>
     </message>
     <message>
         <source>Another program</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme</translation>
     </message>
     <message>
         <source>%1 (process %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (processus %2)</translation>
     </message>
     <message>
         <source>No other program holds the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun autre programme n’occupe le port</translation>
     </message>
     <message>
         <source>The port is in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Le port est occupé</translation>
     </message>
     <message>
         <source>%1 holds the port %2. Close that program or stop its service, then search again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 occupe le port %2. Fermez ce programme ou arrêtez son service, puis relancez la recherche.</translation>
     </message>
     <message>
         <source>The card does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte ne répond pas</translation>
     </message>
     <message>
         <source>The port %1 is open, but nothing answers there. A card that was just plugged in needs up to half a minute; after that, take it out and plug it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le port %1 est ouvert, mais rien n’y répond. Une carte tout juste branchée peut mettre une demi-minute&#xa0;; passé ce délai, retirez-la et rebranchez-la.</translation>
     </message>
     <message>
         <source>The card answers</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte répond</translation>
     </message>
     <message>
         <source>No SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de carte SIM</translation>
     </message>
     <message>
         <source>Take the card out, put a SIM card in with its contacts down, and plug the card in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirez la carte, insérez-y une carte SIM, contacts vers le bas, puis rebranchez la carte.</translation>
     </message>
     <message>
         <source>The SIM card cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte SIM est illisible</translation>
     </message>
     <message>
         <source>Take the SIM card out, wipe its contacts and put it in again. If that does not help, ask your operator for a new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirez la carte SIM, essuyez ses contacts et remettez-la. Si cela ne suffit pas, demandez-en une nouvelle à votre opérateur.</translation>
     </message>
     <message>
         <source>The SIM card is starting</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte SIM démarre</translation>
     </message>
     <message>
         <source>This takes a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cela prend quelques secondes.</translation>
     </message>
     <message>
         <source>Asking for the SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification de la carte SIM</translation>
     </message>
     <message>
         <source>The card has not said yet whether it has a SIM card.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte n’a pas encore indiqué si elle contient une carte SIM.</translation>
     </message>
     <message>
         <source>A SIM card is in the card</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte contient une carte SIM</translation>
     </message>
     <message>
         <source>The SIM card is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte SIM est verrouillée</translation>
     </message>
     <message>
         <source>It asks for its PIN before it lets the card into a network.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elle demande son code PIN avant de laisser la carte accéder à un réseau.</translation>
     </message>
     <message>
         <source>The SIM card is blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte SIM est bloquée</translation>
     </message>
     <message>
         <source>A wrong PIN was entered too often. The PUK, which came with the SIM card, sets a new PIN.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un code PIN erroné a été saisi trop souvent. Le code PUK, fourni avec la carte SIM, permet d’en définir un nouveau.</translation>
     </message>
     <message>
         <source>The SIM card is unlocked</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte SIM est déverrouillée</translation>
     </message>
     <message>
         <source>The radio is off</source>
-        <translation type="unfinished"></translation>
+        <translation>La radio est désactivée</translation>
     </message>
     <message>
         <source>The card neither sends nor receives until it is switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte n’émet et ne reçoit rien tant que la radio est désactivée.</translation>
     </message>
     <message>
         <source>The radio is on</source>
-        <translation type="unfinished"></translation>
+        <translation>La radio est activée</translation>
     </message>
     <message>
         <source>Not looking for a network</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de recherche de réseau</translation>
     </message>
     <message>
         <source>The card found no network that it may use and gave up. Move to a place with better reception, then switch the radio on anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte n’a trouvé aucun réseau autorisé et a renoncé. Allez là où la réception est meilleure, puis réactivez la radio.</translation>
     </message>
     <message>
         <source>The network refused the SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>Le réseau a refusé la carte SIM</translation>
     </message>
     <message>
         <source>The SIM card may not be activated yet, or may not be used here. Your operator can tell you why.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte SIM n’est peut-être pas encore activée, ou pas autorisée ici. Votre opérateur peut vous dire pourquoi.</translation>
     </message>
     <message>
         <source>Looking for a network</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche d’un réseau</translation>
     </message>
     <message>
         <source>This can take a minute, longer abroad. A place near a window helps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cela peut prendre une minute, davantage à l’étranger. Une place près d’une fenêtre aide.</translation>
     </message>
     <message>
         <source>Asking for the network</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification du réseau</translation>
     </message>
     <message>
         <source>The card has not said yet whether a network took it in.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte n’a pas encore indiqué si un réseau l’a acceptée.</translation>
     </message>
     <message>
         <source>Your operator&apos;s network took the card in</source>
-        <translation type="unfinished"></translation>
+        <translation>Le réseau de votre opérateur a accepté la carte</translation>
     </message>
     <message>
         <source>Another operator&apos;s network took the card in</source>
-        <translation type="unfinished"></translation>
+        <translation>Le réseau d’un autre opérateur a accepté la carte</translation>
     </message>
     <message>
         <source>No service</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun service</translation>
     </message>
     <message>
         <source>The network gives no service here at the moment. Move to a place with better reception.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le réseau n’offre aucun service ici pour le moment. Allez là où la réception est meilleure.</translation>
     </message>
     <message>
         <source>Emergency calls only</source>
-        <translation type="unfinished"></translation>
+        <translation>Appels d’urgence uniquement</translation>
     </message>
     <message>
         <source>The network does not serve this SIM card here. Your operator can tell you why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le réseau ne dessert pas cette carte SIM ici. Votre opérateur peut vous dire pourquoi.</translation>
     </message>
     <message>
         <source>No service in this region</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun service dans cette région</translation>
     </message>
     <message>
         <source>Your operator serves this SIM card elsewhere, not in this region.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre opérateur dessert cette carte SIM ailleurs, mais pas dans cette région.</translation>
     </message>
     <message>
         <source>The network serves the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Le réseau dessert la carte</translation>
     </message>
     <message>
         <source>Card in the USB socket</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte dans la prise USB</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>Port série</translation>
     </message>
     <message>
         <source>Right to use the port</source>
-        <translation type="unfinished"></translation>
+        <translation>Droit d’accès au port</translation>
     </message>
     <message>
         <source>Port free</source>
-        <translation type="unfinished"></translation>
+        <translation>Port libre</translation>
     </message>
     <message>
         <source>Answer of the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Réponse de la carte</translation>
     </message>
     <message>
         <source>SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte SIM</translation>
     </message>
     <message>
         <source>PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>PIN</translation>
     </message>
     <message>
         <source>Radio</source>
-        <translation type="unfinished"></translation>
+        <translation>Radio</translation>
     </message>
     <message>
         <source>Registration</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau</translation>
     </message>
     <message>
         <source>&amp;Search again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rechercher à nouveau</translation>
     </message>
     <message>
         <source>&amp;Switch to modem</source>
-        <translation type="unfinished"></translation>
+        <translation>Passer en &amp;modem</translation>
     </message>
     <message>
         <source>&amp;Copy command</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier la commande</translation>
     </message>
     <message>
         <source>&amp;Enter PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Saisir le PIN</translation>
     </message>
     <message>
         <source>&amp;Enter PUK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Saisir le PUK</translation>
     </message>
     <message>
         <source>&amp;Switch radio on</source>
-        <translation type="unfinished"></translation>
+        <translation>Activer la &amp;radio</translation>
     </message>
     <message>
         <source>&amp;Ask again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Interroger à nouveau</translation>
     </message>
 </context>
 <context>
@@ -596,112 +596,112 @@
     <name>Skins</name>
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire les couleurs de «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>WTMainWindow</name>
     <message>
         <source>&amp;Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourquoi suis-je &amp;hors ligne&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Actualiser</translation>
     </message>
     <message>
         <source>&amp;Move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Déplacer</translation>
     </message>
     <message>
         <source>Re&amp;size</source>
-        <translation type="unfinished"></translation>
+        <translation>Redi&amp;mensionner</translation>
     </message>
     <message>
         <source>Mi&amp;nimise</source>
-        <translation type="unfinished"></translation>
+        <translation>Réd&amp;uire</translation>
     </message>
     <message>
         <source>&amp;Fill the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;grandir</translation>
     </message>
     <message>
         <source>&amp;About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>À &amp;propos de %1</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
 </context>
 <context>
     <name>corva::AboutBox</name>
     <message>
         <source>About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos de %1</translation>
     </message>
     <message>
         <source>Connection manager for USB data cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestionnaire de connexion pour cartes de données USB</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation>Programme</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Toolkit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliothèque</translation>
     </message>
     <message>
         <source>Licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Licence</translation>
     </message>
     <message>
         <source>Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle</translation>
     </message>
     <message>
         <source>IMEI</source>
-        <translation type="unfinished"></translation>
+        <translation>IMEI</translation>
     </message>
     <message>
         <source>Firmware</source>
-        <translation type="unfinished"></translation>
+        <translation>Micrologiciel</translation>
     </message>
     <message>
         <source>Internal version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version interne</translation>
     </message>
     <message>
         <source>&amp;Copy all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout &amp;copier</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
 </context>
 <context>
     <name>corva::CSetting</name>
     <message>
         <source>Groups of settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupes de paramètres</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
 </context>
 <context>
@@ -715,327 +715,327 @@
     <name>corva::CardPage</name>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Actualiser</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Ask the card for everything anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout redemander à la carte</translation>
     </message>
     <message>
         <source>Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte</translation>
     </message>
 </context>
 <context>
     <name>corva::CheckPIN</name>
     <message>
         <source>&amp;Show the digits</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Afficher les chiffres</translation>
     </message>
     <message>
         <source>La&amp;ter</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus &amp;tard</translation>
     </message>
     <message>
         <source>The SIM card is blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte SIM est bloquée</translation>
     </message>
     <message>
         <source>The SIM card is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte SIM est verrouillée</translation>
     </message>
     <message>
         <source>Enter PUK</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisir le PUK</translation>
     </message>
     <message>
         <source>Enter PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisir le PIN</translation>
     </message>
     <message>
         <source>Enter the PUK, which came with the SIM card, and choose a new PIN.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez le code PUK fourni avec la carte SIM et choisissez un nouveau code PIN.</translation>
     </message>
     <message>
         <source>Enter its PIN to use the card.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez son code PIN pour utiliser la carte.</translation>
     </message>
     <message>
         <source>P&amp;UK, 8 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>Code P&amp;UK, 8 chiffres</translation>
     </message>
     <message>
         <source>New &amp;PIN, 4 to 8 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau code &amp;PIN, 4 à 8 chiffres</translation>
     </message>
     <message>
         <source>&amp;PIN, 4 to 8 digits</source>
-        <translation type="unfinished"></translation>
+        <translation>Code &amp;PIN, 4 à 8 chiffres</translation>
     </message>
     <message>
         <source>&amp;Repeat the new PIN</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Répéter le nouveau code PIN</translation>
     </message>
     <message>
         <source>Un&amp;block</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Débloquer</translation>
     </message>
     <message>
         <source>Un&amp;lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Dé&amp;verrouiller</translation>
     </message>
     <message numerus="yes">
         <source>%n attempts left</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n tentative restante</numerusform>
+            <numerusform>%n tentatives restantes</numerusform>
         </translation>
     </message>
     <message>
         <source>Last attempt: after another wrong PUK the SIM card is lost for good.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière tentative&#xa0;: après un autre code PUK erroné, la carte SIM sera définitivement perdue.</translation>
     </message>
     <message>
         <source>Last attempt: after another wrong PIN the SIM card asks for its PUK.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière tentative&#xa0;: après un autre code PIN erroné, la carte SIM demandera son code PUK.</translation>
     </message>
     <message>
         <source>A PUK has 8 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un code PUK comporte 8 chiffres.</translation>
     </message>
     <message>
         <source>A PIN has 4 to 8 digits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un code PIN comporte 4 à 8 chiffres.</translation>
     </message>
     <message>
         <source>The two PINs differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les deux codes PIN diffèrent.</translation>
     </message>
     <message>
         <source>Asking the SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification par la carte SIM</translation>
     </message>
     <message>
         <source>The PUK is wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le code PUK est incorrect.</translation>
     </message>
     <message>
         <source>The PIN is wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le code PIN est incorrect.</translation>
     </message>
     <message>
         <source>The SIM card cannot be read. Take it out and put it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte SIM est illisible. Retirez-la et remettez-la.</translation>
     </message>
     <message>
         <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte n’a pas répondu. Rien n’a changé&#xa0;; réessayez.</translation>
     </message>
 </context>
 <context>
     <name>corva::DiagnosisRow</name>
     <message>
         <source>in order</source>
-        <translation type="unfinished"></translation>
+        <translation>en ordre</translation>
     </message>
     <message>
         <source>problem</source>
-        <translation type="unfinished"></translation>
+        <translation>problème</translation>
     </message>
     <message>
         <source>under way</source>
-        <translation type="unfinished"></translation>
+        <translation>en cours</translation>
     </message>
     <message>
         <source>not known yet</source>
-        <translation type="unfinished"></translation>
+        <translation>pas encore connu</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>corva::FactRow</name>
     <message>
         <source>Copy %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
     <name>corva::GeneralPage</name>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Clair</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombre</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparence</translation>
     </message>
     <message>
         <source>Beside other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec les autres programmes</translation>
     </message>
     <message>
         <source>&amp;Keep running in the tray when the window is closed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rester dans la zone de notification à la fermeture de la fenêtre</translation>
     </message>
     <message>
         <source>&amp;Notify about calls and messages on the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notifier les appels et les messages sur le bureau</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Langue</translation>
     </message>
     <message>
         <source>&amp;Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Couleurs</translation>
     </message>
     <message>
         <source>The language is stored. It takes effect when the program starts next.</source>
-        <translation type="unfinished"></translation>
+        <translation>La langue est enregistrée. Elle prendra effet au prochain démarrage du programme.</translation>
     </message>
     <message>
         <source>The colours could not be stored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’enregistrer les couleurs&#xa0;: %1</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
 </context>
 <context>
     <name>corva::IconButton</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>corva::KeyboardMover</name>
     <message>
         <source>Arrow keys move the window. Enter keeps the place, Esc brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les flèches déplacent la fenêtre. Entrée garde la position, Échap rétablit l’ancienne.</translation>
     </message>
     <message>
         <source>Arrow keys resize the window. Enter keeps the size, Esc brings the old one back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les flèches redimensionnent la fenêtre. Entrée garde la taille, Échap rétablit l’ancienne.</translation>
     </message>
 </context>
 <context>
     <name>corva::Mender</name>
     <message>
         <source>Searching for the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche de la carte</translation>
     </message>
     <message>
         <source>Asking the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrogation de la carte</translation>
     </message>
     <message>
         <source>Copied. Paste the command into a terminal, then log out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copié. Collez la commande dans un terminal, puis fermez la session et rouvrez-la.</translation>
     </message>
     <message>
         <source>Switching the card to a modem</source>
-        <translation type="unfinished"></translation>
+        <translation>Passage de la carte en modem</translation>
     </message>
     <message>
         <source>Switched. The card comes back as a modem in a few seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>C’est fait. La carte réapparaîtra comme modem dans quelques secondes.</translation>
     </message>
     <message>
         <source>Switching the radio on</source>
-        <translation type="unfinished"></translation>
+        <translation>Activation de la radio</translation>
     </message>
     <message>
         <source>The radio is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>La radio est activée.</translation>
     </message>
     <message>
         <source>The card has not confirmed yet. Its state follows.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte n’a pas encore confirmé. Son état suivra.</translation>
     </message>
 </context>
 <context>
     <name>corva::Navigation</name>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages</translation>
     </message>
 </context>
 <context>
     <name>corva::NavigationButton</name>
     <message>
         <source>%1, %2 new</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, nouveautés&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>corva::OfflinePanel</name>
     <message>
         <source>&amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;tour</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour</translation>
     </message>
     <message>
         <source>Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourquoi suis-je hors ligne&#xa0;?</translation>
     </message>
     <message>
         <source>Everything from the socket to the network is in order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout est en ordre, de la prise USB au réseau.</translation>
     </message>
     <message>
         <source>Nothing is wrong so far; the card is at it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout va bien jusqu’ici&#xa0;; la carte y travaille.</translation>
     </message>
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une étape pose problème. Les suivantes se feront d’elles-mêmes.</translation>
     </message>
 </context>
 <context>
     <name>corva::SignalBars</name>
     <message>
         <source>Signal: %1 of %2 bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Signal&#xa0;: %1 barres sur %2</translation>
     </message>
     <message>
         <source>No signal</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun signal</translation>
     </message>
 </context>
 <context>
@@ -1057,130 +1057,130 @@
     <name>corva::StateHero</name>
     <message>
         <source>&amp;Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourquoi suis-je &amp;hors ligne&#xa0;?</translation>
     </message>
     <message>
         <source>In the network</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur le réseau</translation>
     </message>
     <message>
         <source>  ·  </source>
         <comment>between facts</comment>
-        <translation type="unfinished"></translation>
+        <translation>  ·  </translation>
     </message>
 </context>
 <context>
     <name>corva::StatusStrip</name>
     <message>
         <source>&amp;Why?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pourquoi&#xa0;?</translation>
     </message>
     <message>
         <source>Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourquoi suis-je hors ligne&#xa0;?</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>corva::TopBar</name>
     <message>
         <source>Connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion en cours</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecté</translation>
     </message>
     <message>
         <source>Disconnecting</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnexion en cours</translation>
     </message>
     <message>
         <source>Not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Non connecté</translation>
     </message>
     <message>
         <source>Minimise</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Menu of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu de %1</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Network type %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de réseau %1</translation>
     </message>
     <message>
         <source>R</source>
         <comment>roaming</comment>
-        <translation type="unfinished"></translation>
+        <translation>R</translation>
     </message>
     <message>
         <source>Roaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Itinérance</translation>
     </message>
     <message>
         <source>No card</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de carte</translation>
     </message>
     <message>
         <source>SIM</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM</translation>
     </message>
     <message>
         <source>SIM card: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte SIM&#xa0;: %1</translation>
     </message>
     <message>
         <source>not known yet</source>
-        <translation type="unfinished"></translation>
+        <translation>état pas encore connu</translation>
     </message>
     <message>
         <source>Data connection: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion de données&#xa0;: %1</translation>
     </message>
     <message>
         <source>Time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>corva::TrayIcon</name>
     <message>
         <source>&amp;Why am I offline?</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourquoi suis-je &amp;hors ligne&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>À &amp;propos de %1</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>&amp;Hide the window</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Masquer la fenêtre</translation>
     </message>
     <message>
         <source>&amp;Show the window</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Afficher la fenêtre</translation>
     </message>
 </context>
 </TS>
