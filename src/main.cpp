@@ -47,6 +47,8 @@ int main(int argc, char **argv)
 {
     // The toolkit gets no arguments: it would take its own out of them, and may end the process over them.
     int ownNameOnly = std::min(argc, 1);
+    if (argc > 1)
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // ends below without a window, so it needs no display either
     const QApplication app(ownNameOnly, argv);
     qSetMessagePattern(u"%{message}"_s); // the lines bring their time along, and begin with it
     const corva::DebugLog debugLog;

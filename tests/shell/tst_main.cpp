@@ -111,7 +111,7 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, arguments);
         QProcess process;
-        start(process, arguments, {});
+        start(process, arguments, {{u"QT_QPA_PLATFORM"_s, u"none"_s}}); // and without a display
         QVERIFY(process.waitForFinished(longestRun));
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         QCOMPARE(process.exitCode(), 0);

@@ -45,6 +45,8 @@ QStringList translationsOf(const QDomElement &message)
 
 QString faultOf(const QString &source, const QString &translation)
 {
+    if (translation.isEmpty()) // not translated yet, which is another check's matter
+        return {};
     QStringList wanted = placesIn(source);
     QStringList found = placesIn(translation);
     // A plural form for one, two or none may do without the number.
