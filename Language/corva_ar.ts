@@ -739,87 +739,87 @@
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">الشبكة</translation>
+        <translation>الشبكة</translation>
     </message>
     <message>
         <source>SIM card</source>
-        <translation type="unfinished">شريحة SIM</translation>
+        <translation>بطاقة SIM</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>الجهاز</translation>
     </message>
     <message>
         <source>Operator</source>
-        <translation type="unfinished"></translation>
+        <translation>المشغّل</translation>
     </message>
     <message>
         <source>Network type</source>
-        <translation type="unfinished"></translation>
+        <translation>نوع الشبكة</translation>
     </message>
     <message>
         <source>Registration</source>
-        <translation type="unfinished">التسجيل</translation>
+        <translation>التسجيل</translation>
     </message>
     <message>
         <source>Service</source>
-        <translation type="unfinished"></translation>
+        <translation>الخدمة</translation>
     </message>
     <message>
         <source>Roaming</source>
-        <translation type="unfinished">تجوال</translation>
+        <translation>التجوال</translation>
     </message>
     <message>
         <source>Signal</source>
-        <translation type="unfinished"></translation>
+        <translation>الإشارة</translation>
     </message>
     <message>
         <source>Network code</source>
-        <translation type="unfinished"></translation>
+        <translation>رمز الشبكة</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>المنطقة</translation>
     </message>
     <message>
         <source>Cell</source>
-        <translation type="unfinished"></translation>
+        <translation>الخلية</translation>
     </message>
     <message>
         <source>Network time</source>
-        <translation type="unfinished"></translation>
+        <translation>وقت الشبكة</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>الحالة</translation>
     </message>
     <message>
         <source>Phone number</source>
-        <translation type="unfinished"></translation>
+        <translation>رقم الهاتف</translation>
     </message>
     <message>
         <source>IMSI</source>
-        <translation type="unfinished"></translation>
+        <translation>IMSI</translation>
     </message>
     <message>
         <source>Card number</source>
-        <translation type="unfinished"></translation>
+        <translation>رقم البطاقة</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">الطراز</translation>
+        <translation>الطراز</translation>
     </message>
     <message>
         <source>IMEI</source>
-        <translation type="unfinished">IMEI</translation>
+        <translation>IMEI</translation>
     </message>
     <message>
         <source>Firmware</source>
-        <translation type="unfinished">البرنامج الثابت</translation>
+        <translation>البرنامج الثابت</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>المنفذ</translation>
     </message>
 </context>
 <context>

@@ -739,87 +739,87 @@
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished">Ağ</translation>
+        <translation>Ağ</translation>
     </message>
     <message>
         <source>SIM card</source>
-        <translation type="unfinished">SIM kart</translation>
+        <translation>SIM kart</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Aygıt</translation>
     </message>
     <message>
         <source>Operator</source>
-        <translation type="unfinished"></translation>
+        <translation>Operatör</translation>
     </message>
     <message>
         <source>Network type</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağ türü</translation>
     </message>
     <message>
         <source>Registration</source>
-        <translation type="unfinished">Ağa kayıt</translation>
+        <translation>Ağa kayıt</translation>
     </message>
     <message>
         <source>Service</source>
-        <translation type="unfinished"></translation>
+        <translation>Hizmet</translation>
     </message>
     <message>
         <source>Roaming</source>
-        <translation type="unfinished">Dolaşım</translation>
+        <translation>Dolaşım</translation>
     </message>
     <message>
         <source>Signal</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinyal</translation>
     </message>
     <message>
         <source>Network code</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağ kodu</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Bölge</translation>
     </message>
     <message>
         <source>Cell</source>
-        <translation type="unfinished"></translation>
+        <translation>Hücre</translation>
     </message>
     <message>
         <source>Network time</source>
-        <translation type="unfinished"></translation>
+        <translation>Ağ saati</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Durum</translation>
     </message>
     <message>
         <source>Phone number</source>
-        <translation type="unfinished"></translation>
+        <translation>Telefon no.</translation>
     </message>
     <message>
         <source>IMSI</source>
-        <translation type="unfinished"></translation>
+        <translation>IMSI</translation>
     </message>
     <message>
         <source>Card number</source>
-        <translation type="unfinished"></translation>
+        <translation>Kart numarası</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Model</translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>IMEI</source>
-        <translation type="unfinished">IMEI</translation>
+        <translation>IMEI</translation>
     </message>
     <message>
         <source>Firmware</source>
-        <translation type="unfinished">Donanım yazılımı</translation>
+        <translation>Aygıt yazılımı</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>Bağlantı noktası</translation>
     </message>
 </context>
 <context>
