@@ -53,7 +53,10 @@ void EmulatedCard::addPort(const QString &role, bool speaksAt)
         balance(*port);
     });
     connect(&port->pty, &PtyPort::flushed, this, [port] { balance(*port); });
-    connect(&port->pty, &PtyPort::clientLeft, port->session.get(), &AtSession::clientLeft);
+    connect(&port->pty, &PtyPort::clientLeft, this, [port] {
+        port->session->clientLeft();
+        balance(*port);
+    });
 }
 
 // Who sends commands and does not read the replies is not listened to until he does.
@@ -153,7 +156,9 @@ QJsonObject EmulatedCard::portsAsJson() const
 {
     QJsonObject object;
     for (const auto &port : m_ports)
-        object[port->role] = QJsonObject{{u"link"_s, port->pty.link()}, {u"device"_s, port->pty.device()}};
+        object[port->role] = QJsonObject{{u"link"_s, port->pty.link()},
+                                         {u"device"_s, port->pty.device()},
+                                         {u"open"_s, port->pty.hasClient()}};
     return object;
 }
 

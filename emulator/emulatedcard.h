@@ -53,7 +53,7 @@ public:
     /// A card just pushed in, with new device files; an empty name keeps the one that was.
     Complaint plug(const PortNames &names);
     bool isPlugged() const;
-    /// "at", "modem" or "voice" with their links and device files.
+    /// "at", "modem" and "voice" with their links and device files, and whether a client has them open.
     QJsonObject portsAsJson() const;
     /// Sends bytes on a port ("at" or "modem") as they stand.
     Complaint sendRaw(const QString &port, const QByteArray &bytes);

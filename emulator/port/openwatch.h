@@ -9,28 +9,29 @@
 namespace cardemu
 {
 
-/// Counts how often a device file is open elsewhere, by the kernel's own reports (inotify).
+/// Tells when a device file is opened and closed, by the kernel's own reports (inotify). Equal reports that
+/// wait one behind the other are merged by the kernel, so they cannot be counted.
 class OpenWatch
 {
 public:
-    /// `changed` is called when reports came in; it is for the caller to look at what they say.
+    struct News {
+        bool opened = false;
+        bool reopened = false; ///< closed by one, then opened by another
+    };
+
+    /// `changed` is called when there is news to take.
     OpenWatch(const QString &path, std::function<void()> changed);
     ~OpenWatch();
     OpenWatch(const OpenWatch &) = delete;
     OpenWatch &operator=(const OpenWatch &) = delete;
 
-    /// As of now: reports that wait are read first. True where the kernel does not tell.
-    bool isOpen();
-    /// True once after the last client left, also when another one has come since.
-    bool takeLeft();
+    /// False where the kernel refuses to report; errno says why.
+    bool isValid() const { return m_notifier != nullptr; }
+    /// What happened since the last call.
+    News take();
 
 private:
-    void read();
-
     int m_descriptor = -1;
-    bool m_blind = false; ///< reports were lost, or there are none
-    int m_opens = 0;
-    bool m_left = false;
     std::unique_ptr<QSocketNotifier> m_notifier;
 };
 

@@ -8,8 +8,10 @@
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <poll.h>
 #include <termios.h>
 #include <unistd.h>
+#include <utility>
 
 namespace cardemu
 {
@@ -24,13 +26,14 @@ Complaint systemComplaint(const QString &what)
     return what + u": "_s + QString::fromLocal8Bit(std::strerror(errno));
 }
 
-void setRaw(int descriptor)
+// Done on the master's descriptor this sets the client's side, and drops what waits there.
+void setRaw(int master)
 {
     termios settings{};
-    tcgetattr(descriptor, &settings);
+    tcgetattr(master, &settings);
     cfmakeraw(&settings);
     cfsetspeed(&settings, B115200);
-    tcsetattr(descriptor, TCSANOW, &settings);
+    tcsetattr(master, TCSAFLUSH, &settings);
 }
 
 } // namespace
@@ -45,12 +48,12 @@ Complaint PtyPort::open(const QString &link)
         close();
         return complaint;
     }
-    m_watch = std::make_unique<OpenWatch>(m_device, [this] { clientsChanged(); });
     m_readable = std::make_unique<QSocketNotifier>(m_master, QSocketNotifier::Read);
     m_writable = std::make_unique<QSocketNotifier>(m_master, QSocketNotifier::Write);
+    m_readable->setEnabled(false);
     m_writable->setEnabled(false);
-    connect(m_readable.get(), &QSocketNotifier::activated, this, [this] { read(); });
-    connect(m_writable.get(), &QSocketNotifier::activated, this, [this] { flush(); });
+    connect(m_readable.get(), &QSocketNotifier::activated, this, &PtyPort::look);
+    connect(m_writable.get(), &QSocketNotifier::activated, this, &PtyPort::flush);
     return {};
 }
 
@@ -62,11 +65,14 @@ Complaint PtyPort::openPair()
         ptsname_r(m_master, name.data(), name.size()) != 0)
         return systemComplaint(u"no pseudo-terminal"_s);
     m_device = QFile::decodeName(name.data());
-    m_slave = ::open(name.data(), O_RDWR | O_NOCTTY | O_CLOEXEC);
-    if (m_slave < 0)
+    setRaw(m_master);
+    // Only after it was open once does the kernel tell that it is closed.
+    const int slave = ::open(name.data(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+    if (slave < 0)
         return systemComplaint(m_device);
-    setRaw(m_slave);
-    return {};
+    ::close(slave);
+    m_watch = std::make_unique<OpenWatch>(m_device, [this] { look(); });
+    return m_watch->isValid() ? Complaint() : systemComplaint(u"cannot watch "_s + m_device);
 }
 
 Complaint PtyPort::makeLink(const QString &link)
@@ -92,20 +98,24 @@ void PtyPort::close()
         QFile::remove(m_link);
     if (m_master >= 0)
         ::close(m_master);
-    if (m_slave >= 0)
-        ::close(m_slave);
-    m_master = m_slave = -1;
+    m_master = -1;
     m_link.clear();
     m_device.clear();
     m_unwritten.clear();
+    m_hasClient = false;
+    m_reading = true;
+}
+
+bool PtyPort::hasClient()
+{
+    if (m_master >= 0)
+        look();
+    return m_hasClient;
 }
 
 void PtyPort::write(const QByteArray &bytes)
 {
-    if (m_master < 0)
-        return;
-    clientsChanged();
-    if (!m_watch->isOpen())
+    if (m_master < 0 || !isOpenElsewhere())
         return;
     m_unwritten += bytes;
     flush();
@@ -113,17 +123,47 @@ void PtyPort::write(const QByteArray &bytes)
 
 void PtyPort::setReading(bool reading)
 {
+    m_reading = reading;
     if (m_readable)
-        m_readable->setEnabled(reading);
+        m_readable->setEnabled(m_hasClient && m_reading);
 }
 
-void PtyPort::read()
+bool PtyPort::isOpenElsewhere() const
 {
-    clientsChanged();
+    pollfd descriptor{m_master, 0, 0};
+    return ::poll(&descriptor, 1, 0) == 0;
+}
+
+// A port that nobody has open is always readable, to its end of file; so reading is watched for only while
+// there is a client, and the watch tells when one comes.
+void PtyPort::look()
+{
+    // A client that never stops must not keep the card from everything else.
+    constexpr int mostAtOnce = 64;
+    for (int i = 0; i < mostAtOnce; ++i) {
+        const QByteArray bytes = m_reading ? read() : QByteArray();
+        // After reading: whose bytes they are, his coming and the leaving before it are in the news by now.
+        noticeClients();
+        if (bytes.isEmpty())
+            break;
+        Q_EMIT received(bytes);
+    }
+    setReading(m_reading);
+}
+
+QByteArray PtyPort::read() const
+{
     std::array<char, 4096> buffer{};
     const ssize_t size = ::read(m_master, buffer.data(), buffer.size());
-    if (size > 0)
-        Q_EMIT received(QByteArray(buffer.data(), size));
+    return size > 0 ? QByteArray(buffer.data(), size) : QByteArray();
+}
+
+void PtyPort::noticeClients()
+{
+    const OpenWatch::News news = m_watch->take();
+    const bool hadClient = std::exchange(m_hasClient, isOpenElsewhere()) || news.opened;
+    if (news.reopened || (hadClient && !m_hasClient))
+        leave();
 }
 
 void PtyPort::flush()
@@ -140,15 +180,18 @@ void PtyPort::flush()
         Q_EMIT flushed();
 }
 
-// A client may be gone and the next one there already: nothing that was meant for the first may reach the
-// second.
-void PtyPort::clientsChanged()
+// What was meant for who left is dropped. With nobody there the line is also made raw again, and commands are
+// dropped that were left because their replies were not taken; a client that is there already has its own
+// settings.
+void PtyPort::leave()
 {
-    if (!m_watch->takeLeft())
-        return;
     m_unwritten.clear();
     m_writable->setEnabled(false);
-    tcflush(m_slave, TCIFLUSH);
+    tcflush(m_master, TCOFLUSH);
+    if (!m_hasClient)
+        setRaw(m_master);
+    if (!m_hasClient && !m_reading)
+        tcflush(m_master, TCIFLUSH);
     Q_EMIT clientLeft();
 }
 

@@ -27,6 +27,8 @@ public:
     bool isOpen() const { return m_master >= 0; }
     QString link() const { return m_link; }
     QString device() const { return m_device; }
+    /// A client has the port open now.
+    bool hasClient();
 
     /// Bytes for the client; dropped while no client has the port open, as a real port does.
     void write(const QByteArray &bytes);
@@ -38,21 +40,25 @@ Q_SIGNALS:
     void received(const QByteArray &bytes);
     /// The kernel has taken everything.
     void flushed();
-    /// The last client closed the port.
+    /// The last client closed the port. The next one may be there already.
     void clientLeft();
 
 private:
     Complaint openPair();
     Complaint makeLink(const QString &link);
-    void read();
+    bool isOpenElsewhere() const;
+    void look();
+    QByteArray read() const;
+    void noticeClients();
     void flush();
-    void clientsChanged();
+    void leave();
 
     int m_master = -1;
-    int m_slave = -1; ///< held open, so that a port without clients is quiet and not at its end
     QString m_link;
     QString m_device;
     QByteArray m_unwritten;
+    bool m_hasClient = false;
+    bool m_reading = true;
     std::unique_ptr<OpenWatch> m_watch;
     std::unique_ptr<QSocketNotifier> m_readable;
     std::unique_ptr<QSocketNotifier> m_writable;
