@@ -67,8 +67,8 @@ def main():
     with tempfile.TemporaryDirectory(prefix="corva-bench-") as name:
         folder = pathlib.Path(name)
         card = Card(folder / "card")
-        program = Program(folder / "app", card)
         try:
+            program = Program(folder / "app", card)
             empty_start, empty = measure([APP.parent / "benchmarks/emptywindow"], folder)
             empty_memory = private_memory(empty.pid)
             empty.terminate()
