@@ -353,6 +353,8 @@ void CardMonitor::stop()
         d->voiceLink->requestStop();
     d->worker.stop();
     d->link.wait();
+    if (foundPortFlag)
+        SerialThread::writeUpdateHardwareCfg(nullptr);
     d->closePorts();
 }
 
@@ -374,7 +376,11 @@ void CardMonitor::findPorts(bool newWay)
 void CardMonitor::searchNow()
 {
     const bool newWay = cmcfg.getNumber(u"function"_s, u"findAtAndModemNewWay"_s) != 0;
-    d->worker.submitOnce("search", [this, newWay](SerialThread &) { d->search(newWay); });
+    d->worker.submitOnce("search", [this, newWay](SerialThread &) {
+        if (d->silentRounds >= silentRoundsUntilGivenUp)
+            d->closePorts(); // another port may answer in its place
+        d->search(newWay);
+    });
 }
 
 void CardMonitor::refreshNow()
