@@ -130,7 +130,7 @@ Complaint EmulatedCard::plug(const PortNames &names)
         return u"the card is plugged in"_s;
     if (m_folder.isEmpty())
         return u"the card has no folder yet"_s;
-    if (const Complaint complaint = renamePorts({names.at, names.modem, names.voice}); !complaint.isEmpty())
+    if (Complaint complaint = renamePorts({names.at, names.modem, names.voice}); !complaint.isEmpty())
         return complaint;
     m_card->powerUp();
     return openPorts();
