@@ -14,6 +14,11 @@ using namespace Qt::StringLiterals;
 namespace corva
 {
 
+namespace
+{
+constexpr int captionGap = 2 * metrics::Grid;
+}
+
 FactRow::FactRow(const QString &id, const QString &caption, Copy copy, QWidget *parent)
     : QWidget(parent), m_caption(caption), m_name(new TextLabel(caption, TextRole::Text, this)),
       m_value(new ElidedLabel(TextRole::Text, this))
@@ -27,7 +32,7 @@ FactRow::FactRow(const QString &id, const QString &caption, Copy copy, QWidget *
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(metrics::Grid);
     layout->addWidget(m_name);
-    layout->addSpacing(metrics::Grid);
+    layout->addSpacing(captionGap - metrics::Grid);
     layout->addWidget(m_value, 1);
     if (copy == Copy::Yes) {
         m_copy = new IconButton(u"copy"_s, tr("Copy %1").arg(caption), this, SkinRole::MutedText);
@@ -42,13 +47,14 @@ FactRow::FactRow(const QString &id, const QString &caption, Copy copy, QWidget *
     setValue({});
 }
 
-void FactRow::alignValues(const std::vector<FactRow *> &rows)
+int FactRow::alignValues(const std::vector<FactRow *> &rows)
 {
     int widest = 0;
     for (const FactRow *row : rows)
         widest = qMax(widest, row->m_name->sizeHint().width());
     for (const FactRow *row : rows)
         row->m_name->setMinimumWidth(widest);
+    return widest + captionGap;
 }
 
 void FactRow::setValue(const QString &value)

@@ -27,8 +27,8 @@ public:
     /// `id` names the value label "<id>Value" and the button "<id>Copy".
     FactRow(const QString &id, const QString &caption, Copy copy, QWidget *parent = nullptr);
 
-    /// Gives the values of a group of rows one common left edge.
-    static void alignValues(const std::vector<FactRow *> &rows);
+    /// Gives the values of a group of rows one common left edge. Returns how far it is from the captions'.
+    static int alignValues(const std::vector<FactRow *> &rows);
 
     void setValue(const QString &value);
     QString value() const { return m_known; }

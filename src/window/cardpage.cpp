@@ -119,9 +119,11 @@ QWidget *CardPage::buildFacts()
 {
     auto *facts = new QWidget(this);
     m_columns = new QHBoxLayout;
-    m_columns->setSpacing(metrics::GroupGap + metrics::Grid);
-    m_columns->addWidget(buildColumn(0), 1);
-    m_columns->addWidget(buildColumn(1), 1);
+    m_columns->setSpacing(metrics::GroupGap);
+    for (const int column : {0, 1}) {
+        QWidget *built = buildColumn(column);
+        m_columns->addWidget(built, m_columnWidths[column]);
+    }
 
     auto *layout = new QVBoxLayout(facts);
     layout->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, 0);
@@ -164,7 +166,11 @@ QWidget *CardPage::buildColumn(int column)
         rows.push_back(row);
         layout->addWidget(row);
     }
-    FactRow::alignValues(rows);
+    // Room for a few words, or for the twenty digits of a SIM card's number and the button beside: whatever
+    // the data is, so that nothing jumps when it arrives.
+    const int digit = fontMetrics().horizontalAdvance(u'0');
+    const int value = column == 0 ? 24 * digit : 20 * digit + metrics::Grid + metrics::ControlHeight;
+    m_columnWidths[column] = FactRow::alignValues(rows) + value;
     layout->addStretch(1);
     return widget;
 }
@@ -188,11 +194,8 @@ void CardPage::takeState(const CardState &state)
 void CardPage::resizeEvent(QResizeEvent *event)
 {
     Page::resizeEvent(event);
-    // The longest caption, the twenty digits of a SIM card's number, and the button beside.
-    constexpr int charactersPerColumn = 34;
-    const int columnWidth = charactersPerColumn * fontMetrics().horizontalAdvance(u'0') +
-                            metrics::ControlHeight + metrics::GroupGap;
-    const bool isWide = width() >= 2 * (columnWidth + metrics::PageMargin);
+    const int needed = m_columnWidths[0] + m_columnWidths[1] + m_columns->spacing();
+    const bool isWide = width() >= needed + 2 * metrics::PageMargin;
     m_columns->setDirection(isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 

@@ -4,6 +4,8 @@
 #include "link/cardstate.h"
 #include "window/pageregistry.h"
 
+#include <array>
+
 class QBoxLayout;
 class QPushButton;
 class QStackedWidget;
@@ -37,6 +39,7 @@ private:
     QPushButton *m_refresh;
     QStackedWidget *m_stack;
     QBoxLayout *m_columns = nullptr;
+    std::array<int, 2> m_columnWidths{}; ///< what each needs to show its values whole, pixels
     StateHero *m_empty;
     StateHero *m_hero;
     std::vector<FactRow *> m_rows; ///< in the order of the table of facts

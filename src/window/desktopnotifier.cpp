@@ -36,34 +36,61 @@ DesktopNotifier::DesktopNotifier(Fallback fallback, QObject *parent)
 
 void DesktopNotifier::notify(const QString &key, const QString &title, const QString &body)
 {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) {
-        m_fallback(title, body);
-        return;
-    }
-    QDBusMessage message = call(u"Notify"_s);
-    // Servers may read the body as markup.
-    message << comcfg.softwareName << m_ids.value(key) << basePath + u"/res/icons/corva.svg"_s << title
-            << body.toHtmlEscaped() << QStringList() << QVariantMap() << serverDecidesTime;
-    auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(message), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this,
-            [this, key, title, body](QDBusPendingCallWatcher *done) { takeAnswer(done, key, title, body); });
+    Entry &entry = m_entries[key];
+    entry.isUnwanted = false;
+    if (entry.isAsked)
+        entry.next = Text{title, body};
+    else
+        send(key, {title, body});
 }
 
-void DesktopNotifier::takeAnswer(QDBusPendingCallWatcher *done, const QString &key, const QString &title,
-                                 const QString &body)
+void DesktopNotifier::send(const QString &key, const Text &text)
 {
-    const QDBusPendingReply<uint> reply = *done;
-    done->deleteLater();
-    if (reply.isError())
-        m_fallback(title, body);
-    else
-        m_ids.insert(key, reply.value());
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) {
+        m_fallback(text.title, text.body);
+        return;
+    }
+    Entry &entry = m_entries[key];
+    entry.isAsked = true;
+    QDBusMessage message = call(u"Notify"_s);
+    // Servers may read the body as markup.
+    message << comcfg.softwareName << entry.id << basePath + u"/res/icons/corva.svg"_s << text.title
+            << text.body.toHtmlEscaped() << QStringList() << QVariantMap() << serverDecidesTime;
+    auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(message), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, key, text] {
+        const QDBusPendingReply<uint> reply = *watcher;
+        watcher->deleteLater();
+        takeAnswer(key, reply.isError() ? std::nullopt : std::optional(reply.value()), text);
+    });
+}
+
+void DesktopNotifier::takeAnswer(const QString &key, std::optional<uint> id, const Text &text)
+{
+    Entry &entry = m_entries[key];
+    entry.isAsked = false;
+    entry.id = id.value_or(0);
+    if (!id)
+        m_fallback(text.title, text.body);
+    if (entry.isUnwanted)
+        close(m_entries.take(key).id);
+    else if (const auto next = std::exchange(entry.next, std::nullopt))
+        send(key, *next);
 }
 
 void DesktopNotifier::withdraw(const QString &key)
 {
-    const uint id = m_ids.take(key);
+    const auto entry = m_entries.find(key);
+    if (entry == m_entries.end())
+        return;
+    entry->next.reset();
+    entry->isUnwanted = true;
+    if (!entry->isAsked)
+        close(m_entries.take(key).id);
+}
+
+void DesktopNotifier::close(uint id)
+{
     if (id == 0)
         return;
     QDBusMessage message = call(u"CloseNotification"_s);

@@ -4,8 +4,7 @@
 #include <QHash>
 #include <QObject>
 #include <functional>
-
-class QDBusPendingCallWatcher;
+#include <optional>
 
 namespace corva
 {
@@ -28,11 +27,25 @@ public:
     void withdraw(const QString &key);
 
 private:
-    void takeAnswer(QDBusPendingCallWatcher *call, const QString &key, const QString &title,
-                    const QString &body);
+    struct Text {
+        QString title;
+        QString body;
+    };
+    /// One notification. Until the server has told its number it can be neither replaced nor taken back: what
+    /// is wanted meanwhile waits here.
+    struct Entry {
+        uint id = 0; ///< the server's number; 0 while there is none
+        bool isAsked = false;
+        bool isUnwanted = false;
+        std::optional<Text> next;
+    };
+
+    void send(const QString &key, const Text &text);
+    void takeAnswer(const QString &key, std::optional<uint> id, const Text &text);
+    static void close(uint id);
 
     Fallback m_fallback;
-    QHash<QString, uint> m_ids; ///< what the server called the notification of a key
+    QHash<QString, Entry> m_entries;
 };
 
 } // namespace corva

@@ -222,7 +222,7 @@ const std::map<QString, Change> &changes()
          [](CardState &state) {
              state.registration = Registration::Roaming;
              state.roaming = true;
-             state.operatorName = u"Küstennetz & Söhne Mobilfunk"_s;
+             state.operatorName = u"Küstennetz & Söhne Funk"_s;
              state.networkType = NetworkType::HspaPlus;
          }},
         {u"noservice"_s, [](CardState &state) { state.service = ServiceState::Limited; }},

@@ -104,7 +104,8 @@ private Q_SLOTS:
         bool isOnGuiThread = true;
         connect(&hub, &ReportHub::sigReport, &hub, [&](LinkReport, const QString &text) {
             seen += text;
-            isOnGuiThread = isOnGuiThread && QThread::currentThread() == qApp->thread();
+            isOnGuiThread =
+                isOnGuiThread && QThread::currentThread() == QCoreApplication::instance()->thread();
         });
         std::thread card([&] {
             for (const QString &text : {u"one"_s, u"two"_s, u"three"_s})

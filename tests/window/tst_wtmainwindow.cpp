@@ -119,8 +119,8 @@ private Q_SLOTS:
                                  << action << strip;
         };
         row("registered", u"Testnetz"_s, u"3G"_s, {}, u"Testnetz"_s, {}, u"Testnetz, HSPA"_s);
-        row("roaming", u"Küstennetz & Söhne Mobilfunk"_s, u"3G"_s, u"R"_s, u"Küstennetz & Söhne Mobilfunk"_s,
-            {}, u"Küstennetz & Söhne Mobilfunk, HSPA+"_s);
+        row("roaming", u"Küstennetz & Söhne Funk"_s, u"3G"_s, u"R"_s, u"Küstennetz & Söhne Funk"_s, {},
+            u"Küstennetz & Söhne Funk, HSPA+"_s);
         row("absent", {}, {}, {}, u"No card found"_s, u"&Search again"_s, u"Offline: No card found"_s);
         row("storage", {}, {}, {}, u"The card shows itself as a disk"_s, u"&Switch to modem"_s,
             u"Offline: The card shows itself as a disk"_s);
