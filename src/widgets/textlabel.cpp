@@ -2,7 +2,9 @@
 #include "widgets/textlabel.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QStyle>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -39,6 +41,16 @@ void TextLabel::changeEvent(QEvent *event)
         align();
     if (event->type() == QEvent::StyleChange && font() != skinFont(m_role))
         setFont(skinFont(m_role));
+}
+
+QString inLayoutDirection(const QString &text)
+{
+    constexpr QChar rightToLeftMark(0x200F);
+    const auto isRightToLeft = [](QChar letter) {
+        return letter.direction() == QChar::DirR || letter.direction() == QChar::DirAL;
+    };
+    const bool isMixed = std::any_of(text.begin(), text.end(), isRightToLeft) && !isRightToLeft(text.front());
+    return isMixed && QGuiApplication::isRightToLeft() ? rightToLeftMark + text : text;
 }
 
 ElidedLabel::ElidedLabel(TextRole role, QWidget *parent) : TextLabel(role, parent)
@@ -80,7 +92,7 @@ void ElidedLabel::changeEvent(QEvent *event)
 void ElidedLabel::elide()
 {
     const QString shown = fontMetrics().elidedText(m_fullText, Qt::ElideRight, width());
-    setText(shown);
+    setText(inLayoutDirection(shown));
     setToolTip(shown == m_fullText ? QString() : m_fullText);
     setAccessibleName(m_fullText);
 }

@@ -33,6 +33,11 @@ private:
     Qt::Alignment m_place = Qt::AlignLeading | Qt::AlignVCenter;
 };
 
+/// A text that is put together of both writing directions, so that it reads in the window's: one that begins
+/// with a number or a Latin name in a window from right to left would be read from left to right otherwise.
+/// Other texts stay as they are.
+QString inLayoutDirection(const QString &text);
+
 /// A label for one line of unknown length: it gives way to its neighbours and ends in "…", with the whole
 /// text in the tool tip and for the screen reader.
 class ElidedLabel final : public TextLabel

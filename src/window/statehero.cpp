@@ -130,7 +130,7 @@ void StateHero::showNetwork(const CardState &state)
     QStringList parts{networkTypeName(state.networkType), registrationText(state.registration),
                       signalText(state)};
     parts.removeAll(QString());
-    m_sentence->setText(parts.join(tr("  ·  ", "between facts")));
+    m_sentence->setText(inLayoutDirection(parts.join(tr("  ·  ", "between facts"))));
     m_mend->hide();
 }
 

@@ -3,7 +3,7 @@
 
 #include "device/offlinediagnosis.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QLocale>
 #include <algorithm>
 #include <iterator>
@@ -45,6 +45,14 @@ const NetworkRow *networkRow(NetworkType type)
     const auto *row = std::find_if(std::begin(networkRows), std::end(networkRows),
                                    [type](const NetworkRow &candidate) { return candidate.type == type; });
     return row == std::end(networkRows) ? nullptr : row;
+}
+
+/// A part in another writing direction, kept together in a window from right to left.
+QString isolated(const QString &part)
+{
+    constexpr QChar firstStrongIsolate(0x2068);
+    constexpr QChar popIsolate(0x2069);
+    return QGuiApplication::isRightToLeft() ? firstStrongIsolate + part + popIsolate : part;
 }
 
 QString text(const char *source)
@@ -126,7 +134,7 @@ QString signalWithBarsText(const CardState &state)
     if (!state.signalDbm)
         return {};
     return text(QT_TRANSLATE_NOOP("CardStatus", "%1, %2 of 5 bars"))
-        .arg(signalText(state), QLocale().toString(state.signalBars()));
+        .arg(isolated(signalText(state)), QLocale().toString(state.signalBars()));
 }
 
 bool isRegistered(const CardState &state)

@@ -154,6 +154,24 @@ private Q_SLOTS:
         QVERIFY(number.alignment() & Qt::AlignLeft);
     }
 
+    void mixedTextsReadInTheWindowsDirection_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isMarked");
+        QTest::newRow("Latin and Arabic") << u"-67 dBm، 4 من 5"_s << true;
+        QTest::newRow("a number stays as it is") << u"+491701234567"_s << false;
+        QTest::newRow("Arabic alone reads right") << u"خدمة كاملة"_s << false;
+    }
+
+    void mixedTextsReadInTheWindowsDirection()
+    {
+        QFETCH(const QString, text);
+        QCOMPARE(inLayoutDirection(text), text);
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+        QTEST(inLayoutDirection(text) == QChar(0x200F) + text, "isMarked");
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+    }
+
     void aLongTextGivesWayAndStaysReadable()
     {
         ElidedLabel label(TextRole::Text);
