@@ -108,7 +108,7 @@ private Q_SLOTS:
             QCOMPARE(asked(command), 1);
     }
 
-    void pinEntry()
+    void pinAndPuk()
     {
         begin(u"locked"_s);
         QTRY_COMPARE_WITH_TIMEOUT(state().pinAttempts, std::optional(3), patience);
@@ -120,12 +120,7 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(state().identity.imsi, u"001010123456789"_s, patience);
         QCOMPARE(state().sim, SimState::Ready);
         QCOMPARE(state().pinAttempts, std::optional<int>());
-    }
 
-    void pukEntry()
-    {
-        begin(u"locked"_s);
-        QTRY_COMPARE_WITH_TIMEOUT(state().sim, SimState::PinNeeded, patience);
         tell(R"({"command": "pin", "pinAttempts": 0})");
         m_monitor->refreshNow();
         QTRY_COMPARE_WITH_TIMEOUT(state().sim, SimState::PukNeeded, patience);
@@ -180,9 +175,7 @@ private Q_SLOTS:
 
     void stopDuringTheSearch()
     {
-        m_card = std::make_unique<cardemu::CardThread>(
-            std::get<cardemu::Profile>(cardemu::Profile::builtIn(u"wcdma"_s)));
-        QCOMPARE(m_card->start(m_folder.path() + u"/card"_s), QString());
+        plugIn(u"wcdma"_s);
         tell(R"({"command": "fault", "kind": "noreply", "count": 0})");
         startMonitor();
         QTRY_VERIFY_WITH_TIMEOUT(asked("AT") >= 1, patience);
@@ -194,10 +187,14 @@ private Q_SLOTS:
 private:
     void begin(const QString &profile)
     {
+        plugIn(profile);
+        startMonitor();
+    }
+    void plugIn(const QString &profile)
+    {
         m_card = std::make_unique<cardemu::CardThread>(
             std::get<cardemu::Profile>(cardemu::Profile::builtIn(profile)));
         QCOMPARE(m_card->start(m_folder.path() + u"/card"_s), QString());
-        startMonitor();
     }
     void startMonitor()
     {

@@ -106,16 +106,6 @@ private Q_SLOTS:
         QCOMPARE(file.size(), 6);
     }
 
-    void abnormalCloseKeepsTheReason()
-    {
-        SerialThread link(&m_owner);
-        const qsizetype before = openDescriptors();
-        errno = 0;
-        QCOMPARE(link.closePortAbnormal(::dup(0), "tcgetattr", EIO), -1);
-        QCOMPARE(errno, EIO);
-        QCOMPARE(openDescriptors(), before);
-    }
-
 private:
     ScratchFolder m_folder;
     FakeOwner m_owner;

@@ -40,25 +40,12 @@ Outcome inChunks(const QByteArray &stream, QRandomGenerator &random)
 
 QByteArray randomStream(QRandomGenerator &random)
 {
-    static const QByteArrayList pieces = {"> ",
-                                          "not support\r\n",
-                                          "CONNECT\r\n",
-                                          "OK\r\n",
-                                          "NO CARRIER",
-                                          "ERROR\r\n",
-                                          "+CME ERROR",
-                                          "+CME ERROR: 14\r\n",
-                                          "+CMS ERROR: 301\r\n",
-                                          ": no network service\r\n",
-                                          "+JEND\r\n",
-                                          "+JPDPACT: 1,1",
-                                          "+JPDPACT: 1,2",
-                                          "+JPDPACT: 1,0",
-                                          "+JPDPACT: 1,3",
-                                          "\r\n",
-                                          "+CMTI: \"SM\",3\r\n",
-                                          "AT+CSQ\r",
-                                          QByteArray(1, '\0')};
+    static const QByteArrayList pieces =
+        QByteArray("> |not support\r\n|CONNECT\r\n|OK\r\n|NO CARRIER|ERROR\r\n|+CME ERROR|+CME ERROR: 14\r\n|"
+                   "+CMS ERROR: 301\r\n|: no network service\r\n|+JEND\r\n|+JPDPACT: 1,1|+JPDPACT: 1,2|"
+                   "+JPDPACT: 1,0|+JPDPACT: 1,3|\r\n|+CMTI: \"SM\",3\r\n|AT+CSQ\r|@")
+            .replace('@', '\0')
+            .split('|');
     QByteArray stream;
     for (int count = random.bounded(1, 9); count > 0; --count) {
         QByteArray piece = pieces[random.bounded(int(pieces.size()))];

@@ -9,65 +9,38 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-QString say(const QString &text)
-{
-    return text;
-}
-QString say(int number)
-{
-    return QString::number(number);
-}
-QString say(SimState state)
-{
-    return say(int(state));
-}
-QString say(const std::optional<int> &number)
-{
-    return number ? say(*number) : u"-"_s;
-}
-QString say(const QDateTime &time)
-{
-    return time.toString(Qt::ISODate);
-}
-QString say(const SignalQuality &quality)
-{
-    return say(quality.rssi) + u' ' + say(quality.dbm);
-}
-QString say(const RadioQuality &quality)
-{
-    return u"%1 %2 %3"_s.arg(quality.rssi).arg(quality.ecio).arg(quality.rscp);
-}
-QString say(const OperatorSelection &selection)
-{
-    return u"%1 [%2] %3 %4"_s.arg(selection.mode)
-        .arg(selection.name, selection.code)
-        .arg(int(selection.networkType));
-}
-QString say(const RegistrationState &state)
-{
-    return u"%1 %2 %3 %4"_s.arg(int(state.stat))
-        .arg(say(state.lac), say(state.cellId))
-        .arg(int(state.networkType));
-}
-QString say(const SystemInformation &information)
-{
-    const auto flag = [](std::optional<bool> value) { return value ? say(int(*value)) : u"-"_s; };
-    return u"%1 %2 %3 %4"_s.arg(int(information.service))
-        .arg(flag(information.roaming))
-        .arg(int(information.networkType))
-        .arg(flag(information.simPresent));
-}
-QString say(const AttemptsLeft &left)
-{
-    return u"%1 %2"_s.arg(left.pin).arg(left.puk);
-}
+/// A value as a text. (Members of a class, so that each stands on one line.)
+struct Say {
+    static QString of(const QString &text) { return text; }
+    static QString of(int number) { return QString::number(number); }
+    static QString of(SimState state) { return of(int(state)); }
+    static QString of(const std::optional<int> &number) { return number ? of(*number) : u"-"_s; }
+    static QString of(std::optional<bool> flag) { return flag ? of(int(*flag)) : u"-"_s; }
+    static QString of(const QDateTime &time) { return time.toString(Qt::ISODate); }
+    static QString of(const SignalQuality &q) { return of(q.rssi) + u' ' + of(q.dbm); }
+    static QString of(const RadioQuality &q) { return u"%1 %2 %3"_s.arg(q.rssi).arg(q.ecio).arg(q.rscp); }
+    static QString of(const AttemptsLeft &left) { return of(left.pin) + u' ' + of(left.puk); }
+    static QString of(const OperatorSelection &s)
+    {
+        return u"%1 [%2] %3 %4"_s.arg(of(s.mode), s.name, s.code, of(int(s.networkType)));
+    }
+    static QString of(const RegistrationState &s)
+    {
+        return u"%1 %2 %3 %4"_s.arg(of(int(s.stat)), of(s.lac), of(s.cellId), of(int(s.networkType)));
+    }
+    static QString of(const SystemInformation &s)
+    {
+        return u"%1 %2 %3 %4"_s.arg(of(int(s.service)), of(s.roaming), of(int(s.networkType)),
+                                    of(s.simPresent));
+    }
+};
 
 /// The value, or the error as "!kind detail".
-template <typename T> QString say(const ReplyResult<T> &result)
+template <typename T> QString said(const ReplyResult<T> &result)
 {
     static const char *const kinds[] = {"no reply", "refused", "no line", "bad field"};
     if (result)
-        return say(*result);
+        return Say::of(*result);
     return u"!%1 %2"_s
         .arg(QLatin1StringView(kinds[result.error().kind]), QString::fromLatin1(result.error().detail))
         .trimmed();
@@ -75,13 +48,13 @@ template <typename T> QString say(const ReplyResult<T> &result)
 
 template <auto parse> QString parsed(const QByteArray &reply)
 {
-    return say(parse(reply));
+    return said(parse(reply));
 }
 template <auto parse> QString parsedLine(const QByteArray &reply)
 {
     // The first word is the prefix.
     const qsizetype blank = reply.indexOf(' ');
-    return say(parse(reply.sliced(blank + 1), QByteArrayView(reply).first(blank)));
+    return said(parse(reply.sliced(blank + 1), QByteArrayView(reply).first(blank)));
 }
 
 using Parser = QString (*)(const QByteArray &);
