@@ -3,7 +3,7 @@
 
 #include "link/cardstate.h"
 #include "widgets/skinareawidget.h"
-#include "window/connectionstate.h"
+#include "connection/connectionstate.h"
 
 #include <QTimer>
 

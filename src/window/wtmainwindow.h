@@ -2,7 +2,7 @@
 #pragma once
 
 #include "link/linkowner.h"
-#include "window/connectionstate.h"
+#include "connection/connectionstate.h"
 #include "window/linkreport.h"
 
 #include <QTimer>

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "connection/connectionstate.h"
+
+#include <QObject>
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace corva
+{
+
+class CardMonitor;
+class ProfileStore;
+
+/// What has to be settled with the person before a dial.
+enum class ConnectObstacle {
+    None,
+    CallOnOtherNetwork, ///< a call is up on a network that carries no data beside it
+    Roaming,            ///< the card is on a foreign network: ask
+    CardGone            ///< no card that answers
+};
+
+/// The data connection: dials by the profile, watches, ends, dials again. Lives on the GUI thread and never
+/// waits there: card commands run on the card worker, files and the dialler behind a `DiallerBackend`.
+class ConnectionService : public QObject
+{
+    Q_OBJECT
+
+public:
+    ConnectionService(CardMonitor *monitor, ProfileStore *profiles, QObject *parent = nullptr);
+    /// Ends a link that is up and puts the system's files back. Blocks for a few seconds at most.
+    ~ConnectionService() override;
+
+    const ConnectionStatus &status() const { return m_status; }
+    ProfileStore &profiles();
+
+    /// Puts back what an earlier run of the program left. Called once, at the start.
+    void recoverLeftovers();
+
+    ConnectObstacle obstacle() const;
+    /// Dials by the profile in "/Data/defaultRecord.conf". Does nothing while a dialler is there: false.
+    bool connectNow();
+    /// Ends the link, the dial or the row of redials.
+    void disconnectNow(ConnectionEnd why = ConnectionEnd::ByPerson);
+
+    /// Bytes that the link carried so far, both ways; what idleness is judged by.
+    void setByteCounter(std::function<std::optional<quint64>()> counter);
+    /// Whether a voice call is up.
+    void setCallUp(bool isUp);
+
+Q_SIGNALS:
+    void sigStatusChanged(const corva::ConnectionStatus &status);
+    /// A box for the person: why a connection failed, or why it was ended.
+    void sigMessage(const QString &text);
+
+private:
+    ConnectionStatus m_status;
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace corva
