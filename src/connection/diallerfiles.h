@@ -57,6 +57,10 @@ public:
     /// stand there; its other lines stay. Only after `saveConfigData`. "The DNS is invalid !"
     bool saveManualDNS(const QString &preferred, const QString &alternative, QString *error = nullptr);
 
+    /// What stands in the resolver file now was written for the link, by the system's DHCP client: it is put
+    /// back with the others. Only after `saveConfigData`.
+    bool noteResolver();
+
     /// Makes "/tmp/connect_info" anew, empty, with mode 0600, never through a link or into another's file.
     bool makeConnectInfo(QString *error = nullptr);
     /// The dialler's output so far, its last mebibyte at most.
@@ -73,13 +77,5 @@ private:
     class Private;
     std::unique_ptr<Private> d;
 };
-
-/// The contents of the three files. Lines end with CR LF. Values are taken as they are: see `dialRefusal`.
-QByteArray wvdialConfText(const ConnectionProfile &profile, const QString &modemPort);
-QByteArray pppOptionsText(const ConnectionProfile &profile, const PppOptions &options);
-QByteArray peerText(bool isSuse);
-
-/// The value of the last "exit code =" in the dialler's output.
-std::optional<int> exitCodeIn(const QByteArray &connectInfo);
 
 } // namespace corva
