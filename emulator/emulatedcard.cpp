@@ -171,6 +171,18 @@ Complaint EmulatedCard::sendRaw(const QString &role, const QByteArray &bytes)
     return {};
 }
 
+Complaint EmulatedCard::dropData()
+{
+    bool dropped = false;
+    for (const auto &port : m_ports) {
+        if (!port->session || !port->session->isInCall())
+            continue;
+        port->session->dropCall();
+        dropped = true;
+    }
+    return dropped ? Complaint() : u"there is no data call"_s;
+}
+
 QJsonObject EmulatedCard::control(const QJsonObject &request)
 {
     return runControlCommand(*this, request);

@@ -57,6 +57,8 @@ public:
     QJsonObject portsAsJson() const;
     /// Sends bytes on a port ("at" or "modem") as they stand.
     Complaint sendRaw(const QString &port, const QByteArray &bytes);
+    /// The network ends every data call; a complaint where there is none.
+    Complaint dropData();
     Card &card() { return *m_card; }
     TrafficLog &log() { return m_log; }
     Scheduler &scheduler() { return m_scheduler; }

@@ -23,8 +23,26 @@ void AtSession::receive(const QByteArray &bytes)
 {
     if (m_card.isSilent())
         return;
+    if (isDialling()) {
+        // The line feed belongs to the dial's own line end.
+        if (bytes != "\n")
+            abortDial();
+        return;
+    }
     m_input += bytes;
     work();
+}
+
+bool AtSession::isDialling() const
+{
+    return m_busy && m_next > 0 && m_commands[m_next - 1].name == "D";
+}
+
+// Whatever is typed during a dial ends it, and is dropped. ITU-T V.250 5.6.1 and 6.3.1.
+void AtSession::abortDial()
+{
+    m_delay.stop();
+    finish({Final::Kind::NoCarrier});
 }
 
 // A card that is at work leaves what comes in lying, and looks at it afterwards.
@@ -75,16 +93,16 @@ void AtSession::runCommands()
         finish({});
         return;
     }
-    const auto step = [this] {
-        const Command command = m_commands[m_next++];
+    const Command command = m_commands[m_next++];
+    const auto step = [this, command] {
         const Answer answer = carryOut(command);
         m_information += informationText(answer.lines, m_port);
         if (answer.final.isSuccess())
             runCommands();
-        else
+        else if (answer.final.kind != Final::Kind::Pending)
             finish(answer.final);
     };
-    const milliseconds delay = m_card.delayOf(m_commands[m_next]);
+    const milliseconds delay = m_card.delayOf(command);
     if (delay.count() == 0) {
         step();
         return;
@@ -169,6 +187,18 @@ void AtSession::clientLeft()
     m_escape.reset();
     m_online = false;
     m_port.dataSuspended = false;
+    if (isDialling()) {
+        m_delay.stop();
+        m_busy = false;
+    }
+}
+
+void AtSession::dropCall()
+{
+    m_online = false;
+    m_port.dataSuspended = false;
+    m_escape.reset();
+    sendRaw(finalText({Final::Kind::NoCarrier}, m_port));
 }
 
 void AtSession::registrationChanged()

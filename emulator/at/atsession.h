@@ -29,8 +29,12 @@ public:
     void sendRaw(const QByteArray &bytes);
     /// As after power-up: settings, an unfinished line and what waits are forgotten.
     void reset();
-    /// The port was closed: a data call ends, and what is still to be sent is not.
+    /// The port was closed: a dial or a data call ends, and what is still to be sent is not.
     void clientLeft();
+    /// A data call runs, or waits behind "+++".
+    bool isInCall() const { return m_online || m_port.dataSuspended; }
+    /// The network ends the data call: NO CARRIER.
+    void dropCall();
     /// True while the client takes less than the card sends; then no more commands should be read.
     bool isCongested() const { return m_output.pending() > congestion; }
 
@@ -46,6 +50,8 @@ private:
     void send(const QByteArray &bytes, std::chrono::milliseconds pause = {});
     void registrationChanged();
     void escaped();
+    bool isDialling() const;
+    void abortDial();
 
     QString m_name;
     Card &m_card;

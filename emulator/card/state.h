@@ -80,6 +80,9 @@ struct Radio {
     bool signalReports = false; ///< "+JRSSI" is sent when the signal changes
 };
 
+/// What becomes of a dialled number. ConnectThenSilence: CONNECT, and nobody on the other side.
+enum class DialResult { Connect, NoCarrier, Busy, NoAnswer, NoDialtone, Error, Silence, ConnectThenSilence };
+
 /// How the card's serial ports behave.
 struct Line {
     bool echo = true;
@@ -87,7 +90,7 @@ struct Line {
     int bytesPerSecond = 0;    ///< 0: as fast as the port takes them
     int delay = 0;             ///< ms that every command takes
     QMap<QString, int> delays; ///< ms by beginning of the command ("+COPS=?"); the longest that fits counts
-    QString dialResult = QStringLiteral("NO CARRIER");
+    DialResult dialResult = DialResult::NoCarrier;
     int dialDelay = 0;       ///< ms before the dial result
     int ringInterval = 3000; ///< ms between two RINGs
 };

@@ -12,27 +12,28 @@ namespace cardemu
 namespace
 {
 
-struct DialResult {
-    const char16_t *name;
+struct DialOutcome {
+    DialResult result;
     Final::Kind kind;
 };
 
-constexpr std::array dialResults = {
-    DialResult{u"CONNECT", Final::Kind::Connect},
-    DialResult{u"NO CARRIER", Final::Kind::NoCarrier},
-    DialResult{u"BUSY", Final::Kind::Busy},
-    DialResult{u"NO ANSWER", Final::Kind::NoAnswer},
-    DialResult{u"NO DIALTONE", Final::Kind::NoDialtone},
+constexpr std::array dialOutcomes = {
+    DialOutcome{DialResult::Connect, Final::Kind::Connect},
+    DialOutcome{DialResult::NoCarrier, Final::Kind::NoCarrier},
+    DialOutcome{DialResult::Busy, Final::Kind::Busy},
+    DialOutcome{DialResult::NoAnswer, Final::Kind::NoAnswer},
+    DialOutcome{DialResult::NoDialtone, Final::Kind::NoDialtone},
+    DialOutcome{DialResult::Error, Final::Kind::Error},
+    DialOutcome{DialResult::Silence, Final::Kind::Pending},
+    DialOutcome{DialResult::ConnectThenSilence, Final::Kind::Connect},
 };
 
 Answer dial(const Request &request)
 {
     if (!request.card.isRegistered())
         return result(Final::Kind::NoCarrier);
-    const auto *const row = std::ranges::find_if(dialResults, [&request](const DialResult &candidate) {
-        return request.state().line.dialResult == QStringView(candidate.name);
-    });
-    return result(row->kind);
+    const DialResult wanted = request.state().line.dialResult;
+    return result(std::ranges::find(dialOutcomes, wanted, &DialOutcome::result)->kind);
 }
 
 Answer answerCall(const Request &request)
