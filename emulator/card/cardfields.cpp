@@ -76,6 +76,9 @@ constexpr std::array services = {
     Choice<Service>{Service::Full, u"full"},           Choice<Service>{Service::Restricted, u"restricted"},
     Choice<Service>{Service::Searching, u"searching"}, Choice<Service>{Service::Denied, u"denied"},
     Choice<Service>{Service::Unknown, u"unknown"},     Choice<Service>{Service::None, u"none"}};
+constexpr std::array activations = {Choice<ActivationResult>{ActivationResult::Up, u"up"},
+                                    Choice<ActivationResult>{ActivationResult::Refused, u"refused"},
+                                    Choice<ActivationResult>{ActivationResult::Silence, u"silence"}};
 constexpr std::array dialResults = {
     Choice<DialResult>{DialResult::Connect, u"CONNECT"},
     Choice<DialResult>{DialResult::NoCarrier, u"NO CARRIER"},
@@ -197,6 +200,19 @@ const Fields<Line> &lineFields()
         choiceField<Line, DialResult>(u"dialResult"_s, &Line::dialResult, dialResults),
         numberField(u"dialDelay"_s, &Line::dialDelay, 0, 600000),
         numberField(u"ringInterval"_s, &Line::ringInterval, 100, 600000),
+    };
+    return fields;
+}
+
+const Fields<DataService> &dataFields()
+{
+    static const Fields<DataService> fields{
+        textField(u"accessPoint"_s, &DataService::accessPoint),
+        textField(u"peer"_s, &DataService::peer),
+        textField(u"hook"_s, &DataService::hook),
+        choiceField<DataService, ActivationResult>(u"activation"_s, &DataService::activation, activations),
+        numberField(u"activationDelay"_s, &DataService::activationDelay, 0, 600000),
+        textField(u"address"_s, &DataService::address),
     };
     return fields;
 }
@@ -335,6 +351,7 @@ const Fields<CardState> &cardFields()
         sectionField(u"messages"_s, &CardState::messages, messagesFields()),
         sectionField(u"phonebook"_s, &CardState::phonebook, phonebookFields()),
         ussdField(),
+        sectionField(u"data"_s, &CardState::data, dataFields()),
     };
     return fields;
 }

@@ -134,11 +134,27 @@ struct Call {
     QString number;
 };
 
+/// "+JPDPACT" <state>.
+enum class ContextState { Down = 0, Up = 1, BeingMade = 2, Refused = 3 };
+
 /// A packet data context as "+CGDCONT" defines it.
 struct PacketContext {
     QString type;
     QString accessPoint;
-    bool active = false;
+    ContextState state = ContextState::Down;
+};
+
+/// What becomes of a context that the card brings up. Silence: it is being made for ever.
+enum class ActivationResult { Up, Refused, Silence };
+
+/// The network's data service, and what stands for it on this computer. Command lines are the shell's.
+struct DataService {
+    QString accessPoint; ///< the only one that the network lets in; empty: any
+    QString peer;        ///< speaks for the network in a data call, on its standard input and output
+    QString hook;        ///< runs with "up" or "down", the context's number and its access point behind it
+    ActivationResult activation = ActivationResult::Up;
+    int activationDelay = 0; ///< ms
+    QString address;         ///< of contexts that are up; empty: 192.0.2.<context>
 };
 
 /// Everything the card knows. A plain value; the rules of how it changes are Card's.
@@ -155,6 +171,7 @@ struct CardState {
     Call call;
     QMap<QString, QString> ussd; ///< the network's answers, by code ("*100#")
     QMap<int, PacketContext> contexts;
+    DataService data;
 };
 
 } // namespace cardemu

@@ -4,6 +4,7 @@
 #include "at/errors.h"
 #include "at/replies.h"
 
+#include <QRegularExpression>
 #include <array>
 
 namespace cardemu
@@ -28,9 +29,18 @@ constexpr std::array dialOutcomes = {
     DialOutcome{DialResult::ConnectThenSilence, Final::Kind::Connect},
 };
 
+// "*99***2#" dials context 2, "*98*2#" too, anything else context 1. 3GPP TS 27.007 10.2.1.1.
+int dialledContext(const QByteArray &number)
+{
+    static const QRegularExpression numbered(QStringLiteral("^[TP]?\\*(?:99\\*[^*]*\\*[^*]*|98)\\*(\\d+)#"),
+                                             QRegularExpression::CaseInsensitiveOption);
+    const auto match = numbered.match(QString::fromLatin1(number));
+    return match.hasMatch() ? match.captured(1).toInt() : 1;
+}
+
 Answer dial(const Request &request)
 {
-    if (!request.card.isRegistered())
+    if (request.card.packetData().refusal(dialledContext(request.arguments().text(0))))
         return result(Final::Kind::NoCarrier);
     const DialResult wanted = request.state().line.dialResult;
     return result(std::ranges::find(dialOutcomes, wanted, &DialOutcome::result)->kind);
