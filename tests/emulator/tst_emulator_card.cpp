@@ -288,9 +288,9 @@ void TestEmulatorCard::dialResults()
         card.tell("{\"command\": \"dial-result\", \"ms\": 3000, \"result\": \"" + result.toLatin1() + "\"}"));
     port.write("ATE0DT*99#\r\n");
     QVERIFY(card.hears(u"ATE0DT*99#"_s));
-    QVERIFY(card.advance(2999));
+    QVERIFY(card.advance(1000));
     QCOMPARE(port.readUntil("\n", 0), "ATE0DT*99#\r");
-    QVERIFY(card.advance(1));
+    QVERIFY(card.advance(2000));
     QCOMPARE(port.readUntil(answered + "\r\n"), "\r\n" + answered + "\r\n");
 }
 

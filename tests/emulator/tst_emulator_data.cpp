@@ -214,9 +214,9 @@ void TestEmulatorData::contextComesUpAndGoesDown()
     QCOMPARE(port.exchange("AT+JPDPACT=1,1\r", "50\r\n"), "\r\n+CME ERROR: 50\r\n");
     port.exchange("AT+CGDCONT=1,\"IP\",\"internet\"\r", "OK\r\n");
     QCOMPARE(port.exchange("AT+JPDPACT=1,1\r", "1,2\r\n"), "\r\nOK\r\n\r\n+JPDPACT: 1,2\r\n");
-    QVERIFY(m_card->advance(1999));
+    QVERIFY(m_card->advance(500));
     QCOMPARE(m_card->pending(port), "");
-    QVERIFY(m_card->advance(1));
+    QVERIFY(m_card->advance(1500));
     QCOMPARE(m_card->pending(port), reported);
     QCOMPARE(port.exchange("AT+JPDPACT?\r", "OK\r\n"), "\r\n+JPDPACT: 1," + state + "\r\n\r\nOK\r\n");
     const bool isUp = state == "1";
