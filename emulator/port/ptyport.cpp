@@ -172,8 +172,11 @@ QByteArray PtyPort::read() const
 
 void PtyPort::noticeClients()
 {
-    const OpenWatch::News news = m_watch->take();
+    OpenWatch::News news = m_watch->take();
     const bool hadClient = std::exchange(m_hasClient, isOpenElsewhere()) || news.opened;
+    // Whoever came between the two looks has not closed the port that he opened.
+    if (news.closed && m_hasClient)
+        news = m_watch->take(news);
     if (news.reopened || (hadClient && !m_hasClient))
         leave();
 }
