@@ -2,6 +2,7 @@
 #include "settings/csetting.h"
 
 #include "settings/generalpage.h"
+#include "statistics/ui/trafficsettingspage.h"
 #include "widgets/skin.h"
 #include "widgets/textlabel.h"
 
@@ -23,7 +24,7 @@ constexpr int listWidth = 160;
 /// The groups of this program, in the order shown.
 std::vector<SettingsEntry> standardGroups()
 {
-    return {generalSettingsEntry()};
+    return {generalSettingsEntry(), trafficSettingsEntry()};
 }
 
 } // namespace

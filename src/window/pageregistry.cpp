@@ -2,6 +2,7 @@
 #include "window/pageregistry.h"
 
 #include "settings/csetting.h"
+#include "statistics/ui/trafficpage.h"
 #include "window/cardpage.h"
 
 #include <algorithm>
@@ -27,6 +28,7 @@ PageRegistry standardPages()
 {
     PageRegistry registry;
     registry.add(cardPageEntry());
+    registry.add(trafficPageEntry());
     registry.add(settingsPageEntry());
     return registry;
 }

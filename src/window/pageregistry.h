@@ -12,12 +12,14 @@ namespace corva
 class CardMonitor;
 class Mender;
 class ReportHub;
+class TrafficService;
 
 /// What a page may lean on. Everything outlives the page.
 struct PageContext {
     CardMonitor *monitor = nullptr;
     ReportHub *reports = nullptr;
     Mender *mender = nullptr;
+    TrafficService *traffic = nullptr;
 };
 
 /// A page as its subsystem contributes it. It is built when it is first shown.
