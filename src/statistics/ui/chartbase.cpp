@@ -61,7 +61,6 @@ ChartBase::ChartBase(QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     chart()->setBackgroundVisible(false);
-    chart()->setMargins({});
     chart()->layout()->setContentsMargins(0, 0, 0, 0);
     chart()->legend()->hide();
     for (QCategoryAxis *axis : {m_time, m_scale})
@@ -113,6 +112,9 @@ void ChartBase::takeLooks()
             series->attachAxis(m_scale);
     }
     m_time->setReverse(isReversed);
+    // The outermost names reach over the ends of their axes.
+    constexpr int reach = 2 * metrics::Grid;
+    chart()->setMargins({isReversed ? reach : 0, metrics::Grid, isReversed ? 0 : reach, 0});
 
     const QColor line = blend(skinColor(SkinRole::Window), skinColor(SkinRole::Line), 0.45);
     for (QCategoryAxis *axis : {m_time, m_scale}) {

@@ -5,12 +5,13 @@
 #include "statistics/traffictexts.h"
 #include "statistics/ui/dayschart.h"
 #include "statistics/ui/usagesentences.h"
-#include "widgets/iconbutton.h"
 #include "widgets/textlabel.h"
 
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLocale>
 #include <QShortcut>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -18,16 +19,27 @@ namespace corva
 {
 
 DaysTab::DaysTab(TrafficService *service, QWidget *parent)
-    : QWidget(parent), m_service(service), m_earlier(new IconButton({}, {}, this)),
-      m_later(new IconButton({}, {}, this)), m_title(new TextLabel(TextRole::Strong, this)),
-      m_chart(new DaysChart(this)), m_sentence(new TextLabel(TextRole::Text, this))
+    : QWidget(parent), m_service(service), m_earlier(new QToolButton(this)), m_later(new QToolButton(this)),
+      m_title(new TextLabel(TextRole::Strong, this)), m_chart(new DaysChart(this)),
+      m_sentence(new TextLabel(TextRole::Text, this))
 {
-    m_earlier->setObjectName(u"earlier"_s);
-    m_later->setObjectName(u"later"_s);
-    m_earlier->setArrowType(Qt::LeftArrow);
-    m_later->setArrowType(Qt::RightArrow);
-    m_earlier->setName(tr("Earlier period"), QKeySequence(Qt::Key_PageUp).toString(QKeySequence::NativeText));
-    m_later->setName(tr("Later period"), QKeySequence(Qt::Key_PageDown).toString(QKeySequence::NativeText));
+    const bool isReversed = QGuiApplication::isRightToLeft();
+    const auto arm = [this](QToolButton *button, const QString &id, const QString &name, Qt::ArrowType arrow,
+                            Qt::Key key) {
+        button->setObjectName(id);
+        button->setAccessibleName(name);
+        button->setArrowType(arrow);
+        button->setFixedSize(metrics::ControlHeight, metrics::ControlHeight);
+        button->setFocusPolicy(Qt::StrongFocus);
+        button->setToolTip(tr("%1 (%2)").arg(name, QKeySequence(key).toString(QKeySequence::NativeText)));
+        auto *shortcut = new QShortcut(key, this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, button, &QAbstractButton::click);
+    };
+    arm(m_earlier, u"earlier"_s, tr("Earlier period"), isReversed ? Qt::RightArrow : Qt::LeftArrow,
+        Qt::Key_PageUp);
+    arm(m_later, u"later"_s, tr("Later period"), isReversed ? Qt::LeftArrow : Qt::RightArrow,
+        Qt::Key_PageDown);
     m_title->setObjectName(u"periodTitle"_s);
     m_sentence->setObjectName(u"daySentence"_s);
     m_sentence->setWordWrap(true);
@@ -38,13 +50,6 @@ DaysTab::DaysTab(TrafficService *service, QWidget *parent)
     };
     connect(m_earlier, &QAbstractButton::clicked, this, [step] { step(-1); });
     connect(m_later, &QAbstractButton::clicked, this, [step] { step(1); });
-    const auto key = [this](Qt::Key which, IconButton *button) {
-        auto *shortcut = new QShortcut(which, this);
-        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, button, &QAbstractButton::click);
-    };
-    key(Qt::Key_PageUp, m_earlier);
-    key(Qt::Key_PageDown, m_later);
     connect(m_chart, &DaysChart::sigChosen, this, &DaysTab::showSentence);
     connect(service, &TrafficService::sigChanged, this, [this] {
         if (isVisible())

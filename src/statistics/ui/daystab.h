@@ -5,11 +5,12 @@
 
 #include <QWidget>
 
+class QToolButton;
+
 namespace corva
 {
 
 class DaysChart;
-class IconButton;
 class TextLabel;
 class TrafficService;
 
@@ -31,8 +32,8 @@ private:
 
     TrafficService *m_service;
     BillingPeriod m_period;
-    IconButton *m_earlier;
-    IconButton *m_later;
+    QToolButton *m_earlier;
+    QToolButton *m_later;
     TextLabel *m_title;
     DaysChart *m_chart;
     TextLabel *m_sentence;

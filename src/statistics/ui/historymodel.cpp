@@ -50,7 +50,7 @@ const ColumnSpec columnSpecs[] = {
     {QT_TRANSLATE_NOOP("corva::HistoryModel", "Roaming"), true,
      [](const HistoryRecord &r, const QDateTime &) { return roamingText(r); },
      [](const HistoryRecord &r) { return QVariant(r.volumes.roaming.total()); }},
-    {QT_TRANSLATE_NOOP("corva::HistoryModel", "How it ended"), false,
+    {QT_TRANSLATE_NOOP("corva::HistoryModel", "Ended"), false,
      [](const HistoryRecord &r, const QDateTime &) { return historyEndText(r.ended); },
      [](const HistoryRecord &r) { return QVariant(historyEndText(r.ended)); }},
 };

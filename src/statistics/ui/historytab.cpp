@@ -15,6 +15,8 @@
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTableView>
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -33,6 +35,7 @@ HistoryTab::HistoryTab(TrafficService *service, QWidget *parent)
     m_search->setPlaceholderText(
         tr("Search (%1)").arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
     m_search->setClearButtonEnabled(true);
+    m_search->setTextMargins(metrics::HalfGrid, 0, metrics::HalfGrid, 0);
     m_delete->setObjectName(u"historyDelete"_s);
     m_deleteAll->setObjectName(u"historyDeleteAll"_s);
     setButtonKind(m_deleteAll, ButtonKind::Dangerous);
@@ -63,10 +66,10 @@ QWidget *HistoryTab::buildTable()
 {
     m_table->setObjectName(u"historyTable"_s);
     m_table->setAccessibleName(tr("Connections that are over"));
-    takeTableLook(m_table);
     m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_filter->setSourceModel(m_model);
     m_table->setModel(m_filter);
+    takeTableLook(m_table, HistoryModel::Profile);
     m_table->setSortingEnabled(true);
     m_table->sortByColumn(HistoryModel::Started, Qt::DescendingOrder);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, &HistoryTab::showCounts);
@@ -105,12 +108,14 @@ void HistoryTab::addShortcuts()
 
 void HistoryTab::load()
 {
-    const bool isFirst = m_model->rowCount() == 0;
     m_isLoading = true;
     m_model->setRecords(m_service->history(), m_service->now());
     m_isLoading = false;
-    if (isFirst)
-        m_table->resizeColumnsToContents();
+    const auto &records = m_service->history();
+    const bool hasRoamed =
+        std::any_of(records.begin(), records.end(), [](const auto &r) { return r.isRoaming; });
+    fitColumns(m_table);
+    m_table->setColumnHidden(HistoryModel::Roaming, !hasRoamed);
     showCounts();
 }
 

@@ -25,7 +25,7 @@ const ColumnSpec columnSpecs[] = {
      [](const MonthTotal &row) { return volumeText(row.volumes.both().received); }},
     {QT_TRANSLATE_NOOP("corva::MonthsModel", "Sent"),
      [](const MonthTotal &row) { return volumeText(row.volumes.both().sent); }},
-    {QT_TRANSLATE_NOOP("corva::MonthsModel", "In foreign networks"),
+    {QT_TRANSLATE_NOOP("corva::MonthsModel", "Roaming"),
      [](const MonthTotal &row) { return volumeText(row.volumes.roaming.total()); }},
     {QT_TRANSLATE_NOOP("corva::MonthsModel", "In all"),
      [](const MonthTotal &row) { return volumeText(row.volumes.total()); }},

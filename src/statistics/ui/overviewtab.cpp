@@ -40,7 +40,7 @@ OverviewTab::OverviewTab(TrafficService *service, QWidget *parent)
     auto *content = new QWidget(this);
     auto *layout = new QVBoxLayout(content);
     layout->setContentsMargins(metrics::HalfGrid, metrics::Grid, metrics::HalfGrid, metrics::HalfGrid);
-    layout->setSpacing(2 * metrics::Grid);
+    layout->setSpacing(metrics::Grid + metrics::HalfGrid);
     layout->addWidget(buildFigures());
     layout->addWidget(buildQuota());
     if (cmcfg.getNumber(u"statistics_widget"_s, u"graphic_enabled"_s) == 1)
@@ -73,29 +73,38 @@ QWidget *OverviewTab::buildFigures()
     return row;
 }
 
+OverviewTab::Allowance OverviewTab::buildAllowance(std::size_t number, QWidget *parent)
+{
+    Allowance allowance{};
+    allowance.row = new QWidget(parent);
+    allowance.text = new TextLabel(TextRole::Strong, allowance.row);
+    allowance.text->setObjectName(u"quota%1"_s.arg(number));
+    allowance.text->setWordWrap(true);
+    allowance.bar = new QuotaBar(allowance.row);
+    auto *layout = new QVBoxLayout(allowance.row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(metrics::HalfGrid);
+    layout->addWidget(allowance.text, 1);
+    layout->addWidget(allowance.bar);
+    return allowance;
+}
+
 QWidget *OverviewTab::buildQuota()
 {
     auto *group = new QWidget(this);
-    auto *layout = new QVBoxLayout(group);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(metrics::Grid);
+    auto *side = new QHBoxLayout;
+    side->setSpacing(metrics::GroupGap);
     for (std::size_t i = 0; i < m_allowances.size(); ++i) {
-        Allowance &allowance = m_allowances[i];
-        allowance.row = new QWidget(group);
-        allowance.text = new TextLabel(TextRole::Strong, allowance.row);
-        allowance.text->setObjectName(u"quota%1"_s.arg(i));
-        allowance.text->setWordWrap(true);
-        allowance.bar = new QuotaBar(allowance.row);
-        auto *rows = new QVBoxLayout(allowance.row);
-        rows->setContentsMargins(0, 0, 0, 0);
-        rows->setSpacing(metrics::HalfGrid);
-        rows->addWidget(allowance.text);
-        rows->addWidget(allowance.bar);
-        layout->addWidget(allowance.row);
+        m_allowances[i] = buildAllowance(i, group);
+        side->addWidget(m_allowances[i].row, 1);
     }
     m_forecast->setObjectName(u"forecast"_s);
     m_forecast->setWordWrap(true);
     m_forecast->setMuted(true);
+    auto *layout = new QVBoxLayout(group);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(metrics::Grid);
+    layout->addLayout(side);
     layout->addWidget(m_forecast);
     return group;
 }
@@ -139,11 +148,7 @@ void OverviewTab::showNow()
 {
     const TrafficSettings settings = m_service->settings();
     const QDate today = m_service->now().date();
-    const TrafficVolume session = m_service->sessionVolume();
-    m_session->setTexts(m_service->isSessionUp()
-                            ? tr("This connection, %1").arg(durationText(m_service->sessionDuration()))
-                            : tr("Last connection"),
-                        volumeText(session.total()), volumesSentence({session, {}}));
+    showSession();
     const TrafficVolumes now = m_service->carriedBetween(today, today);
     m_today->setTexts(tr("Today"), volumeText(now.total()), volumesSentence(now));
     const PeriodUse use = m_service->periodUse();
@@ -158,10 +163,35 @@ void OverviewTab::showNow()
         m_allowances[i].bar->setAccessibleName(sentence);
         m_allowances[i].bar->setUse(use.allowances[i].percent(), settings.warningShare);
     }
-    m_forecast->setText(settings.countsUsage
-                            ? forecastSentence(use, settings)
-                            : tr("Days and months are not counted: the configuration turns it off."));
+    m_forecast->setText(outlook(use, settings));
     showRates();
+}
+
+void OverviewTab::showSession()
+{
+    const auto &history = m_service->history();
+    if (m_service->isSessionUp()) {
+        const TrafficVolume carried = m_service->sessionVolume();
+        m_session->setTexts(tr("This connection, %1").arg(durationText(m_service->sessionDuration())),
+                            volumeText(carried.total()), volumesSentence({carried, {}}));
+    } else if (!history.empty()) {
+        const HistoryRecord &last = history.back();
+        m_session->setTexts(tr("Last connection, %1").arg(whenText(last.start, m_service->now())),
+                            volumeText(last.volumes.total()), volumesSentence(last.volumes));
+    } else {
+        m_session->setTexts(tr("Connection"), u"–"_s, tr("None was made yet."));
+    }
+}
+
+QString OverviewTab::outlook(const PeriodUse &use, const TrafficSettings &settings) const
+{
+    if (!settings.countsUsage)
+        return tr("Days and months are not counted: the configuration turns it off.");
+    const QString forecast = forecastSentence(use, settings);
+    return settings.quota > 0
+               ? forecast
+               : tr("%1 Say in the settings, Traffic, what volume you have, to be warned in time.")
+                     .arg(forecast);
 }
 
 void OverviewTab::showRates()

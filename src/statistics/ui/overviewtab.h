@@ -14,6 +14,8 @@ class QuotaBar;
 class RateGraph;
 class TextLabel;
 class TrafficService;
+struct PeriodUse;
+struct TrafficSettings;
 
 /// The connection, today, the billing period and its quota, and the rates of the last minutes.
 class OverviewTab final : public QScrollArea
@@ -35,9 +37,12 @@ private:
     };
 
     QWidget *buildFigures();
+    Allowance buildAllowance(std::size_t number, QWidget *parent);
     QWidget *buildQuota();
     QWidget *buildGraph();
+    void showSession();
     void showRates();
+    QString outlook(const PeriodUse &use, const TrafficSettings &settings) const;
 
     TrafficService *m_service;
     Figure *m_session;

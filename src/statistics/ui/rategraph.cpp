@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "statistics/ui/rategraph.h"
 
-#include "statistics/traffictexts.h"
-
 #include <QAreaSeries>
 #include <QLineSeries>
 #include <QLocale>
@@ -15,17 +13,18 @@ namespace corva
 {
 
 RateGraph::RateGraph(QWidget *parent)
-    : ChartBase(parent), m_downLine(new QLineSeries(this)), m_down(new QAreaSeries(m_downLine)),
-      m_up(new QLineSeries(this))
+    : ChartBase(parent), m_downEdge(new QLineSeries(this)), m_filling(new QAreaSeries(m_downEdge)),
+      m_down(new QLineSeries(this)), m_up(new QLineSeries(this))
 {
     setObjectName(u"rateGraph"_s);
     setAccessibleName(tr("Graph of the rates"));
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    addSeries(m_filling);
     addSeries(m_down);
     addSeries(m_up);
-    setScale(0, rateText);
     setSpan(60);
+    setRates({});
     takeLooks();
 }
 
@@ -37,7 +36,8 @@ void RateGraph::setSpan(int seconds)
         return before < 60 ? tr("%1 s").arg(QLocale().toString(before))
                            : tr("%1 min").arg(QLocale().toString(before / 60));
     };
-    setPlaces(-seconds, 0, {{-seconds, name(seconds)}, {-seconds / 2, name(seconds / 2)}, {0, tr("now")}});
+    // A little over the end: the name of the last place would be left out in a window from right to left.
+    setPlaces(-seconds, 0.01, {{-seconds, name(seconds)}, {-seconds / 2, name(seconds / 2)}, {0, tr("now")}});
 }
 
 void RateGraph::setRates(const RateTrace &trace)
@@ -54,7 +54,8 @@ void RateGraph::setRates(const RateTrace &trace)
         most = std::max({most, rate.received, rate.sent});
     }
     setScale(most, [](quint64 bytes) { return tr("%1/s").arg(roundVolumeText(bytes)); });
-    m_downLine->replace(down);
+    m_downEdge->replace(down);
+    m_down->replace(down);
     m_up->replace(up);
 }
 
@@ -63,7 +64,8 @@ void RateGraph::paintSeries()
     const QColor accent = skinColor(SkinRole::Accent);
     QColor filling = accent;
     filling.setAlphaF(0.18F);
-    m_down->setBrush(filling);
+    m_filling->setBrush(filling);
+    m_filling->setPen(Qt::NoPen); // else it has an edge at its sides, too
     m_down->setPen(QPen(accent, 1.75, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     m_up->setPen(QPen(skinColor(SkinRole::Warning), 1.75, Qt::DashLine, Qt::FlatCap, Qt::RoundJoin));
 }

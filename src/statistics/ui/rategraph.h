@@ -22,15 +22,16 @@ public:
     int span() const { return m_span; }
     void setRates(const RateTrace &trace);
 
-    QSize sizeHint() const override { return {320, 180}; }
-    QSize minimumSizeHint() const override { return {200, 120}; }
+    QSize sizeHint() const override { return minimumSizeHint(); } ///< takes what is left
+    QSize minimumSizeHint() const override { return {200, 96}; }
 
 protected:
     void paintSeries() override;
 
 private:
-    QLineSeries *m_downLine;
-    QAreaSeries *m_down;
+    QLineSeries *m_downEdge;
+    QAreaSeries *m_filling;
+    QLineSeries *m_down;
     QLineSeries *m_up;
     int m_span = 0;
 };

@@ -3,6 +3,7 @@
 
 #include "widgets/skin.h"
 
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QPainter>
 #include <QTableView>
@@ -32,7 +33,30 @@ void RowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, c
         QRect(rect.left(), rect.bottom() - metrics::FocusWidth + 1, rect.width(), metrics::FocusWidth), ring);
 }
 
-void takeTableLook(QTableView *table)
+QString RowDelegate::displayText(const QVariant &value, const QLocale &locale) const
+{
+    constexpr QChar firstStrongIsolate(0x2068);
+    constexpr QChar popIsolate(0x2069);
+    const QString text = QStyledItemDelegate::displayText(value, locale);
+    return text.isEmpty() || !QGuiApplication::isRightToLeft() ? text
+                                                               : firstStrongIsolate + text + popIsolate;
+}
+
+void fitColumns(QTableView *table)
+{
+    constexpr int rows = 50; // the others are as wide
+    const QAbstractItemModel *model = table->model();
+    const QFontMetrics font = table->fontMetrics();
+    for (int column = 0; column < model->columnCount(); ++column) {
+        int widest = font.horizontalAdvance(model->headerData(column, Qt::Horizontal).toString());
+        for (int row = 0; row < qMin(rows, model->rowCount()); ++row)
+            widest = qMax(widest, font.horizontalAdvance(model->index(row, column).data().toString()));
+        if (table->horizontalHeader()->sectionResizeMode(column) != QHeaderView::Stretch)
+            table->setColumnWidth(column, widest + 2 * metrics::Grid + metrics::HalfGrid);
+    }
+}
+
+void takeTableLook(QTableView *table, int elastic)
 {
     table->setItemDelegate(new RowDelegate(table));
     table->setShowGrid(false);
@@ -48,8 +72,9 @@ void takeTableLook(QTableView *table)
     table->verticalHeader()->setDefaultSectionSize(qMax(metrics::RowHeight, line));
     QHeaderView *header = table->horizontalHeader();
     header->setHighlightSections(false);
-    header->setStretchLastSection(true);
-    header->setResizeContentsPrecision(50); // the first rows are as wide as the others
+    header->setMinimumSectionSize(8 * metrics::Grid);
+    header->setSectionResizeMode(elastic, QHeaderView::Stretch);
+    fitColumns(table);
 }
 
 } // namespace corva

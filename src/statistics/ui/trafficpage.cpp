@@ -91,13 +91,17 @@ TrafficPage::TrafficPage(const PageInfo &info, const PageContext &context, QWidg
 
 QWidget *TrafficPage::buildMonths()
 {
-    auto *table = new MonthsTable(m_service, m_stack);
+    auto *framed = new QWidget(m_stack);
+    auto *table = new MonthsTable(m_service, framed);
     table->setObjectName(u"monthsTable"_s);
     table->setAccessibleName(tr("Volume of each month"));
-    takeTableLook(table);
+    takeTableLook(table, MonthsModel::Month);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    return table;
+    auto *layout = new QVBoxLayout(framed);
+    layout->setContentsMargins(metrics::HalfGrid, metrics::HalfGrid, metrics::HalfGrid, 0);
+    layout->addWidget(table);
+    return framed;
 }
 
 void TrafficPage::refresh()

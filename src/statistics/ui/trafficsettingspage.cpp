@@ -51,8 +51,8 @@ TrafficSettingsPage::TrafficSettingsPage(QWidget *parent) : SettingsPage(parent)
     layout->setSpacing(metrics::RowGap);
     layout->addWidget(new SectionHeader(tr("Your volume"), this));
     layout->addWidget(buildVolume(tr("&Volume of a month"), tr("None"), u"quota_mb"_s, u"quota"_s));
-    layout->addWidget(buildVolume(tr("In &foreign networks"), tr("Counts with it"), u"roaming_quota_mb"_s,
-                                  u"roamingQuota"_s));
+    layout->addWidget(
+        buildVolume(tr("While &roaming"), tr("Counts with it"), u"roaming_quota_mb"_s, u"roamingQuota"_s));
     layout->addWidget(buildNumber(tr("It begins anew on &day"), u"billing_day"_s, 1, 31, {}));
     layout->addSpacing(2 * metrics::Grid);
     layout->addWidget(new SectionHeader(tr("When it runs out"), this));

@@ -28,16 +28,15 @@ QString volumesSentence(const TrafficVolumes &volumes)
                                  .arg(volumeText(all.received), volumeText(all.sent));
     if (volumes.roaming.total() == 0)
         return sentence;
-    return text(QT_TRANSLATE_NOOP("TrafficSentences", "%1; of it %2 in foreign networks"))
+    return text(QT_TRANSLATE_NOOP("TrafficSentences", "%1; %2 of it roaming"))
         .arg(sentence, volumeText(volumes.roaming.total()));
 }
 
 QString allowanceSentence(const AllowanceUse &use)
 {
-    const char *source =
-        use.allowance == Allowance::Main
-            ? QT_TRANSLATE_NOOP("TrafficSentences", "%1 of %2 used (%3 %)")
-            : QT_TRANSLATE_NOOP("TrafficSentences", "%1 of %2 used in foreign networks (%3 %)");
+    const char *source = use.allowance == Allowance::Main
+                             ? QT_TRANSLATE_NOOP("TrafficSentences", "%1 of %2 used (%3 %)")
+                             : QT_TRANSLATE_NOOP("TrafficSentences", "%1 of %2 roaming (%3 %)");
     return text(source).arg(volumeText(use.used), volumeText(use.quota), QLocale().toString(use.percent()));
 }
 
