@@ -94,10 +94,8 @@ void HistoryTab::addShortcuts()
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
         connect(shortcut, &QShortcut::activated, this, action);
     };
-    add(QKeySequence::Find, parentWidget(), [this] {
-        if (isVisible())
-            m_search->setFocus(Qt::ShortcutFocusReason);
-    });
+    auto *find = new QShortcut(QKeySequence::Find, this); // from anywhere in the window
+    connect(find, &QShortcut::activated, this, [this] { m_search->setFocus(Qt::ShortcutFocusReason); });
     add(QKeySequence::Delete, m_table, &HistoryTab::deleteChosen);
     add(QKeySequence::Undo, m_table, &HistoryTab::undo);
     add(Qt::Key_Escape, m_search, [this] {
