@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "window/offlinepanel.h"
 
+#include "connection/connectiondiagnosis.h"
+#include "connection/connectionservice.h"
+#include "connection/profilestore.h"
 #include "device/cardmonitor.h"
 #include "widgets/buttonkind.h"
 #include "widgets/cdepaint.h"
 #include "widgets/skinicon.h"
 #include "widgets/textlabel.h"
 #include "window/mender.h"
+#include "window/pageregistry.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -123,8 +127,9 @@ void DiagnosisRow::paintEvent(QPaintEvent *)
                blend(skinColor(SkinRole::Window), skinColor(SkinRole::Line), 0.45));
 }
 
-OfflinePanel::OfflinePanel(CardMonitor *monitor, Mender *mender, QWidget *parent)
-    : QWidget(parent), m_monitor(monitor), m_conclusion(new TextLabel(TextRole::Text, this)),
+OfflinePanel::OfflinePanel(const PageContext &context, QWidget *parent)
+    : QWidget(parent), m_monitor(context.monitor), m_connection(context.connection),
+      m_profiles(context.profiles), m_conclusion(new TextLabel(TextRole::Text, this)),
       m_back(new QPushButton(tr("&Back"), this))
 {
     setObjectName(u"offlinePanel"_s);
@@ -142,10 +147,11 @@ OfflinePanel::OfflinePanel(CardMonitor *monitor, Mender *mender, QWidget *parent
     auto *rows = new QVBoxLayout(list);
     rows->setContentsMargins(0, 0, metrics::HalfGrid, 0);
     rows->setSpacing(0);
-    for (const DiagnosisStep &step : diagnose(monitor->state())) {
+    const auto all = steps();
+    for (const DiagnosisStep &step : all) {
         m_rows.push_back(new DiagnosisRow(step.id, list));
         rows->addWidget(m_rows.back());
-        connect(m_rows.back(), &DiagnosisRow::sigMend, mender, &Mender::mend);
+        connect(m_rows.back(), &DiagnosisRow::sigMend, context.mender, &Mender::mend);
     }
     rows->addStretch(1);
     auto *scroll = new QScrollArea(this);
@@ -167,18 +173,25 @@ OfflinePanel::OfflinePanel(CardMonitor *monitor, Mender *mender, QWidget *parent
     layout->addWidget(scroll, 1);
 
     connect(m_back, &QPushButton::clicked, this, &OfflinePanel::sigBack);
-    connect(monitor, &CardMonitor::sigStateChanged, this, &OfflinePanel::takeState);
-    takeState(monitor->state());
+    connect(m_monitor, &CardMonitor::sigStateChanged, this, &OfflinePanel::update);
+    connect(m_connection, &ConnectionService::sigStatusChanged, this, &OfflinePanel::update);
+    connect(m_profiles, &ProfileStore::sigChanged, this, &OfflinePanel::update);
+    update();
 }
 
-void OfflinePanel::takeState(const CardState &state)
+std::vector<DiagnosisStep> OfflinePanel::steps() const
 {
-    const auto steps = diagnose(state);
+    return diagnose(m_monitor->state(), m_connection->status(), m_profiles->defaultProfile());
+}
+
+void OfflinePanel::update()
+{
+    const auto found = steps();
     for (std::size_t i = 0; i < m_rows.size(); ++i)
-        m_rows[i]->setStep(steps[i]);
-    const DiagnosisStep *problem = firstProblem(steps);
+        m_rows[i]->setStep(found[i]);
+    const DiagnosisStep *problem = firstProblem(found);
     if (!problem)
-        m_conclusion->setText(tr("Everything from the socket to the network is in order."));
+        m_conclusion->setText(tr("Everything from the socket to the internet is in order."));
     else if (problem->status == StepStatus::Running)
         m_conclusion->setText(tr("Nothing is wrong so far; the card is at it."));
     else

@@ -13,8 +13,10 @@ namespace corva
 {
 
 class CardMonitor;
-class Mender;
+class ConnectionService;
+class ProfileStore;
 class TextLabel;
+struct PageContext;
 
 /// One step of the diagnosis: its sign, its name and what was found; below it, for the step that keeps the
 /// card offline, what to do and the button that does it.
@@ -45,14 +47,14 @@ private:
     QPushButton *m_mend;
 };
 
-/// "Why am I offline?": every step from the socket to the network, as a list to check off. Follows the card
-/// while it is shown.
+/// "Why am I offline?": every step from the socket to the internet, as a list to check off. Follows the card
+/// and the connection while it is shown.
 class OfflinePanel final : public QWidget
 {
     Q_OBJECT
 
 public:
-    OfflinePanel(CardMonitor *monitor, Mender *mender, QWidget *parent);
+    OfflinePanel(const PageContext &context, QWidget *parent);
 
 Q_SIGNALS:
     void sigBack();
@@ -61,9 +63,12 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void takeState(const CardState &state);
+    void update();
+    std::vector<DiagnosisStep> steps() const;
 
     CardMonitor *m_monitor;
+    ConnectionService *m_connection;
+    ProfileStore *m_profiles;
     TextLabel *m_conclusion;
     QPushButton *m_back;
     std::vector<DiagnosisRow *> m_rows;
