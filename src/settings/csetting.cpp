@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/csetting.h"
 
+#include "connection/ui/connectionsettings.h"
 #include "settings/generalpage.h"
 #include "widgets/skin.h"
 #include "widgets/textlabel.h"
@@ -23,7 +24,7 @@ constexpr int listWidth = 160;
 /// The groups of this program, in the order shown.
 std::vector<SettingsEntry> standardGroups()
 {
-    return {generalSettingsEntry()};
+    return {generalSettingsEntry(), connectionSettingsEntry()};
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include <QSocketNotifier>
 #include <array>
 #include <atomic>
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -27,14 +28,22 @@ void tell(int)
     errno = savedErrno;
 }
 
-void handle(void (*handler)(int))
+std::array<struct sigaction, endingSignals.size()> earlier;
+
+void takeOver()
 {
     struct sigaction action = {};
-    action.sa_handler = handler;
+    action.sa_handler = tell;
     action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
-    for (const int number : endingSignals)
-        sigaction(number, &action, nullptr);
+    for (std::size_t i = 0; i < endingSignals.size(); ++i)
+        sigaction(endingSignals.at(i), &action, &earlier.at(i));
+}
+
+void giveBack()
+{
+    for (std::size_t i = 0; i < endingSignals.size(); ++i)
+        sigaction(endingSignals.at(i), &earlier.at(i), nullptr);
 }
 
 } // namespace
@@ -48,14 +57,14 @@ EndSignals::EndSignals(QObject *parent) : QObject(parent)
     writeEnd = ends[1];
     auto *notifier = new QSocketNotifier(m_descriptor, QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, &EndSignals::takeSignals);
-    handle(tell);
+    takeOver();
 }
 
 EndSignals::~EndSignals()
 {
     if (m_descriptor < 0)
         return;
-    handle(SIG_DFL);
+    giveBack();
     ::close(writeEnd.exchange(-1));
     ::close(m_descriptor);
 }

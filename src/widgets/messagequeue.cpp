@@ -13,16 +13,11 @@ using namespace Qt::StringLiterals;
 namespace corva
 {
 
-MessageQueue::MessageQueue(QWidget *window) : QObject(window), m_window(window)
-{
-}
+MessageQueue::MessageQueue(QWidget *window) : QObject(window), m_window(window) {}
 
 void MessageQueue::tell(const QString &text)
 {
-    const auto isSame = [&](const Message &other) { return !other.yes && other.text == text; };
-    const bool isShown = m_shown && m_shown->text() == text;
-    if (!isShown && std::none_of(m_waiting.begin(), m_waiting.end(), isSame))
-        enqueue({text, {}, {}});
+    enqueue({text, {}, {}});
 }
 
 void MessageQueue::ask(const QString &text, std::function<void()> yes)
@@ -37,6 +32,10 @@ void MessageQueue::ask(const QString &text, const QString &verb, std::function<v
 
 void MessageQueue::enqueue(Message message)
 {
+    const auto isSame = [&](const Message &other) { return other.text == message.text; };
+    const bool isShown = m_shown && m_shown->text() == message.text;
+    if (isShown || std::any_of(m_waiting.begin(), m_waiting.end(), isSame))
+        return;
     m_waiting.push_back(std::move(message));
     showNext();
 }
@@ -75,7 +74,8 @@ QMessageBox *MessageQueue::build(const Message &message)
         box->setDefaultButton(QMessageBox::Cancel);
     }
     connect(box, &QMessageBox::finished, this, [this, box, yes = message.yes] {
-        const bool isYes = yes && box->clickedButton() && box->buttonRole(box->clickedButton()) == QMessageBox::YesRole;
+        const bool isYes =
+            yes && box->clickedButton() && box->buttonRole(box->clickedButton()) == QMessageBox::YesRole;
         m_shown = nullptr;
         if (isYes)
             yes();

@@ -14,7 +14,8 @@ namespace corva
 {
 
 /// The boxes of the program, one at a time, and none over another dialog. They never wait: what comes of a
-/// question is told to a function. Texts are shown as plain text.
+/// question is told to a function. Texts are shown as plain text; one that waits or is shown already is not
+/// said again.
 class MessageQueue final : public QObject
 {
     Q_OBJECT
@@ -23,7 +24,7 @@ public:
     /// `window` becomes the parent of the boxes.
     explicit MessageQueue(QWidget *window);
 
-    /// A sentence with one button to close it. One that waits or is shown already is not said again.
+    /// A sentence with one button to close it.
     void tell(const QString &text);
     /// A question; `yes` is called once it is answered so, nothing otherwise.
     void ask(const QString &text, std::function<void()> yes);
@@ -33,7 +34,7 @@ public:
 private:
     struct Message {
         QString text;
-        QString verb; ///< of the button that goes on; empty: Yes
+        QString verb;              ///< of the button that goes on; empty: Yes
         std::function<void()> yes; ///< none: a sentence, not a question
     };
 

@@ -30,7 +30,8 @@ ChoiceDialog::ChoiceDialog(const QString &title, const QString &about, const QSt
     m_list->setAccessibleName(title);
     m_list->setMinimumHeight(listHeight);
     for (const Choice &choice : choices)
-        m_list->addItem(choice.detail.isEmpty() ? choice.name : tr("%1  ·  %2").arg(choice.name, choice.detail));
+        m_list->addItem(choice.detail.isEmpty() ? choice.name
+                                                : tr("%1  ·  %2").arg(choice.name, choice.detail));
     m_list->setCurrentRow(0);
 
     auto *explanation = new TextLabel(about, TextRole::Text, this);

@@ -34,11 +34,16 @@ struct SoundText {
 };
 
 constexpr SoundText soundTexts[] = {
-    {ProfileField::Name, u"-"},           {ProfileField::Phone, u"*99#"},
-    {ProfileField::Apn, u"internet"},     {ProfileField::Pdp, u"10.0.0.1"},
-    {ProfileField::PreferredDns, u"10.0.0.1"}, {ProfileField::AlternativeDns, u"10.0.0.1"},
-    {ProfileField::UserName, u""},        {ProfileField::Password, u""},
-    {ProfileField::Imsi, u""},            {ProfileField::DefaultOpenUrl, u""},
+    {ProfileField::Name, u"-"},
+    {ProfileField::Phone, u"*99#"},
+    {ProfileField::Apn, u"internet"},
+    {ProfileField::Pdp, u"10.0.0.1"},
+    {ProfileField::PreferredDns, u"10.0.0.1"},
+    {ProfileField::AlternativeDns, u"10.0.0.1"},
+    {ProfileField::UserName, u""},
+    {ProfileField::Password, u""},
+    {ProfileField::Imsi, u""},
+    {ProfileField::DefaultOpenUrl, u""},
 };
 
 /// The field that a refusal is about: the one whose mending changes what is refused.
@@ -61,7 +66,9 @@ Config::Config(ProfileStore *profiles, const QString &name, QWidget *parent)
       m_isReadOnly(!name.isEmpty() && !m_profile.isEditable()), m_result(new TextLabel(TextRole::Text, this))
 {
     setObjectName(u"config"_s);
-    const QString title = name.isEmpty() ? tr("New profile") : m_isReadOnly ? tr("Profile") : tr("Edit profile");
+    const QString title = name.isEmpty() ? tr("New profile")
+                          : m_isReadOnly ? tr("Profile")
+                                         : tr("Edit profile");
     setWindowTitle(title);
     m_result->setObjectName(u"configResult"_s);
     m_result->setWordWrap(true);
@@ -204,10 +211,10 @@ void Config::buildAddresses(QVBoxLayout *form)
 {
     using enum FormField::Kind;
     form->addWidget(new SectionHeader(tr("IP address"), this));
-    m_address = addChoice(new FlagChoice(
-        tr("IP address"),
-        {{ProfileField::ObtainsPdp, tr("From the network (d&ynamic)")}, {ProfileField::UsesPdp, tr("Fi&xed")}},
-        this));
+    m_address = addChoice(new FlagChoice(tr("IP address"),
+                                         {{ProfileField::ObtainsPdp, tr("From the network (d&ynamic)")},
+                                          {ProfileField::UsesPdp, tr("Fi&xed")}},
+                                         this));
     form->addWidget(m_address);
     form->addWidget(addField(ProfileField::Pdp, tr("Fixed add&ress"), Code));
     form->addSpacing(metrics::Grid);
@@ -225,8 +232,8 @@ void Config::buildAddresses(QVBoxLayout *form)
 void Config::buildPage(QVBoxLayout *form)
 {
     form->addWidget(new SectionHeader(tr("Once connected"), this));
-    form->addWidget(addField(ProfileField::DefaultOpenUrl, tr("Pa&ge to open in the browser"),
-                             FormField::Kind::Code));
+    form->addWidget(
+        addField(ProfileField::DefaultOpenUrl, tr("Pa&ge to open in the browser"), FormField::Kind::Code));
 }
 
 FormField *Config::addField(ProfileField field, const QString &caption, FormField::Kind kind)
@@ -275,8 +282,8 @@ void Config::followChoices()
     for (const ProfileField field : {ProfileField::PreferredDns, ProfileField::AlternativeDns})
         m_fields[field]->setEnabled(m_nameServers->chosen() == ProfileField::UsesDns);
     const bool authenticates = m_authentication->chosen() != ProfileField::NoAuthentication;
-    for (QWidget *widget : std::initializer_list<QWidget *>{m_fields[ProfileField::UserName],
-                                                            m_fields[ProfileField::Password], m_asks, m_keeps})
+    for (QWidget *widget : std::initializer_list<QWidget *>{
+             m_fields[ProfileField::UserName], m_fields[ProfileField::Password], m_asks, m_keeps})
         widget->setEnabled(authenticates);
     m_fields[ProfileField::UserName]->setReadOnly(m_profile.text(ProfileField::UserNameEditable) == u'0');
 }

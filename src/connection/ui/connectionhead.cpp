@@ -84,7 +84,8 @@ void ConnectionHead::setStatus(const ConnectionStatus &status, const QString &hi
     m_why->setVisible(isWorthAsking(status));
     const bool isUp = status.state == ConnectionState::Connected;
     const bool isEnding = status.state == ConnectionState::Disconnecting;
-    const bool canCancel = status.state == ConnectionState::Connecting || (!isUp && !isEnding && status.redial > 0);
+    const bool canCancel =
+        status.state == ConnectionState::Connecting || (!isUp && !isEnding && status.redial > 0);
     m_button->setText(isUp || isEnding ? tr("&Disconnect") : canCancel ? tr("&Cancel") : tr("&Connect"));
     m_button->setEnabled(!isEnding);
     setButtonKind(m_button, isUp || isEnding || canCancel ? ButtonKind::Plain : ButtonKind::Primary);

@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -35,7 +36,8 @@ QString statusSentence(const ConnectionStatus &status)
     case ConnectionState::Connecting:
         if (status.redial > 0)
             return text(QT_TRANSLATE_NOOP("ConnectionTexts", "With \"%1\", attempt %2 of %3."))
-                .arg(status.profileName, QLocale().toString(status.redial), QLocale().toString(status.redials));
+                .arg(status.profileName, QLocale().toString(status.redial),
+                     QLocale().toString(status.redials));
         return text(QT_TRANSLATE_NOOP("ConnectionTexts", "With \"%1\".")).arg(status.profileName);
     case ConnectionState::Disconnecting: return {};
     case ConnectionState::NotConnected: break;
@@ -55,10 +57,10 @@ bool isWorthAsking(const ConnectionStatus &status)
 
 QString elapsedText(std::chrono::seconds elapsed)
 {
-    const std::chrono::hh_mm_ss parts(std::max(elapsed, std::chrono::seconds(0)));
-    return u"%1:%2:%3"_s.arg(parts.hours().count())
-        .arg(parts.minutes().count(), 2, 10, u'0')
-        .arg(parts.seconds().count(), 2, 10, u'0');
+    const qint64 seconds = std::max<qint64>(elapsed.count(), 0);
+    return u"%1:%2:%3"_s.arg(seconds / 3600)
+        .arg(seconds / 60 % 60, 2, 10, QChar(u'0'))
+        .arg(seconds % 60, 2, 10, QChar(u'0'));
 }
 
 } // namespace corva

@@ -179,7 +179,8 @@ void Connector::chooseProfile(const QStringList &names)
         choices.push_back({name, {}});
     auto *dialog = new ChoiceDialog(tr("Which profile?"), tr("It is taken from now on."), tr("C&onnect"),
                                     choices, m_window);
-    connect(dialog, &ChoiceDialog::sigChosen, this, [this, names](int index) { useProfile(names.at(index)); });
+    connect(dialog, &ChoiceDialog::sigChosen, this,
+            [this, names](int index) { useProfile(names.at(index)); });
     open(dialog);
 }
 

@@ -71,7 +71,7 @@ private:
     MessageQueue *m_messages;
     QWidget *m_window;
     QPointer<QDialog> m_dialog; ///< the step that the person is at
-    QString m_imsi; ///< whose proposals they are
+    QString m_imsi;             ///< whose proposals they are
     bool m_isSearching = false;
     bool m_connectsThen = false; ///< Connect was pressed and waits for the search
     std::vector<ApnProposal> m_proposals;

@@ -49,8 +49,8 @@ CredentialsDialog::CredentialsDialog(const ConnectionProfile &profile, QWidget *
     buttons->addWidget(cancel);
     buttons->addWidget(go);
 
-    auto *about = new TextLabel(tr("The profile \"%1\" asks for them at each connection.").arg(profile.name()),
-                                TextRole::Text, this);
+    auto *about = new TextLabel(
+        tr("The profile \"%1\" asks for them at each connection.").arg(profile.name()), TextRole::Text, this);
     about->setWordWrap(true);
     about->setMuted(true);
     auto *layout = new QVBoxLayout(this);

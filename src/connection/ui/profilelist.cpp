@@ -32,7 +32,8 @@ QListWidgetItem *itemFor(const ConnectionProfile &profile, bool isDefault)
 {
     auto *item = new QListWidgetItem(profile.name());
     item->setData(Qt::UserRole, profile.name());
-    item->setIcon(isDefault ? skinIcon(u"ok"_s, SkinRole::Accent) : skinIcon(u"pending"_s, SkinRole::MutedText));
+    item->setIcon(isDefault ? skinIcon(u"ok"_s, SkinRole::Accent)
+                            : skinIcon(u"pending"_s, SkinRole::MutedText));
     item->setToolTip(u"<span>%1</span>"_s.arg(accessPoint(profile).toHtmlEscaped()));
     item->setData(Qt::AccessibleTextRole,
                   isDefault ? ProfileList::tr("%1, connects with it").arg(profile.name()) : profile.name());
@@ -191,7 +192,8 @@ void ProfileList::makeDefault()
 {
     QString error;
     const QString name = current();
-    Q_EMIT sigSaid(m_profiles->setDefault(name, &error) ? tr("Connects with \"%1\" from now on.").arg(name) : error);
+    Q_EMIT sigSaid(m_profiles->setDefault(name, &error) ? tr("Connects with \"%1\" from now on.").arg(name)
+                                                        : error);
 }
 
 } // namespace corva
