@@ -74,12 +74,4 @@ private:
     std::unique_ptr<Private> d;
 };
 
-/// The contents of the three files. Lines end with CR LF. Values are taken as they are: see `dialRefusal`.
-QByteArray wvdialConfText(const ConnectionProfile &profile, const QString &modemPort);
-QByteArray pppOptionsText(const ConnectionProfile &profile, const PppOptions &options);
-QByteArray peerText(bool isSuse);
-
-/// The value of the last "exit code =" in the dialler's output.
-std::optional<int> exitCodeIn(const QByteArray &connectInfo);
-
 } // namespace corva

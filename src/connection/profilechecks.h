@@ -20,4 +20,7 @@ QString dialRefusal(const ConnectionProfile &profile, const QString &modemPort);
 /// 255.255.255.255.
 bool isHostAddress(const QString &text);
 
+/// Whether a profile's page may be given to the browser: "http", "https", or a name without a scheme.
+bool isWebAddress(const QString &text);
+
 } // namespace corva

@@ -65,6 +65,9 @@ Q_SIGNALS:
     void sigChanged();
 
 private:
+    QString refusal(const ConnectionProfile &profile, const QString &oldName) const;
+    static bool refuse(const QString &reason, QString *error);
+
     class Private;
     std::unique_ptr<Private> d;
 };
