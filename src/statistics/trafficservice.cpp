@@ -12,6 +12,7 @@
 #include <QUuid>
 #include <algorithm>
 #include <ctime>
+#include <iterator>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -45,6 +46,12 @@ QString readBootId(const QString &path)
 bool isMadeForLink(const QString &interfaceName)
 {
     return interfaceName.startsWith("ppp"_L1);
+}
+
+/// A moment that stays the same when the person changes the time zone.
+QDateTime withOffset(const QDateTime &local)
+{
+    return local.toOffsetFromUtc(local.offsetFromUtc());
 }
 
 bool endsEarlier(const HistoryRecord &a, const HistoryRecord &b)
@@ -141,8 +148,7 @@ void TrafficService::Private::takeLeftover(RunningSession left)
     const bool isSameBoot = !left.boot.isEmpty() && left.boot == readBootId(around.bootIdFile);
     const CounterReading reading = readCounters(left.interfaceName, around.countersFolder);
     if (left.ended.isEmpty() && isSameBoot && reading.index && reading.index == left.counters.index)
-        left.carried.add(left.last.toLocalTime().date(), CounterMeter(left.counters).advance(reading),
-                         left.isRoaming);
+        left.carried.add(left.last.date(), CounterMeter(left.counters).advance(reading), left.isRoaming);
     if (left.ended.isEmpty())
         left.ended = historyend::Unexpected;
     fold(left);
@@ -169,11 +175,12 @@ void TrafficService::Private::fold(const RunningSession &over)
 void TrafficService::Private::bound()
 {
     const TrafficSettings settings = around.settings();
-    // By the last day with traffic where that is earlier: a clock that is years ahead must not fold
-    // everything.
-    const QDate today = std::min(around.now().date(), stored.totals.lastDay());
-    const QDate oldest = today.addDays(-settings.daysKept);
-    if (stored.totals.firstDay().isValid() && stored.totals.firstDay() < oldest) {
+    // By the last day but one with traffic where that is earlier: a clock that is years ahead for once must
+    // not fold everything.
+    const auto &days = stored.totals.days();
+    const QDate lastButOne = days.size() < 2 ? QDate() : std::prev(days.end(), 2)->first;
+    const QDate oldest = std::min(around.now().date(), lastButOne).addDays(-settings.daysKept);
+    if (oldest.isValid() && days.begin()->first < oldest) {
         stored.totals.foldDaysBefore(oldest);
         areTotalsDirty = true;
     }
@@ -191,7 +198,7 @@ void TrafficService::Private::start(const TrafficSession &link)
     session->profileName = link.profileName;
     session->interfaceName = link.interfaceName;
     session->boot = readBootId(around.bootIdFile);
-    session->start = session->last = around.now();
+    session->start = session->last = withOffset(around.now());
     session->isRoaming = session->hasRoamed = link.isRoaming;
     meter = CounterMeter(isMadeForLink(link.interfaceName));
     startedAt = countedUpTo = around.uptime();
@@ -206,7 +213,7 @@ void TrafficService::Private::read()
     const CounterReading reading = readCounters(session->interfaceName, around.countersFolder);
     const TrafficVolume carried = meter.advance(reading);
     const milliseconds up = around.uptime();
-    session->last = around.now();
+    session->last = withOffset(around.now());
     session->duration = up - startedAt;
     session->counters = meter.last();
     if (carried.total() > 0)
