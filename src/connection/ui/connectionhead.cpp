@@ -63,14 +63,19 @@ void ConnectionHead::build()
     words->addStretch(1);
     words->addWidget(m_dataState);
     words->addWidget(m_sentence);
-    words->addWidget(m_why, 0, Qt::AlignLeading);
     words->addStretch(1);
+    auto *actions = new QVBoxLayout;
+    actions->setSpacing(metrics::HalfGrid);
+    actions->addStretch(1);
+    actions->addWidget(m_button);
+    actions->addWidget(m_why);
+    actions->addStretch(1);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2 * metrics::Grid);
     layout->addWidget(m_picture, 0, Qt::AlignVCenter);
     layout->addLayout(words, 1);
-    layout->addWidget(m_button, 0, Qt::AlignVCenter);
+    layout->addLayout(actions);
     setMinimumHeight(96);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
 }

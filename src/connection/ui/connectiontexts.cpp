@@ -20,9 +20,12 @@ QString text(const char *source)
 
 QString sinceText(const QDateTime &since)
 {
-    const bool isToday = since.date() == QDate::currentDate();
-    return isToday ? QLocale().toString(since.time(), QLocale::ShortFormat)
-                   : QLocale().toString(since, QLocale::ShortFormat);
+    const QLocale locale;
+    QString time = locale.timeFormat(QLocale::ShortFormat).remove(u":ss"_s);
+    if (since.date() == QDate::currentDate())
+        return locale.toString(since.time(), time);
+    return u"%1 %2"_s.arg(locale.toString(since.date(), QLocale::ShortFormat),
+                          locale.toString(since.time(), time));
 }
 
 } // namespace

@@ -32,7 +32,8 @@ bool isFor(const ConnectionProfile &profile, const QString &imsi)
 
 ChoiceDialog::Choice choiceOf(const ApnProposal &proposal)
 {
-    return {proposal.operatorName, proposal.planName.isEmpty() ? proposal.apn : proposal.planName};
+    const QString &plan = proposal.planName;
+    return {proposal.operatorName, plan.isEmpty() || plan == proposal.operatorName ? proposal.apn : plan};
 }
 
 } // namespace
@@ -163,9 +164,15 @@ void Connector::chooseProposal()
     }
     std::vector<ChoiceDialog::Choice> choices;
     std::transform(m_proposals.begin(), m_proposals.end(), std::back_inserter(choices), choiceOf);
+    const QString &name = m_proposals.front().operatorName;
+    const bool isOneOperator =
+        std::all_of(m_proposals.begin(), m_proposals.end(),
+                    [&](const ApnProposal &each) { return each.operatorName == name; });
     auto *dialog = new ChoiceDialog(
-        tr("Whose SIM card is it?"),
-        tr("Several operators share this network. Choose yours; the choice is kept as a profile."),
+        isOneOperator ? tr("Which access is yours?") : tr("Whose SIM card is it?"),
+        isOneOperator ? tr("%1 has several. Choose yours; the choice is kept as a profile.").arg(name)
+                      : tr("Several operators share this network. Choose yours; the choice is kept as a "
+                           "profile."),
         tr("C&onnect"), choices, m_window);
     connect(dialog, &ChoiceDialog::sigChosen, this,
             [take, proposals = m_proposals](int index) { take(proposals.at(std::size_t(index))); });

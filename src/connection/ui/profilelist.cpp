@@ -12,6 +12,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QShortcut>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -46,9 +47,9 @@ QListWidgetItem *itemFor(const ConnectionProfile &profile, bool isDefault)
 
 ProfileList::ProfileList(ProfileStore *profiles, MessageQueue *messages, QWidget *parent)
     : QWidget(parent), m_profiles(profiles), m_messages(messages), m_list(new QListWidget(this)),
-      m_empty(new TextLabel(TextRole::Text, m_list)), m_add(new QPushButton(tr("&Add"), this)),
-      m_edit(new QPushButton(tr("&Edit"), this)), m_remove(new QPushButton(tr("De&lete"), this)),
-      m_default(new QPushButton(tr("Make de&fault"), this))
+      m_empty(new TextLabel(tr("No profile yet"), TextRole::Text, m_list)),
+      m_add(new QPushButton(tr("&Add"), this)), m_edit(new QPushButton(tr("&Edit"), this)),
+      m_remove(new QPushButton(tr("De&lete"), this)), m_default(new QPushButton(tr("Make de&fault"), this))
 {
     m_list->setObjectName(u"profiles"_s);
     m_list->setAccessibleName(tr("Profiles"));
@@ -109,11 +110,6 @@ void ProfileList::takeFocus()
     m_list->setFocus(Qt::OtherFocusReason);
 }
 
-void ProfileList::setEmptyText(const QString &sentence)
-{
-    m_empty->setText(sentence);
-}
-
 void ProfileList::fill()
 {
     const auto chosen = m_profiles->defaultProfile();
@@ -130,7 +126,7 @@ void ProfileList::fill()
             m_list->setCurrentItem(item);
     }
     if (m_list->currentRow() < 0) // what had the cursor is gone: its neighbour has it
-        m_list->setCurrentRow(qBound(0, wantedRow, m_list->count() - 1));
+        m_list->setCurrentRow(std::clamp(wantedRow, 0, std::max(m_list->count() - 1, 0)));
     m_empty->setVisible(m_list->count() == 0);
     follow();
 }

@@ -24,8 +24,6 @@ public:
     /// The profile that has the cursor; empty when there is none.
     QString current() const;
     void takeFocus();
-    /// What the empty list says.
-    void setEmptyText(const QString &sentence);
 
 public Q_SLOTS:
     void add();

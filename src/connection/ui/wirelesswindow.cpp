@@ -44,9 +44,7 @@ WirelessWindow::WirelessWindow(const PageInfo &info, const PageContext &context,
     connect(context.connector, &Connector::sigChoiceWanted, m_profiles, &ProfileList::takeFocus);
     connect(context.connector, &Connector::sigEditWanted, m_profiles, &ProfileList::editDefault);
     connect(context.meter, &LinkMeter::sigChanged, m_facts, &ConnectionFacts::setTraffic);
-    auto *add = new QShortcut(QKeySequence::New, this);
-    add->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(add, &QShortcut::activated, m_profiles, &ProfileList::add);
+    connect(new QShortcut(QKeySequence::New, this), &QShortcut::activated, m_profiles, &ProfileList::add);
     m_facts->setTraffic(context.meter->traffic());
     takeStatus();
     say(context.profiles->problem());
@@ -107,7 +105,6 @@ void WirelessWindow::takeStatus()
     const ConnectionStatus &status = m_context.connection->status();
     m_head->setStatus(status, hint());
     m_facts->setStatus(status);
-    m_profiles->setEmptyText(hint());
 }
 
 QString WirelessWindow::hint() const
