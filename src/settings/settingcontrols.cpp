@@ -55,6 +55,7 @@ QSpinBox *settingNumber(const SettingNumber &number, QWidget *parent)
     box->setRange(number.least, number.most);
     box->setSuffix(number.unit);
     box->setKeyboardTracking(false);
+    box->setMinimumHeight(metrics::ControlHeight);
     const int stored = cmcfg.getNumber(number.key.section, number.key.name);
     box->setValue(stored == 0 ? number.insteadOfNone : stored);
     QObject::connect(box, &QSpinBox::valueChanged, box, [key = number.key](int value) {

@@ -2,6 +2,7 @@
 #include "widgets/messagequeue.h"
 
 #include "widgets/buttonkind.h"
+#include "widgets/skinicon.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -12,6 +13,11 @@ using namespace Qt::StringLiterals;
 
 namespace corva
 {
+
+namespace
+{
+constexpr int iconSize = 32;
+}
 
 MessageQueue::MessageQueue(QWidget *window) : QObject(window), m_window(window) {}
 
@@ -59,10 +65,12 @@ QMessageBox *MessageQueue::build(const Message &message)
     auto *box = new QMessageBox(m_window);
     box->setObjectName(u"messageBox"_s);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowTitle(QApplication::applicationDisplayName());
+    box->setWindowTitle(comcfg.softwareName);
     box->setTextFormat(Qt::PlainText);
     box->setText(message.text);
-    box->setIcon(message.yes ? QMessageBox::Question : QMessageBox::Warning);
+    box->setIconPixmap(skinPixmap(message.yes ? u"question"_s : u"problem"_s,
+                                  skinColor(message.yes ? SkinRole::Accent : SkinRole::Warning), iconSize,
+                                  m_window->devicePixelRatioF()));
     if (!message.yes) {
         box->setStandardButtons(QMessageBox::Ok);
     } else if (message.verb.isEmpty()) {
@@ -70,7 +78,7 @@ QMessageBox *MessageQueue::build(const Message &message)
         box->setDefaultButton(QMessageBox::No);
     } else {
         box->setStandardButtons(QMessageBox::Cancel);
-        setButtonKind(box->addButton(message.verb, QMessageBox::YesRole), ButtonKind::Primary);
+        setButtonKind(box->addButton(message.verb, QMessageBox::YesRole), ButtonKind::Dangerous);
         box->setDefaultButton(QMessageBox::Cancel);
     }
     connect(box, &QMessageBox::finished, this, [this, box, yes = message.yes] {

@@ -17,6 +17,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -129,8 +130,8 @@ void DiagnosisRow::paintEvent(QPaintEvent *)
 
 OfflinePanel::OfflinePanel(const PageContext &context, QWidget *parent)
     : QWidget(parent), m_monitor(context.monitor), m_connection(context.connection),
-      m_profiles(context.profiles), m_conclusion(new TextLabel(TextRole::Text, this)),
-      m_back(new QPushButton(tr("&Back"), this))
+      m_profiles(context.profiles), m_scroll(new QScrollArea(this)),
+      m_conclusion(new TextLabel(TextRole::Text, this)), m_back(new QPushButton(tr("&Back"), this))
 {
     setObjectName(u"offlinePanel"_s);
     m_back->setObjectName(u"back"_s);
@@ -154,13 +155,12 @@ OfflinePanel::OfflinePanel(const PageContext &context, QWidget *parent)
         connect(m_rows.back(), &DiagnosisRow::sigMend, context.mender, &Mender::mend);
     }
     rows->addStretch(1);
-    auto *scroll = new QScrollArea(this);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(list);
-    scroll->viewport()->setAutoFillBackground(false);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll->setWidget(list);
+    m_scroll->viewport()->setAutoFillBackground(false);
     list->setAutoFillBackground(false);
 
     auto *layout = new QVBoxLayout(this);
@@ -170,7 +170,7 @@ OfflinePanel::OfflinePanel(const PageContext &context, QWidget *parent)
     layout->addLayout(titleRow);
     layout->addWidget(m_conclusion);
     layout->addSpacing(metrics::Grid);
-    layout->addWidget(scroll, 1);
+    layout->addWidget(m_scroll, 1);
 
     connect(m_back, &QPushButton::clicked, this, &OfflinePanel::sigBack);
     connect(m_monitor, &CardMonitor::sigStateChanged, this, &OfflinePanel::update);
@@ -196,12 +196,27 @@ void OfflinePanel::update()
         m_conclusion->setText(tr("Nothing is wrong so far; the card is at it."));
     else
         m_conclusion->setText(tr("One step is not in order. The steps after it follow by themselves."));
+    if (isVisible())
+        showProblem();
 }
 
 void OfflinePanel::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     m_back->setFocus(Qt::OtherFocusReason);
+    m_shownProblem.reset();
+    showProblem();
+}
+
+void OfflinePanel::showProblem()
+{
+    const auto found = steps();
+    const DiagnosisStep *problem = firstProblem(found);
+    const auto id = problem ? std::optional(problem->id) : std::nullopt;
+    if (std::exchange(m_shownProblem, id) == id || !problem)
+        return; // the person may be reading elsewhere
+    m_scroll->widget()->layout()->activate();
+    m_scroll->ensureWidgetVisible(m_rows.at(std::size_t(problem - found.data())), 0, metrics::GroupGap);
 }
 
 } // namespace corva

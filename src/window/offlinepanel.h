@@ -7,7 +7,7 @@
 
 class QLabel;
 class QPushButton;
-class QVBoxLayout;
+class QScrollArea;
 
 namespace corva
 {
@@ -65,13 +65,16 @@ protected:
 private:
     void update();
     std::vector<DiagnosisStep> steps() const;
+    void showProblem();
 
     CardMonitor *m_monitor;
     ConnectionService *m_connection;
     ProfileStore *m_profiles;
+    QScrollArea *m_scroll;
     TextLabel *m_conclusion;
     QPushButton *m_back;
     std::vector<DiagnosisRow *> m_rows;
+    std::optional<DiagnosisStepId> m_shownProblem; ///< the one that was scrolled to
 };
 
 } // namespace corva

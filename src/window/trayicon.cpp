@@ -13,7 +13,8 @@ using namespace Qt::StringLiterals;
 namespace corva
 {
 
-TrayIcon::TrayIcon(QObject *parent) : QObject(parent), m_showOrHide(m_menu.addAction(QString())), m_connect(m_menu.addAction(QString()))
+TrayIcon::TrayIcon(QObject *parent)
+    : QObject(parent), m_showOrHide(m_menu.addAction(QString())), m_connect(m_menu.addAction(QString()))
 {
     connect(m_showOrHide, &QAction::triggered, this, &TrayIcon::sigShowOrHide);
     connect(m_connect, &QAction::triggered, this, &TrayIcon::sigConnect);
@@ -51,7 +52,9 @@ void TrayIcon::setConnection(const ConnectionStatus &connection)
     const bool isUp = connection.state == ConnectionState::Connected;
     const bool isEnding = connection.state == ConnectionState::Disconnecting;
     const bool isTrying = connection.state == ConnectionState::Connecting || connection.redial > 0;
-    m_connect->setText(isUp || isEnding ? tr("&Disconnect") : isTrying ? tr("&Cancel connecting") : tr("&Connect"));
+    m_connect->setText(isUp || isEnding ? tr("&Disconnect")
+                       : isTrying       ? tr("&Cancel connecting")
+                                        : tr("&Connect"));
     m_connect->setEnabled(!isEnding);
     showToolTip();
 }

@@ -28,8 +28,8 @@ public:
     {
         QDir::setCurrent(m_folder.path());
         QDir().mkdir(QStringLiteral("Data"));
-        for (const auto &folder : {u"/res"_s, u"/Data/skins"_s})
-            QFile::link(QStringLiteral(CORVA_SOURCE_DIR) + folder, m_folder.path() + folder);
+        for (const auto &name : {u"/res"_s, u"/Data/skins"_s, u"/Data/version.txt"_s})
+            QFile::link(QStringLiteral(CORVA_SOURCE_DIR) + name, m_folder.path() + name);
         basePath = m_folder.path();
         corva::installCdeStyle();
         QGuiApplication::setQuitOnLastWindowClosed(false);

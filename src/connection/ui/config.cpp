@@ -8,6 +8,7 @@
 #include "widgets/factrow.h"
 #include "widgets/textlabel.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -56,6 +57,15 @@ std::optional<ProfileField> refusedField(const ConnectionProfile &profile, const
             return sound.field;
     }
     return std::nullopt;
+}
+
+/// With its caption and, once that is laid out, what is wrong with it.
+void showWhole(QScrollArea *scroll, QWidget *focused)
+{
+    QWidget *field = qobject_cast<FormField *>(focused->parentWidget()) ? focused->parentWidget() : focused;
+    QMetaObject::invokeMethod(
+        field, [scroll, field] { scroll->ensureWidgetVisible(field, 0, metrics::PageMargin); },
+        Qt::QueuedConnection);
 }
 
 } // namespace
@@ -110,6 +120,11 @@ QWidget *Config::buildForm()
     scroll->setWidget(content);
     content->setAutoFillBackground(false);
     scroll->viewport()->setAutoFillBackground(false);
+    // Tab alone brings a field into view; so do mnemonics and refusals then.
+    connect(qApp, &QApplication::focusChanged, content, [scroll, content](QWidget *, QWidget *focused) {
+        if (focused && content->isAncestorOf(focused))
+            showWhole(scroll, focused);
+    });
     return scroll;
 }
 

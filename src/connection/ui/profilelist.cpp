@@ -33,9 +33,12 @@ QListWidgetItem *itemFor(const ConnectionProfile &profile, bool isDefault)
 {
     auto *item = new QListWidgetItem(profile.name());
     item->setData(Qt::UserRole, profile.name());
+    item->setSizeHint(
+        {0, metrics::RowHeight}); // as wide as the list: a long name is cut, not the list scrolled
     item->setIcon(isDefault ? skinIcon(u"ok"_s, SkinRole::Accent)
                             : skinIcon(u"pending"_s, SkinRole::MutedText));
-    item->setToolTip(u"<span>%1</span>"_s.arg(accessPoint(profile).toHtmlEscaped()));
+    item->setToolTip(
+        u"<b>%1</b><br>%2"_s.arg(profile.name().toHtmlEscaped(), accessPoint(profile).toHtmlEscaped()));
     item->setData(Qt::AccessibleTextRole,
                   isDefault ? ProfileList::tr("%1, connects with it").arg(profile.name()) : profile.name());
     if (isDefault)
