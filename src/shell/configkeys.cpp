@@ -119,7 +119,7 @@ constexpr ConfigKey keys[] = {
     {"statistics_widget"_L1, "usage_statistic_enabled"_L1, Flag, "1"_L1, "The traffic of the month is counted. Seen after a restart."_L1},
 
     {"statistics"_L1, "quota_mb"_L1, Number, "0"_L1, "Volume of a billing period in MB (1 MB is 1,000,000 bytes). 0: none."_L1},
-    {"statistics"_L1, "roaming_quota_mb"_L1, Number, "0"_L1, "The same for foreign networks. 0: what is carried there counts with the rest."_L1},
+    {"statistics"_L1, "roaming_quota_mb"_L1, Number, "0"_L1, "The same for roaming. 0: what is carried in foreign networks counts with the rest."_L1},
     {"statistics"_L1, "billing_day"_L1, Number, "1"_L1, "Day of the month on which a billing period begins, 1 to 31. In a shorter month it is the last day."_L1},
     {"statistics"_L1, "warning_share"_L1, Number, "80"_L1, "Share of the volume, in percent, at which a warning is given once. 0: none."_L1},
     {"statistics"_L1, "end_at_quota"_L1, Flag, "0"_L1, "1: the connection is ended when the volume is used up."_L1},

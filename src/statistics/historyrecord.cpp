@@ -17,15 +17,15 @@ struct EndRow {
 };
 
 constexpr EndRow endRows[] = {
-    {historyend::Person, QT_TRANSLATE_NOOP("HistoryEnd", "Ended by you")},
-    {historyend::Peer, QT_TRANSLATE_NOOP("HistoryEnd", "Ended by the network")},
-    {historyend::LinkLost, QT_TRANSLATE_NOOP("HistoryEnd", "No answer from the network")},
-    {historyend::Dialler, QT_TRANSLATE_NOOP("HistoryEnd", "The dialler stopped")},
+    {historyend::Person, QT_TRANSLATE_NOOP("HistoryEnd", "By you")},
+    {historyend::Peer, QT_TRANSLATE_NOOP("HistoryEnd", "By the network")},
+    {historyend::LinkLost, QT_TRANSLATE_NOOP("HistoryEnd", "No answer")},
+    {historyend::Dialler, QT_TRANSLATE_NOOP("HistoryEnd", "Dialler stopped")},
     {historyend::CardGone, QT_TRANSLATE_NOOP("HistoryEnd", "Card removed")},
     {historyend::Idle, QT_TRANSLATE_NOOP("HistoryEnd", "Nothing carried")},
     {historyend::Quota, QT_TRANSLATE_NOOP("HistoryEnd", "Volume used up")},
     {historyend::Program, QT_TRANSLATE_NOOP("HistoryEnd", "Program closed")},
-    {historyend::Unexpected, QT_TRANSLATE_NOOP("HistoryEnd", "Ended unexpectedly")},
+    {historyend::Unexpected, QT_TRANSLATE_NOOP("HistoryEnd", "Unexpectedly")},
 };
 
 } // namespace

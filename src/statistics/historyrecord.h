@@ -26,7 +26,7 @@ inline constexpr QLatin1StringView Program = "program"_L1;       ///< the progra
 inline constexpr QLatin1StringView Unexpected = "unexpected"_L1; ///< the program or the machine stopped
 } // namespace historyend
 
-/// How such a word is said to people; another word is "Not known".
+/// How such a word is said below the heading "Ended"; another word is "Not known".
 QString historyEndText(const QString &word);
 
 /// One connection that is over.

@@ -285,12 +285,11 @@ QString TrafficService::Private::sentence(const AllowanceUse &use, const Billing
     if (use.isUsedUp())
         return use.allowance == Allowance::Main
                    ? tr("Your volume of %1 until %2 is used up.").arg(quota, until)
-                   : tr("Your volume of %1 for foreign networks until %2 is used up.").arg(quota, until);
+                   : tr("Your volume of %1 for roaming until %2 is used up.").arg(quota, until);
     const QString share = QLocale().toString(use.percent());
     return use.allowance == Allowance::Main
                ? tr("%1 % of your volume of %2 until %3 are used up.").arg(share, quota, until)
-               : tr("%1 % of your volume of %2 for foreign networks until %3 are used up.")
-                     .arg(share, quota, until);
+               : tr("%1 % of your volume of %2 for roaming until %3 are used up.").arg(share, quota, until);
 }
 
 void TrafficService::Private::changeHistory(bool isNeeded)

@@ -33,7 +33,10 @@ QString volumeText(quint64 bytes)
     while (thousandths >= 1'000'000)
         thousandths /= 1000;
     const int decimals = thousandths < 10'000 ? 2 : thousandths < 100'000 ? 1 : 0;
-    return QLocale().formattedDataSize(qint64(rounded), decimals, QLocale::DataSizeSIFormat);
+    // The unit stays on the line of its number.
+    return QLocale()
+        .formattedDataSize(qint64(rounded), decimals, QLocale::DataSizeSIFormat)
+        .replace(u' ', QChar::Nbsp);
 }
 
 QString rateText(quint64 bytesPerSecond)

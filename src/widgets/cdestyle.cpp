@@ -78,6 +78,7 @@ constexpr MetricRow pixelMetrics[] = {
     {QStyle::PM_IndicatorHeight, 18},
     {QStyle::PM_ExclusiveIndicatorWidth, 18},
     {QStyle::PM_ExclusiveIndicatorHeight, 18},
+    {QStyle::PM_HeaderMargin, metrics::Grid},
     {QStyle::PM_CheckBoxLabelSpacing, metrics::Grid},
     {QStyle::PM_RadioButtonLabelSpacing, metrics::Grid},
     {QStyle::PM_ButtonShiftHorizontal, 0},

@@ -3,6 +3,7 @@
 
 #include "connection/ui/wirelesswindow.h"
 #include "settings/csetting.h"
+#include "statistics/ui/trafficpage.h"
 #include "window/cardpage.h"
 
 #include <algorithm>
@@ -29,6 +30,7 @@ PageRegistry standardPages()
     PageRegistry registry;
     registry.add(connectionPageEntry());
     registry.add(cardPageEntry());
+    registry.add(trafficPageEntry());
     registry.add(settingsPageEntry());
     return registry;
 }

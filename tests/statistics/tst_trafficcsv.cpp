@@ -152,9 +152,10 @@ private Q_SLOTS:
     {
         QFETCH(const quint64, bytes);
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
-        QTEST(volumeText(bytes), "english");
+        const auto text = [&] { return volumeText(bytes).replace(QChar::Nbsp, u' '); };
+        QTEST(text(), "english");
         QLocale::setDefault(QLocale(QLocale::German));
-        QTEST(volumeText(bytes), "german");
+        QTEST(text(), "german");
     }
 
     void saysTimesAsPeopleDo()
