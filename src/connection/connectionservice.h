@@ -22,6 +22,13 @@ enum class ConnectObstacle {
     CardGone            ///< no card that answers
 };
 
+/// What the person was asked for at connect time, in place of the profile's own. Kept for one link and its
+/// redials, never stored.
+struct DialCredentials {
+    QString userName;
+    QString password;
+};
+
 /// The data connection: dials by the profile, watches, ends, dials again. Lives on the GUI thread and never
 /// waits there: card commands run on the card worker, files and the dialler behind a `DiallerBackend`.
 class ConnectionService : public QObject
@@ -41,7 +48,7 @@ public:
 
     ConnectObstacle obstacle() const;
     /// Dials by the profile in "/Data/defaultRecord.conf". Does nothing while a dialler is there: false.
-    bool connectNow();
+    bool connectNow(const std::optional<DialCredentials> &credentials = std::nullopt);
     /// Ends the link, the dial or the row of redials.
     void disconnectNow(ConnectionEnd why = ConnectionEnd::ByPerson);
 

@@ -47,7 +47,7 @@ constexpr ConfigKey keys[] = {
     {"resource_position"_L1, "tooltipLabel_y"_L1, Pixels, "0"_L1, "Moves the tool-tip label down, away from its usual place."_L1},
     {"resource_position"_L1, "topicon_width"_L1, Pixels, "20"_L1, "Width of the icons in the top bar. 0: 20."_L1},
 
-    {"window"_L1, "page"_L1, Text, "card"_L1, "The page that was open last."_L1},
+    {"window"_L1, "page"_L1, Text, "connection"_L1, "The page that was open last."_L1},
     {"window"_L1, "geometry"_L1, Text, ""_L1, "Place and size of the window. Written by the program; empty: the middle of the screen."_L1},
     {"window"_L1, "close_to_tray"_L1, Flag, "0"_L1, "1: closing the window leaves the program running in the tray, where the desktop has one."_L1},
     {"window"_L1, "notifications_enabled"_L1, Flag, "1"_L1, "Calls and messages are announced on the desktop."_L1},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "window/pageregistry.h"
 
+#include "connection/ui/wirelesswindow.h"
 #include "settings/csetting.h"
 #include "statistics/ui/trafficpage.h"
 #include "window/cardpage.h"
@@ -27,6 +28,7 @@ bool PageRegistry::add(PageEntry entry)
 PageRegistry standardPages()
 {
     PageRegistry registry;
+    registry.add(connectionPageEntry());
     registry.add(cardPageEntry());
     registry.add(trafficPageEntry());
     registry.add(settingsPageEntry());
