@@ -267,7 +267,9 @@ constexpr StepRow stepRows[] = {
     {DiagnosisStepId::Network, QT_TRANSLATE_NOOP("OfflineDiagnosis", "Network"), checkNetwork},
 };
 
-QString actionText(MendAction action)
+} // namespace
+
+QString mendActionText(MendAction action)
 {
     static constexpr std::array texts{
         "",
@@ -278,11 +280,12 @@ QString actionText(MendAction action)
         QT_TRANSLATE_NOOP("OfflineDiagnosis", "&Enter PUK"),
         QT_TRANSLATE_NOOP("OfflineDiagnosis", "&Switch radio on"),
         QT_TRANSLATE_NOOP("OfflineDiagnosis", "&Ask again"),
+        QT_TRANSLATE_NOOP("OfflineDiagnosis", "&Connect"),
+        QT_TRANSLATE_NOOP("OfflineDiagnosis", "&Choose profile"),
+        QT_TRANSLATE_NOOP("OfflineDiagnosis", "&Edit profile"),
     };
     return action == MendAction::None ? QString() : text(texts.at(static_cast<std::size_t>(action)));
 }
-
-} // namespace
 
 std::vector<DiagnosisStep> diagnose(const CardState &state)
 {
@@ -296,7 +299,7 @@ std::vector<DiagnosisStep> diagnose(const CardState &state)
             finding.status = StepStatus::NotReached;
         inOrder = inOrder && finding.status == StepStatus::Ok;
         steps.push_back({row.id, finding.status, text(row.title), finding.headline, finding.sentence,
-                         finding.action, actionText(finding.action)});
+                         finding.action, mendActionText(finding.action)});
     }
     return steps;
 }

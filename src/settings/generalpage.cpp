@@ -2,15 +2,15 @@
 #include "settings/generalpage.h"
 
 #include "settings/languages.h"
+#include "settings/settingcontrols.h"
 #include "settings/skinchooser.h"
 #include "shell/commoncfg.h"
 #include "widgets/factrow.h"
 #include "widgets/skin.h"
-#include "widgets/textlabel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QHBoxLayout>
+#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -20,9 +20,6 @@ namespace corva
 namespace
 {
 
-constexpr int captionWidth = 160;
-constexpr int choiceWidth = 220;
-
 /// The shipped skins have names in every language; a person's own is shown by its own name.
 QString shownName(const Skin &skin)
 {
@@ -31,22 +28,6 @@ QString shownName(const Skin &skin)
     if (skin.name == "Dark"_L1)
         return GeneralPage::tr("Dark");
     return skin.name.isEmpty() ? skin.file : skin.name;
-}
-
-QWidget *captioned(const QString &caption, QWidget *control, QWidget *parent)
-{
-    auto *row = new QWidget(parent);
-    auto *name = new TextLabel(caption, TextRole::Text, row);
-    name->setBuddy(control);
-    name->setMinimumWidth(captionWidth);
-    control->setAccessibleName(QString(caption).remove(u'&'));
-    control->setMinimumWidth(choiceWidth);
-    auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(name);
-    layout->addWidget(control);
-    layout->addStretch(1);
-    return row;
 }
 
 } // namespace
@@ -65,12 +46,12 @@ GeneralPage::GeneralPage(QWidget *parent) : SettingsPage(parent)
     layout->addWidget(buildSkin());
     layout->addSpacing(2 * metrics::Grid);
     layout->addWidget(new SectionHeader(tr("Beside other programs"), this));
-    layout->addWidget(
-        buildSwitch(tr("&Keep running in the tray when the window is closed"), u"close_to_tray"_s), 0,
-        Qt::AlignLeading);
-    layout->addWidget(
-        buildSwitch(tr("&Notify about calls and messages on the desktop"), u"notifications_enabled"_s), 0,
-        Qt::AlignLeading);
+    layout->addWidget(settingSwitch(tr("&Keep running in the tray when the window is closed"),
+                                    {u"window"_s, u"close_to_tray"_s}, this),
+                      0, Qt::AlignLeading);
+    layout->addWidget(settingSwitch(tr("&Notify about calls and messages on the desktop"),
+                                    {u"window"_s, u"notifications_enabled"_s}, this),
+                      0, Qt::AlignLeading);
     layout->addStretch(1);
 }
 
@@ -98,17 +79,6 @@ QWidget *GeneralPage::buildSkin()
     connect(choice, &QComboBox::activated, this,
             [this, choice] { takeSkin(choice->currentData().toString()); });
     return captioned(tr("&Colours"), choice, this);
-}
-
-QCheckBox *GeneralPage::buildSwitch(const QString &text, const QString &key)
-{
-    auto *box = new QCheckBox(text, this);
-    box->setObjectName(key);
-    box->setChecked(cmcfg.getNumber(u"window"_s, key) == 1);
-    box->setMinimumHeight(metrics::ControlHeight);
-    connect(box, &QCheckBox::toggled, this,
-            [key](bool on) { cmcfg.setValue(u"window"_s, key, on ? u"1"_s : u"0"_s); });
-    return box;
 }
 
 void GeneralPage::takeLanguage(const QString &file)

@@ -47,7 +47,7 @@ constexpr ConfigKey keys[] = {
     {"resource_position"_L1, "tooltipLabel_y"_L1, Pixels, "0"_L1, "Moves the tool-tip label down, away from its usual place."_L1},
     {"resource_position"_L1, "topicon_width"_L1, Pixels, "20"_L1, "Width of the icons in the top bar. 0: 20."_L1},
 
-    {"window"_L1, "page"_L1, Text, "card"_L1, "The page that was open last."_L1},
+    {"window"_L1, "page"_L1, Text, "connection"_L1, "The page that was open last."_L1},
     {"window"_L1, "geometry"_L1, Text, ""_L1, "Place and size of the window. Written by the program; empty: the middle of the screen."_L1},
     {"window"_L1, "close_to_tray"_L1, Flag, "0"_L1, "1: closing the window leaves the program running in the tray, where the desktop has one."_L1},
     {"window"_L1, "notifications_enabled"_L1, Flag, "1"_L1, "Calls and messages are announced on the desktop."_L1},
@@ -120,6 +120,15 @@ constexpr ConfigKey keys[] = {
 
     {"statistics_widget"_L1, "graphic_enabled"_L1, Flag, "1"_L1, "The traffic graph is shown."_L1},
     {"statistics_widget"_L1, "usage_statistic_enabled"_L1, Flag, "1"_L1, "The traffic of the month is counted. Seen after a restart."_L1},
+
+    {"statistics"_L1, "quota_mb"_L1, Number, "0"_L1, "Volume of a billing period in MB (1 MB is 1,000,000 bytes). 0: none."_L1},
+    {"statistics"_L1, "roaming_quota_mb"_L1, Number, "0"_L1, "The same for roaming. 0: what is carried in foreign networks counts with the rest."_L1},
+    {"statistics"_L1, "billing_day"_L1, Number, "1"_L1, "Day of the month on which a billing period begins, 1 to 31. In a shorter month it is the last day."_L1},
+    {"statistics"_L1, "warning_share"_L1, Number, "80"_L1, "Share of the volume, in percent, at which a warning is given once. 0: none."_L1},
+    {"statistics"_L1, "end_at_quota"_L1, Flag, "0"_L1, "1: the connection is ended when the volume is used up."_L1},
+    {"statistics"_L1, "days_kept"_L1, Number, "1100"_L1, "How many days are kept one by one, 62 at least. Older ones are kept as months."_L1},
+    {"statistics"_L1, "history_records"_L1, Number, "5000"_L1, "How many connections the history keeps. The oldest go first."_L1},
+    {"statistics"_L1, "graph_seconds"_L1, Number, "60"_L1, "What the traffic graph shows: the last 60 or 600 seconds."_L1},
 
     {"device"_L1, "at_port"_L1, File, ""_L1, "Command port of a serial, Bluetooth or emulated card, e.g. /dev/ttyS0. Empty: USB cards are searched."_L1},
     {"device"_L1, "modem_port"_L1, File, ""_L1, "Data port of that card."_L1},

@@ -68,7 +68,9 @@ void frame(const QStyleOption &option, QPainter &painter, const QWidget *widget)
         menuPanel(option, painter, widget);
         return;
     }
-    box(painter, option.rect, QColor(), skinColor(SkinRole::Line));
+    const bool isList = widget && widget->inherits("QAbstractItemView");
+    box(painter, option.rect, isList ? option.palette.color(QPalette::Base) : QColor(),
+        skinColor(SkinRole::Line));
 }
 
 void fieldPanel(const QStyleOption &option, QPainter &painter, const QWidget *widget)

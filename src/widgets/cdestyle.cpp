@@ -78,6 +78,7 @@ constexpr MetricRow pixelMetrics[] = {
     {QStyle::PM_IndicatorHeight, 18},
     {QStyle::PM_ExclusiveIndicatorWidth, 18},
     {QStyle::PM_ExclusiveIndicatorHeight, 18},
+    {QStyle::PM_HeaderMargin, metrics::Grid},
     {QStyle::PM_CheckBoxLabelSpacing, metrics::Grid},
     {QStyle::PM_RadioButtonLabelSpacing, metrics::Grid},
     {QStyle::PM_ButtonShiftHorizontal, 0},
@@ -176,6 +177,9 @@ void CdeStyle::polish(QWidget *widget)
     if (qobject_cast<QAbstractButton *>(widget) || qobject_cast<QComboBox *>(widget) ||
         qobject_cast<QScrollBar *>(widget))
         widget->setAttribute(Qt::WA_Hover);
+    // The frame fills its round corners itself; a filled viewport would stand out of them.
+    if (auto *view = qobject_cast<QAbstractItemView *>(widget); view && view->frameShape() != QFrame::NoFrame)
+        view->viewport()->setAutoFillBackground(false);
 }
 
 void CdeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
@@ -259,6 +263,13 @@ QSize CdeStyle::sizeFromContents(ContentsType type, const QStyleOption *option, 
     }
     default: return result;
     }
+}
+
+QRect CdeStyle::subElementRect(SubElement element, const QStyleOption *option, const QWidget *widget) const
+{
+    if (element == SE_ItemViewItemFocusRect) // around the row, its icon and all
+        return option->rect;
+    return QProxyStyle::subElementRect(element, option, widget);
 }
 
 int CdeStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const

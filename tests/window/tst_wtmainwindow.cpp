@@ -59,6 +59,7 @@ private Q_SLOTS:
         m_surroundings = std::make_unique<Surroundings>();
         applySkin();
         m_window.reset(makeWindow());
+        m_window->showPage(u"card"_s);
     }
 
     void cleanup()
@@ -166,6 +167,9 @@ private Q_SLOTS:
         for (const Language &language : languages()) {
             const QString file = QString::fromLatin1(language.file);
             QTest::addRow("%s, settings", language.file) << u"registered"_s << u"settings"_s << file;
+            for (const auto &connection : {u"connected"_s, u"connecting"_s, u"redial"_s, u"refused"_s})
+                QTest::addRow("%s, %s", language.file, qPrintable(connection))
+                    << connection << u"connection"_s << file;
             for (const QString &state : fakecard::stateNames()) {
                 QTest::addRow("%s, %s, card", language.file, qPrintable(state)) << state << u"card"_s << file;
                 QTest::addRow("%s, %s, diagnosis", language.file, qPrintable(state))
@@ -187,6 +191,7 @@ private Q_SLOTS:
         m_window->resize(800, 520);
         m_window->show();
         fakecard::put(fakecard::namedState(state));
+        fakeconnection::put(fakeconnection::namedStatus(state));
         if (page.isEmpty())
             m_window->showOfflinePanel();
         else
@@ -244,9 +249,9 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         fakecard::put(fakecard::registeredCard());
         fakecard::takeCalls();
-        QTest::keyClick(m_window.get(), Qt::Key_2, Qt::ControlModifier);
-        QVERIFY(shown<Page>(m_window.get(), u"settings"_s));
         QTest::keyClick(m_window.get(), Qt::Key_1, Qt::ControlModifier);
+        QVERIFY(shown<Page>(m_window.get(), u"connection"_s));
+        QTest::keyClick(m_window.get(), Qt::Key_2, Qt::ControlModifier);
         QVERIFY(shown<Page>(m_window.get(), u"card"_s));
         QTest::keyClick(m_window.get(), Qt::Key_F5);
         QCOMPARE(fakecard::takeCalls(), QStringList{u"refreshNow"_s});
@@ -286,16 +291,16 @@ private Q_SLOTS:
     {
         m_window->show();
         fakecard::put(fakecard::registeredCard());
-        m_window->showPage(u"settings"_s);
-        m_window->showOfflinePanel();
-        m_window->showPage(u"card"_s);
-        for (const QWidget *widget : m_window->findChildren<QWidget *>())
-            if (widget->isVisible() && widget->focusPolicy() & Qt::TabFocus) {
-                const auto *button = qobject_cast<const QAbstractButton *>(widget);
-                const bool isNamed =
-                    !widget->accessibleName().isEmpty() || (button && !button->text().isEmpty());
-                QVERIFY2(isNamed, widget->metaObject()->className());
-            }
+        for (const auto &page : {u"settings"_s, u"card"_s, u"connection"_s}) {
+            m_window->showPage(page);
+            for (const QWidget *widget : m_window->findChildren<QWidget *>())
+                if (widget->isVisible() && widget->focusPolicy() & Qt::TabFocus) {
+                    const auto *button = qobject_cast<const QAbstractButton *>(widget);
+                    const bool isNamed =
+                        !widget->accessibleName().isEmpty() || (button && !button->text().isEmpty());
+                    QVERIFY2(isNamed, widget->metaObject()->className());
+                }
+        }
     }
 
     void pagesAreInTheOrderOfTheRegistry()
