@@ -279,7 +279,7 @@ void ConnectionService::Private::isOver(const LinkOutcome &outcome)
 /// A box only where no further dial follows; the status first, so that who reads the box sees it.
 void ConnectionService::Private::tellOrRedial(const LinkOutcome &outcome, bool wasUp)
 {
-    const QString sentence = outcome.isExplained ? outcome.message : endSentence(outcome.end);
+    const QString sentence = outcome.sentence.isEmpty() ? endSentence(outcome.end) : outcome.sentence;
     const bool isWorthIt = isWorthAnotherDial(outcome.end);
     bool dialsAgain = false;
     if (redial.isActive() && isWorthIt)
@@ -342,7 +342,8 @@ void ConnectionService::Private::takeCard(const CardState &card)
 {
     const bool isGone = card.presence == CardPresence::Absent || card.presence == CardPresence::StorageMode;
     if (isGone && link)
-        link->end({ConnectionEnd::CardGone, -1, tr("The device has been disconnected or is unavailable.")});
+        link->end(
+            {ConnectionEnd::CardGone, -1, tr("The device has been disconnected or is unavailable."), {}});
     autoConnect(card);
 }
 
@@ -366,7 +367,7 @@ void ConnectionService::Private::becameIdle()
         return;
     Q_EMIT q->sigMessage(
         tr("There is no data transported recently. Auto Disconnect will close your internet link."));
-    link->end({ConnectionEnd::Idle, -1, {}});
+    link->end({ConnectionEnd::Idle, -1, {}, {}});
 }
 
 // --- The service
@@ -443,7 +444,7 @@ void ConnectionService::disconnectNow(ConnectionEnd why)
 {
     d->redial.stop();
     if (d->link)
-        d->link->end({why, -1, {}});
+        d->link->end({why, -1, {}, {}});
     d->update([](ConnectionStatus &) {});
 }
 

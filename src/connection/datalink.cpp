@@ -132,7 +132,7 @@ void DataLink::useOwnNameServers()
 
 void DataLink::explain(ConnectionEnd end, const QString &sentence)
 {
-    this->end({end, -1, sentence, true});
+    this->end({end, -1, sentence, sentence});
 }
 
 void DataLink::explain(const DialResult &result)
@@ -143,7 +143,7 @@ void DataLink::explain(const DialResult &result)
 
 void DataLink::fail(ConnectionEnd end, const QString &sentence, int exitCode)
 {
-    this->end({end, exitCode, sentence});
+    this->end({end, exitCode, sentence, {}});
 }
 
 void DataLink::end(const LinkOutcome &why)

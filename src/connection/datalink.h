@@ -34,8 +34,7 @@ struct LinkOutcome {
     ConnectionEnd end = ConnectionEnd::ByPerson;
     int exitCode = -1; ///< pppd's
     QString message;   ///< a box for the person; may be empty
-    /// The message says it better than the end alone, and says what to do.
-    bool isExplained = false;
+    QString sentence;  ///< the same in words where the end alone does not say enough
 };
 
 /// What the ways of making a link share: the card's context comes first, and everything that was changed is

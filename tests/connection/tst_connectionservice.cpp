@@ -163,6 +163,27 @@ private Q_SLOTS:
         QCOMPARE(m_service->status().endSentence, u"This went wrong."_s);
     }
 
+    void diallerEndsWithoutAWord()
+    {
+        beginDial();
+        m_backend->beGone();
+        QTRY_COMPARE(m_backend->asked.count(DialVerb::Dial), 2);
+        QCOMPARE(m_service->status().state, ConnectionState::Connecting);
+        m_backend->beGone();
+        QTRY_COMPARE(m_messages, QStringList{u"Connection is failed!"_s});
+        QCOMPARE(m_service->status().end, ConnectionEnd::DiallerFailed);
+    }
+
+    void diallerSaysWhy()
+    {
+        beginDial();
+        m_backend->say("--> Cannot open /dev/ttyUSB1: Device or resource busy\n");
+        m_backend->beGone();
+        QTRY_COMPARE(m_messages, QStringList{u"Connection is failed!"_s});
+        QVERIFY(m_service->status().endSentence.contains(u"Device or resource busy"_s));
+        QCOMPARE(m_backend->asked.count(DialVerb::Dial), 1);
+    }
+
     void failedRestoreIsTold()
     {
         m_backend->results[DialVerb::Recover] = {DialResult::Kind::Failed, u"Not restored."_s};

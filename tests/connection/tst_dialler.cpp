@@ -223,7 +223,7 @@ private Q_SLOTS:
         makeService(std::make_unique<HelperBackend>(QStringList{helperProgram}));
         tell(R"({"command": "dial-result", "result": "silence"})");
         QVERIFY(m_service->connectNow());
-        QTRY_VERIFY_WITH_TIMEOUT(!running("wvdial").empty(), patience);
+        QTRY_VERIFY_WITH_TIMEOUT(!dialler().empty(), patience);
         kill(running("corva-dialhelpe").at(0), SIGKILL);
         QTRY_COMPARE_WITH_TIMEOUT(m_service->status().state, ConnectionState::NotConnected, patience);
         QCOMPARE(m_service->status().end, ConnectionEnd::DiallerFailed);
@@ -353,15 +353,21 @@ private:
     }
 
     static QString modemPort() { return QFileInfo(basePath + u"/card/modem"_s).canonicalFilePath(); }
+    static QString worldOf(const QString &process)
+    {
+        return QFile::symLinkTarget(u"/proc/%1/ns/mnt"_s.arg(process)).section(u'/', -1);
+    }
+    /// Processes of this test: the machine may have others of that name.
     static std::vector<pid_t> running(const QByteArray &name)
     {
         std::vector<pid_t> pids;
         for (const QString &entry : QDir(u"/proc"_s).entryList(QDir::Dirs))
-            if (const auto stat = processStat(entry.toInt()); stat && stat->name == name && !stat->isZombie())
+            if (const auto stat = processStat(entry.toInt());
+                stat && stat->name == name && !stat->isZombie() && worldOf(entry) == worldOf(u"self"_s))
                 pids.push_back(stat->pid);
         return pids;
     }
-    /// Diallers on the card's port: this machine may have others.
+    /// The true diallers among them.
     static std::vector<pid_t> dialler()
     {
         std::vector<pid_t> pids = running("wvdial");
@@ -387,12 +393,11 @@ static int dialAndDie(const QString &port)
     basePath = QDir::currentPath();
     OwnBackend backend{SystemFiles()};
     for (const DialVerb verb : {DialVerb::Save, DialVerb::Write, DialVerb::Dial})
-        backend.ask(request(verb, port), [verb](const DialResult &result) {
+        backend.ask(request(verb, port), [](const DialResult &result) {
             if (!result.isDone())
                 QCoreApplication::exit(1);
-            else if (verb == DialVerb::Dial)
-                raise(SIGKILL);
         });
+    QObject::connect(&backend, &DiallerBackend::sigOutput, [] { raise(SIGKILL); });
     return QCoreApplication::exec();
 }
 
