@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QLatin1StringView>
 #include <QString>
 #include <array>
 
@@ -38,6 +39,10 @@ enum class ProfileField {
 };
 constexpr int profileFieldCount = 26;
 
+/// How each field's line begins in a record file, in the order of the fields: the label with the blanks and
+/// the "=" that belong to it.
+const std::array<QLatin1StringView, profileFieldCount> &profileLabels();
+
 /// How a profile's link is made. Stored in `PppMode` as "" or anything unknown, "PPP" and "NDIS".
 enum class LinkKind { Automatic, DialUp, NetworkCard };
 
@@ -55,7 +60,7 @@ public:
     }
 
     const QString &name() const { return text(ProfileField::Name); }
-    /// Whether the person may change and delete it.
+    /// Whether the person may change and delete it: unless its text is "cannot&edit".
     bool isEditable() const;
     /// Whether the list shows it: anything but "0".
     bool isShown() const { return text(ProfileField::SectionShow) != u'0'; }

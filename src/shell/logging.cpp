@@ -9,6 +9,7 @@ Q_LOGGING_CATEGORY(lcLink, "corva.link")
 Q_LOGGING_CATEGORY(lcDevice, "corva.device")
 Q_LOGGING_CATEGORY(lcShell, "corva.shell")
 Q_LOGGING_CATEGORY(lcWindow, "corva.window")
+Q_LOGGING_CATEGORY(lcConnection, "corva.connection")
 
 namespace corva
 {

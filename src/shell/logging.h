@@ -4,12 +4,13 @@
 #include <QLoggingCategory>
 #include <QString>
 
-/// Categories of the debug output: "corva.link" (which carries the wire trace), "corva.device", "corva.shell"
-/// and "corva.window". QT_LOGGING_RULES="corva.link=false" silences one.
+/// Categories of the debug output: "corva.link" (which carries the wire trace), "corva.device", "corva.shell",
+/// "corva.window" and "corva.connection". QT_LOGGING_RULES="corva.link=false" silences one.
 Q_DECLARE_LOGGING_CATEGORY(lcLink)
 Q_DECLARE_LOGGING_CATEGORY(lcDevice)
 Q_DECLARE_LOGGING_CATEGORY(lcShell)
 Q_DECLARE_LOGGING_CATEGORY(lcWindow)
+Q_DECLARE_LOGGING_CATEGORY(lcConnection)
 
 namespace corva
 {

@@ -14,7 +14,6 @@
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
-#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -151,14 +150,21 @@ bool writeAll(int descriptor, const QByteArray &content)
     return true;
 }
 
-Step fillAndFlush(NewFile &file, const QByteArray &content, const QString &target)
+Step fill(const NewFile &file, const QByteArray &content, const QString &target)
 {
-    const bool written = writeAll(file.descriptor, content) && ::fsync(file.descriptor) == 0;
+    if (!writeAll(file.descriptor, content))
+        return Failure{QT_TRANSLATE_NOOP("SafeFile", "%1 cannot be written"), target, errno};
+    return {};
+}
+
+Step flush(NewFile &file, const QString &target)
+{
+    const bool flushed = ::fsync(file.descriptor) == 0;
     const int code = errno;
     const bool closed = ::close(file.descriptor) == 0;
     file.descriptor = -1;
-    if (!written || !closed)
-        return Failure{QT_TRANSLATE_NOOP("SafeFile", "%1 cannot be written"), target, written ? errno : code};
+    if (!flushed || !closed)
+        return Failure{QT_TRANSLATE_NOOP("SafeFile", "%1 cannot be written"), target, flushed ? errno : code};
     return {};
 }
 
@@ -180,7 +186,17 @@ void flushFolder(const QString &folder)
         ::close(descriptor);
 }
 
-Step replace(const QString &path, const QByteArray &content)
+Step setRights(int descriptor, const FileRights &rights, const QString &target)
+{
+    const timespec times[] = {{0, UTIME_OMIT}, rights.modified};
+    // The owner first: a change of it takes the set-user-id bit away.
+    if (::fchown(descriptor, rights.owner, rights.group) != 0 || ::fchmod(descriptor, rights.mode) != 0 ||
+        ::futimens(descriptor, times) != 0)
+        return Failure{QT_TRANSLATE_NOOP("SafeFile", "The rights of %1 cannot be set"), target, errno};
+    return {};
+}
+
+Step replace(const QString &path, const QByteArray &content, const FileRights *rights = nullptr)
 {
     const QString targetPath = followLinks(path);
     if (targetPath.isEmpty())
@@ -197,11 +213,15 @@ Step replace(const QString &path, const QByteArray &content)
         return failure;
     removeLeftovers(target);
     failure = createBeside(target, file);
-    if (!failure && exists && status.st_uid != ::geteuid() &&
+    if (!failure && !rights && exists && status.st_uid != ::geteuid() &&
         ::fchown(file.descriptor, status.st_uid, status.st_gid) != 0)
         qCDebug(lcShell).noquote() << logTime() + u"the owner changes:"_s << targetPath;
     if (!failure)
-        failure = fillAndFlush(file, content, targetPath);
+        failure = fill(file, content, targetPath);
+    if (!failure && rights)
+        failure = setRights(file.descriptor, *rights, targetPath);
+    if (!failure)
+        failure = flush(file, targetPath);
     if (!failure)
         failure = renameOver(file, targetPath);
     if (!failure)
@@ -209,23 +229,53 @@ Step replace(const QString &path, const QByteArray &content)
     return failure;
 }
 
-} // namespace
-
-bool writeFileSafely(const QString &path, const QByteArray &content, QString *error)
+bool isDone(const Step &failure, QString *error)
 {
-    const Step failure = replace(path, content);
     if (failure && error)
         *error = failure->text();
     return !failure;
 }
 
+} // namespace
+
+bool writeFileSafely(const QString &path, const QByteArray &content, QString *error)
+{
+    return isDone(replace(path, content), error);
+}
+
+bool writeFileSafely(const QString &path, const QByteArray &content, const FileRights &rights, QString *error)
+{
+    return isDone(replace(path, content, &rights), error);
+}
+
+std::optional<FileRights> fileRights(const QString &path)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return {};
+    return FileRights{status.st_mode & 07777, status.st_uid, status.st_gid, status.st_mtim};
+}
+
+void removeUnfinishedFiles(const QString &path)
+{
+    const QString target = followLinks(path);
+    if (!target.isEmpty())
+        removeLeftovers(QFileInfo(target));
+}
+
 QString keepBrokenFile(const QString &path)
+{
+    return keepFileBeside(path, u"broken"_s);
+}
+
+QString keepFileBeside(const QString &path, const QString &word)
 {
     constexpr int mostTries = 1000;
     const QString target = followLinks(path);
     if (target.isEmpty() || QFileInfo(target).size() == 0 || !QFileInfo(target).isFile())
         return {};
-    const QString kept = target + u".broken-"_s + QDateTime::currentDateTime().toString(u"yyyyMMdd-hhmmss"_s);
+    const QString kept =
+        target + u'.' + word + u'-' + QDateTime::currentDateTime().toString(u"yyyyMMdd-hhmmss"_s);
     for (int i = 1; i <= mostTries; ++i) {
         const QString name = i == 1 ? kept : kept + u'-' + QString::number(i);
         if (QFileInfo::exists(name))

@@ -3,6 +3,9 @@
 
 #include <QByteArray>
 #include <QString>
+#include <ctime>
+#include <optional>
+#include <sys/types.h>
 
 namespace corva
 {
@@ -16,9 +19,30 @@ namespace corva
 /// untouched.
 bool writeFileSafely(const QString &path, const QByteArray &content, QString *error = nullptr);
 
-/// Renames a file that cannot be read to "<name>.broken-yyyyMMdd-hhmmss" beside itself, with a number behind
-/// when that name is taken, so that the first write does not destroy it. A link is followed as above. Returns
-/// the new path; empty when there was nothing to keep (no file, or an empty one) or the renaming failed.
+/// What a file has besides its content.
+struct FileRights {
+    mode_t mode = 0600; ///< the twelve lower bits
+    uid_t owner = 0;
+    gid_t group = 0;
+    timespec modified = {};
+};
+
+/// Of the file that `path` names, links followed. None when there is no such file.
+std::optional<FileRights> fileRights(const QString &path);
+
+/// The same as above for a file that is to have `rights`: they are set before the new file takes its place,
+/// and what cannot be set is a failure.
+bool writeFileSafely(const QString &path, const QByteArray &content, const FileRights &rights,
+                     QString *error = nullptr);
+
+/// Removes what a writer of `path` left that died before the new file took its place.
+void removeUnfinishedFiles(const QString &path);
+
+/// Renames a file to "<name>.<word>-yyyyMMdd-hhmmss" beside itself, with a number behind when that name is
+/// taken, so that the first write does not destroy it: "broken" for one that cannot be read. A link is
+/// followed as above. Returns the new path; empty when there was nothing to keep (no file, or an empty one)
+/// or the renaming failed.
+QString keepFileBeside(const QString &path, const QString &word);
 QString keepBrokenFile(const QString &path);
 
 } // namespace corva

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "connection/dialrequest.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <chrono>
+#include <functional>
+#include <memory>
+
+namespace corva
+{
+
+/// Whoever has the rights to write the system's dialler files and to run the dialler: a thread of this
+/// program, or the helper program behind polkit. Lives on the GUI thread and never blocks it.
+///
+/// Requests are carried out one after another, in the order in which they were asked for, and each is
+/// answered once, on the GUI thread and never from within `ask`.
+class DiallerBackend : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Answer = std::function<void(const DialResult &)>;
+
+    /// The longest that `shutDown` takes: a hang-up, and pppd that has to be killed.
+    static constexpr std::chrono::milliseconds longestShutDown{17000};
+
+    using QObject::QObject;
+
+    virtual void ask(const DialRequest &request, Answer answer) = 0;
+    /// Ends the dialler, puts the system's files back and takes no more requests. Blocks, for as long as pppd
+    /// needs and never longer than some seconds.
+    virtual void shutDown() = 0;
+
+Q_SIGNALS:
+    /// What the dialler wrote, as it comes.
+    void sigOutput(const QByteArray &chunk);
+    /// The dialler has ended, and everything that it started.
+    void sigDiallerGone();
+};
+
+/// In this process when it may do everything itself (run as root), through the helper otherwise.
+std::unique_ptr<DiallerBackend> makeDiallerBackend();
+
+} // namespace corva

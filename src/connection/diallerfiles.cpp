@@ -1,0 +1,372 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "connection/diallerfiles.h"
+
+#include "connection/diallertexts.h"
+#include "connection/filelock.h"
+#include "connection/keptfile.h"
+#include "connection/profilechecks.h"
+#include "shell/logging.h"
+#include "shell/safefile.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+namespace
+{
+
+using Phase = DiallerJournal::Phase;
+using Result = KeptFile::Result;
+
+constexpr const char *saveFailed = QT_TRANSLATE_NOOP("DiallerFiles", "Save wvdial config data failed!");
+constexpr const char *readFailed =
+    QT_TRANSLATE_NOOP("DiallerFiles", "Read default wvdial config data failed!");
+constexpr const char *openFailed = QT_TRANSLATE_NOOP("DiallerFiles", "open file operation error!");
+constexpr const char *recoverFailed = QT_TRANSLATE_NOOP("DiallerFiles", "Recover wvdial config data failed!");
+constexpr const char *dnsInvalid = QT_TRANSLATE_NOOP("DiallerFiles", "The DNS is invalid !");
+
+constexpr qint64 longestResolver = 64 * 1024;
+
+bool removeFile(const QString &path)
+{
+    return ::unlink(QFile::encodeName(path).constData()) == 0 || errno == ENOENT;
+}
+
+QByteArray contentOf(const QString &path, qint64 most)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.read(most) : QByteArray();
+}
+
+QString systemError(const QString &path)
+{
+    return path + u": "_s + QString::fromLocal8Bit(std::strerror(errno));
+}
+
+} // namespace
+
+class DiallerFiles::Private
+{
+public:
+    explicit Private(const SystemFiles &systemFiles)
+        : files(systemFiles), lock(systemFiles.lock),
+          kept{KeptFile(u"wvdial.conf"_s, files.wvdialConf, files.savedWvdialConf, KeptFile::PutBack::Always),
+               KeptFile(u"options"_s, files.pppOptions, files.savedPppOptions, KeptFile::PutBack::Always),
+               KeptFile(u"peer"_s, files.peer, files.savedPeer, KeptFile::PutBack::Always),
+               KeptFile(u"resolver"_s, files.resolver(), files.savedResolvConf, KeptFile::PutBack::IfOurs)}
+    {
+    }
+
+    bool fail(const char *sentence, const QString &what, QString *error);
+    bool takeInHand();
+    bool note(Phase phase);
+    void forget();
+    bool isLeftOver() const;
+    bool save();
+    bool putAllBack(bool copiesMayBeMissing);
+    Result putOneBack(const KeptFile &file, Phase before);
+    bool writeOurs(const KeptFile &file, const QByteArray &content);
+
+    SystemFiles files;
+    FileLock lock;
+    DiallerJournal journal;
+    std::array<KeptFile, 4> kept;
+    QString detail;
+};
+
+bool DiallerFiles::Private::fail(const char *sentence, const QString &what, QString *error)
+{
+    if (!what.isEmpty())
+        detail = what;
+    if (error)
+        *error = QCoreApplication::translate("DiallerFiles", sentence);
+    return false;
+}
+
+/// The journal is read anew only when the files come into hand: while they are, nobody else writes it.
+bool DiallerFiles::Private::takeInHand()
+{
+    if (lock.isHeld())
+        return true;
+    if (!lock.acquire()) {
+        detail = u"another program has the dialler's files in hand"_s;
+        return false;
+    }
+    constexpr qint64 longestJournal = 1024 * 1024;
+    removeUnfinishedFiles(files.journal);
+    journal = DiallerJournal::fromJson(contentOf(files.journal, longestJournal));
+    return true;
+}
+
+bool DiallerFiles::Private::note(Phase phase)
+{
+    journal.phase = phase;
+    return writeFileSafely(files.journal, journal.toJson(), &detail);
+}
+
+void DiallerFiles::Private::forget()
+{
+    journal = {};
+    if (!removeFile(files.journal))
+        detail = systemError(files.journal);
+}
+
+/// The copy of the resolver file alone is none: it may be old, and others keep that file up to date.
+bool DiallerFiles::Private::isLeftOver() const
+{
+    return journal.phase != Phase::None ||
+           std::any_of(kept.begin(), kept.end() - 1, [](const KeptFile &file) { return file.hasCopy(); });
+}
+
+bool DiallerFiles::Private::save()
+{
+    if (isLeftOver() && !putAllBack(true))
+        return false;
+    // Hashes of the program's own that still stand in a place are known from the last journal.
+    if (!note(Phase::Saving))
+        return false;
+    for (const KeptFile &file : kept) {
+        if (!file.take(&journal.files[file.name()], &detail))
+            return false;
+    }
+    return note(Phase::Saved);
+}
+
+Result DiallerFiles::Private::putOneBack(const KeptFile &file, Phase before)
+{
+    switch (before) {
+    case Phase::None: return file.putBackUnknown(&detail);
+    case Phase::Saving: return file.tidy() ? Result::Done : Result::Failed;
+    default: break;
+    }
+    return file.putBack(journal.files[file.name()], before == Phase::Restoring, &detail);
+}
+
+/// Every file is tried. What is known of a file whose copy is lost stays in the journal: the program's own
+/// that stands in its place must not be saved as the person's next time.
+bool DiallerFiles::Private::putAllBack(bool copiesMayBeMissing)
+{
+    const Phase before = journal.phase;
+    if (before == Phase::Saved && !note(Phase::Restoring))
+        return false;
+    DiallerJournal lost;
+    bool isAllBack = true;
+    bool isAllTried = true;
+    for (const KeptFile &file : kept) {
+        const Result result = putOneBack(file, before);
+        if (result == Result::Lost && (before != Phase::None || journal.files.contains(file.name())))
+            lost.files[file.name()].written = journal.files[file.name()].written;
+        isAllTried = isAllTried && result != Result::Failed;
+        isAllBack = isAllBack && (result == Result::Done || (result == Result::Lost && copiesMayBeMissing));
+    }
+    if (!isAllTried)
+        return false;
+    if (lost.files.isEmpty()) {
+        forget();
+        return isAllBack;
+    }
+    journal = lost;
+    return note(Phase::None) && isAllBack;
+}
+
+bool DiallerFiles::Private::writeOurs(const KeptFile &file, const QByteArray &content)
+{
+    journal.files[file.name()].written += DiallerJournal::hashOf(content);
+    return note(Phase::Saved) && file.write(content, &detail);
+}
+
+DiallerFiles::DiallerFiles(const SystemFiles &files) : d(std::make_unique<Private>(files)) {}
+
+DiallerFiles::~DiallerFiles() = default;
+
+const SystemFiles &DiallerFiles::files() const
+{
+    return d->files;
+}
+
+const QString &DiallerFiles::detail() const
+{
+    return d->detail;
+}
+
+bool DiallerFiles::saveConfigData(QString *error)
+{
+    if (!d->takeInHand())
+        return d->fail(saveFailed, {}, error);
+    if (d->save())
+        return true;
+    const QString why = d->detail;
+    if (d->journal.phase == Phase::Saving)
+        d->putAllBack(true);
+    d->lock.release();
+    return d->fail(saveFailed, why, error);
+}
+
+bool DiallerFiles::readDeafaultConfigData(const ConnectionProfile &profile, const QString &modemPort,
+                                          const PppOptions &options, QString *error)
+{
+    const QString refusal = dialRefusal(profile, modemPort);
+    if (!refusal.isEmpty()) {
+        if (error)
+            *error = refusal;
+        d->detail = u"a value of the profile is refused"_s;
+        return false;
+    }
+    if (!d->takeInHand())
+        return d->fail(readFailed, {}, error);
+    if (d->journal.phase != Phase::Saved)
+        return d->fail(readFailed, u"the system's files are not saved"_s, error);
+    const QByteArray contents[] = {wvdialConfText(profile, modemPort), pppOptionsText(profile, options),
+                                   peerText(isSuse())};
+    for (std::size_t i = 0; i < std::size(contents); ++i) {
+        if (!QFileInfo::exists(QFileInfo(d->kept[i].path()).path()))
+            return d->fail(openFailed, d->kept[i].path() + u": no such folder"_s, error);
+        if (!d->writeOurs(d->kept[i], contents[i]))
+            return d->fail(openFailed, {}, error);
+    }
+    return true;
+}
+
+bool DiallerFiles::recoverConfigData(QString *error)
+{
+    if (!d->takeInHand())
+        return d->fail(recoverFailed, {}, error);
+    const bool isBack = d->putAllBack(false);
+    d->lock.release();
+    return isBack || d->fail(recoverFailed, {}, error);
+}
+
+bool DiallerFiles::deleteTmpFile()
+{
+    const bool isRemoved = removeFile(d->files.connectInfo);
+    if (!isRemoved)
+        d->detail = systemError(d->files.connectInfo);
+    if (d->lock.isHeld() || !d->takeInHand())
+        return isRemoved;
+    if (!d->isLeftOver()) {
+        for (const KeptFile &file : d->kept)
+            file.tidy();
+    }
+    d->lock.release();
+    return isRemoved;
+}
+
+bool DiallerFiles::hasLeftovers() const
+{
+    if (d->lock.isHeld() || d->lock.isHeldElsewhere())
+        return false;
+    // The journal of a file that was lost says so, and is nothing to put back.
+    const QFileInfo info(d->files.journal);
+    if (info.exists() && !info.isReadable())
+        return true;
+    d->journal = DiallerJournal::fromJson(contentOf(d->files.journal, info.size()));
+    return d->isLeftOver();
+}
+
+bool DiallerFiles::recoverLeftovers(QString *error)
+{
+    if (d->lock.isHeldElsewhere())
+        return true;
+    if (!d->takeInHand())
+        return d->fail(recoverFailed, {}, error);
+    bool isBack = true;
+    if (d->isLeftOver()) {
+        isBack = d->putAllBack(d->journal.phase == Phase::None);
+        removeFile(d->files.connectInfo);
+    }
+    d->lock.release();
+    return isBack || d->fail(recoverFailed, {}, error);
+}
+
+bool DiallerFiles::noteResolver()
+{
+    if (d->journal.phase != Phase::Saved)
+        return false;
+    const KeptFile &resolver = d->kept.back();
+    d->journal.files[resolver.name()].written +=
+        DiallerJournal::hashOf(contentOf(resolver.path(), longestResolver));
+    return d->note(Phase::Saved);
+}
+
+bool DiallerFiles::saveManualDNS(const QString &preferred, const QString &alternative, QString *error)
+{
+    if (!isHostAddress(preferred) || (!alternative.isEmpty() && !isHostAddress(alternative)))
+        return d->fail(dnsInvalid, u"no dotted quad"_s, error);
+    if (!d->takeInHand())
+        return d->fail(openFailed, {}, error);
+    if (d->journal.phase != Phase::Saved)
+        return d->fail(openFailed, u"the system's files are not saved"_s, error);
+
+    const KeptFile &resolver = d->kept.back();
+    const QStringList servers =
+        alternative.isEmpty() ? QStringList{preferred} : QStringList{preferred, alternative};
+    const QByteArray content = resolverText(contentOf(resolver.path(), longestResolver), servers);
+    // Every program must be able to read it.
+    FileRights rights{S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH, ::geteuid(), ::getegid(), {0, UTIME_NOW}};
+    if (const auto present = fileRights(resolver.path())) {
+        rights = *present;
+        rights.modified = {0, UTIME_NOW};
+    }
+    d->journal.files[resolver.name()].written += DiallerJournal::hashOf(content);
+    const bool isWritten =
+        d->note(Phase::Saved) && writeFileSafely(resolver.path(), content, rights, &d->detail);
+    return isWritten || d->fail(openFailed, {}, error);
+}
+
+bool DiallerFiles::makeConnectInfo(QString *error)
+{
+    if (!removeFile(d->files.connectInfo))
+        return d->fail(openFailed, systemError(d->files.connectInfo), error);
+    const int descriptor = ::open(QFile::encodeName(d->files.connectInfo).constData(),
+                                  O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (descriptor < 0)
+        return d->fail(openFailed, systemError(d->files.connectInfo), error);
+    ::close(descriptor);
+    return true;
+}
+
+QByteArray DiallerFiles::connectInfo() const
+{
+    constexpr qint64 most = 1024 * 1024;
+    const int descriptor = ::open(QFile::encodeName(d->files.connectInfo).constData(),
+                                  O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
+        return {};
+    struct stat status = {};
+    const bool isOwn =
+        ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == ::geteuid();
+    QFile file;
+    if (!file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle)) {
+        ::close(descriptor);
+        return {};
+    }
+    return isOwn && file.seek(qMax<qint64>(0, status.st_size - most)) ? file.read(most) : QByteArray();
+}
+
+bool DiallerFiles::isOSDistro(const QString &name) const
+{
+    constexpr qint64 longestIssue = 64 * 1024;
+    return QString::fromUtf8(contentOf(d->files.issue, longestIssue)).contains(name, Qt::CaseInsensitive);
+}
+
+bool DiallerFiles::isSuse() const
+{
+    const bool isSuse = isOSDistro(u"suse"_s);
+    if (isSuse)
+        qCDebug(lcConnection).noquote() << logTime() + u"It's suse."_s;
+    return isSuse;
+}
+
+} // namespace corva

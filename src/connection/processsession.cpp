@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "connection/processsession.h"
+
+#include "shell/safefile.h"
+
+#include <QDir>
+#include <QFile>
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+namespace
+{
+
+// Fields behind the name, which stands in brackets and may hold anything.
+constexpr int stateField = 0;
+constexpr int sessionField = 3;
+constexpr int startTimeField = 19;
+
+} // namespace
+
+std::optional<ProcessStat> parseProcessStat(const QByteArray &line)
+{
+    const qsizetype open = line.indexOf('(');
+    const qsizetype close = line.lastIndexOf(')');
+    if (open < 0 || close < open)
+        return std::nullopt;
+    const QList<QByteArray> fields = line.mid(close + 1).simplified().split(' ');
+    if (fields.size() <= startTimeField || fields.at(stateField).size() != 1)
+        return std::nullopt;
+    ProcessStat stat;
+    bool isPid = false;
+    stat.pid = line.left(open).trimmed().toInt(&isPid);
+    stat.name = line.mid(open + 1, close - open - 1);
+    stat.state = fields.at(stateField).at(0);
+    stat.session = fields.at(sessionField).toInt();
+    stat.startTime = fields.at(startTimeField).toULongLong();
+    return isPid ? std::optional(stat) : std::nullopt;
+}
+
+std::optional<ProcessStat> processStat(pid_t pid)
+{
+    QFile file(u"/proc/%1/stat"_s.arg(pid));
+    return file.open(QIODevice::ReadOnly) ? parseProcessStat(file.readAll()) : std::nullopt;
+}
+
+std::vector<ProcessStat> membersOfSession(pid_t session)
+{
+    std::vector<ProcessStat> members;
+    if (session <= 1)
+        return members;
+    const QStringList entries = QDir(u"/proc"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::NoSort);
+    for (const QString &entry : entries) {
+        const pid_t pid = entry.toInt();
+        if (const auto stat = pid > 0 ? processStat(pid) : std::nullopt)
+            if (stat->session == session && !stat->isZombie())
+                members.push_back(*stat);
+    }
+    return members;
+}
+
+int signalSession(pid_t session, int signal, const QByteArray &name)
+{
+    int count = 0;
+    for (const ProcessStat &member : membersOfSession(session))
+        if ((name.isEmpty() || member.name == name) && kill(member.pid, signal) == 0)
+            ++count;
+    return count;
+}
+
+bool noteSession(const QString &path, pid_t leader)
+{
+    const auto stat = processStat(leader);
+    return stat && writeFileSafely(path, QByteArray::number(leader) + ' ' +
+                                             QByteArray::number(qulonglong(stat->startTime)) + '\n');
+}
+
+pid_t notedSession(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    const QList<QByteArray> words = file.read(64).simplified().split(' ');
+    const pid_t leader = words.at(0).toInt();
+    const auto now = leader > 1 ? processStat(leader) : std::nullopt;
+    const bool isStranger = now && (words.size() < 2 || now->startTime != words.at(1).toULongLong());
+    return isStranger || membersOfSession(leader).empty() ? 0 : leader;
+}
+
+} // namespace corva
