@@ -5,11 +5,13 @@ import hashlib
 import json
 import os
 import pathlib
+import re
 import signal
 import stat
 import subprocess
 import sys
 import tempfile
+import threading
 import time
 
 HERE = pathlib.Path(__file__).resolve().parent
@@ -60,12 +62,18 @@ class Etc:
 
     def differences(self):
         now = dict(self.look())
-        return sorted(path for path in self.files.keys() | now.keys() if self.files.get(path) != now.get(path))
+        aspects = ("mode", "owner", "group", "content")
+        for path in sorted(self.files.keys() | now.keys()):
+            before, after = self.files.get(path), now.get(path)
+            if before is None or after is None:
+                yield f"{path} ({'new' if before is None else 'gone'})"
+            elif before != after:
+                yield f"{path} ({', '.join(name for name, a, b in zip(aspects, before, after) if a != b)})"
 
     def wait_same(self, seconds=10.0):
         """Returns once /etc is as it was."""
         end = time.monotonic() + seconds
-        while different := self.differences():
+        while different := list(self.differences()):
             assert time.monotonic() < end, f"not as before in /etc: {', '.join(different)}"
             time.sleep(0.1)
 
@@ -104,6 +112,49 @@ class Network:
         return time.monotonic() - begin
 
 
+class Recorder:
+    """Keeps a file's last text, also when the file is gone."""
+
+    def __init__(self, path):
+        self.path = pathlib.Path(path)
+        self.text = ""
+        threading.Thread(target=self.look, daemon=True).start()
+
+    def look(self):
+        while True:
+            with contextlib.suppress(OSError):
+                self.text = self.path.read_text(errors="replace") or self.text
+            time.sleep(0.05)
+
+
+class DtrWatch:
+    """Calls `dropped` with an interface's number when the computer lowers that serial port's DTR.
+
+    The gadget's side cannot see it, so it is taken from the driver's own request on the bus, SET_CONTROL_LINE_STATE.
+    """
+
+    TRACING = pathlib.Path("/sys/kernel/tracing")
+    REQUEST, TO_INTERFACE = 0x22, 0x21
+
+    def __init__(self, dropped):
+        self.dropped = dropped
+        if not (self.TRACING / "kprobe_events").exists():
+            run("mount", "-t", "tracefs", "tracefs", self.TRACING)
+        (self.TRACING / "kprobe_events").write_text(
+            "p:linestate usb_control_msg request=%dx:u8 type=%cx:u8 value=%r8:u16 index=%r9:u16\n")
+        event = self.TRACING / "events/kprobes/linestate"
+        (event / "filter").write_text(f"request == {self.REQUEST} && type == {self.TO_INTERFACE}")
+        (event / "enable").write_text("1")
+        threading.Thread(target=self.look, daemon=True).start()
+
+    def look(self):
+        with open(self.TRACING / "trace_pipe") as pipe:
+            for line in pipe:
+                found = re.search(r"value=(\d+) index=(\d+)", line)
+                if found and not int(found[1]) & 1:
+                    self.dropped(int(found[2]))
+
+
 class GadgetCard(Card):
     """The emulated card behind a USB gadget: /dev/ttyUSB* for the computer, with the network behind its data port."""
 
@@ -126,6 +177,10 @@ class GadgetCard(Card):
                                         stdout=self.output, stderr=self.output)
         wait_for("the card's control socket", (folder / "control").exists)
         self.plug()
+
+    def dtr_dropped(self, interface):
+        if interface == self.INTERFACES["modem"] and self.network_process():
+            subprocess.run([APP / "cardctl", self.folder, "drop-data"], capture_output=True)
 
     @staticmethod
     def peer(*options):
@@ -290,6 +345,9 @@ class World:
         prepare_system()
         self.network = Network(self.folder)
         self.etc = Etc()
+        self.dialler_words = Recorder("/tmp/connect_info")
+        self.current_card = None
+        DtrWatch(lambda interface: self.current_card and self.current_card.dtr_dropped(interface))
         self.count = 0
 
     def new_folder(self, name):
@@ -298,10 +356,11 @@ class World:
 
     @contextlib.contextmanager
     def card(self, **options):
-        card = GadgetCard(self.new_folder("card"), **options)
+        self.current_card = card = GadgetCard(self.new_folder("card"), **options)
         try:
             yield card
         finally:
+            self.current_card = None
             card.end()
 
     @contextlib.contextmanager
@@ -327,7 +386,8 @@ class World:
                 log.write(f"=== {words}\n")
                 log.flush()
                 subprocess.run(words.split(), stdout=log, stderr=log)
-        for source, name in ((program.folder / "output.txt", "output"), (pathlib.Path("/tmp/connect_info"), "connect_info"),
+        (EXCHANGE / f"failed{self.count}-dialler.txt").write_text(self.dialler_words.text)
+        for source, name in ((program.folder / "output.txt", "output"),
                              (pathlib.Path("/tmp/network-side.log"), "network-side")):
             with contextlib.suppress(Exception):
                 (EXCHANGE / f"failed{self.count}-{name}.txt").write_bytes(source.read_bytes())
