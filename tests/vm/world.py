@@ -128,7 +128,7 @@ class Recorder:
 
 
 class DtrWatch:
-    """Calls `dropped` with an interface's number when the computer lowers that serial port's DTR.
+    """Calls `changed` with an interface's number and whether its DTR is up, whenever the computer sets it.
 
     The gadget's side cannot see it, so it is taken from the driver's own request on the bus, SET_CONTROL_LINE_STATE.
     """
@@ -136,8 +136,8 @@ class DtrWatch:
     TRACING = pathlib.Path("/sys/kernel/tracing")
     REQUEST, TO_INTERFACE = 0x22, 0x21
 
-    def __init__(self, dropped):
-        self.dropped = dropped
+    def __init__(self, changed):
+        self.changed = changed
         if not (self.TRACING / "kprobe_events").exists():
             run("mount", "-t", "tracefs", "tracefs", self.TRACING)
         (self.TRACING / "kprobe_events").write_text(
@@ -151,8 +151,8 @@ class DtrWatch:
         with open(self.TRACING / "trace_pipe") as pipe:
             for line in pipe:
                 found = re.search(r"value=(\d+) index=(\d+)", line)
-                if found and not int(found[1]) & 1:
-                    self.dropped(int(found[2]))
+                if found:
+                    self.changed(int(found[2]), bool(int(found[1]) & 1))
 
 
 class GadgetCard(Card):
@@ -178,9 +178,19 @@ class GadgetCard(Card):
         wait_for("the card's control socket", (folder / "control").exists)
         self.plug()
 
-    def dtr_dropped(self, interface):
-        if interface == self.INTERFACES["modem"] and self.network_process():
-            subprocess.run([APP / "cardctl", self.folder, "drop-data"], capture_output=True)
+    def dtr_changed(self, interface, is_up):
+        """A lowered DTR ends the call. Not at once: pppd says goodbye over the line at the same moment, and cannot be told
+        that it is dead, since the gadget has no carrier detect either."""
+        if interface != self.INTERFACES["modem"]:
+            return
+        self.hang_up.cancel()
+        self.hang_up = threading.Timer(0 if is_up else 3, self.end_call)
+        self.hang_up.start()
+
+    def end_call(self):
+        with contextlib.suppress(subprocess.CalledProcessError):
+            if self.dtr_call and self.network_process() == self.dtr_call:
+                self.say("drop-data")
 
     @staticmethod
     def peer(*options):
@@ -347,7 +357,7 @@ class World:
         self.etc = Etc()
         self.dialler_words = Recorder("/tmp/connect_info")
         self.current_card = None
-        DtrWatch(lambda interface: self.current_card and self.current_card.dtr_dropped(interface))
+        DtrWatch(lambda interface, is_up: self.current_card and self.current_card.dtr_changed(interface, is_up))
         self.count = 0
 
     def new_folder(self, name):
