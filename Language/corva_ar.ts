@@ -591,6 +591,23 @@
         <source>%1 is a ring of links</source>
         <translation>%1 حلقة من الروابط</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>لا يمكن الاحتفاظ بملف الإعدادات التالف</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>تعذّرت قراءة الإعدادات، فبدأ البرنامج دون أي إعداد. حُفظ الملف غير المقروء باسم:
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>لا يمكن حفظ الإعدادات: %1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
@@ -1113,6 +1130,13 @@
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>إحدى الخطوات غير سليمة. بعد إصلاحها تتبعها الخطوات التالية تلقائيًا.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>تعذّر حفظ الإعداد: %1</translation>
     </message>
 </context>
 <context>

@@ -591,6 +591,23 @@
         <source>%1 is a ring of links</source>
         <translation>%1 es un bucle de enlaces</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>No se puede conservar el archivo de configuración dañado</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>No se pudo leer la configuración, así que el programa empezó sin nada configurado. El archivo ilegible se conservó como:
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>No se puede guardar la configuración: %1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
@@ -1109,6 +1126,13 @@
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>Un paso presenta un problema. Los siguientes se harán por sí solos.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>No se pudo guardar el ajuste: %1</translation>
     </message>
 </context>
 <context>

@@ -591,6 +591,23 @@
         <source>%1 is a ring of links</source>
         <translation>%1 é um ciclo de ligações</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>Não é possível conservar o ficheiro de definições danificado</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>Não foi possível ler as definições, por isso o programa começou sem nada definido. O ficheiro ilegível foi guardado como:
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>Não é possível guardar as definições: %1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
@@ -1109,6 +1126,13 @@
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>Um passo não está em ordem. Os passos seguintes vêm por si.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>Não foi possível guardar a definição: %1</translation>
     </message>
 </context>
 <context>

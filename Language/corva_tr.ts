@@ -591,6 +591,23 @@
         <source>%1 is a ring of links</source>
         <translation>%1 kendine dönen bir bağlantı</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>Bozuk ayar dosyası saklanamıyor</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>Ayarlar okunamadı; program hiçbir ayar olmadan başladı. Okunamayan dosya şu adla saklandı:
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>Ayarlar kaydedilemiyor: %1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
@@ -1108,6 +1125,13 @@
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>Bir adım yolunda değil. Sonraki adımlar kendiliğinden gelir.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>Ayar kaydedilemedi: %1</translation>
     </message>
 </context>
 <context>

@@ -107,14 +107,14 @@ QCheckBox *GeneralPage::buildSwitch(const QString &text, const QString &key)
     box->setChecked(cmcfg.getNumber(u"window"_s, key) == 1);
     box->setMinimumHeight(metrics::ControlHeight);
     connect(box, &QCheckBox::toggled, this,
-            [key](bool on) { cmcfg.setValue(u"window"_s, key, on ? u"1"_s : u"0"_s); });
+            [this, key](bool on) { store(u"window"_s, key, on ? u"1"_s : u"0"_s); });
     return box;
 }
 
 void GeneralPage::takeLanguage(const QString &file)
 {
-    cmcfg.setValue(u"function"_s, u"selected-language"_s, file);
-    Q_EMIT sigSaid(tr("The language is stored. It takes effect when the program starts next."));
+    if (store(u"function"_s, u"selected-language"_s, file))
+        Q_EMIT sigSaid(tr("The language is stored. It takes effect when the program starts next."));
 }
 
 void GeneralPage::takeSkin(const QString &file)

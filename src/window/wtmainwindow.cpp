@@ -14,6 +14,7 @@
 #include "window/mender.h"
 #include "window/navigation.h"
 #include "window/pagehost.h"
+#include "window/settingsnotice.h"
 #include "window/splash.h"
 #include "window/statusstrip.h"
 #include "window/topbar.h"
@@ -284,6 +285,7 @@ void WTMainWindow::finishShowing()
         showInFront();
         aboutShow();
     });
+    tellOfSettings(cmcfg, this);
     askForPinOnce(m_monitor->state());
 }
 
