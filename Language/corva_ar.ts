@@ -945,8 +945,8 @@
         <translation>تتعذر قراءة شريحة SIM. أخرجها ثم أعدها.</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>لم تستجب البطاقة. لم يتغيّر شيء؛ حاول مرة أخرى.</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>لم تستجب البطاقة في الوقت المناسب. لا يُعرف هل قبلت ما أُدخل؛ تُعرض المحاولات المتبقية إن كانت البطاقة تذكرها.</translation>
     </message>
 </context>
 <context>

@@ -941,8 +941,8 @@
         <translation>No se puede leer la tarjeta SIM. Sáquela y vuelva a insertarla.</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>La tarjeta no respondió. Nada ha cambiado; inténtelo de nuevo.</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>La módem no respondió a tiempo. No se sabe si aceptó lo introducido; los intentos restantes se muestran si la tarjeta los indica.</translation>
     </message>
 </context>
 <context>

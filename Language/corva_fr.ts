@@ -941,8 +941,8 @@
         <translation>La carte SIM est illisible. Retirez-la et remettez-la.</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>La carte n’a pas répondu. Rien n’a changé&#xa0;; réessayez.</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>La carte n’a pas répondu à temps. On ne sait pas si elle a accepté la saisie&#xa0;; les essais restants sont affichés si la carte les indique.</translation>
     </message>
 </context>
 <context>

@@ -941,8 +941,8 @@
         <translation>Não é possível ler o cartão SIM. Retire-o e volte a inseri-lo.</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>A placa não respondeu. Nada mudou; tente de novo.</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>A placa não respondeu a tempo. Não se sabe se aceitou o que foi introduzido; as tentativas restantes são mostradas se a placa as indicar.</translation>
     </message>
 </context>
 <context>

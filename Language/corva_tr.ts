@@ -940,8 +940,8 @@
         <translation>SIM kart okunamıyor. Çıkarıp yeniden takın.</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>Kart yanıt vermedi. Hiçbir şey değişmedi; yeniden deneyin.</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>Kart zamanında yanıt vermedi. Girileni kabul edip etmediği bilinmiyor; kart bildiriyorsa kalan deneme sayısı gösterilir.</translation>
     </message>
 </context>
 <context>

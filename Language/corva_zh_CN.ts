@@ -940,8 +940,8 @@
         <translation>无法读取 SIM 卡。请取出后重新装入。</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>上网卡未响应。未作任何更改，请重试。</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>上网卡未及时响应，无法确定是否已接受输入；若上网卡提供剩余次数，会显示出来。</translation>
     </message>
 </context>
 <context>
