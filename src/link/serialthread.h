@@ -136,6 +136,8 @@ public:
     int getJvn(char *text);
     /// The raw reply of reading the SIM's ICCID file. 1 or 0.
     int getICCID(char *text);
+    /// The raw reply of reading the SIM's file with its provider's name. 1 or 0.
+    int getSPN(char *text);
     /// The subscriber's identity, digits. 3GPP TS 27.007 5.6.
     int getCIMI(char *text);
     /// The SIM's own number. 3GPP TS 27.007 7.1.
@@ -243,6 +245,7 @@ private:
     int rawText(const QByteArray &cmd, char *text, std::chrono::microseconds timeout, bool failsOnCmeError);
     int identityText(const QByteArray &cmd, const QByteArray &prefix, char *text,
                      std::chrono::microseconds timeout);
+    int simFile(const QByteArray &cmd, char *text);
     int phonebookCapacity(const char *store);
 
     LinkOwner *const m_owner;

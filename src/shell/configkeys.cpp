@@ -84,9 +84,9 @@ constexpr ConfigKey keys[] = {
 
     {"network"_L1, "serchNetworkAlowSentAt_enabled"_L1, Flag, "0"_L1, "1: other commands may be sent to the card while a network search runs."_L1},
 
-    {"plmn_display_setting"_L1, "isPNNAlwaysShow"_L1, Flag, "0"_L1, "The network's own name (PNN) is always shown."_L1},
-    {"plmn_display_setting"_L1, "isPNNNeverShow"_L1, Flag, "0"_L1, "The network's own name (PNN) is never shown."_L1},
-    {"plmn_display_setting"_L1, "isSPNAlwaysShow"_L1, Flag, "0"_L1, "The SIM's provider name (SPN) is always shown."_L1},
+    {"plmn_display_setting"_L1, "isPNNAlwaysShow"_L1, Flag, "0"_L1, "The network's own name (PNN) is always shown, in brackets behind the provider's."_L1},
+    {"plmn_display_setting"_L1, "isPNNNeverShow"_L1, Flag, "0"_L1, "The network's own name (PNN) is never shown. Goes over \"always\", here and below."_L1},
+    {"plmn_display_setting"_L1, "isSPNAlwaysShow"_L1, Flag, "0"_L1, "The SIM's provider name (SPN) is always shown. With all four off the SIM itself says which."_L1},
     {"plmn_display_setting"_L1, "isSPNNeverShow"_L1, Flag, "0"_L1, "The SIM's provider name (SPN) is never shown."_L1},
 
     {"sms"_L1, "validPeriod"_L1, Number, "3"_L1, "How long the network keeps a message it cannot deliver: 0 is 12 hours, 1 a day, 2 a week, anything else the longest time."_L1},

@@ -77,6 +77,7 @@ private Q_SLOTS:
         QCOMPARE(state().identity.imsi, u"001010123456789"_s);
         QCOMPARE(state().identity.iccid, u"89001010123456789015"_s);
         QCOMPARE(state().identity.ownNumber, u"+12025550123"_s);
+        QCOMPARE(state().identity.provider.name, u"Test Network"_s);
     }
 
     void changesAreSeen()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "link/simprovider.h"
 #include "link/statusparsers.h"
 
 #include <QTest>
@@ -27,6 +28,10 @@ struct Say {
     static QString of(const RegistrationState &s)
     {
         return u"%1 %2 %3 %4"_s.arg(of(int(s.stat)), of(s.lac), of(s.cellId), of(int(s.networkType)));
+    }
+    static QString of(const SimProvider &p)
+    {
+        return u"[%1] %2 %3"_s.arg(p.name, of(int(p.wantsNetworkAtHome)), of(int(p.isSilentAbroad)));
     }
     static QString of(const SystemInformation &s)
     {
@@ -80,6 +85,7 @@ constexpr Parser cpin = parsed<&parseSimState>;
 constexpr Parser identity = parsedLine<&parseIdentity>;
 constexpr Parser cimi = parsed<&parseImsi>;
 constexpr Parser iccid = parsed<&parseIccid>;
+constexpr Parser provider = parsed<&parseProvider>;
 constexpr Parser cnum = parsed<&parseOwnNumber>;
 constexpr Parser cpbr = parsed<&parsePhonebookCapacity>;
 
@@ -157,6 +163,22 @@ const Row rows[] = {
     {"SIM's number, no such file", iccid, "|+CRSM: 148,4|OK|", "!refused 148"},
     {"SIM's number, cut", iccid, "|+CRSM: 144,0,9800|OK|", "!bad field ICCID"},
     {"SIM's number, letters", iccid, "|+CRSM: 144,0,\"ABCDEABCDEABCDEABCDE\"|OK|", "!bad field ICCID"},
+    {"provider", provider, "|+CRSM: 144,0,\"0154657374204EF7FFFFFFFFFFFFFFFFFF\"|OK|", "[Test N] 1 0"},
+    {"provider, at home alone", provider, "|+CRSM: 144,0,0254656CFF|OK|", "[Tel] 0 1"},
+    {"provider, letters and an extension", provider, "|+CRSM: 144,0,005B1B651B5E0009FF|OK|",
+     "[\u00c4\u20ac\u00dc@\u00c7] 0 0"},
+    {"provider, UCS2", provider, "|+CRSM: 144,0,00804E2D56FDFFFFFF|OK|", "[\u4e2d\u56fd] 0 0"},
+    {"provider, UCS2, half a character", provider, "|+CRSM: 144,0,00804E2D56|OK|", "[\u4e2d] 0 0"},
+    {"provider, near a base octet", provider, "|+CRSM: 144,0,00810508C2D045C6FFFF|OK|",
+     "[\u0442\u0450E\u0446\u047f] 0 0"},
+    {"provider, near a base", provider, "|+CRSM: 144,0,0082030410844180FF|OK|", "[\u0414A\u0410] 0 0"},
+    {"provider, more told than there is", provider, "|+CRSM: 144,0,0082FF041084|OK|", "[\u0414] 0 0"},
+    {"provider, base cut", provider, "|+CRSM: 144,0,00820104|OK|", "[] 0 0"},
+    {"provider, a turn of the writing", provider, "|+CRSM: 144,0,0080202E0041000A0042|OK|", "[AB] 0 0"},
+    {"provider, none", provider, "|+CRSM: 144,0,\"00FFFFFFFF\"|OK|", "[] 0 0"},
+    {"provider, no such file", provider, "|+CRSM: 106,130|OK|", "!refused 106"},
+    {"provider, no digits", provider, "|+CRSM: 144,0,\"00XY\"|OK|", "!bad field provider"},
+    {"provider, half an octet", provider, "|+CRSM: 144,0,\"00546\"|OK|", "!bad field provider"},
     {"own number abroad", cnum, "|+CNUM: \"me, here\",\"12025550123\",145|OK|", "+12025550123"},
     {"own number at home", cnum, "|+CNUM: ,\"0305550123\",129|OK|", "0305550123"},
     {"own number, no number", cnum, "|+CNUM: \"\",\"call me\",129|OK|", "!bad field number"},
@@ -185,7 +207,7 @@ private Q_SLOTS:
         QFETCH(int, index);
         const Row &row = rows[index];
         QCOMPARE(row.parser(QByteArray(row.reply).replace('|', "|\r\n").replace('|', QByteArrayView())),
-                 QLatin1StringView(row.value));
+                 QString::fromUtf8(row.value));
     }
 };
 
