@@ -54,6 +54,20 @@ PinOutcome pinOutcome(int result)
     }
 }
 
+/// Opens the port for this program alone. 0, or the error with the port closed again.
+int openClaimed(SerialThread &link, const QString &port)
+{
+    const int fd = link.openPort(port);
+    if (fd < 0)
+        return errno;
+    const int error = claimPort(fd);
+    if (error != 0) {
+        link.closePortNormal(fd);
+        link.forgetPort();
+    }
+    return error;
+}
+
 } // namespace
 
 /// What lives behind the monitor. Members marked (worker) belong to the card worker alone.
@@ -143,13 +157,8 @@ void CardMonitor::Private::search(bool byFixedNames)
 ProbeResult CardMonitor::Private::probe(const QString &port)
 {
     closePorts();
-    const int fd = link.openPort(port);
-    if (fd < 0)
-        return {ProbeResult::Verdict::CannotOpen, errno};
-    if (const int error = claimPort(fd)) {
-        closePorts();
+    if (const int error = openClaimed(link, port))
         return {ProbeResult::Verdict::CannotOpen, error};
-    }
     openPort = port;
     if (link.sendNULL_ATCmd() == 1)
         return {ProbeResult::Verdict::Answered, 0};
@@ -161,16 +170,17 @@ void CardMonitor::Private::useCard(const FoundCard &card)
 {
     if (openPort != card.ports.at) {
         closePorts();
-        if (link.openPort(card.ports.at) < 0)
-            return;
-        claimPort(link.descriptor());
+        if (openClaimed(link, card.ports.at) != 0)
+            return; // the next search says why
         openPort = card.ports.at;
     }
     const CardFamily family = card.family.value_or(link.family());
     link.setFamily(family);
     if (voiceLink && !card.ports.voice.isEmpty()) {
         voiceLink->setFamily(family);
-        voiceLink->openPort(card.ports.voice);
+        if (const int error = openClaimed(*voiceLink, card.ports.voice))
+            qCWarning(lcDevice).noquote().nospace()
+                << logTime() << "the voice port " << card.ports.voice << ": " << qt_error_string(error);
     }
     silentRounds = 0;
     identityTries = mostIdentityTries;
@@ -198,7 +208,8 @@ void CardMonitor::Private::identify()
         SerialThread::writeUpdateHardwareCfg(&reader.state().identity);
 }
 
-/// CDMA cards keep their echo: some of their replies are told apart by it alone.
+/// By the card's family: a CDMA card keeps its echo, the others lose it. What a reply means does not hang on
+/// it, since replies are judged by the command that was sent.
 void CardMonitor::Private::setEcho()
 {
     echoIsDue = true;

@@ -10,6 +10,9 @@
 #include <QJsonArray>
 #include <QSignalSpy>
 #include <QTest>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -172,6 +175,23 @@ private Q_SLOTS:
         const auto last = m_monitor->enterPin(u"1234"_s); // behind every poll that waits; polls once itself
         QTRY_VERIFY_WITH_TIMEOUT(last.isFinished(), patience);
         QVERIFY(asked("AT+CSQ") - before <= 3);
+    }
+
+    void itsPortsAreKeptFromOthers()
+    {
+        cmcfg.setValue(u"call"_s, u"enable"_s, u"1"_s);
+        cmcfg.setValue(u"device"_s, u"voice_port"_s, m_folder.path() + u"/card/voice"_s);
+        begin(u"wcdma"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(state().modemReady, patience);
+        for (const auto *port : {"at", "voice"}) {
+            const QByteArray path = QFile::encodeName(m_folder.path()) + "/card/" + port;
+            const int other = ::open(path.constData(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+            const bool isFree = flock(other, LOCK_EX | LOCK_NB) == 0;
+            ::close(other);
+            QVERIFY2(other >= 0 && !isFree, port);
+        }
+        cmcfg.setValue(u"call"_s, u"enable"_s, {});
+        cmcfg.setValue(u"device"_s, u"voice_port"_s, {});
     }
 
     void stopDuringTheSearch()
