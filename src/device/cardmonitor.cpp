@@ -345,6 +345,8 @@ void CardMonitor::start()
 {
     const bool newWay = cmcfg.getNumber(u"function"_s, u"findAtAndModemNewWay"_s) != 0;
     d->hotplug.watchPorts(d->finder.portsToWatch(newWay));
+    // What an earlier run left there may be a card that is gone.
+    d->worker.submit([](SerialThread &) { SerialThread::writeUpdateHardwareCfg(nullptr); });
     d->worker.start();
     d->link.start();
     d->echoTimer.start(echoDelay);

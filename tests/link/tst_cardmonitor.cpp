@@ -194,6 +194,13 @@ private Q_SLOTS:
         cmcfg.setValue(u"device"_s, u"voice_port"_s, {});
     }
 
+    void theUpdaterHearsThatNoCardIsThere()
+    {
+        QVERIFY(UpdateCfg::setValue(UpdateKey::DeviceReady, u"1"_s)); // a run that ended without a word
+        startMonitor();
+        QTRY_COMPARE_WITH_TIMEOUT(UpdateCfg::value(UpdateKey::DeviceReady), u"0"_s, patience);
+    }
+
     void stopDuringTheSearch()
     {
         plugIn(u"wcdma"_s);
