@@ -24,6 +24,8 @@ namespace corva
 namespace
 {
 
+const QString deviceSection = u"device"_s;
+const QString lastCardKey = u"last_card"_s;
 constexpr auto statusInterval = 4000ms;
 constexpr auto echoDelay = 2000ms;
 constexpr int silentRoundsUntilGivenUp = 3;
@@ -87,6 +89,7 @@ public:
     void loseCard();
     void closePorts();
     void wokeUp();
+    void rememberCard();
     void publish();
     void publish(const CardState &state);
     void say(const QString &sentence);
@@ -115,6 +118,7 @@ CardMonitor::Private::Private(CardMonitor *monitor, LinkOwner *owner)
       finder(ModemTypes::load(basePath + u"/Data/modem_types.xml"_s), DeviceSettings::fromConfiguration()),
       reader(link)
 {
+    finder.preferCard(cmcfg.getValue(deviceSection, lastCardKey));
     if (cmcfg.getNumber(u"call"_s, u"enable"_s) == 1)
         voiceLink = std::make_unique<SerialThread>(owner);
     worker.setAfterEach([this](SerialThread &) { checkPort(); });
@@ -130,6 +134,7 @@ void CardMonitor::Private::search(bool byFixedNames)
     newWay = byFixedNames;
     const auto ask = [this](const QString &port) { return probe(port); };
     const FoundCard card = newWay ? finder.findByFixedNames(ask) : finder.find(ask);
+    rememberCard();
     if (card.presence == CardPresence::Ready)
         useCard(card);
     else
@@ -278,6 +283,18 @@ void CardMonitor::Private::wokeUp()
     } else if (foundPortFlag) {
         poll();
     }
+}
+
+/// Keeps the card used last for the next start; settings are written on the GUI thread.
+void CardMonitor::Private::rememberCard()
+{
+    QMetaObject::invokeMethod(
+        q,
+        [key = finder.preferredCard()] {
+            if (cmcfg.getValue(deviceSection, lastCardKey) != key)
+                cmcfg.setValue(deviceSection, lastCardKey, key);
+        },
+        Qt::QueuedConnection);
 }
 
 void CardMonitor::Private::say(const QString &sentence)

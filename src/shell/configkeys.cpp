@@ -121,6 +121,7 @@ constexpr ConfigKey keys[] = {
     {"device"_L1, "at_port"_L1, File, ""_L1, "Command port of a serial, Bluetooth or emulated card, e.g. /dev/ttyS0. Empty: USB cards are searched."_L1},
     {"device"_L1, "modem_port"_L1, File, ""_L1, "Data port of that card."_L1},
     {"device"_L1, "voice_port"_L1, File, ""_L1, "Voice port of that card."_L1},
+    {"device"_L1, "last_card"_L1, Text, ""_L1, "The USB card used last, tried first where there are several. Written by the program."_L1},
 };
 // clang-format on
 
