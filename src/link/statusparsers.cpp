@@ -187,8 +187,6 @@ ReplyResult<SystemInformation> parseSysInfo(const QByteArray &reply)
     if (const auto roaming = fields->number(2, 0, 1))
         information.roaming = *roaming == 1;
     information.networkType = networkTypeOfMode(fields->number(3, 0, 255), fields->number(6, 0, 255));
-    if (const auto sim = fields->number(4, 0, 255))
-        information.simPresent = *sim != 255;
     return information;
 }
 
