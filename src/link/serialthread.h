@@ -13,6 +13,11 @@
 
 class LinkOwner;
 
+namespace corva
+{
+class ReplyReader;
+}
+
 /// True once the search has found and confirmed the AT port. Cleared by whoever notices that the card has
 /// gone.
 extern std::atomic<bool> foundPortFlag;
@@ -238,7 +243,8 @@ private:
     bool writeCommand(const char *cmd, bool isLogged);
     bool waitForLockAndWrite(const char *cmd);
     int collectReply(int fd, QByteArray &reply, std::chrono::seconds whole, std::chrono::microseconds rest);
-    int failReply(const char *line);
+    QString readReply(int fd, corva::ReplyReader &reader, qint64 &roundsLeft);
+    QString waitForBytes(int fd, qint64 &roundsLeft);
     std::optional<QByteArray> drain();
     void runStartJobs();
     bool sleepTwoSeconds();
