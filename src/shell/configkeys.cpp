@@ -44,7 +44,7 @@ constexpr ConfigKey keys[] = {
     {"fontsetting"_L1, "mainwindow_fontsize"_L1, Number, "0"_L1, "Font size of the main window, in points. 0: the skin's."_L1},
     {"fontsetting"_L1, "phonewindow_fontname"_L1, Text, ""_L1, "Font family of the contacts. Empty: the program's."_L1},
 
-    {"resource_position"_L1, "tooltipLabel_y"_L1, Pixels, "0"_L1, "Moves the tool-tip label down, away from its usual place."_L1},
+    {"resource_position"_L1, "tooltipLabel_y"_L1, Pixels, "0"_L1, "Shows tool tips so far below their usual place; above it when negative."_L1},
     {"resource_position"_L1, "topicon_width"_L1, Pixels, "20"_L1, "Width of the icons in the top bar. 0: 20."_L1},
 
     {"window"_L1, "page"_L1, Text, "card"_L1, "The page that was open last."_L1},
