@@ -1029,6 +1029,10 @@
         <source>General</source>
         <translation>عام</translation>
     </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>البحث عن الت&amp;حديثات</translation>
+    </message>
 </context>
 <context>
     <name>corva::IconButton</name>

@@ -1025,6 +1025,10 @@
         <source>General</source>
         <translation>General</translation>
     </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>B&amp;uscar actualizaciones</translation>
+    </message>
 </context>
 <context>
     <name>corva::IconButton</name>

@@ -1025,6 +1025,10 @@
         <source>General</source>
         <translation>Général</translation>
     </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>Rechercher les mises à jo&amp;ur</translation>
+    </message>
 </context>
 <context>
     <name>corva::IconButton</name>

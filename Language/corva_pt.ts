@@ -1025,6 +1025,10 @@
         <source>General</source>
         <translation>Geral</translation>
     </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>Proc&amp;urar atualizações</translation>
+    </message>
 </context>
 <context>
     <name>corva::IconButton</name>

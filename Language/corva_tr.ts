@@ -1024,6 +1024,10 @@
         <source>General</source>
         <translation>Genel</translation>
     </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>&amp;Güncellemeleri ara</translation>
+    </message>
 </context>
 <context>
     <name>corva::IconButton</name>

@@ -1024,6 +1024,10 @@
         <source>General</source>
         <translation>常规</translation>
     </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>检查更新(&amp;U)</translation>
+    </message>
 </context>
 <context>
     <name>corva::IconButton</name>

@@ -10,8 +10,13 @@ bool SettingsPage::store(const QString &section, const QString &key, const QStri
 {
     cmcfg.setValue(section, key, value);
     const QString error = cmcfg.lastError();
-    Q_EMIT sigSaid(error.isEmpty() ? QString() : tr("The setting could not be stored: %1").arg(error));
+    sayStored(error);
     return error.isEmpty();
+}
+
+void SettingsPage::sayStored(const QString &error)
+{
+    Q_EMIT sigSaid(error.isEmpty() ? QString() : tr("The setting could not be stored: %1").arg(error));
 }
 
 } // namespace corva
