@@ -11,6 +11,7 @@
 #include "widgets/line.h"
 #include "widgets/messagequeue.h"
 #include "widgets/skin.h"
+#include "widgets/tooltipmover.h"
 #include "window/aboutbox.h"
 #include "window/desktoppresence.h"
 #include "window/edgegrips.h"
@@ -19,6 +20,7 @@
 #include "window/navigation.h"
 #include "window/pagehost.h"
 #include "window/services.h"
+#include "window/settingsnotice.h"
 #include "window/splash.h"
 #include "window/statusstrip.h"
 #include "window/topbar.h"
@@ -352,6 +354,9 @@ void WTMainWindow::finishShowing()
         showInFront();
         aboutShow();
     });
+    if (const int pixelsDown = cmcfg.getNumber(u"resource_position"_s, u"tooltipLabel_y"_s))
+        new ToolTipMover(pixelsDown, this);
+    tellOfSettings(cmcfg, this);
     askForPinOnce(m_monitor->state());
     connect(new EndSignals(this), &EndSignals::sigEnd, this, &WTMainWindow::quit);
 }

@@ -6,8 +6,8 @@
 #include "connection/ui/choicedialog.h"
 #include "connection/ui/credentialsdialog.h"
 #include "device/cardmonitor.h"
-#include "widgets/messagequeue.h"
 #include "shell/whendone.h"
+#include "widgets/messagequeue.h"
 
 #include <QPromise>
 #include <QThreadPool>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "settings/settingcontrols.h"
+#include "settings/settingspage.h"
 
 #include "shell/commoncfg.h"
 #include "widgets/skin.h"
@@ -37,20 +37,20 @@ QWidget *captioned(const QString &caption, QWidget *control, QWidget *parent)
     return row;
 }
 
-QCheckBox *settingSwitch(const QString &text, const SettingKey &key, QWidget *parent)
+QCheckBox *SettingsPage::settingSwitch(const QString &text, const SettingKey &key)
 {
-    auto *box = new QCheckBox(text, parent);
+    auto *box = new QCheckBox(text, this);
     box->setObjectName(key.name);
     box->setChecked(cmcfg.getNumber(key.section, key.name) == 1);
     box->setMinimumHeight(metrics::ControlHeight);
-    QObject::connect(box, &QCheckBox::toggled, box,
-                     [key](bool on) { cmcfg.setValue(key.section, key.name, on ? u"1"_s : u"0"_s); });
+    connect(box, &QCheckBox::toggled, this,
+            [this, key](bool on) { store(key.section, key.name, on ? u"1"_s : u"0"_s); });
     return box;
 }
 
-QSpinBox *settingNumber(const SettingNumber &number, QWidget *parent)
+QSpinBox *SettingsPage::settingNumber(const SettingNumber &number)
 {
-    auto *box = new QSpinBox(parent);
+    auto *box = new QSpinBox(this);
     box->setObjectName(number.key.name);
     box->setRange(number.least, number.most);
     box->setSuffix(number.unit);
@@ -58,10 +58,22 @@ QSpinBox *settingNumber(const SettingNumber &number, QWidget *parent)
     box->setMinimumHeight(metrics::ControlHeight);
     const int stored = cmcfg.getNumber(number.key.section, number.key.name);
     box->setValue(stored == 0 ? number.insteadOfNone : stored);
-    QObject::connect(box, &QSpinBox::valueChanged, box, [key = number.key](int value) {
-        cmcfg.setValue(key.section, key.name, QString::number(value));
-    });
+    connect(box, &QSpinBox::valueChanged, this,
+            [this, key = number.key](int value) { store(key.section, key.name, QString::number(value)); });
     return box;
+}
+
+bool SettingsPage::store(const QString &section, const QString &key, const QString &value)
+{
+    cmcfg.setValue(section, key, value);
+    const QString error = cmcfg.lastError();
+    sayStored(error);
+    return error.isEmpty();
+}
+
+void SettingsPage::sayStored(const QString &error)
+{
+    Q_EMIT sigSaid(error.isEmpty() ? QString() : tr("The setting could not be stored: %1").arg(error));
 }
 
 } // namespace corva
