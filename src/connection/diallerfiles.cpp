@@ -102,7 +102,7 @@ bool DiallerFiles::Private::takeInHand()
         detail = u"another program has the dialler's files in hand"_s;
         return false;
     }
-    constexpr qint64 longestJournal = 1024 * 1024;
+    constexpr qint64 longestJournal = 1024LL * 1024;
     removeUnfinishedFiles(files.journal);
     journal = DiallerJournal::fromJson(contentOf(files.journal, longestJournal));
     return true;
@@ -297,7 +297,7 @@ bool DiallerFiles::saveManualDNS(const QString &preferred, const QString &altern
     if (d->journal.phase != Phase::Saved)
         return d->fail(openFailed, u"the system's files are not saved"_s, error);
 
-    constexpr qint64 longestResolver = 64 * 1024;
+    constexpr qint64 longestResolver = 64LL * 1024;
     const KeptFile &resolver = d->kept.back();
     const QStringList servers =
         alternative.isEmpty() ? QStringList{preferred} : QStringList{preferred, alternative};
@@ -328,7 +328,7 @@ bool DiallerFiles::makeConnectInfo(QString *error)
 
 QByteArray DiallerFiles::connectInfo() const
 {
-    constexpr qint64 most = 1024 * 1024;
+    constexpr qint64 most = 1024LL * 1024;
     const int descriptor = ::open(QFile::encodeName(d->files.connectInfo).constData(),
                                   O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0)
@@ -346,7 +346,7 @@ QByteArray DiallerFiles::connectInfo() const
 
 bool DiallerFiles::isOSDistro(const QString &name) const
 {
-    constexpr qint64 longestIssue = 64 * 1024;
+    constexpr qint64 longestIssue = 64LL * 1024;
     return QString::fromUtf8(contentOf(d->files.issue, longestIssue)).contains(name, Qt::CaseInsensitive);
 }
 

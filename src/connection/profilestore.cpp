@@ -122,7 +122,7 @@ QString ProfileStore::problem() const
 
 QString ProfileStore::refusal(const ConnectionProfile &profile, const QString &oldName) const
 {
-    const QString reason = profileRefusal(profile);
+    QString reason = profileRefusal(profile);
     if (reason.isEmpty() && profile.name() != oldName && find(profile.name()))
         return tr("There is a profile with this name already.");
     return reason;

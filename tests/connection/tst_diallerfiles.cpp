@@ -429,8 +429,8 @@ void TestDiallerFiles::killedAnywhere()
         // The putting back is killed as well, and begun again.
         runAndKill(recover, random.bounded(calls / 4));
         DiallerFiles files(m_files);
-        const bool isBack = round % 2 == 0 ? files.recoverLeftovers()
-                                           : files.saveConfigData() && files.recoverConfigData();
+        const bool isBack =
+            round % 2 == 0 ? files.recoverLeftovers() : files.saveConfigData() && files.recoverConfigData();
         QVERIFY2(isBack, qPrintable(files.detail()));
         if (snapshot(m_root->path()) != before)
             qWarning("killed before the system call number %d of %d", moment, calls);
