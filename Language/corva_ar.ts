@@ -591,6 +591,23 @@
         <source>%1 is a ring of links</source>
         <translation>%1 حلقة من الروابط</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>لا يمكن الاحتفاظ بملف الإعدادات التالف</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>تعذّرت قراءة الإعدادات، فبدأ البرنامج دون أي إعداد. حُفظ الملف غير المقروء باسم:
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>لا يمكن حفظ الإعدادات: %1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
@@ -928,8 +945,8 @@
         <translation>تتعذر قراءة شريحة SIM. أخرجها ثم أعدها.</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>لم تستجب البطاقة. لم يتغيّر شيء؛ حاول مرة أخرى.</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>لم تستجب البطاقة في الوقت المناسب. لا يُعرف هل قبلت ما أُدخل؛ تُعرض المحاولات المتبقية إن كانت البطاقة تذكرها.</translation>
     </message>
 </context>
 <context>
@@ -1011,6 +1028,10 @@
     <message>
         <source>General</source>
         <translation>عام</translation>
+    </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>البحث عن الت&amp;حديثات</translation>
     </message>
 </context>
 <context>
@@ -1113,6 +1134,13 @@
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>إحدى الخطوات غير سليمة. بعد إصلاحها تتبعها الخطوات التالية تلقائيًا.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>تعذّر حفظ الإعداد: %1</translation>
     </message>
 </context>
 <context>

@@ -591,6 +591,23 @@
         <source>%1 is a ring of links</source>
         <translation>%1 es un bucle de enlaces</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>No se puede conservar el archivo de configuración dañado</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>No se pudo leer la configuración, así que el programa empezó sin nada configurado. El archivo ilegible se conservó como:
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>No se puede guardar la configuración: %1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
@@ -924,8 +941,8 @@
         <translation>No se puede leer la tarjeta SIM. Sáquela y vuelva a insertarla.</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>La tarjeta no respondió. Nada ha cambiado; inténtelo de nuevo.</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>La módem no respondió a tiempo. No se sabe si aceptó lo introducido; los intentos restantes se muestran si la tarjeta los indica.</translation>
     </message>
 </context>
 <context>
@@ -1007,6 +1024,10 @@
     <message>
         <source>General</source>
         <translation>General</translation>
+    </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>B&amp;uscar actualizaciones</translation>
     </message>
 </context>
 <context>
@@ -1109,6 +1130,13 @@
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>Un paso presenta un problema. Los siguientes se harán por sí solos.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>No se pudo guardar el ajuste: %1</translation>
     </message>
 </context>
 <context>

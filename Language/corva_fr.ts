@@ -591,6 +591,23 @@
         <source>%1 is a ring of links</source>
         <translation>%1 est une boucle de liens</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>Le fichier de paramètres endommagé ne peut pas être conservé</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>Les paramètres n’ont pas pu être lus&#xa0;; le programme a démarré sans aucun réglage. Le fichier illisible a été conservé sous&#xa0;:
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>Les paramètres ne peuvent pas être enregistrés&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
@@ -924,8 +941,8 @@
         <translation>La carte SIM est illisible. Retirez-la et remettez-la.</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>La carte n’a pas répondu. Rien n’a changé&#xa0;; réessayez.</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>La carte n’a pas répondu à temps. On ne sait pas si elle a accepté la saisie&#xa0;; les essais restants sont affichés si la carte les indique.</translation>
     </message>
 </context>
 <context>
@@ -1007,6 +1024,10 @@
     <message>
         <source>General</source>
         <translation>Général</translation>
+    </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>Rechercher les mises à jo&amp;ur</translation>
     </message>
 </context>
 <context>
@@ -1109,6 +1130,13 @@
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>Une étape pose problème. Les suivantes se feront d’elles-mêmes.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>Le réglage n’a pas pu être enregistré&#xa0;: %1</translation>
     </message>
 </context>
 <context>

@@ -591,6 +591,23 @@
         <source>%1 is a ring of links</source>
         <translation>%1 é um ciclo de ligações</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>Não é possível conservar o ficheiro de definições danificado</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>Não foi possível ler as definições, por isso o programa começou sem nada definido. O ficheiro ilegível foi guardado como:
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>Não é possível guardar as definições: %1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
@@ -924,8 +941,8 @@
         <translation>Não é possível ler o cartão SIM. Retire-o e volte a inseri-lo.</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>A placa não respondeu. Nada mudou; tente de novo.</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>A placa não respondeu a tempo. Não se sabe se aceitou o que foi introduzido; as tentativas restantes são mostradas se a placa as indicar.</translation>
     </message>
 </context>
 <context>
@@ -1007,6 +1024,10 @@
     <message>
         <source>General</source>
         <translation>Geral</translation>
+    </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>Proc&amp;urar atualizações</translation>
     </message>
 </context>
 <context>
@@ -1109,6 +1130,13 @@
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>Um passo não está em ordem. Os passos seguintes vêm por si.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>Não foi possível guardar a definição: %1</translation>
     </message>
 </context>
 <context>

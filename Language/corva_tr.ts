@@ -591,6 +591,23 @@
         <source>%1 is a ring of links</source>
         <translation>%1 kendine dönen bir bağlantı</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>Bozuk ayar dosyası saklanamıyor</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>Ayarlar okunamadı; program hiçbir ayar olmadan başladı. Okunamayan dosya şu adla saklandı:
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>Ayarlar kaydedilemiyor: %1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
@@ -923,8 +940,8 @@
         <translation>SIM kart okunamıyor. Çıkarıp yeniden takın.</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>Kart yanıt vermedi. Hiçbir şey değişmedi; yeniden deneyin.</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>Kart zamanında yanıt vermedi. Girileni kabul edip etmediği bilinmiyor; kart bildiriyorsa kalan deneme sayısı gösterilir.</translation>
     </message>
 </context>
 <context>
@@ -1006,6 +1023,10 @@
     <message>
         <source>General</source>
         <translation>Genel</translation>
+    </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>&amp;Güncellemeleri ara</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1129,13 @@
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>Bir adım yolunda değil. Sonraki adımlar kendiliğinden gelir.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>Ayar kaydedilemedi: %1</translation>
     </message>
 </context>
 <context>

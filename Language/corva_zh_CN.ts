@@ -591,6 +591,23 @@
         <source>%1 is a ring of links</source>
         <translation>%1 是循环链接</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>无法保留损坏的设置文件</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>无法读取设置，程序以未设置的状态启动。无法读取的文件已保留为：
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>无法保存设置：%1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
@@ -923,8 +940,8 @@
         <translation>无法读取 SIM 卡。请取出后重新装入。</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>上网卡未响应。未作任何更改，请重试。</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>上网卡未及时响应，无法确定是否已接受输入；若上网卡提供剩余次数，会显示出来。</translation>
     </message>
 </context>
 <context>
@@ -1006,6 +1023,10 @@
     <message>
         <source>General</source>
         <translation>常规</translation>
+    </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>检查更新(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1129,13 @@
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>有一个步骤不正常。解决后，其后的步骤会自动继续。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>无法保存该设置：%1</translation>
     </message>
 </context>
 <context>

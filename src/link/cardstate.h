@@ -60,6 +60,14 @@ enum class NetworkType {
     Lte
 };
 
+/// What the SIM says about the name of its provider. 3GPP TS 31.102 4.2.12.
+struct SimProvider {
+    QString name;                    ///< empty when the SIM holds none
+    bool wantsNetworkAtHome = false; ///< at home the network's own name belongs beside it
+    bool isSilentAbroad = false;     ///< abroad the network's name stands alone
+    bool operator==(const SimProvider &) const = default;
+};
+
 /// Who the card is. Read once after it was found; an empty text means "not known".
 struct CardIdentity {
     QString manufacturer;
@@ -70,6 +78,7 @@ struct CardIdentity {
     QString imsi;
     QString iccid;
     QString ownNumber;
+    SimProvider provider = {};
     bool operator==(const CardIdentity &) const = default;
 };
 

@@ -170,13 +170,6 @@ int SerialThread::resAtStr(int fd, char *reply, int seconds, int microseconds)
     return result;
 }
 
-int SerialThread::failReply(const char *line)
-{
-    logLine(QString::fromLatin1(line));
-    receive_flag = false;
-    return -1;
-}
-
 int SerialThread::collectReply(int fd, QByteArray &reply, seconds whole, microseconds rest)
 {
     reply.clear();
@@ -184,36 +177,12 @@ int SerialThread::collectReply(int fd, QByteArray &reply, seconds whole, microse
         return 0;
 
     corva::ReplyReader reader;
-    // A round is spent only when its 100 ms were silent to the end.
     auto roundsLeft = std::max<qint64>((whole + rest) / round100ms, 0);
-    std::size_t notesLogged = 0;
-    for (;;) {
-        while (m_ahead.isEmpty()) {
-            Wait wait = waitFor(fd, POLLIN, int(firstPoll.count()));
-            if (wait == Wait::Silent && roundsLeft > 0)
-                wait = waitFor(fd, POLLIN, int(round100ms.count()));
-            else if (wait == Wait::Silent)
-                return failReply("****** select of SerialThread::resAtStr is timerout");
-            if (wait == Wait::Failed) {
-                const int error = errno;
-                return failReply(
-                    qPrintable(u"select of SerialThread::resAtStr is ko,errno = %1!"_s.arg(error)));
-            }
-            if (wait == Wait::Silent)
-                --roundsLeft;
-            else if (!fillBuffer(fd))
-                return failReply("SerialThread::resAtStr() ===> no data to read!");
-        }
-        const auto progress = reader.feed(m_ahead);
-        m_ahead.remove(0, progress.consumed);
-        for (; notesLogged < reader.notes().size(); ++notesLogged)
-            logLine(QString::fromLatin1(reader.notes()[notesLogged]));
-        if (progress.status == corva::ReplyReader::Status::TooLong) {
-            m_ahead.clear();
-            return failReply("****** SerialThread::resAtStr: the reply is too long");
-        }
-        if (progress.status == corva::ReplyReader::Status::Complete)
-            break;
+    const QString failure = readReply(fd, reader, roundsLeft);
+    if (!failure.isEmpty()) {
+        logLine(failure);
+        receive_flag = false;
+        return -1;
     }
     reply = reader.reply();
     findUpReportAtCmd(QString::fromLatin1(reply));
@@ -223,6 +192,48 @@ int SerialThread::collectReply(int fd, QByteArray &reply, seconds whole, microse
     logLine(u"****** in resAtStr, pResStr = %1"_s.arg(readable(reply)));
     receive_flag = false;
     return 1;
+}
+
+/// Feeds the reader until its reply is complete. Returns why it is not; empty when it is.
+QString SerialThread::readReply(int fd, corva::ReplyReader &reader, qint64 &roundsLeft)
+{
+    std::size_t notesLogged = 0;
+    for (;;) {
+        QString failure = waitForBytes(fd, roundsLeft);
+        if (!failure.isEmpty())
+            return failure;
+        const auto progress = reader.feed(m_ahead);
+        m_ahead.remove(0, progress.consumed);
+        for (; notesLogged < reader.notes().size(); ++notesLogged)
+            logLine(QString::fromLatin1(reader.notes()[notesLogged]));
+        if (progress.status == corva::ReplyReader::Status::TooLong) {
+            m_ahead.clear();
+            return u"****** SerialThread::resAtStr: the reply is too long"_s;
+        }
+        if (progress.status == corva::ReplyReader::Status::Complete)
+            return {};
+    }
+}
+
+/// Until bytes wait in the buffer. A round is spent only when its 100 ms were silent to the end. Returns why
+/// none came; empty when some did.
+QString SerialThread::waitForBytes(int fd, qint64 &roundsLeft)
+{
+    while (m_ahead.isEmpty()) {
+        Wait wait = waitFor(fd, POLLIN, int(firstPoll.count()));
+        if (wait == Wait::Silent) {
+            if (roundsLeft == 0)
+                return u"****** select of SerialThread::resAtStr is timerout"_s;
+            wait = waitFor(fd, POLLIN, int(round100ms.count()));
+        }
+        if (wait == Wait::Failed)
+            return u"select of SerialThread::resAtStr is ko,errno = %1!"_s.arg(errno);
+        if (wait == Wait::Silent)
+            --roundsLeft;
+        else if (!fillBuffer(fd))
+            return u"SerialThread::resAtStr() ===> no data to read!"_s;
+    }
+    return {};
 }
 
 /// What the card sent since the last transaction, until it is silent for 2 ms. Half a line is waited for a

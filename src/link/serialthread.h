@@ -13,6 +13,11 @@
 
 class LinkOwner;
 
+namespace corva
+{
+class ReplyReader;
+}
+
 /// True once the search has found and confirmed the AT port. Cleared by whoever notices that the card has
 /// gone.
 extern std::atomic<bool> foundPortFlag;
@@ -136,6 +141,8 @@ public:
     int getJvn(char *text);
     /// The raw reply of reading the SIM's ICCID file. 1 or 0.
     int getICCID(char *text);
+    /// The raw reply of reading the SIM's file with its provider's name. 1 or 0.
+    int getSPN(char *text);
     /// The subscriber's identity, digits. 3GPP TS 27.007 5.6.
     int getCIMI(char *text);
     /// The SIM's own number. 3GPP TS 27.007 7.1.
@@ -236,13 +243,15 @@ private:
     bool writeCommand(const char *cmd, bool isLogged);
     bool waitForLockAndWrite(const char *cmd);
     int collectReply(int fd, QByteArray &reply, std::chrono::seconds whole, std::chrono::microseconds rest);
-    int failReply(const char *line);
+    QString readReply(int fd, corva::ReplyReader &reader, qint64 &roundsLeft);
+    QString waitForBytes(int fd, qint64 &roundsLeft);
     std::optional<QByteArray> drain();
     void runStartJobs();
     bool sleepTwoSeconds();
     int rawText(const QByteArray &cmd, char *text, std::chrono::microseconds timeout, bool failsOnCmeError);
     int identityText(const QByteArray &cmd, const QByteArray &prefix, char *text,
                      std::chrono::microseconds timeout);
+    int simFile(const QByteArray &cmd, char *text);
     int phonebookCapacity(const char *store);
 
     LinkOwner *const m_owner;

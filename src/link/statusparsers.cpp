@@ -159,8 +159,10 @@ ReplyResult<RegistrationState> parseRegistration(const QByteArray &reply, QByteA
     const auto fields = AtFields::find(reply, prefix);
     if (!fields)
         return fields.error();
-    // The report has no <n>: its second field, where there is one, is the quoted area code.
-    const qsizetype at = fields->count() > 1 && !fields->isQuoted(1) ? 1 : 0;
+    // The report has no <n>: its second field, where there is one, is the area code. Some cards leave out its
+    // quotes, but not one of its four digits.
+    const bool isReport = fields->count() == 1 || fields->isQuoted(1) || fields->text(1).size() == 4;
+    const qsizetype at = isReport ? 0 : 1;
     const auto stat = registrationOf(fields->number(at, 0, 10));
     if (!stat)
         return badField("stat");
@@ -185,8 +187,6 @@ ReplyResult<SystemInformation> parseSysInfo(const QByteArray &reply)
     if (const auto roaming = fields->number(2, 0, 1))
         information.roaming = *roaming == 1;
     information.networkType = networkTypeOfMode(fields->number(3, 0, 255), fields->number(6, 0, 255));
-    if (const auto sim = fields->number(4, 0, 255))
-        information.simPresent = *sim != 255;
     return information;
 }
 

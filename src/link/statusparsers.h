@@ -54,7 +54,6 @@ struct SystemInformation {
     ServiceState service = ServiceState::Unknown;
     std::optional<bool> roaming;
     NetworkType networkType = NetworkType::Unknown;
-    std::optional<bool> simPresent;
     bool operator==(const SystemInformation &) const = default;
 };
 ReplyResult<SystemInformation> parseSysInfo(const QByteArray &reply);

@@ -4,6 +4,9 @@
 #include "settings/languages.h"
 #include "settings/skinchooser.h"
 #include "shell/commoncfg.h"
+#include "shell/commonconfig.h"
+#include "shell/globals.h"
+#include "shell/updatecfg.h"
 #include "widgets/factrow.h"
 #include "widgets/skin.h"
 #include "widgets/textlabel.h"
@@ -31,6 +34,21 @@ QString shownName(const Skin &skin)
     if (skin.name == "Dark"_L1)
         return GeneralPage::tr("Dark");
     return skin.name.isEmpty() ? skin.file : skin.name;
+}
+
+/// An external updater is there when it has left its period, or somebody has switched it before.
+bool hasUpdater()
+{
+    return !UpdateCfg::value(UpdateKey::UpdateFrequence).isEmpty() ||
+           !UpdateCfg::value(UpdateKey::EnableUpdate).isEmpty();
+}
+
+/// Who this program is.
+void tellUpdater()
+{
+    UpdateCfg::setValues({{UpdateKey::CmName, comcfg.softwareName},
+                          {UpdateKey::LanguageType, cmcfg.getValue(u"function"_s, u"selected-language"_s)},
+                          {UpdateKey::SoftwareVersion, readVersionInfo()}});
 }
 
 QWidget *captioned(const QString &caption, QWidget *control, QWidget *parent)
@@ -71,7 +89,10 @@ GeneralPage::GeneralPage(QWidget *parent) : SettingsPage(parent)
     layout->addWidget(
         buildSwitch(tr("&Notify about calls and messages on the desktop"), u"notifications_enabled"_s), 0,
         Qt::AlignLeading);
+    if (hasUpdater())
+        layout->addWidget(buildUpdates(), 0, Qt::AlignLeading);
     layout->addStretch(1);
+    tellUpdater();
 }
 
 QWidget *GeneralPage::buildLanguage()
@@ -107,13 +128,28 @@ QCheckBox *GeneralPage::buildSwitch(const QString &text, const QString &key)
     box->setChecked(cmcfg.getNumber(u"window"_s, key) == 1);
     box->setMinimumHeight(metrics::ControlHeight);
     connect(box, &QCheckBox::toggled, this,
-            [key](bool on) { cmcfg.setValue(u"window"_s, key, on ? u"1"_s : u"0"_s); });
+            [this, key](bool on) { store(u"window"_s, key, on ? u"1"_s : u"0"_s); });
+    return box;
+}
+
+QCheckBox *GeneralPage::buildUpdates()
+{
+    auto *box = new QCheckBox(tr("Look for &updates"), this);
+    box->setObjectName(u"updates"_s);
+    box->setChecked(UpdateCfg::value(UpdateKey::EnableUpdate).toInt() == 1);
+    box->setMinimumHeight(metrics::ControlHeight);
+    connect(box, &QCheckBox::toggled, this, [this](bool on) {
+        const bool isStored = UpdateCfg::setValue(UpdateKey::EnableUpdate, on ? u"1"_s : u"0"_s);
+        sayStored(isStored ? QString() : u"UpdateCfg.ini"_s);
+    });
     return box;
 }
 
 void GeneralPage::takeLanguage(const QString &file)
 {
-    cmcfg.setValue(u"function"_s, u"selected-language"_s, file);
+    if (!store(u"function"_s, u"selected-language"_s, file))
+        return;
+    tellUpdater();
     Q_EMIT sigSaid(tr("The language is stored. It takes effect when the program starts next."));
 }
 

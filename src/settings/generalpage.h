@@ -22,6 +22,7 @@ private:
     QWidget *buildLanguage();
     QWidget *buildSkin();
     QCheckBox *buildSwitch(const QString &text, const QString &key);
+    QCheckBox *buildUpdates();
     void takeLanguage(const QString &file);
     void takeSkin(const QString &file);
 };

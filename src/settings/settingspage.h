@@ -20,6 +20,13 @@ public:
 Q_SIGNALS:
     /// A sentence for the foot of the settings: what was stored, what takes effect when, or what went wrong.
     void sigSaid(const QString &sentence);
+
+protected:
+    /// Stores one setting at once. When the file could not be written the foot says why, the value holds
+    /// until the program ends, and this returns false; else the foot is empty.
+    bool store(const QString &section, const QString &key, const QString &value);
+    /// What `store` says in the end, for a setting that is kept elsewhere: why it failed, or nothing.
+    void sayStored(const QString &error);
 };
 
 /// A contribution to the settings: how the list of groups names it, and how it is built.

@@ -44,7 +44,7 @@ constexpr ConfigKey keys[] = {
     {"fontsetting"_L1, "mainwindow_fontsize"_L1, Number, "0"_L1, "Font size of the main window, in points. 0: the skin's."_L1},
     {"fontsetting"_L1, "phonewindow_fontname"_L1, Text, ""_L1, "Font family of the contacts. Empty: the program's."_L1},
 
-    {"resource_position"_L1, "tooltipLabel_y"_L1, Pixels, "0"_L1, "Moves the tool-tip label down, away from its usual place."_L1},
+    {"resource_position"_L1, "tooltipLabel_y"_L1, Pixels, "0"_L1, "Shows tool tips so far below their usual place; above it when negative."_L1},
     {"resource_position"_L1, "topicon_width"_L1, Pixels, "20"_L1, "Width of the icons in the top bar. 0: 20."_L1},
 
     {"window"_L1, "page"_L1, Text, "card"_L1, "The page that was open last."_L1},
@@ -84,9 +84,9 @@ constexpr ConfigKey keys[] = {
 
     {"network"_L1, "serchNetworkAlowSentAt_enabled"_L1, Flag, "0"_L1, "1: other commands may be sent to the card while a network search runs."_L1},
 
-    {"plmn_display_setting"_L1, "isPNNAlwaysShow"_L1, Flag, "0"_L1, "The network's own name (PNN) is always shown."_L1},
-    {"plmn_display_setting"_L1, "isPNNNeverShow"_L1, Flag, "0"_L1, "The network's own name (PNN) is never shown."_L1},
-    {"plmn_display_setting"_L1, "isSPNAlwaysShow"_L1, Flag, "0"_L1, "The SIM's provider name (SPN) is always shown."_L1},
+    {"plmn_display_setting"_L1, "isPNNAlwaysShow"_L1, Flag, "0"_L1, "The network's own name (PNN) is always shown, in brackets behind the provider's."_L1},
+    {"plmn_display_setting"_L1, "isPNNNeverShow"_L1, Flag, "0"_L1, "The network's own name (PNN) is never shown. Goes over \"always\", here and below."_L1},
+    {"plmn_display_setting"_L1, "isSPNAlwaysShow"_L1, Flag, "0"_L1, "The SIM's provider name (SPN) is always shown. With all four off the SIM itself says which."_L1},
     {"plmn_display_setting"_L1, "isSPNNeverShow"_L1, Flag, "0"_L1, "The SIM's provider name (SPN) is never shown."_L1},
 
     {"sms"_L1, "validPeriod"_L1, Number, "3"_L1, "How long the network keeps a message it cannot deliver: 0 is 12 hours, 1 a day, 2 a week, anything else the longest time."_L1},
@@ -121,6 +121,7 @@ constexpr ConfigKey keys[] = {
     {"device"_L1, "at_port"_L1, File, ""_L1, "Command port of a serial, Bluetooth or emulated card, e.g. /dev/ttyS0. Empty: USB cards are searched."_L1},
     {"device"_L1, "modem_port"_L1, File, ""_L1, "Data port of that card."_L1},
     {"device"_L1, "voice_port"_L1, File, ""_L1, "Voice port of that card."_L1},
+    {"device"_L1, "last_card"_L1, Text, ""_L1, "The USB card used last, tried first where there are several. Written by the program."_L1},
 };
 // clang-format on
 

@@ -200,7 +200,9 @@ void CheckPIN::takeOutcome(PinOutcome outcome)
         break;
     case PinOutcome::NoAnswer:
     case PinOutcome::Accepted:
-        m_result->setText(tr("The card did not answer. Nothing has changed; try again."));
+        m_result->setText(
+            tr("The card did not answer in time. It is not known whether it took the entry; the "
+               "attempts left are shown as far as the card tells them."));
         break;
     }
     field->takeFocus();

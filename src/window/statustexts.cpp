@@ -2,6 +2,7 @@
 #include "window/statustexts.h"
 
 #include "device/offlinediagnosis.h"
+#include "window/operatorname.h"
 
 #include <QGuiApplication>
 #include <QLocale>
@@ -145,7 +146,7 @@ bool isRegistered(const CardState &state)
 
 QString operatorText(const CardState &state)
 {
-    return state.operatorName.isEmpty() ? state.operatorCode : state.operatorName;
+    return operatorNameOf(state, OperatorNameRules::fromConfiguration());
 }
 
 QString summaryText(const CardState &state)

@@ -7,6 +7,7 @@
 #include "shell/logging.h"
 #include "widgets/line.h"
 #include "widgets/skin.h"
+#include "widgets/tooltipmover.h"
 #include "window/aboutbox.h"
 #include "window/desktoppresence.h"
 #include "window/edgegrips.h"
@@ -14,6 +15,7 @@
 #include "window/mender.h"
 #include "window/navigation.h"
 #include "window/pagehost.h"
+#include "window/settingsnotice.h"
 #include "window/splash.h"
 #include "window/statusstrip.h"
 #include "window/topbar.h"
@@ -284,6 +286,9 @@ void WTMainWindow::finishShowing()
         showInFront();
         aboutShow();
     });
+    if (const int pixelsDown = cmcfg.getNumber(u"resource_position"_s, u"tooltipLabel_y"_s))
+        new ToolTipMover(pixelsDown, this);
+    tellOfSettings(cmcfg, this);
     askForPinOnce(m_monitor->state());
 }
 
