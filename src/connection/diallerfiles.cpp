@@ -37,7 +37,7 @@ constexpr const char *openFailed = QT_TRANSLATE_NOOP("DiallerFiles", "open file 
 constexpr const char *recoverFailed = QT_TRANSLATE_NOOP("DiallerFiles", "Recover wvdial config data failed!");
 constexpr const char *dnsInvalid = QT_TRANSLATE_NOOP("DiallerFiles", "The DNS is invalid !");
 
-constexpr qint64 longestResolver = 64 * 1024;
+constexpr qint64 longestResolver = 64LL * 1024;
 
 bool removeFile(const QString &path)
 {
@@ -104,7 +104,7 @@ bool DiallerFiles::Private::takeInHand()
         detail = u"another program has the dialler's files in hand"_s;
         return false;
     }
-    constexpr qint64 longestJournal = 1024 * 1024;
+    constexpr qint64 longestJournal = 1024LL * 1024;
     removeUnfinishedFiles(files.journal);
     journal = DiallerJournal::fromJson(contentOf(files.journal, longestJournal));
     return true;
@@ -339,7 +339,7 @@ bool DiallerFiles::makeConnectInfo(QString *error)
 
 QByteArray DiallerFiles::connectInfo() const
 {
-    constexpr qint64 most = 1024 * 1024;
+    constexpr qint64 most = 1024LL * 1024;
     const int descriptor = ::open(QFile::encodeName(d->files.connectInfo).constData(),
                                   O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0)
@@ -357,7 +357,7 @@ QByteArray DiallerFiles::connectInfo() const
 
 bool DiallerFiles::isOSDistro(const QString &name) const
 {
-    constexpr qint64 longestIssue = 64 * 1024;
+    constexpr qint64 longestIssue = 64LL * 1024;
     return QString::fromUtf8(contentOf(d->files.issue, longestIssue)).contains(name, Qt::CaseInsensitive);
 }
 

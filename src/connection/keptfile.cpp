@@ -20,7 +20,7 @@ namespace
 {
 
 /// Files of settings have some kilobytes.
-constexpr qint64 largestFile = 16 * 1024 * 1024;
+constexpr qint64 largestFile = 16LL * 1024 * 1024;
 
 struct Reading {
     bool exists = false;
