@@ -38,6 +38,23 @@ int signalDescriptor()
     return signalfd(-1, &set, SFD_CLOEXEC);
 }
 
+using Devices = QMap<QString, QString>;
+
+/// Of "at=/dev/ttyGS0" and the like.
+std::variant<Devices, cardemu::Complaint> deviceMap(const QStringList &words)
+{
+    static const QStringList ports{u"at"_s, u"modem"_s, u"voice"_s};
+    Devices devices;
+    for (const QString &word : words) {
+        const QString port = word.section(u'=', 0, 0);
+        const QString path = word.section(u'=', 1);
+        if (!ports.contains(port) || !path.startsWith(u'/'))
+            return u"--device %1: must be at=, modem= or voice= with a device's path"_s.arg(word);
+        devices[port] = path;
+    }
+    return devices;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -56,8 +73,12 @@ int main(int argc, char *argv[])
     const QCommandLineOption profileFile(
         u"profile"_s, u"Profile to be: a file, or wcdma (default), tdscdma, cdma, standard, locked, nosim."_s,
         u"FILE"_s, u"wcdma"_s);
+    const QCommandLineOption device(
+        u"device"_s,
+        u"Serve a terminal device instead of a pseudo-terminal: at=/dev/ttyGS0, and modem=, voice=."_s,
+        u"PORT=DEVICE"_s);
     const QCommandLineOption verbose(u"verbose"_s, u"Print what goes over the ports."_s);
-    parser.addOptions({dir, profileFile, verbose});
+    parser.addOptions({dir, profileFile, device, verbose});
     parser.process(application);
     if (!parser.isSet(dir) || !parser.positionalArguments().isEmpty())
         return fail(u"--dir DIR is needed; see --help"_s);
@@ -68,7 +89,11 @@ int main(int argc, char *argv[])
     if (const auto *complaint = std::get_if<cardemu::Complaint>(&profile))
         return fail(*complaint);
 
-    cardemu::EmulatedCard card(std::get<cardemu::Profile>(profile));
+    const auto devices = deviceMap(parser.values(device));
+    if (const auto *complaint = std::get_if<cardemu::Complaint>(&devices))
+        return fail(*complaint);
+
+    cardemu::EmulatedCard card(std::get<cardemu::Profile>(profile), std::get<Devices>(devices));
     if (const cardemu::Complaint complaint = card.start(parser.value(dir)); !complaint.isEmpty())
         return fail(complaint);
     if (parser.isSet(verbose))

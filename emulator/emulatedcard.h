@@ -15,7 +15,7 @@ namespace cardemu
 class AtSession;
 class Card;
 class ControlServer;
-class PtyPort;
+class CardPort;
 
 /// A USB data card without the hardware: pseudo-terminals that answer AT commands, and a control socket.
 ///
@@ -26,7 +26,9 @@ class EmulatedCard : public QObject
     Q_OBJECT
 
 public:
-    explicit EmulatedCard(const Profile &profile, QObject *parent = nullptr);
+    /// `devices` names terminal devices to serve instead of pseudo-terminals, by "at", "modem" and "voice".
+    explicit EmulatedCard(const Profile &profile, const QMap<QString, QString> &devices = {},
+                          QObject *parent = nullptr);
     ~EmulatedCard() override;
 
     /// Makes the folder where it is missing, and in it the links "at", "modem", "voice" and the socket
@@ -53,10 +55,13 @@ public:
     /// A card just pushed in, with new device files; an empty name keeps the one that was.
     Complaint plug(const PortNames &names);
     bool isPlugged() const;
-    /// "at", "modem" and "voice" with their links and device files, and whether a client has them open.
+    /// "at", "modem" and "voice" with their links and device files, whether a client has them open, and the
+    /// process of the network's side in a data call.
     QJsonObject portsAsJson() const;
     /// Sends bytes on a port ("at" or "modem") as they stand.
     Complaint sendRaw(const QString &port, const QByteArray &bytes);
+    /// The network ends every data call and takes every context down; a complaint where there is none.
+    Complaint dropData();
     Card &card() { return *m_card; }
     TrafficLog &log() { return m_log; }
     Scheduler &scheduler() { return m_scheduler; }
@@ -65,7 +70,8 @@ private:
     struct Port;
 
     Port *portOf(const QString &role) const;
-    void addPort(const QString &role, bool speaksAt);
+    void addPort(const QString &role, const QString &device);
+    void connectSession(Port &port);
     Complaint renamePorts(QStringList names);
     Complaint openPorts();
     void closePorts();

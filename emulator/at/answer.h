@@ -18,7 +18,8 @@ struct Final {
         NoAnswer,
         CmeError,
         CmsError,
-        Literal
+        Literal,
+        Pending ///< nothing yet, and perhaps never: the command goes on until the line is disturbed
     };
     Kind kind = Kind::Ok;
     int number = 0;    ///< of CmeError and CmsError

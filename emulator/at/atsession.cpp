@@ -23,8 +23,26 @@ void AtSession::receive(const QByteArray &bytes)
 {
     if (m_card.isSilent())
         return;
+    if (isDialling()) {
+        // The line feed belongs to the dial's own line end.
+        if (bytes != "\n")
+            abortDial();
+        return;
+    }
     m_input += bytes;
     work();
+}
+
+bool AtSession::isDialling() const
+{
+    return m_busy && m_next > 0 && m_commands[m_next - 1].name == "D";
+}
+
+// Whatever is typed during a dial ends it, and is dropped. ITU-T V.250 5.6.1 and 6.3.1.
+void AtSession::abortDial()
+{
+    m_delay.stop();
+    finish({Final::Kind::NoCarrier});
 }
 
 // A card that is at work leaves what comes in lying, and looks at it afterwards.
@@ -33,8 +51,7 @@ void AtSession::work()
     while (!m_busy && !m_input.isEmpty()) {
         const QByteArray input = std::exchange(m_input, {});
         if (m_online) {
-            m_log.add(m_name, u"received"_s, input);
-            m_escape.feed(input);
+            takeData(input);
             return;
         }
         qsizetype at = 0;
@@ -42,6 +59,43 @@ void AtSession::work()
             typed(input[at++]);
         m_input = input.mid(at) + m_input;
     }
+}
+
+// What goes to and from a network's side is not logged: that is its own business, and there is much of it.
+void AtSession::takeData(const QByteArray &bytes)
+{
+    if (m_peer != nullptr)
+        m_peer->write(bytes);
+    else
+        m_log.add(m_name, u"received"_s, bytes);
+    m_escape.feed(bytes);
+}
+
+void AtSession::joinNetwork()
+{
+    const QString &program = m_card.state().data.peer;
+    if (m_peer != nullptr || program.isEmpty() || m_card.state().line.dialResult != DialResult::Connect)
+        return;
+    m_peer = new DataPeer(this);
+    connect(m_peer, &DataPeer::received, this, [this](const QByteArray &bytes) { send(bytes); });
+    connect(m_peer, &DataPeer::flushed, this, &AtSession::callChanged);
+    connect(m_peer, &DataPeer::ended, this, &AtSession::dropCall);
+    if (const Complaint complaint = m_peer->start(program); !complaint.isEmpty()) {
+        m_log.add(m_name, u"network"_s, complaint.toUtf8());
+        dropCall();
+    }
+}
+
+void AtSession::leaveNetwork()
+{
+    if (m_peer != nullptr)
+        std::exchange(m_peer, nullptr)->hangUp();
+}
+
+void AtSession::setClientTakesMore(bool takes)
+{
+    if (m_peer != nullptr)
+        m_peer->setReading(takes && m_online);
 }
 
 void AtSession::typed(char byte)
@@ -75,16 +129,16 @@ void AtSession::runCommands()
         finish({});
         return;
     }
-    const auto step = [this] {
-        const Command command = m_commands[m_next++];
+    const Command command = m_commands[m_next++];
+    const auto step = [this, command] {
         const Answer answer = carryOut(command);
         m_information += informationText(answer.lines, m_port);
         if (answer.final.isSuccess())
             runCommands();
-        else
+        else if (answer.final.kind != Final::Kind::Pending)
             finish(answer.final);
     };
-    const milliseconds delay = m_card.delayOf(m_commands[m_next]);
+    const milliseconds delay = m_card.delayOf(command);
     if (delay.count() == 0) {
         step();
         return;
@@ -123,6 +177,11 @@ void AtSession::finish(const Final &final)
     m_port.dataSuspended = m_port.dataSuspended && !m_online;
     m_escape.reset();
     m_busy = false;
+    if (m_online)
+        joinNetwork();
+    else if (!m_port.dataSuspended)
+        leaveNetwork();
+    Q_EMIT callChanged();
     for (const QByteArray &line : std::exchange(m_reports, {}))
         report(line);
 }
@@ -151,6 +210,7 @@ void AtSession::sendRaw(const QByteArray &bytes)
 
 void AtSession::reset()
 {
+    leaveNetwork();
     m_delay.stop();
     m_output.clear();
     m_escape.reset();
@@ -160,15 +220,31 @@ void AtSession::reset()
     m_reports.clear();
     m_busy = m_online = false;
     m_port = PortSettings::atPowerUp(m_card.state().line);
+    Q_EMIT callChanged();
 }
 
 void AtSession::clientLeft()
 {
+    leaveNetwork();
     m_output.clear();
     m_editor.reset();
     m_escape.reset();
     m_online = false;
     m_port.dataSuspended = false;
+    if (isDialling()) {
+        m_delay.stop();
+        m_busy = false;
+    }
+}
+
+void AtSession::dropCall()
+{
+    leaveNetwork();
+    m_online = false;
+    m_port.dataSuspended = false;
+    m_escape.reset();
+    sendRaw(finalText({Final::Kind::NoCarrier}, m_port));
+    Q_EMIT callChanged();
 }
 
 void AtSession::registrationChanged()
@@ -192,6 +268,7 @@ void AtSession::escaped()
     m_online = false;
     m_port.dataSuspended = true;
     sendRaw(finalText({}, m_port));
+    Q_EMIT callChanged();
 }
 
 } // namespace cardemu

@@ -5,6 +5,7 @@
 #include "at/escapewatch.h"
 #include "at/lineeditor.h"
 #include "at/trafficlog.h"
+#include "port/datapeer.h"
 #include "port/pacedoutput.h"
 
 namespace cardemu
@@ -29,16 +30,31 @@ public:
     void sendRaw(const QByteArray &bytes);
     /// As after power-up: settings, an unfinished line and what waits are forgotten.
     void reset();
-    /// The port was closed: a data call ends, and what is still to be sent is not.
+    /// The port was closed: a dial or a data call ends, and what is still to be sent is not.
     void clientLeft();
+    /// A data call runs, or waits behind "+++".
+    bool isInCall() const { return m_online || m_port.dataSuspended; }
+    /// The data call ends, whoever wants that: NO CARRIER.
+    void dropCall();
+    /// The process of the network's side; 0 when there is none.
+    qint64 peerProcess() const { return m_peer != nullptr ? m_peer->processId() : 0; }
+    /// Whether the client takes what the network sends.
+    void setClientTakesMore(bool takes);
     /// True while the client takes less than the card sends; then no more commands should be read.
     bool isCongested() const { return m_output.pending() > congestion; }
+    /// True while the network takes less than the client sends.
+    bool isNetworkCongested() const { return m_peer != nullptr && m_peer->unwritten() > congestion; }
+
+Q_SIGNALS:
+    /// The network took what waited for it, or a call began or ended.
+    void callChanged();
 
 private:
     static constexpr qsizetype congestion = 1 << 20;
 
     void work();
     void typed(char byte);
+    void takeData(const QByteArray &bytes);
     void runLine(const QByteArray &body);
     void runCommands();
     Answer carryOut(const Command &command);
@@ -46,6 +62,10 @@ private:
     void send(const QByteArray &bytes, std::chrono::milliseconds pause = {});
     void registrationChanged();
     void escaped();
+    void joinNetwork();
+    void leaveNetwork();
+    bool isDialling() const;
+    void abortDial();
 
     QString m_name;
     Card &m_card;
@@ -60,6 +80,7 @@ private:
     bool m_carryingOut = false;
     QByteArrayList m_reports; ///< what a command set off; it follows the command's reply
     bool m_online = false;    ///< in a data call
+    DataPeer *m_peer = nullptr;
     std::vector<Command> m_commands;
     size_t m_next = 0;
     QByteArray m_information;

@@ -45,6 +45,7 @@ constexpr std::array cmeTable = {
     Words{32, "network not allowed - emergency calls only"},
     Words{50, "Incorrect parameters"},
     Words{100, "unknown"},
+    Words{133, "requested service option not subscribed"},
     Words{148, "unspecified GPRS error"},
 };
 

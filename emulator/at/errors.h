@@ -24,6 +24,7 @@ inline constexpr int noNetworkService = 30;
 inline constexpr int networkNotAllowed = 32;
 inline constexpr int incorrectParameters = 50;
 inline constexpr int unknown = 100;
+inline constexpr int notSubscribed = 133;
 } // namespace cme
 
 /// "+CMS ERROR" numbers. 3GPP TS 27.005 3.2.5.

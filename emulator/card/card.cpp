@@ -54,7 +54,7 @@ constexpr std::array<OperatorName, 3> operatorNames = {&Operator::longName, &Ope
 
 Card::Card(const Profile &profile, Scheduler &scheduler)
     : m_state(profile.card), m_scheduler(scheduler), m_registering(scheduler), m_ringing(scheduler),
-      m_simBack(scheduler), m_restart(scheduler), m_ussd(scheduler), m_silence(scheduler)
+      m_simBack(scheduler), m_restart(scheduler), m_ussd(scheduler), m_silence(scheduler), m_packetData(*this)
 {
     m_functionalityAtPowerUp = m_state.radio.functionality;
     for (const Fault &fault : profile.faults)
@@ -70,8 +70,7 @@ void Card::powerUp()
     m_state.sim.verified = false;
     m_state.call = {};
     m_state.radio.functionality = m_functionalityAtPowerUp;
-    for (PacketContext &context : m_state.contexts)
-        context.active = false;
+    m_packetData.deactivateAll(false);
     m_couldRegister = mayRegister();
     m_reportedRegistration = registration();
     Q_EMIT restarted();
@@ -92,6 +91,8 @@ void Card::review()
     m_couldRegister = may;
     if (std::exchange(m_reportedRegistration, registration()) != m_reportedRegistration)
         Q_EMIT registrationChanged();
+    if (!isRegistered())
+        m_packetData.deactivateAll(true);
 }
 
 std::optional<int> Card::simError() const

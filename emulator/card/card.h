@@ -3,6 +3,7 @@
 
 #include "at/answer.h"
 #include "at/charset.h"
+#include "card/packetdata.h"
 #include "card/profile.h"
 #include "card/scheduler.h"
 
@@ -23,6 +24,7 @@ public:
     const CardState &state() const { return m_state; }
     FaultList &faults() { return m_faults; }
     Scheduler &scheduler() { return m_scheduler; }
+    PacketData &packetData() { return m_packetData; }
 
     /// As when the stick is pushed in: the PIN is asked again, calls and contexts are gone, registered at
     /// once.
@@ -107,6 +109,7 @@ private:
     CardTimer m_restart;
     CardTimer m_ussd;
     CardTimer m_silence;
+    PacketData m_packetData;
     bool m_silent = false;
     int m_functionalityAtPowerUp = 1;
     bool m_couldRegister = false;

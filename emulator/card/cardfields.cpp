@@ -62,13 +62,6 @@ Complaint serialText(const QString &text)
     return isMeid || isImei ? Complaint() : u"must be 15 digits with a valid check digit, or 14 hex digits"_s;
 }
 
-Complaint dialText(const QString &text)
-{
-    static const QStringList results{u"CONNECT"_s, u"NO CARRIER"_s, u"BUSY"_s, u"NO ANSWER"_s,
-                                     u"NO DIALTONE"_s};
-    return results.contains(text) ? Complaint() : u"must be one of: "_s + results.join(u", "_s);
-}
-
 constexpr std::array families = {Choice<Family>{Family::Wcdma, u"WCDMA"},
                                  Choice<Family>{Family::TdScdma, u"TD-SCDMA"},
                                  Choice<Family>{Family::Cdma, u"CDMA"}};
@@ -83,6 +76,18 @@ constexpr std::array services = {
     Choice<Service>{Service::Full, u"full"},           Choice<Service>{Service::Restricted, u"restricted"},
     Choice<Service>{Service::Searching, u"searching"}, Choice<Service>{Service::Denied, u"denied"},
     Choice<Service>{Service::Unknown, u"unknown"},     Choice<Service>{Service::None, u"none"}};
+constexpr std::array activations = {Choice<ActivationResult>{ActivationResult::Up, u"up"},
+                                    Choice<ActivationResult>{ActivationResult::Refused, u"refused"},
+                                    Choice<ActivationResult>{ActivationResult::Silence, u"silence"}};
+constexpr std::array dialResults = {
+    Choice<DialResult>{DialResult::Connect, u"CONNECT"},
+    Choice<DialResult>{DialResult::NoCarrier, u"NO CARRIER"},
+    Choice<DialResult>{DialResult::Busy, u"BUSY"},
+    Choice<DialResult>{DialResult::NoAnswer, u"NO ANSWER"},
+    Choice<DialResult>{DialResult::NoDialtone, u"NO DIALTONE"},
+    Choice<DialResult>{DialResult::Error, u"ERROR"},
+    Choice<DialResult>{DialResult::Silence, u"SILENCE"},
+    Choice<DialResult>{DialResult::ConnectThenSilence, u"CONNECT THEN SILENCE"}};
 
 const Fields<Identity> &identityFields()
 {
@@ -192,9 +197,22 @@ const Fields<Line> &lineFields()
         numberField(u"bytesPerSecond"_s, &Line::bytesPerSecond, 0, 10000000),
         numberField(u"delay"_s, &Line::delay, 0, 600000),
         delaysField(),
-        textField(u"dialResult"_s, &Line::dialResult, dialText),
+        choiceField<Line, DialResult>(u"dialResult"_s, &Line::dialResult, dialResults),
         numberField(u"dialDelay"_s, &Line::dialDelay, 0, 600000),
         numberField(u"ringInterval"_s, &Line::ringInterval, 100, 600000),
+    };
+    return fields;
+}
+
+const Fields<DataService> &dataFields()
+{
+    static const Fields<DataService> fields{
+        textField(u"accessPoint"_s, &DataService::accessPoint),
+        textField(u"peer"_s, &DataService::peer),
+        textField(u"hook"_s, &DataService::hook),
+        choiceField<DataService, ActivationResult>(u"activation"_s, &DataService::activation, activations),
+        numberField(u"activationDelay"_s, &DataService::activationDelay, 0, 600000),
+        textField(u"address"_s, &DataService::address),
     };
     return fields;
 }
@@ -333,6 +351,7 @@ const Fields<CardState> &cardFields()
         sectionField(u"messages"_s, &CardState::messages, messagesFields()),
         sectionField(u"phonebook"_s, &CardState::phonebook, phonebookFields()),
         ussdField(),
+        sectionField(u"data"_s, &CardState::data, dataFields()),
     };
     return fields;
 }

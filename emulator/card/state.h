@@ -80,6 +80,9 @@ struct Radio {
     bool signalReports = false; ///< "+JRSSI" is sent when the signal changes
 };
 
+/// What becomes of a dialled number. ConnectThenSilence: CONNECT, and nobody on the other side.
+enum class DialResult { Connect, NoCarrier, Busy, NoAnswer, NoDialtone, Error, Silence, ConnectThenSilence };
+
 /// How the card's serial ports behave.
 struct Line {
     bool echo = true;
@@ -87,7 +90,7 @@ struct Line {
     int bytesPerSecond = 0;    ///< 0: as fast as the port takes them
     int delay = 0;             ///< ms that every command takes
     QMap<QString, int> delays; ///< ms by beginning of the command ("+COPS=?"); the longest that fits counts
-    QString dialResult = QStringLiteral("NO CARRIER");
+    DialResult dialResult = DialResult::NoCarrier;
     int dialDelay = 0;       ///< ms before the dial result
     int ringInterval = 3000; ///< ms between two RINGs
 };
@@ -131,11 +134,27 @@ struct Call {
     QString number;
 };
 
+/// "+JPDPACT" <state>.
+enum class ContextState { Down = 0, Up = 1, BeingMade = 2, Refused = 3 };
+
 /// A packet data context as "+CGDCONT" defines it.
 struct PacketContext {
     QString type;
     QString accessPoint;
-    bool active = false;
+    ContextState state = ContextState::Down;
+};
+
+/// What becomes of a context that the card brings up. Silence: it is being made for ever.
+enum class ActivationResult { Up, Refused, Silence };
+
+/// The network's data service, and what stands for it on this computer. Command lines are the shell's.
+struct DataService {
+    QString accessPoint; ///< the only one that the network lets in; empty: any
+    QString peer;        ///< speaks for the network in a data call, on its standard input and output
+    QString hook;        ///< runs with "up" or "down", the context's number and its access point behind it
+    ActivationResult activation = ActivationResult::Up;
+    int activationDelay = 0; ///< ms
+    QString address;         ///< of contexts that are up; empty: 192.0.2.<context>
 };
 
 /// Everything the card knows. A plain value; the rules of how it changes are Card's.
@@ -152,6 +171,7 @@ struct CardState {
     Call call;
     QMap<QString, QString> ussd; ///< the network's answers, by code ("*100#")
     QMap<int, PacketContext> contexts;
+    DataService data;
 };
 
 } // namespace cardemu

@@ -4,6 +4,7 @@
 #include "at/errors.h"
 #include "at/replies.h"
 
+#include <QRegularExpression>
 #include <array>
 
 namespace cardemu
@@ -12,27 +13,37 @@ namespace cardemu
 namespace
 {
 
-struct DialResult {
-    const char16_t *name;
+struct DialOutcome {
+    DialResult result;
     Final::Kind kind;
 };
 
-constexpr std::array dialResults = {
-    DialResult{u"CONNECT", Final::Kind::Connect},
-    DialResult{u"NO CARRIER", Final::Kind::NoCarrier},
-    DialResult{u"BUSY", Final::Kind::Busy},
-    DialResult{u"NO ANSWER", Final::Kind::NoAnswer},
-    DialResult{u"NO DIALTONE", Final::Kind::NoDialtone},
+constexpr std::array dialOutcomes = {
+    DialOutcome{DialResult::Connect, Final::Kind::Connect},
+    DialOutcome{DialResult::NoCarrier, Final::Kind::NoCarrier},
+    DialOutcome{DialResult::Busy, Final::Kind::Busy},
+    DialOutcome{DialResult::NoAnswer, Final::Kind::NoAnswer},
+    DialOutcome{DialResult::NoDialtone, Final::Kind::NoDialtone},
+    DialOutcome{DialResult::Error, Final::Kind::Error},
+    DialOutcome{DialResult::Silence, Final::Kind::Pending},
+    DialOutcome{DialResult::ConnectThenSilence, Final::Kind::Connect},
 };
+
+// "*99***2#" dials context 2, "*98*2#" too, anything else context 1. 3GPP TS 27.007 10.2.1.1.
+int dialledContext(const QByteArray &number)
+{
+    static const QRegularExpression numbered(QStringLiteral("^[TP]?\\*(?:99\\*[^*]*\\*[^*]*|98)\\*(\\d+)#"),
+                                             QRegularExpression::CaseInsensitiveOption);
+    const auto match = numbered.match(QString::fromLatin1(number));
+    return match.hasMatch() ? match.captured(1).toInt() : 1;
+}
 
 Answer dial(const Request &request)
 {
-    if (!request.card.isRegistered())
+    if (request.card.packetData().refusal(dialledContext(request.arguments().text(0))))
         return result(Final::Kind::NoCarrier);
-    const auto *const row = std::ranges::find_if(dialResults, [&request](const DialResult &candidate) {
-        return request.state().line.dialResult == QStringView(candidate.name);
-    });
-    return result(row->kind);
+    const DialResult wanted = request.state().line.dialResult;
+    return result(std::ranges::find(dialOutcomes, wanted, &DialOutcome::result)->kind);
 }
 
 Answer answerCall(const Request &request)

@@ -166,10 +166,16 @@ Outcome changeDelay(EmulatedCard &emulated, const QJsonObject &values)
 
 Outcome changeDial(EmulatedCard &emulated, const QJsonObject &values)
 {
-    QJsonObject line{{u"dialResult"_s, values[u"result"_s]}};
+    const QString result = values[u"result"_s].toString().toUpper().replace(u'-', u' ');
+    QJsonObject line{{u"dialResult"_s, result}};
     if (values.contains(u"ms"_s))
         line[u"dialDelay"_s] = values[u"ms"_s];
     return outcome(setState(emulated, u"line"_s, line));
+}
+
+Outcome dropData(EmulatedCard &emulated, const QJsonObject &)
+{
+    return outcome(emulated.dropData());
 }
 
 Outcome sendReport(EmulatedCard &emulated, const QJsonObject &values)
@@ -390,10 +396,12 @@ const std::vector<ControlRow> &controlTable()
          {{u"match"_s, Text, true}, {u"ms"_s, Number, true}},
          u"ms that commands with this beginning take"_s,
          changeDelay},
-        {u"dial"_s,
+        {u"dial-result"_s,
          {{u"result"_s, Text, true}, {u"ms"_s, Number}},
-         u"what ATD answers: CONNECT, NO CARRIER, BUSY, NO ANSWER, NO DIALTONE"_s,
+         u"what ATD answers, after ms: connect, no-carrier, busy, no-answer, no-dialtone, error, silence, "
+         "connect-then-silence"_s,
          changeDial},
+        {u"drop-data"_s, {}, u"the network ends the data call"_s, dropData},
         {u"report"_s,
          {{u"text"_s, Text, true}, {u"port"_s, Text}},
          u"a line that nobody asked for"_s,

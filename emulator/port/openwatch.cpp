@@ -28,10 +28,9 @@ OpenWatch::~OpenWatch()
         ::close(m_descriptor);
 }
 
-OpenWatch::News OpenWatch::take()
+OpenWatch::News OpenWatch::take(News earlier)
 {
-    News news;
-    bool closed = false;
+    News news = earlier;
     alignas(inotify_event) std::array<char, 4096> buffer{};
     for (ssize_t size = 0; (size = ::read(m_descriptor, buffer.data(), buffer.size())) > 0;) {
         for (ssize_t at = 0; at < size;) {
@@ -40,8 +39,8 @@ OpenWatch::News OpenWatch::take()
             at += static_cast<ssize_t>(sizeof event + event.len);
             const bool opens = (event.mask & IN_OPEN) != 0;
             news.opened = news.opened || opens;
-            news.reopened = news.reopened || (opens && closed);
-            closed = closed || (event.mask & IN_CLOSE) != 0;
+            news.reopened = news.reopened || (opens && news.closed);
+            news.closed = news.closed || (event.mask & IN_CLOSE) != 0;
         }
     }
     return news;

@@ -16,6 +16,7 @@ class OpenWatch
 public:
     struct News {
         bool opened = false;
+        bool closed = false;
         bool reopened = false; ///< closed by one, then opened by another
     };
 
@@ -27,8 +28,9 @@ public:
 
     /// False where the kernel refuses to report; errno says why.
     bool isValid() const { return m_notifier != nullptr; }
-    /// What happened since the last call.
-    News take();
+    /// What happened since the last call; with `earlier`, since the one before it.
+    News take() { return take(News()); }
+    News take(News earlier);
 
 private:
     int m_descriptor = -1;

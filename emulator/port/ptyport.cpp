@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "port/ptyport.h"
 
+#include "port/rawline.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <array>
@@ -26,17 +28,16 @@ Complaint systemComplaint(const QString &what)
     return what + u": "_s + QString::fromLocal8Bit(std::strerror(errno));
 }
 
-// Done on the master's descriptor this sets the client's side, and drops what waits there.
-void setRaw(int master)
-{
-    termios settings{};
-    tcgetattr(master, &settings);
-    cfmakeraw(&settings);
-    cfsetspeed(&settings, B115200);
-    tcsetattr(master, TCSAFLUSH, &settings);
-}
-
 } // namespace
+
+PtyPort::PtyPort(QObject *parent) : CardPort(parent)
+{
+    m_hangUpWatch.setInterval(std::chrono::milliseconds(50));
+    connect(&m_hangUpWatch, &QTimer::timeout, this, [this] {
+        if (isHungUp(m_master))
+            Q_EMIT hungUp();
+    });
+}
 
 Complaint PtyPort::open(const QString &link)
 {
@@ -90,6 +91,7 @@ Complaint PtyPort::makeLink(const QString &link)
 
 void PtyPort::close()
 {
+    m_hangUpWatch.stop();
     m_watch.reset();
     m_readable.reset();
     m_writable.reset();
@@ -128,6 +130,16 @@ void PtyPort::setReading(bool reading)
         m_readable->setEnabled(m_hasClient && m_reading);
 }
 
+void PtyPort::watchForHangUp(bool watches)
+{
+    if (watches == m_hangUpWatch.isActive())
+        return;
+    if (watches && m_master >= 0)
+        m_hangUpWatch.start();
+    else
+        m_hangUpWatch.stop();
+}
+
 bool PtyPort::isOpenElsewhere() const
 {
     pollfd descriptor{m_master, 0, 0};
@@ -160,8 +172,11 @@ QByteArray PtyPort::read() const
 
 void PtyPort::noticeClients()
 {
-    const OpenWatch::News news = m_watch->take();
+    OpenWatch::News news = m_watch->take();
     const bool hadClient = std::exchange(m_hasClient, isOpenElsewhere()) || news.opened;
+    // Whoever came between the two looks has not closed the port that he opened.
+    if (news.closed && m_hasClient)
+        news = m_watch->take(news);
     if (news.reopened || (hadClient && !m_hasClient))
         leave();
 }

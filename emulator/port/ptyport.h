@@ -1,47 +1,40 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "card/fields.h"
+#include "port/cardport.h"
 #include "port/openwatch.h"
 
-#include <QObject>
+#include <QTimer>
 
 namespace cardemu
 {
 
-/// One serial port of the card: a pseudo-terminal with a link to its device file.
-class PtyPort : public QObject
+/// A port on a pseudo-terminal with a link to its device file. A client that sets the speed to 0, which is
+/// how DTR is dropped, is noticed while that is watched for.
+class PtyPort : public CardPort
 {
     Q_OBJECT
 
 public:
-    explicit PtyPort(QObject *parent = nullptr) : QObject(parent) {}
+    explicit PtyPort(QObject *parent = nullptr);
     ~PtyPort() override { close(); }
 
     /// Makes a new pseudo-terminal in raw mode and the link to it. A link that is in the way is replaced, any
     /// other file is left alone, and that is the complaint.
-    Complaint open(const QString &link);
-    /// As pulling the stick: who has the port open meets the end of file, and the link is gone.
-    void close();
+    Complaint open(const QString &link) override;
+    /// Who has the port open meets the end of file, and the link is gone.
+    void close() override;
 
-    bool isOpen() const { return m_master >= 0; }
-    QString link() const { return m_link; }
-    QString device() const { return m_device; }
-    /// A client has the port open now.
-    bool hasClient();
+    bool isOpen() const override { return m_master >= 0; }
+    QString link() const override { return m_link; }
+    QString device() const override { return m_device; }
+    bool hasClient() override;
 
     /// Bytes for the client; dropped while no client has the port open, as a real port does.
-    void write(const QByteArray &bytes);
-    /// Written but not yet taken by the kernel.
-    qsizetype unwritten() const { return m_unwritten.size(); }
-    void setReading(bool reading);
-
-Q_SIGNALS:
-    void received(const QByteArray &bytes);
-    /// The kernel has taken everything.
-    void flushed();
-    /// The last client closed the port. The next one may be there already.
-    void clientLeft();
+    void write(const QByteArray &bytes) override;
+    qsizetype unwritten() const override { return m_unwritten.size(); }
+    void setReading(bool reading) override;
+    void watchForHangUp(bool watches) override;
 
 private:
     Complaint openPair();
@@ -59,6 +52,7 @@ private:
     QByteArray m_unwritten;
     bool m_hasClient = false;
     bool m_reading = true;
+    QTimer m_hangUpWatch; ///< nothing tells of a changed speed
     std::unique_ptr<OpenWatch> m_watch;
     std::unique_ptr<QSocketNotifier> m_readable;
     std::unique_ptr<QSocketNotifier> m_writable;

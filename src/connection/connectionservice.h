@@ -4,6 +4,7 @@
 #include "connection/connectionstate.h"
 
 #include <QObject>
+#include <QUrl>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -12,7 +13,9 @@ namespace corva
 {
 
 class CardMonitor;
+class DiallerBackend;
 class ProfileStore;
+struct LinkFacts;
 
 /// What has to be settled with the person before a dial.
 enum class ConnectObstacle {
@@ -29,6 +32,17 @@ struct DialCredentials {
     QString password;
 };
 
+/// What the service works with: who has the rights to dial, and who knows the system's network interfaces.
+struct ConnectionParts {
+    ConnectionParts(); ///< the real ones
+    ~ConnectionParts();
+    ConnectionParts(ConnectionParts &&) noexcept;
+    std::unique_ptr<DiallerBackend> backend;
+    std::function<LinkFacts(const QString &interfaceName)> facts;
+    /// Whether an earlier run of the program left the system's files changed.
+    std::function<bool()> hasLeftovers;
+};
+
 /// The data connection: dials by the profile, watches, ends, dials again. Lives on the GUI thread and never
 /// waits there: card commands run on the card worker, files and the dialler behind a `DiallerBackend`.
 class ConnectionService : public QObject
@@ -37,8 +51,14 @@ class ConnectionService : public QObject
 
 public:
     ConnectionService(CardMonitor *monitor, ProfileStore *profiles, QObject *parent = nullptr);
-    /// Ends a link that is up and puts the system's files back. Blocks for a few seconds at most.
+    ConnectionService(CardMonitor *monitor, ProfileStore *profiles, ConnectionParts parts,
+                      QObject *parent = nullptr);
+    /// As `shutDown`.
     ~ConnectionService() override;
+
+    /// For a program that ends: ends a link that is up and puts the system's files back. Blocks, for as long
+    /// as pppd needs to hang up. Call it while the card still answers, before its monitor is stopped.
+    void shutDown();
 
     const ConnectionStatus &status() const { return m_status; }
     ProfileStore &profiles();
@@ -48,6 +68,7 @@ public:
 
     ConnectObstacle obstacle() const;
     /// Dials by the profile in "/Data/defaultRecord.conf". Does nothing while a dialler is there: false.
+    /// An obstacle other than roaming is told, and nothing dialled: false as well.
     bool connectNow(const std::optional<DialCredentials> &credentials = std::nullopt);
     /// Ends the link, the dial or the row of redials.
     void disconnectNow(ConnectionEnd why = ConnectionEnd::ByPerson);
@@ -61,6 +82,8 @@ Q_SIGNALS:
     void sigStatusChanged(const corva::ConnectionStatus &status);
     /// A box for the person: why a connection failed, or why it was ended.
     void sigMessage(const QString &text);
+    /// The profile's page, to be opened in the browser: http or https.
+    void sigOpenUrl(const QUrl &url);
 
 private:
     ConnectionStatus m_status;

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QObject>
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -22,6 +23,9 @@ class DiallerBackend : public QObject
 
 public:
     using Answer = std::function<void(const DialResult &)>;
+
+    /// The longest that `shutDown` takes: a hang-up, and pppd that has to be killed.
+    static constexpr std::chrono::milliseconds longestShutDown{17000};
 
     using QObject::QObject;
 

@@ -37,6 +37,8 @@ constexpr const char *openFailed = QT_TRANSLATE_NOOP("DiallerFiles", "open file 
 constexpr const char *recoverFailed = QT_TRANSLATE_NOOP("DiallerFiles", "Recover wvdial config data failed!");
 constexpr const char *dnsInvalid = QT_TRANSLATE_NOOP("DiallerFiles", "The DNS is invalid !");
 
+constexpr qint64 longestResolver = 64 * 1024;
+
 bool removeFile(const QString &path)
 {
     return ::unlink(QFile::encodeName(path).constData()) == 0 || errno == ENOENT;
@@ -288,6 +290,16 @@ bool DiallerFiles::recoverLeftovers(QString *error)
     return isBack || d->fail(recoverFailed, {}, error);
 }
 
+bool DiallerFiles::noteResolver()
+{
+    if (d->journal.phase != Phase::Saved)
+        return false;
+    const KeptFile &resolver = d->kept.back();
+    d->journal.files[resolver.name()].written +=
+        DiallerJournal::hashOf(contentOf(resolver.path(), longestResolver));
+    return d->note(Phase::Saved);
+}
+
 bool DiallerFiles::saveManualDNS(const QString &preferred, const QString &alternative, QString *error)
 {
     if (!isHostAddress(preferred) || (!alternative.isEmpty() && !isHostAddress(alternative)))
@@ -297,7 +309,6 @@ bool DiallerFiles::saveManualDNS(const QString &preferred, const QString &altern
     if (d->journal.phase != Phase::Saved)
         return d->fail(openFailed, u"the system's files are not saved"_s, error);
 
-    constexpr qint64 longestResolver = 64 * 1024;
     const KeptFile &resolver = d->kept.back();
     const QStringList servers =
         alternative.isEmpty() ? QStringList{preferred} : QStringList{preferred, alternative};

@@ -57,6 +57,10 @@ public:
     /// stand there; its other lines stay. Only after `saveConfigData`. "The DNS is invalid !"
     bool saveManualDNS(const QString &preferred, const QString &alternative, QString *error = nullptr);
 
+    /// What stands in the resolver file now was written for the link, by the system's DHCP client: it is put
+    /// back with the others. Only after `saveConfigData`.
+    bool noteResolver();
+
     /// Makes "/tmp/connect_info" anew, empty, with mode 0600, never through a link or into another's file.
     bool makeConnectInfo(QString *error = nullptr);
     /// The dialler's output so far, its last mebibyte at most.

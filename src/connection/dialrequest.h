@@ -24,11 +24,11 @@ enum class DialVerb {
 
 struct DialRequest {
     DialVerb verb = DialVerb::Save;
-    ConnectionProfile profile; ///< Write
-    QString modemPort;         ///< Write, Lease, Release: the card's data port
-    PppOptions options;        ///< Write
-    QStringList nameServers;   ///< NameServers: one or two dotted quads
-    QString interfaceName;     ///< Lease, Release: "wwan0"
+    ConnectionProfile profile = {}; ///< Write
+    QString modemPort = {};         ///< Write, Lease, Release: the card's data port
+    PppOptions options = {};        ///< Write
+    QStringList nameServers = {};   ///< NameServers: one or two dotted quads
+    QString interfaceName = {};     ///< Lease, Release: "wwan0"
 };
 
 struct DialResult {

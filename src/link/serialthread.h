@@ -221,6 +221,18 @@ public:
                              const QString &mode);
     void setCOPSCmdSendingStatus(bool sending) { m_searching = sending; }
 
+    // --- Data connection
+    // ---------------------------------------------------------------------------------------------
+
+    /// "AT+CGDCONT=<cid>,"<type>","<apn>"[,"<address>"]"; an empty address is the network's to choose. -1 as
+    /// well for a text that would break out of its quotes. 3GPP TS 27.007 10.1.1.
+    int setPdpContext(int cid, const QString &type, const QString &apn, const QString &address);
+    /// "AT+JPDPACT=<cid>,<1|0>": the maker's data call over the network interface. `dataCallState` is 2 until
+    /// the card reports the outcome.
+    int setDataCall(int cid, bool up);
+    /// "AT+CGACT=<1|0>,<cid>". 3GPP TS 27.007 10.1.10.
+    int activatePdpContext(int cid, bool up);
+
 protected:
     void run() override;
 

@@ -73,6 +73,9 @@ constexpr ConfigKey keys[] = {
     {"network_dialer_setting"_L1, "autoRedial_time"_L1, Number, "5"_L1, "How many times that is tried."_L1},
     {"network_dialer_setting"_L1, "autoRedial_startSec"_L1, Seconds, "5"_L1, "Wait before the first of these dials."_L1},
     {"network_dialer_setting"_L1, "autoRedial_afterSec"_L1, Seconds, "30"_L1, "Wait before each further one."_L1},
+    {"network_dialer_setting"_L1, "autoDisconnect_enabled"_L1, Flag, "0"_L1, "Ends a connection over which nothing is carried."_L1},
+    {"network_dialer_setting"_L1, "autoDisconnect_min"_L1, Number, "10"_L1, "After how many minutes without any traffic, 1 to 1440."_L1},
+    {"network_dialer_setting"_L1, "pdp_context"_L1, Number, "1"_L1, "Which of the card's packet data contexts gets the profile's access point: 1, or 2 for cards that keep the first to themselves."_L1},
     {"network_dialer_setting"_L1, "lcp-echo-failure"_L1, Number, "4"_L1, "Option of pppd: so many unanswered echoes end the link. Empty: pppd's own."_L1},
     {"network_dialer_setting"_L1, "lcp-echo-interval"_L1, Seconds, "30"_L1, "Option of pppd: time between two echoes. Empty: pppd's own."_L1},
     {"network_dialer_setting"_L1, "lcp-max-configure"_L1, Number, ""_L1, "Option of pppd. Empty: pppd's own."_L1},
@@ -130,6 +133,7 @@ constexpr ConfigKey keys[] = {
     {"device"_L1, "at_port"_L1, File, ""_L1, "Command port of a serial, Bluetooth or emulated card, e.g. /dev/ttyS0. Empty: USB cards are searched."_L1},
     {"device"_L1, "modem_port"_L1, File, ""_L1, "Data port of that card."_L1},
     {"device"_L1, "voice_port"_L1, File, ""_L1, "Voice port of that card."_L1},
+    {"device"_L1, "network_interface"_L1, Text, ""_L1, "Network interface of that card, e.g. wwan0. Taken only when Corva runs as root; otherwise the card's own USB interface is."_L1},
 };
 // clang-format on
 

@@ -22,7 +22,11 @@ private Q_SLOTS:
     void ringsUntilHungUp();
     void messageGoesWhereIndicationsSay();
     void ussdAnswersComeLater();
+    void dialResults_data();
+    void dialResults();
+    void whateverIsTypedEndsADial();
     void dataCallEndsByEscapeOrClosing();
+    void networkDropsTheDataCall();
     void restartForgetsSettings();
 };
 
@@ -265,11 +269,65 @@ void TestEmulatorCard::ussdAnswersComeLater()
     QCOMPARE(talk.card.pending(talk.port), "\r\n+CUSD: 4\r\n");
 }
 
+void TestEmulatorCard::dialResults_data()
+{
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QByteArray>("answered");
+    for (const QString &words : {u"no-carrier"_s, u"busy"_s, u"no-answer"_s, u"no-dialtone"_s, u"error"_s})
+        QTest::newRow(qPrintable(words)) << words << words.toUpper().replace(u'-', u' ').toLatin1();
+    QTest::newRow("connect, then silence") << u"connect-then-silence"_s << QByteArray("CONNECT");
+}
+
+void TestEmulatorCard::dialResults()
+{
+    QFETCH(QString, result);
+    QFETCH(QByteArray, answered);
+    TestCard card;
+    TestPort port(card.path(u"modem"_s));
+    QVERIFY(
+        card.tell("{\"command\": \"dial-result\", \"ms\": 3000, \"result\": \"" + result.toLatin1() + "\"}"));
+    port.write("ATE0DT*99#\r\n");
+    QVERIFY(card.hears(u"ATE0DT*99#"_s));
+    QVERIFY(card.advance(1000));
+    QCOMPARE(port.readUntil("\n", 0), "ATE0DT*99#\r");
+    QVERIFY(card.advance(2000));
+    QCOMPARE(port.readUntil(answered + "\r\n"), "\r\n" + answered + "\r\n");
+}
+
+void TestEmulatorCard::whateverIsTypedEndsADial()
+{
+    Talk talk;
+    QVERIFY(talk.card.tell(R"({"command": "dial-result", "result": "silence"})"));
+    talk.port.write("ATD*99#\r\n");
+    QVERIFY(talk.card.hears(u"ATD*99#"_s));
+    talk.card.advance(3600000);
+    QCOMPARE(talk.card.pending(talk.port), "");
+    QCOMPARE(talk.port.exchange("AT\r", "CARRIER\r\n"), "\r\nNO CARRIER\r\n");
+    QCOMPARE(talk.ask("AT"), "OK");
+    {
+        TestPort other(talk.card.path(u"modem"_s));
+        QCOMPARE(other.exchange("ATD*99#\r", "#\r"), "ATD*99#\r");
+    }
+    TestPort again(talk.card.path(u"modem"_s));
+    QCOMPARE(again.exchange("ATE0\r", "OK\r\n"), "ATE0\r\r\nOK\r\n");
+}
+
+void TestEmulatorCard::networkDropsTheDataCall()
+{
+    Talk talk;
+    QCOMPARE(talk.card.control(R"({"command": "drop-data"})")[u"error"_s], u"there is no data call"_s);
+    QVERIFY(talk.card.tell(R"({"command": "dial-result", "result": "connect"})"));
+    QCOMPARE(talk.ask("ATD*99#"), "CONNECT");
+    QVERIFY(talk.card.tell(R"({"command": "drop-data"})"));
+    QCOMPARE(talk.port.readUntil("CARRIER\r\n"), "\r\nNO CARRIER\r\n");
+    QCOMPARE(talk.ask("AT+CSQ"), "+CSQ: 20,99|OK");
+}
+
 void TestEmulatorCard::dataCallEndsByEscapeOrClosing()
 {
     Talk talk;
     QCOMPARE(talk.ask("ATD*99#"), "NO CARRIER");
-    QVERIFY(talk.card.tell(R"({"command": "dial", "result": "CONNECT"})"));
+    QVERIFY(talk.card.tell(R"({"command": "dial-result", "result": "connect"})"));
     QCOMPARE(talk.ask("ATD*99#"), "CONNECT");
     talk.port.write("AT+CSQ\r+++");
     QVERIFY(talk.card.hears(u"AT+CSQ\r+++"_s));

@@ -1,0 +1,460 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "connection/connectionservice.h"
+
+#include "connection/dialleroptions.h"
+#include "connection/dialuplink.h"
+#include "connection/endsentence.h"
+#include "connection/idlemonitor.h"
+#include "connection/networkcard.h"
+#include "connection/networkcardlink.h"
+#include "connection/profilestore.h"
+#include "connection/redial.h"
+#include "device/cardmonitor.h"
+#include "shell/logging.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace corva
+{
+
+namespace
+{
+
+constexpr auto refreshPeriod = 500ms;
+
+/// Whether the network carries data beside a call.
+bool carriesDataBesideCalls(NetworkType type)
+{
+    using enum NetworkType;
+    constexpr NetworkType types[] = {Umts, Hsdpa, Hsupa, Hspa, HspaPlus, TdScdma, TdHspa};
+    return std::ranges::find(types, type) != std::end(types);
+}
+
+bool isRoaming(const CardState &card)
+{
+    return card.roaming.value_or(card.registration == Registration::Roaming);
+}
+
+/// Ends after which another dial may do better. What a person refused or has to change is not tried again.
+bool isWorthAnotherDial(ConnectionEnd end)
+{
+    using enum ConnectionEnd;
+    constexpr ConnectionEnd ends[] = {NoCarrier, Busy, TimeOut, DiallerFailed, ByPeer, LinkLost, CardGone};
+    return std::ranges::find(ends, end) != std::end(ends);
+}
+
+QUrl pageOf(const ConnectionProfile &profile)
+{
+    const QUrl url(profile.text(ProfileField::DefaultOpenUrl).trimmed(), QUrl::StrictMode);
+    const bool isPage = (url.scheme() == "http"_L1 || url.scheme() == "https"_L1) && !url.host().isEmpty();
+    return isPage && url.isValid() ? url : QUrl();
+}
+
+} // namespace
+
+ConnectionParts::ConnectionParts()
+    : backend(makeDiallerBackend()), facts([](const QString &interfaceName) {
+          return linkFacts(interfaceName, DiallerOptions::fromConfiguration().resolverFile);
+      }),
+      hasLeftovers([] { return DiallerFiles().hasLeftovers(); })
+{
+}
+ConnectionParts::ConnectionParts(ConnectionParts &&) noexcept = default;
+ConnectionParts::~ConnectionParts() = default;
+
+class ConnectionService::Private
+{
+public:
+    Private(ConnectionService *service, CardMonitor *cardMonitor, ProfileStore *store,
+            ConnectionParts theParts);
+
+    bool mayDial();
+    bool dial();
+    bool start(const ConnectionProfile &profile);
+    LinkPlan planFor(const ConnectionProfile &profile, const DiallerOptions &options) const;
+    void wentUp(const ConnectionProfile &profile);
+    void isOver(const LinkOutcome &outcome);
+    void tellOrRedial(const LinkOutcome &outcome, bool wasUp);
+    void autoReConnWhenAbnormalDisconn();
+    void slotAutoRedial();
+    void autoConnect(const CardState &card);
+    void takeCard(const CardState &card);
+    void becameIdle();
+    void refresh();
+    void refuse(ConnectionEnd end, const QString &message);
+
+    /// Changes the status and tells it, if there is a difference.
+    template <typename Change> void update(Change change);
+
+    ConnectionService *q;
+    CardMonitor *monitor;
+    ProfileStore *profiles;
+    ConnectionParts parts;
+    DataLink *link = nullptr; ///< a child of the service; null while nothing is dialled
+    Redial redial;
+    IdleMonitor idle;
+    QTimer refreshTimer;
+    std::optional<DialCredentials> credentials;
+    bool isCallUp = false;
+    bool mayRoam = false; ///< the person dialled while roaming, and so agreed to it
+    bool wasReady = false;
+    bool isShutDown = false;
+};
+
+template <typename Change> void ConnectionService::Private::update(Change change)
+{
+    ConnectionStatus status = q->m_status;
+    change(status);
+    status.redial = redial.number();
+    status.redials = redial.times();
+    if (status == q->m_status)
+        return;
+    q->m_status = status;
+    Q_EMIT q->sigStatusChanged(status);
+}
+
+ConnectionService::Private::Private(ConnectionService *service, CardMonitor *cardMonitor, ProfileStore *store,
+                                    ConnectionParts theParts)
+    : q(service), monitor(cardMonitor), profiles(store), parts(std::move(theParts))
+{
+    refreshTimer.setInterval(refreshPeriod);
+    connect(&refreshTimer, &QTimer::timeout, q, [this] { refresh(); });
+    connect(&redial, &Redial::sigDial, q, [this] { slotAutoRedial(); });
+    connect(&idle, &IdleMonitor::sigIdle, q, [this] { becameIdle(); });
+    connect(monitor, &CardMonitor::sigStateChanged, q, [this](const CardState &card) { takeCard(card); });
+}
+
+// --- Dialling
+// ------------------------------------------------------------------------------------------------------------
+
+/// Whether nothing runs and nothing stands in the way but roaming; tells what does.
+bool ConnectionService::Private::mayDial()
+{
+    switch (q->obstacle()) {
+    case ConnectObstacle::CallOnOtherNetwork:
+        Q_EMIT q->sigMessage(tr("Only UMTS network can connect while calling!"));
+        return false;
+    case ConnectObstacle::CardGone:
+        Q_EMIT q->sigMessage(tr("The device has been disconnected or is unavailable."));
+        return false;
+    case ConnectObstacle::Roaming:
+    case ConnectObstacle::None: return true;
+    }
+    return true;
+}
+
+bool ConnectionService::Private::dial()
+{
+    auto profile = profiles->defaultProfile();
+    if (!profile) {
+        refuse(ConnectionEnd::FilesFailed, tr("Can't open deault config file!"));
+        return false;
+    }
+    if (credentials) {
+        profile->setText(ProfileField::UserName, credentials->userName);
+        profile->setText(ProfileField::Password, credentials->password);
+    }
+    return start(*profile);
+}
+
+LinkPlan ConnectionService::Private::planFor(const ConnectionProfile &profile,
+                                             const DiallerOptions &options) const
+{
+    const CardState &card = monitor->state();
+    LinkPlan plan;
+    plan.profile = profile;
+    plan.modemPort = QFileInfo(card.modemPortName).canonicalFilePath();
+    if (profile.linkKind() != LinkKind::DialUp)
+        plan.interfaceName =
+            options.networkInterface.isEmpty() ? networkCardOf(plan.modemPort) : options.networkInterface;
+    plan.contextId = options.contextId;
+    plan.hasContexts = card.family != CardFamily::Cdma;
+    plan.options = options.ppp;
+    plan.limit = options.dialTimeout;
+    plan.showsExitCode = options.showsExitCode;
+    return plan;
+}
+
+bool ConnectionService::Private::start(const ConnectionProfile &profile)
+{
+    const DiallerOptions options = DiallerOptions::fromConfiguration();
+    const LinkPlan plan = planFor(profile, options);
+    const bool isNetworkCard = profile.linkKind() == LinkKind::NetworkCard ||
+                               (profile.linkKind() == LinkKind::Automatic && !plan.interfaceName.isEmpty());
+    if (isNetworkCard && plan.interfaceName.isEmpty()) {
+        refuse(ConnectionEnd::DiallerFailed,
+               tr("This card has no network interface. Please choose dial-up in the profile."));
+        return false;
+    }
+    if (!isNetworkCard && plan.modemPort.isEmpty()) {
+        refuse(ConnectionEnd::DiallerFailed, tr("The card has no data port that could be dialled on."));
+        return false;
+    }
+    if (isNetworkCard) {
+        link = new NetworkCardLink(*monitor, *parts.backend, parts.facts, plan, q);
+    } else {
+        auto *dialUp = new DialUpLink(*monitor, *parts.backend, parts.facts, plan, q);
+        dialUp->setLinkFiles(options.linkFiles);
+        link = dialUp;
+    }
+    connect(link, &DataLink::sigUp, q, [this, profile] { wentUp(profile); });
+    connect(link, &DataLink::sigMessage, q, &ConnectionService::sigMessage);
+    connect(link, &DataLink::sigOver, q, [this](const LinkOutcome &outcome) { isOver(outcome); });
+    connect(link, &DataLink::sigEnding, q, [this] {
+        idle.stopAutoDisconnectMonitor();
+        refreshTimer.stop();
+        update([](ConnectionStatus &status) { status.state = ConnectionState::Disconnecting; });
+    });
+    update([&](ConnectionStatus &status) {
+        status = {};
+        status.state = ConnectionState::Connecting;
+        status.kind = isNetworkCard ? LinkKind::NetworkCard : LinkKind::DialUp;
+        status.profileName = profile.name();
+        status.apn = profile.isOn(ProfileField::ObtainsApn) ? QString() : profile.text(ProfileField::Apn);
+        status.isRoaming = isRoaming(monitor->state());
+    });
+    link->start();
+    return true;
+}
+
+/// A dial that does not even begin.
+void ConnectionService::Private::refuse(ConnectionEnd end, const QString &message)
+{
+    redial.stop();
+    update([&](ConnectionStatus &status) {
+        status = {};
+        status.end = end;
+        status.endSentence = message;
+    });
+    Q_EMIT q->sigMessage(message);
+}
+
+void ConnectionService::Private::wentUp(const ConnectionProfile &profile)
+{
+    const DiallerOptions options = DiallerOptions::fromConfiguration();
+    redial.stop();
+    refreshTimer.start();
+    update([](ConnectionStatus &status) {
+        status.state = ConnectionState::Connected;
+        status.since = QDateTime::currentDateTime();
+    });
+    refresh();
+    if (options.idleLimit)
+        idle.launchAutoDisconnectMonitor(*options.idleLimit);
+    if (const QUrl url = pageOf(profile); options.opensUrl && !url.isEmpty())
+        Q_EMIT q->sigOpenUrl(url);
+}
+
+void ConnectionService::Private::refresh()
+{
+    if (!link)
+        return;
+    const LinkFacts facts = link->facts();
+    update([&](ConnectionStatus &status) {
+        status.interfaceName = facts.interfaceName;
+        status.localAddress = facts.localAddress;
+        status.peerAddress = facts.peerAddress;
+        status.nameServers = facts.nameServers;
+        status.hasDefaultRoute = facts.hasDefaultRoute;
+        status.isRoaming = isRoaming(monitor->state());
+    });
+}
+
+// --- The end of a link
+// ---------------------------------------------------------------------------------------------------
+
+void ConnectionService::Private::isOver(const LinkOutcome &outcome)
+{
+    const bool wasUp = q->m_status.since.isValid();
+    link->deleteLater();
+    link = nullptr;
+    tellOrRedial(outcome, wasUp);
+}
+
+/// A box only where no further dial follows; the status first, so that who reads the box sees it.
+void ConnectionService::Private::tellOrRedial(const LinkOutcome &outcome, bool wasUp)
+{
+    const QString sentence = outcome.isExplained ? outcome.message : endSentence(outcome.end);
+    const bool isWorthIt = isWorthAnotherDial(outcome.end);
+    bool dialsAgain = false;
+    if (redial.isActive() && isWorthIt)
+        dialsAgain = redial.next();
+    else
+        redial.stop();
+    if (wasUp && isWorthIt)
+        autoReConnWhenAbnormalDisconn();
+    dialsAgain = dialsAgain || redial.isActive();
+
+    update([&](ConnectionStatus &status) {
+        const ConnectionStatus before = status;
+        status = {};
+        status.kind = before.kind;
+        status.profileName = before.profileName;
+        status.apn = before.apn;
+        status.end = outcome.end;
+        status.exitCode = outcome.exitCode;
+        status.endSentence = sentence;
+    });
+    const QString message = outcome.message.isEmpty() && wasUp && isWorthIt ? sentence : outcome.message;
+    if (!message.isEmpty() && !dialsAgain)
+        Q_EMIT q->sigMessage(message);
+}
+
+void ConnectionService::Private::autoReConnWhenAbnormalDisconn()
+{
+    const DiallerOptions options = DiallerOptions::fromConfiguration();
+    if (options.redials)
+        redial.autoRedialNetwork(options.redial);
+}
+
+/// One dial of a row that nobody pressed a button for.
+void ConnectionService::Private::slotAutoRedial()
+{
+    if (link)
+        return;
+    if (isRoaming(monitor->state()) && !mayRoam) {
+        redial.stop(); // roaming costs: a person decides
+        update([](ConnectionStatus &) {});
+        return;
+    }
+    if (q->obstacle() == ConnectObstacle::CardGone && redial.next()) {
+        if (redial.number() == 2) // one box for the row
+            Q_EMIT q->sigMessage(tr("The device has been disconnected or is unavailable."));
+        update([](ConnectionStatus &) {});
+        return;
+    }
+    if (mayDial())
+        dial();
+    else
+        redial.stop();
+    update([](ConnectionStatus &) {});
+}
+
+// --- The card
+// ------------------------------------------------------------------------------------------------------------
+
+void ConnectionService::Private::takeCard(const CardState &card)
+{
+    const bool isGone = card.presence == CardPresence::Absent || card.presence == CardPresence::StorageMode;
+    if (isGone && link)
+        link->end({ConnectionEnd::CardGone, -1, tr("The device has been disconnected or is unavailable.")});
+    autoConnect(card);
+}
+
+/// Dials once for each time that a card becomes ready.
+void ConnectionService::Private::autoConnect(const CardState &card)
+{
+    const bool isReady =
+        card.presence == CardPresence::Ready && card.modemReady && card.registration == Registration::Home;
+    const bool becameReady = isReady && !wasReady;
+    wasReady = isReady || (wasReady && card.presence == CardPresence::Ready);
+    const DiallerOptions options = DiallerOptions::fromConfiguration();
+    if (!becameReady || !options.connectsByItself || link || redial.isActive())
+        return;
+    redial.autoRedialNetwork(options.automatic);
+    update([](ConnectionStatus &) {});
+}
+
+void ConnectionService::Private::becameIdle()
+{
+    if (!link || !link->isUp())
+        return;
+    Q_EMIT q->sigMessage(
+        tr("There is no data transported recently. Auto Disconnect will close your internet link."));
+    link->end({ConnectionEnd::Idle, -1, {}});
+}
+
+// --- The service
+// ---------------------------------------------------------------------------------------------------------
+
+ConnectionService::ConnectionService(CardMonitor *monitor, ProfileStore *profiles, QObject *parent)
+    : ConnectionService(monitor, profiles, ConnectionParts(), parent)
+{
+}
+
+ConnectionService::ConnectionService(CardMonitor *monitor, ProfileStore *profiles, ConnectionParts parts,
+                                     QObject *parent)
+    : QObject(parent), d(std::make_unique<Private>(this, monitor, profiles, std::move(parts)))
+{
+}
+
+ConnectionService::~ConnectionService()
+{
+    shutDown();
+}
+
+ProfileStore &ConnectionService::profiles()
+{
+    return *d->profiles;
+}
+
+void ConnectionService::shutDown()
+{
+    if (std::exchange(d->isShutDown, true))
+        return;
+    d->redial.stop();
+    if (d->link)
+        d->link->abandon();
+    d->parts.backend->shutDown();
+    delete std::exchange(d->link, nullptr);
+    d->update([](ConnectionStatus &status) { status.state = ConnectionState::NotConnected; });
+}
+
+void ConnectionService::recoverLeftovers()
+{
+    if (!d->parts.hasLeftovers())
+        return;
+    d->parts.backend->ask({.verb = DialVerb::Recover}, [this](const DialResult &result) {
+        if (!result.isDone())
+            Q_EMIT sigMessage(result.error);
+    });
+}
+
+ConnectObstacle ConnectionService::obstacle() const
+{
+    const CardState &card = d->monitor->state();
+    if (card.presence != CardPresence::Ready)
+        return ConnectObstacle::CardGone;
+    if (d->isCallUp && !carriesDataBesideCalls(card.networkType))
+        return ConnectObstacle::CallOnOtherNetwork;
+    return isRoaming(card) ? ConnectObstacle::Roaming : ConnectObstacle::None;
+}
+
+bool ConnectionService::connectNow(const std::optional<DialCredentials> &credentials)
+{
+    if (d->link || d->isShutDown) {
+        qCDebug(lcConnection).noquote() << logTime() + u"======= exit startwvdial false ======"_s;
+        return false;
+    }
+    d->redial.stop();
+    d->credentials = credentials;
+    d->mayRoam = isRoaming(d->monitor->state());
+    const bool isDialling = d->mayDial() && d->dial();
+    d->update([](ConnectionStatus &) {}); // a row of redials may have ended
+    return isDialling;
+}
+
+void ConnectionService::disconnectNow(ConnectionEnd why)
+{
+    d->redial.stop();
+    if (d->link)
+        d->link->end({why, -1, {}});
+    d->update([](ConnectionStatus &) {});
+}
+
+void ConnectionService::setByteCounter(std::function<std::optional<quint64>()> counter)
+{
+    d->idle.setCounter(std::move(counter));
+}
+
+void ConnectionService::setCallUp(bool isUp)
+{
+    d->isCallUp = isUp;
+}
+
+} // namespace corva

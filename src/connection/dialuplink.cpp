@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "connection/dialuplink.h"
+
+#include "connection/ppperrors.h"
+#include "device/cardmonitor.h"
+#include "link/serialthread.h"
+#include "shell/logging.h"
+
+#include <QFile>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace corva
+{
+
+namespace
+{
+
+/// A card that answers without a pause must not keep the link up: the kill waits so often and no longer.
+constexpr int mostKillRounds = 5;
+constexpr auto killRound = 100ms;
+
+// Exit statuses of pppd. Source: pppd(8).
+constexpr int peerFailedToAuthenticate = 11;
+constexpr int idleTimeout = 12;
+constexpr int connectTimeLimit = 13;
+constexpr int noEchoReplies = 15;
+constexpr int modemHungUp = 16;
+constexpr int failedToAuthenticate = 19;
+
+struct EndByCode {
+    int exitCode;
+    ConnectionEnd end;
+};
+constexpr EndByCode endOfDial[] = {{peerFailedToAuthenticate, ConnectionEnd::Refused},
+                                   {failedToAuthenticate, ConnectionEnd::Refused}};
+constexpr EndByCode endOfLink[] = {{0, ConnectionEnd::ByPeer},
+                                   {idleTimeout, ConnectionEnd::Idle},
+                                   {connectTimeLimit, ConnectionEnd::ByPeer},
+                                   {noEchoReplies, ConnectionEnd::LinkLost},
+                                   {modemHungUp, ConnectionEnd::ByPeer}};
+
+template <std::size_t count> ConnectionEnd endFor(const EndByCode (&rows)[count], int exitCode)
+{
+    const auto *row = std::ranges::find(rows, exitCode, &EndByCode::exitCode);
+    return row == std::end(rows) ? ConnectionEnd::DiallerFailed : row->end;
+}
+
+} // namespace
+
+void DialUpLink::make()
+{
+    connect(&m_backend, &DiallerBackend::sigOutput, this, &DialUpLink::takeOutput);
+    connect(&m_backend, &DiallerBackend::sigDiallerGone, this, &DialUpLink::endedByItself);
+    DialRequest request{.verb = DialVerb::Write};
+    request.profile = m_plan.profile;
+    request.modemPort = m_plan.modemPort;
+    request.options = m_plan.options;
+    m_backend.ask(request, [this, guard = QPointer(this)](const DialResult &result) {
+        if (!guard || !isMaking())
+            return;
+        if (result.isDone())
+            slotStartWvdial();
+        else
+            explain(result);
+    });
+}
+
+void DialUpLink::slotStartWvdial()
+{
+    m_isDialled = true;
+    armLimit();
+    m_backend.ask({.verb = DialVerb::Dial}, [this, guard = QPointer(this)](const DialResult &result) {
+        if (guard && isMaking() && !result.isDone())
+            explain(ConnectionEnd::DiallerFailed, result.error);
+    });
+}
+
+void DialUpLink::takeDown()
+{
+    if (m_isDialled)
+        slotKillWvdial();
+    else
+        takenDown();
+}
+
+/// The dialler's end takes the data port away from under the card: not in the middle of a reply.
+void DialUpLink::slotKillWvdial()
+{
+    if (receive_flag && m_killRounds < mostKillRounds) {
+        ++m_killRounds;
+        qCDebug(lcConnection).noquote()
+            << logTime() + u"can't close wvdial, receive_flag=%1"_s.arg(int(receive_flag));
+        QTimer::singleShot(killRound, this, &DialUpLink::slotKillWvdial);
+        return;
+    }
+    m_backend.ask({.verb = DialVerb::HangUp}, [this, guard = QPointer(this)](const DialResult &) {
+        if (guard)
+            takenDown();
+    });
+}
+
+void DialUpLink::takeOutput(const QByteArray &chunk)
+{
+    if (!isMaking() && !isUp())
+        return;
+    for (const WvdialEvent &event : m_output.feed(chunk))
+        take(event);
+    look();
+}
+
+void DialUpLink::take(const WvdialEvent &event)
+{
+    using Kind = WvdialEvent::Kind;
+    switch (event.kind) {
+    case Kind::Interface: m_interface = event.text; break;
+    case Kind::LocalAddress: m_said.localAddress = event.text; break;
+    case Kind::PeerAddress: m_said.peerAddress = event.text; break;
+    case Kind::NameServer: m_said.nameServers += event.text; break;
+    case Kind::Refused: m_wasRefused = true; break;
+    case Kind::PppEnded: pppEnded(event.number); break;
+    case Kind::Busy: // the dialler would go on dialling for ever
+        fail(ConnectionEnd::Busy, failureMessage(-1));
+        break;
+    case Kind::NoCarrier:
+    case Kind::NoAnswer:
+    case Kind::NoDialTone:
+    case Kind::CommandRefused: fail(ConnectionEnd::NoCarrier, failureMessage(-1)); break;
+    default: break; // what else it says is for the log
+    }
+}
+
+void DialUpLink::pppEnded(int exitCode)
+{
+    if (!isUp()) {
+        fail(m_wasRefused ? ConnectionEnd::Refused : endFor(endOfDial, exitCode), failureMessage(exitCode),
+             exitCode);
+        return;
+    }
+    const bool isPortGone = !QFile::exists(m_plan.modemPort);
+    fail(isPortGone ? ConnectionEnd::CardGone : endFor(endOfLink, exitCode), {}, exitCode);
+}
+
+void DialUpLink::endedByItself()
+{
+    if (!isMaking() && !isUp())
+        return;
+    for (const WvdialEvent &event : m_output.finish())
+        take(event);
+    const bool isPortGone = !QFile::exists(m_plan.modemPort);
+    fail(isPortGone ? ConnectionEnd::CardGone : ConnectionEnd::DiallerFailed,
+         isUp() ? QString() : failureMessage(-1));
+}
+
+void DialUpLink::look()
+{
+    if (isMaking() && isBuilt())
+        setUp();
+}
+
+/// A link file, or an interface, comes before the addresses are agreed: alone they carry nothing yet.
+bool DialUpLink::isBuilt() const
+{
+    const LinkFacts now = m_facts(m_interface);
+    const bool hasAddress = !m_said.localAddress.isEmpty() || !now.localAddress.isEmpty();
+    return hasAddress && (now.isUp || hasLinkFile(m_linkFiles));
+}
+
+LinkFacts DialUpLink::facts() const
+{
+    LinkFacts now = m_facts(m_interface);
+    if (now.localAddress.isEmpty())
+        now.localAddress = m_said.localAddress;
+    if (!m_said.peerAddress.isEmpty())
+        now.peerAddress = m_said.peerAddress;
+    if (now.nameServers.isEmpty())
+        now.nameServers = m_said.nameServers;
+    return now;
+}
+
+QString DialUpLink::failureMessage(int exitCode) const
+{
+    if (exitCode < 0 || !m_plan.showsExitCode)
+        return tr("Connection is failed!");
+    const QString message = tr("Fail to connect! exit code is") + u' ' + QString::number(exitCode);
+    const QString text = getPppErrorInfo(exitCode);
+    return text.isEmpty() ? message : message + u'\n' + text;
+}
+
+} // namespace corva

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "connection/dhcpclient.h"
+#include "connection/dialrequest.h"
+#include "connection/wvdialprocess.h"
+
+#include <QObject>
+#include <deque>
+
+namespace corva
+{
+
+/// Carries out the requests to the dialler's side, one after another. Lives on a thread with an event loop
+/// and the rights to dial: in the program when it runs as root, in the helper program otherwise.
+class DialWork : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Why a request is refused, or an empty text; may put right what the request says.
+    using Check = std::function<QString(DialRequest &)>;
+
+    /// `onRun` hears when a dialler runs, on another thread.
+    DialWork(const SystemFiles &files, std::function<void()> onRun, Check check = {},
+             QObject *parent = nullptr);
+
+    /// Queues the request; `sigDone` answers it. What ends a link ends a lease that is still asked for.
+    void ask(const DialRequest &request);
+    /// Drops what waits, ends the dialler and the lease and puts the files back. `sigShutDown` follows.
+    void shutDown();
+
+    /// The interface that has an address from here, or is asking for one.
+    const QString &leasedInterface() const { return m_leased; }
+
+Q_SIGNALS:
+    void sigDone(const corva::DialResult &result);
+    void sigOutput(const QByteArray &chunk);
+    void sigDiallerGone();
+    void sigShutDown();
+
+private:
+    void carryOutNext();
+    void carryOut(DialRequest request);
+    void endLeftDialler();
+    void diallerGone();
+    void leaseDone(const QString &error);
+    void saveFiles();
+    void recoverFiles();
+    void runRouteHelper();
+    void answer(const DialResult &result);
+    void answer(bool isDone, const QString &error);
+
+    const Check m_check;
+    DiallerFiles m_files;
+    WvdialProcess m_wvdial;
+    DhcpClient m_dhcp;
+    QString m_leased;
+    std::deque<DialRequest> m_requests; ///< the first is being carried out
+    bool m_isBusy = false;
+    bool m_hasSaved = false;
+    bool m_isShuttingDown = false;
+};
+
+} // namespace corva

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "connection/helperbackend.h"
+
+#include "shell/globals.h"
+#include "shell/logging.h"
+#include "shell/updatecfg.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QThreadPool>
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+namespace
+{
+
+constexpr auto installedHelper = "/usr/libexec/corva/corva-dialhelper"_L1;
+
+// How pkexec ends when it does not start the program. Source: pkexec(1), "RETURN VALUE".
+constexpr int dismissed = 126;
+constexpr int notAuthorised = 127;
+
+bool isAdministratorsOwn(const QString &path)
+{
+    struct stat status = {};
+    return stat(QFile::encodeName(path).constData(), &status) == 0 && S_ISREG(status.st_mode) &&
+           status.st_uid == 0 && (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
+}
+
+/// The helper says its sentences in English, having no translation of its own.
+QString translated(const QString &sentence)
+{
+    const QByteArray source = sentence.toUtf8();
+    for (const char *context :
+         {"DiallerFiles", "corva::DialWork", "corva::DhcpClient", "WvdialProcess", "ProfileChecks"}) {
+        const QString text = QCoreApplication::translate(context, source.constData());
+        if (text != sentence)
+            return text;
+    }
+    return sentence;
+}
+
+} // namespace
+
+HelperBackend::HelperBackend(const QStringList &command, QObject *parent)
+    : DiallerBackend(parent), m_command(command)
+{
+}
+
+HelperBackend::~HelperBackend()
+{
+    shutDown();
+}
+
+QStringList HelperBackend::installedCommand()
+{
+    const QString helper =
+        isAdministratorsOwn(installedHelper) ? QString(installedHelper) : basePath + u"/corva-dialhelper"_s;
+    return {u"pkexec"_s, helper};
+}
+
+void HelperBackend::ask(const DialRequest &request, Answer answer)
+{
+    m_pending.push_back({request, std::move(answer)});
+    if (!m_process)
+        start();
+    else if (m_isReady)
+        m_process->write(toLine(request));
+}
+
+void HelperBackend::start()
+{
+    m_isReady = false;
+    m_lines = {};
+    m_process = std::make_unique<QProcess>();
+    m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    connect(m_process.get(), &QProcess::readyReadStandardOutput, this, &HelperBackend::readOutput);
+    connect(m_process.get(), &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            ended(tr("Connecting needs an administrator's rights, and the program \"pkexec\", which asks for "
+                     "them, is missing. Please install it."));
+    });
+    connect(m_process.get(), &QProcess::finished, this, [this](int code) {
+        readOutput();
+        if (m_isReady)
+            ended(tr("The program that dials has ended unexpectedly. Please try again."));
+        else if (code == dismissed)
+            ended(tr("The right to connect was not given. Please connect again and enter the password."));
+        else if (code == notAuthorised)
+            ended(tr("The right to connect could not be asked for. Ask an administrator to run "
+                     "\"tools/install-dialhelper\", or start Corva in a desktop session."));
+        else
+            ended(tr("The program that dials could not be started. Ask an administrator to run "
+                     "\"tools/install-dialhelper\"."));
+    });
+    m_process->start(m_command.at(0), m_command.mid(1));
+}
+
+void HelperBackend::readOutput()
+{
+    for (const QByteArray &line : m_lines.feed(m_process->readAllStandardOutput()))
+        if (const auto event = eventFromLine(line))
+            take(*event);
+}
+
+void HelperBackend::take(const DialEvent &event)
+{
+    switch (event.kind) {
+    case DialEvent::Kind::Ready:
+        m_isReady = true;
+        for (const Pending &pending : m_pending)
+            m_process->write(toLine(pending.request));
+        break;
+    case DialEvent::Kind::Output: Q_EMIT sigOutput(event.output); break;
+    case DialEvent::Kind::DiallerGone: Q_EMIT sigDiallerGone(); break;
+    case DialEvent::Kind::Done:
+        if (m_pending.empty())
+            break;
+        const Pending done = std::move(m_pending.front());
+        m_pending.pop_front();
+        if (done.request.verb == DialVerb::Dial && event.result.isDone())
+            QThreadPool::globalInstance()->start([] { UpdateCfg::setValue(UpdateKey::Wvdial, u"1"_s); });
+        done.answer({event.result.kind, translated(event.result.error)});
+        break;
+    }
+}
+
+/// Everything that waits is answered, and the next request starts the helper anew.
+void HelperBackend::ended(const QString &sentence)
+{
+    qCWarning(lcConnection).noquote() << logTime() + sentence;
+    const bool wasReady = m_isReady;
+    m_isReady = false;
+    m_process.release()->deleteLater(); // it may be speaking now
+    const std::deque<Pending> pending = std::exchange(m_pending, {});
+    if (wasReady)
+        Q_EMIT sigDiallerGone();
+    for (const Pending &waiting : pending)
+        waiting.answer({wasReady ? DialResult::Kind::Failed : DialResult::Kind::NoRights, sentence});
+}
+
+void HelperBackend::shutDown()
+{
+    m_pending.clear();
+    if (!m_process)
+        return;
+    m_process->disconnect(this);
+    m_process->closeWriteChannel();
+    const bool isEnded = m_isReady && m_process->waitForFinished(int(longestShutDown.count()));
+    // One that still asks for a password runs with rights that this program cannot end.
+    if (!isEnded)
+        (void)m_process.release();
+    m_process.reset();
+}
+
+} // namespace corva

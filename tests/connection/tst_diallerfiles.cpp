@@ -1,0 +1,443 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "connection/diallerfiles.h"
+#include "connection/diallertexts.h"
+#include "connection/profilestore.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <fcntl.h>
+#include <sys/ptrace.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace corva;
+
+using F = ProfileField;
+
+namespace
+{
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+}
+
+void put(const QString &path, const QByteArray &content, mode_t mode = 0644)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
+        ::chmod(QFile::encodeName(path).constData(), mode) != 0)
+        qFatal("%s cannot be made", qPrintable(path));
+}
+
+mode_t modeOf(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+}
+
+/// Everything below the folder but the lock: kind, mode, owner, time and content or target by name.
+QMap<QString, QByteArray> snapshot(const QString &root)
+{
+    QMap<QString, QByteArray> all;
+    QDirIterator it(root, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString path = it.next();
+        struct stat status = {};
+        if (path.endsWith(u".lock"_s) || ::lstat(QFile::encodeName(path).constData(), &status) != 0)
+            continue;
+        QByteArray facts =
+            QByteArray::number(status.st_mode, 8) + ' ' + QByteArray::number(status.st_gid) + ' ';
+        if (S_ISLNK(status.st_mode))
+            facts += QFile::symLinkTarget(path).toUtf8();
+        else if (S_ISREG(status.st_mode))
+            facts += QByteArray::number(qlonglong(status.st_mtim.tv_sec)) + ' ' + contentOf(path);
+        all[path] = facts;
+    }
+    return all;
+}
+
+ConnectionProfile profile()
+{
+    ConnectionProfile p = ProfileStore::newProfile();
+    p.setText(F::Name, u"Home"_s);
+    p.setText(F::UserName, u"me"_s);
+    p.setText(F::Password, u"se#cret"_s);
+    return p;
+}
+
+bool connectOnce(DiallerFiles &files)
+{
+    return files.saveConfigData() && files.readDeafaultConfigData(profile(), u"/dev/ttyUSB1"_s, {}) &&
+           files.saveManualDNS(u"8.8.8.8"_s, u"8.8.4.4"_s);
+}
+
+/// Runs `act` in a process of its own that is killed before its system call number `calls`, if it makes that
+/// many. Returns how many it made.
+int runAndKill(const std::function<void()> &act, int calls)
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+        ::raise(SIGSTOP);
+        act();
+        ::_exit(0);
+    }
+    int status = 0;
+    int stops = 0;
+    ::waitpid(child, &status, 0);
+    // Every call stops the process twice, when it begins and when it ends.
+    while (WIFSTOPPED(status) && stops < 2 * calls) {
+        ::ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
+        ::waitpid(child, &status, 0);
+        ++stops;
+    }
+    if (WIFSTOPPED(status)) {
+        ::kill(child, SIGKILL);
+        ::waitpid(child, &status, 0);
+    }
+    return stops / 2;
+}
+
+} // namespace
+
+class TestDiallerFiles : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void texts();
+    void authentication_data();
+    void authentication();
+    void numbers();
+    void nameServers();
+    void thereAndBack();
+    void twoConnects();
+    void missingCopy();
+    void ownFilesAreNotSaved();
+    void foreignCopiesGoBack();
+    void editedMeanwhile();
+    void resolverOfOthers();
+    void otherProgram();
+    void refusals();
+    void connectInfo();
+    void distribution();
+    void killedAnywhere();
+
+private:
+    QString path(const QString &name) const { return m_root->path() + name; }
+
+    std::unique_ptr<QTemporaryDir> m_root;
+    SystemFiles m_files;
+};
+
+/// A file, a file behind a link, no file at all, and the resolver behind a link.
+void TestDiallerFiles::init()
+{
+    m_root = std::make_unique<QTemporaryDir>();
+    m_files = SystemFiles::below(m_root->path());
+    for (const QString &folder : {u"/etc/ppp/peers"_s, u"/run"_s, u"/tmp"_s, u"/usr/share"_s})
+        QDir().mkpath(path(folder));
+    put(m_files.wvdialConf, "[Dialer Defaults]\nPassword = mine\r\n", 0640);
+    put(path(u"/usr/share/options"_s), "lock\n", 0604);
+    QVERIFY(QFile::link(u"../../usr/share/options"_s, m_files.pppOptions));
+    put(path(u"/run/resolv.conf"_s), "search example.org\nnameserver 1.1.1.1\n");
+    QVERIFY(QFile::link(u"../run/resolv.conf"_s, m_files.resolvConf));
+    for (const QString &file : {m_files.wvdialConf, path(u"/usr/share/options"_s)}) {
+        const timespec times[] = {{1'000'000'000, 0}, {1'000'000'000, 0}};
+        QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(file).constData(), times, 0), 0);
+    }
+}
+
+void TestDiallerFiles::texts()
+{
+    ConnectionProfile p = profile();
+    p.setText(F::Phone, u"*99***1#"_s);
+    PppOptions options;
+    options.values[0] = 4;
+    options.values[6] = 1500;
+    QCOMPARE(wvdialConfText(p, u"/dev/ttyUSB1"_s),
+             QByteArray("[Dialer Defaults]\r\nPhone = *99***1#\r\nUsername = me\r\nPassword = se#cret\r\n"
+                        "Stupid Mode = 1\r\nDial Command = ATDT\r\nModem = /dev/ttyUSB1\r\nBaud = 115200\r\n"
+                        "ISDN = 0\r\nAuto Reconnect = off\r\nCheck DNS = off\r\nDial Attempts = 1\r\n"
+                        "Modem Type = Analog Modem\r\n"));
+    QCOMPARE(pppOptionsText(p, options),
+             QByteArray("debug\r\nnoauth\r\nnoipdefault\r\ndefaultroute\r\nusepeerdns\r\ncrtscts\r\nlock\r\n"
+                        "kdebug 7 \r\n-detach \r\nlcp-echo-failure 4\r\nmtu 1500\r\n#refuse-pap\r\n"
+                        "refuse-chap\r\nrefuse-mschap\r\nrefuse-mschap-v2\r\nrefuse-eap\r\nname me\r\n"
+                        "#show-password\r\n"));
+    QCOMPARE(peerText(false), QByteArray("ipcp-accept-local\r\nipcp-accept-remote\r\n#lcp-echo-failure 0\r\n"
+                                         "#lcp-echo-interval 0\r\n"));
+    p.setText(F::UserName, {});
+    p.setText(F::Password, {});
+    p.setOn(F::UsesDns, true);
+    QVERIFY(wvdialConfText(p, u"/dev/ttyUSB1"_s).contains("\r\nUsername = null\r\nPassword = null\r\n"));
+    QVERIFY(pppOptionsText(p, {}).contains("\r\n#usepeerdns\r\n"));
+    QVERIFY(pppOptionsText(p, {}).contains("\r\n#name\r\n"));
+}
+
+void TestDiallerFiles::authentication_data()
+{
+    QTest::addColumn<int>("choice");
+    QTest::addColumn<QString>("user");
+    QTest::addColumn<QByteArray>("expected");
+    const QByteArray others = "refuse-mschap\r\nrefuse-mschap-v2\r\nrefuse-eap\r\n";
+    QTest::newRow("PAP") << int(F::Pap) << u"me@home"_s
+                         << "#refuse-pap\r\nrefuse-chap\r\n" + others + "name me@home\r\n";
+    QTest::newRow("CHAP") << int(F::Chap) << u"a b#c"_s
+                          << "refuse-pap\r\n#refuse-chap\r\n" + others + "name \"a b#c\"\r\n";
+    QTest::newRow("none") << int(F::NoAuthentication) << u"me"_s
+                          << "refuse-pap\r\nrefuse-chap\r\n" + others + "#name\r\n";
+    QTest::newRow("no choice") << int(F::Name) << u"me"_s
+                               << QByteArray(
+                                      "#refuse-pap\r\n#refuse-chap\r\n#refuse-mschap\r\n#refuse-mschap-v2\r\n"
+                                      "#refuse-eap\r\nname me\r\n");
+}
+
+void TestDiallerFiles::authentication()
+{
+    QFETCH(int, choice);
+    QFETCH(QString, user);
+    QFETCH(QByteArray, expected);
+    ConnectionProfile p = profile();
+    p.setOn(F::Pap, false);
+    p.setOn(F(choice), true);
+    p.setText(F::UserName, user);
+    const QByteArray text = pppOptionsText(p, {});
+    QCOMPARE(text.sliced(text.indexOf("-detach \r\n") + 10), expected + "#show-password\r\n");
+}
+
+void TestDiallerFiles::numbers()
+{
+    const QMap<QString, QString> given = {{u"lcp-echo-failure"_s, u"0"_s},
+                                          {u"lcp-max-configure"_s, u"0"_s},
+                                          {u"ipcp-max-failure"_s, u"ten"_s},
+                                          {u"mtu"_s, u"127"_s},
+                                          {u"mru"_s, u"16384"_s}};
+    PppOptions expected;
+    expected.values[0] = 0;
+    expected.values[7] = 16384;
+    QCOMPARE(PppOptions::from([&given](QLatin1StringView name) { return given[QString(name)]; }), expected);
+}
+
+void TestDiallerFiles::nameServers()
+{
+    DiallerFiles files(m_files);
+    QString error;
+    QVERIFY(!files.saveManualDNS(u"8.8.8.8"_s, u"x"_s, &error));
+    QCOMPARE(error, u"The DNS is invalid !"_s);
+    QVERIFY(!files.saveManualDNS(u"8.8.8.8"_s, {}));
+    QVERIFY(files.saveConfigData());
+    QVERIFY(files.saveManualDNS(u"8.8.8.8"_s, {}));
+    QCOMPARE(contentOf(m_files.resolvConf), QByteArray("nameserver 8.8.8.8\nsearch example.org\n"));
+    QCOMPARE(modeOf(m_files.resolvConf), 0644u);
+    QVERIFY(QFileInfo(m_files.resolvConf).isSymLink());
+}
+
+void TestDiallerFiles::thereAndBack()
+{
+    const auto before = snapshot(m_root->path());
+    DiallerFiles files(m_files);
+    QVERIFY2(connectOnce(files), qPrintable(files.detail()));
+    QCOMPARE(contentOf(m_files.savedWvdialConf), QByteArray("[Dialer Defaults]\nPassword = mine\r\n"));
+    QCOMPARE(modeOf(m_files.savedWvdialConf), 0640u);
+    QCOMPARE(contentOf(m_files.wvdialConf), wvdialConfText(profile(), u"/dev/ttyUSB1"_s));
+    for (const QString &file : {m_files.wvdialConf, m_files.pppOptions, m_files.peer, m_files.journal})
+        QCOMPARE(modeOf(file), 0600u);
+    QVERIFY(!contentOf(m_files.journal).contains("cret"));
+    QVERIFY(!files.hasLeftovers());
+    QVERIFY(files.recoverConfigData());
+    QCOMPARE(snapshot(m_root->path()), before);
+}
+
+void TestDiallerFiles::twoConnects()
+{
+    const auto before = snapshot(m_root->path());
+    DiallerFiles files(m_files);
+    QVERIFY(connectOnce(files));
+    QVERIFY(connectOnce(files));
+    ConnectionProfile other = profile();
+    other.setText(F::UserName, u"other"_s);
+    QVERIFY(files.readDeafaultConfigData(other, u"/dev/ttyUSB1"_s, {}));
+    QVERIFY(files.recoverConfigData());
+    QCOMPARE(snapshot(m_root->path()), before);
+}
+
+void TestDiallerFiles::missingCopy()
+{
+    DiallerFiles files(m_files);
+    QVERIFY(connectOnce(files));
+    QVERIFY(QFile::remove(m_files.savedWvdialConf));
+    QString error;
+    QVERIFY(!files.recoverConfigData(&error));
+    QCOMPARE(error, u"Recover wvdial config data failed!"_s);
+    QCOMPARE(contentOf(m_files.wvdialConf), wvdialConfText(profile(), u"/dev/ttyUSB1"_s));
+    QCOMPARE(contentOf(m_files.pppOptions), QByteArray("lock\n"));
+    QVERIFY(!files.hasLeftovers());
+    QVERIFY(!files.recoverConfigData());
+}
+
+void TestDiallerFiles::ownFilesAreNotSaved()
+{
+    {
+        DiallerFiles files(m_files);
+        QVERIFY(connectOnce(files));
+    }
+    QVERIFY(QFile::remove(m_files.savedWvdialConf));
+    DiallerFiles files(m_files);
+    QVERIFY(files.saveConfigData());
+    QVERIFY(!QFileInfo::exists(m_files.savedWvdialConf));
+    QVERIFY(files.recoverConfigData());
+    QVERIFY(!QFileInfo::exists(m_files.wvdialConf));
+    QCOMPARE(contentOf(m_files.pppOptions), QByteArray("lock\n"));
+}
+
+void TestDiallerFiles::foreignCopiesGoBack()
+{
+    put(m_files.savedWvdialConf, "older\n", 0600);
+    DiallerFiles files(m_files);
+    QVERIFY(files.hasLeftovers());
+    QVERIFY(files.saveConfigData());
+    QCOMPARE(contentOf(m_files.savedWvdialConf), QByteArray("older\n"));
+    QVERIFY(files.recoverConfigData());
+    QCOMPARE(contentOf(m_files.wvdialConf), QByteArray("older\n"));
+}
+
+void TestDiallerFiles::editedMeanwhile()
+{
+    DiallerFiles files(m_files);
+    QVERIFY(connectOnce(files));
+    put(m_files.wvdialConf, "edited\n");
+    QVERIFY(files.recoverConfigData());
+    QCOMPARE(contentOf(m_files.wvdialConf), QByteArray("[Dialer Defaults]\nPassword = mine\r\n"));
+    const QStringList kept = QDir(path(u"/etc"_s)).entryList({u"wvdial.conf.changed-*"_s});
+    QCOMPARE(kept.size(), 1);
+    QCOMPARE(contentOf(path(u"/etc/"_s) + kept.first()), QByteArray("edited\n"));
+}
+
+void TestDiallerFiles::resolverOfOthers()
+{
+    DiallerFiles files(m_files);
+    QVERIFY(connectOnce(files));
+    put(m_files.resolvConf, "nameserver 9.9.9.9\n");
+    QVERIFY(files.recoverConfigData());
+    QCOMPARE(contentOf(m_files.resolvConf), QByteArray("nameserver 9.9.9.9\n"));
+    QVERIFY(!QFileInfo::exists(m_files.savedResolvConf));
+}
+
+void TestDiallerFiles::otherProgram()
+{
+    DiallerFiles first(m_files);
+    QVERIFY(connectOnce(first));
+    DiallerFiles second(m_files);
+    QString error;
+    QVERIFY(!second.hasLeftovers());
+    QVERIFY(second.recoverLeftovers());
+    QVERIFY(!second.saveConfigData(&error));
+    QCOMPARE(error, u"Save wvdial config data failed!"_s);
+    QCOMPARE(contentOf(m_files.wvdialConf), wvdialConfText(profile(), u"/dev/ttyUSB1"_s));
+    QVERIFY(first.recoverConfigData());
+    QVERIFY(second.saveConfigData());
+}
+
+void TestDiallerFiles::refusals()
+{
+    const auto before = snapshot(m_root->path());
+    DiallerFiles files(m_files);
+    QString error;
+    QVERIFY(!files.recoverConfigData(&error));
+    QCOMPARE(error, u"Recover wvdial config data failed!"_s);
+    QVERIFY(!files.readDeafaultConfigData(profile(), u"/dev/ttyUSB1"_s, {}, &error));
+    QCOMPARE(error, u"Read default wvdial config data failed!"_s);
+    QVERIFY(files.saveConfigData());
+    ConnectionProfile hostile = profile();
+    hostile.setText(F::UserName, u"me\nplugin /tmp/x.so"_s);
+    QVERIFY(!files.readDeafaultConfigData(hostile, u"/dev/ttyUSB1"_s, {}, &error));
+    QVERIFY(error.startsWith(u"A value holds a line break"_s));
+    QVERIFY(QDir(path(u"/etc/ppp"_s)).rename(u"peers"_s, u"gone"_s));
+    QVERIFY(!files.readDeafaultConfigData(profile(), u"/dev/ttyUSB1"_s, {}, &error));
+    QCOMPARE(error, u"open file operation error!"_s);
+    QVERIFY(files.recoverConfigData());
+    QVERIFY(QDir(path(u"/etc/ppp"_s)).rename(u"gone"_s, u"peers"_s));
+    QCOMPARE(snapshot(m_root->path()), before);
+    QVERIFY(QFile::remove(m_files.wvdialConf));
+    QVERIFY(QDir().mkpath(m_files.wvdialConf));
+    QVERIFY(!files.saveConfigData(&error));
+    QCOMPARE(error, u"Save wvdial config data failed!"_s);
+    QVERIFY(!files.hasLeftovers());
+}
+
+void TestDiallerFiles::connectInfo()
+{
+    put(path(u"/victim"_s), "precious");
+    QVERIFY(QFile::link(path(u"/victim"_s), m_files.connectInfo));
+    DiallerFiles files(m_files);
+    QCOMPARE(files.connectInfo(), QByteArray());
+    QVERIFY(files.makeConnectInfo());
+    QVERIFY(!QFileInfo(m_files.connectInfo).isSymLink());
+    QCOMPARE(modeOf(m_files.connectInfo), 0600u);
+    put(m_files.connectInfo, QByteArray(2'000'000, 'x') + "exit code = 7");
+    QCOMPARE(exitCodeIn(files.connectInfo()), 7);
+    QVERIFY(files.deleteTmpFile());
+    QVERIFY(!QFileInfo::exists(m_files.connectInfo));
+    QCOMPARE(contentOf(path(u"/victim"_s)), QByteArray("precious"));
+}
+
+void TestDiallerFiles::distribution()
+{
+    DiallerFiles files(m_files);
+    QVERIFY(!files.isSuse());
+    put(m_files.issue, "Welcome to openSUSE Leap 15.4\n");
+    QVERIFY(files.isSuse());
+    QVERIFY(files.isOSDistro(u"leap"_s));
+    QVERIFY(!files.isOSDistro(u"Debian"_s));
+    QVERIFY(files.saveConfigData() && files.readDeafaultConfigData(profile(), u"/dev/ttyUSB1"_s, {}));
+    QVERIFY(contentOf(m_files.peer).endsWith("#lcp-echo-interval 0\r\nplugin passwordfd.so\r\n"));
+}
+
+void TestDiallerFiles::killedAnywhere()
+{
+    const auto before = snapshot(m_root->path());
+    const auto connectAndEnd = [this] {
+        DiallerFiles files(m_files);
+        connectOnce(files);
+        files.recoverConfigData();
+    };
+    const auto recover = [this] { DiallerFiles(m_files).recoverLeftovers(); };
+    const int calls = runAndKill(connectAndEnd, std::numeric_limits<int>::max() / 2);
+    QCOMPARE(snapshot(m_root->path()), before);
+    QVERIFY(calls > 100);
+
+    bool isNumber = false;
+    const int given = qEnvironmentVariableIntValue("CORVA_KILLS", &isNumber);
+    const int rounds = isNumber ? given : 60;
+    QRandomGenerator random(20260101);
+    for (int round = 0; round < rounds; ++round) {
+        const int moment = random.bounded(calls);
+        runAndKill(connectAndEnd, moment);
+        // The putting back is killed as well, and begun again.
+        runAndKill(recover, random.bounded(calls / 4));
+        DiallerFiles files(m_files);
+        const bool isBack =
+            round % 2 == 0 ? files.recoverLeftovers() : files.saveConfigData() && files.recoverConfigData();
+        QVERIFY2(isBack, qPrintable(files.detail()));
+        if (snapshot(m_root->path()) != before)
+            qWarning("killed before the system call number %d of %d", moment, calls);
+        QCOMPARE(snapshot(m_root->path()), before);
+        QVERIFY(!files.hasLeftovers());
+    }
+}
+
+QTEST_APPLESS_MAIN(TestDiallerFiles)
+#include "tst_diallerfiles.moc"

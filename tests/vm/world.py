@@ -1,0 +1,322 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What the scenarios act on: the network behind the card, the card on its USB gadget, the program, the system's files."""
+import contextlib
+import hashlib
+import json
+import os
+import pathlib
+import signal
+import stat
+import subprocess
+import sys
+import tempfile
+import time
+
+HERE = pathlib.Path(__file__).resolve().parent
+sys.path.insert(0, str(HERE.parent / "journey"))
+from driver import APP, Atspi, Card, Program, wait_for  # noqa: E402
+
+USER, PASSWORD = "tester", "secret"
+WEB = "198.51.100.80"
+DOWNLOAD = 20 * 1000 * 1000
+EXCHANGE = pathlib.Path("/exchange")
+
+
+def run(*words, **options):
+    return subprocess.run([str(word) for word in words], check=True, capture_output=True, text=True, **options).stdout
+
+
+def pids(name):
+    return [int(word) for word in subprocess.run(["pgrep", "-x", name], capture_output=True, text=True).stdout.split()]
+
+
+class Etc:
+    """The contents, modes, owners and link targets of /etc, but for the one file that pppd leaves behind for people to
+    read after each link."""
+
+    LEFT_BY_PPPD = "/etc/ppp/resolv.conf"
+
+    def __init__(self):
+        self.files = dict(self.look())
+
+    @staticmethod
+    def look():
+        for folder, _, names in os.walk("/etc"):
+            for path in (folder, *(os.path.join(folder, name) for name in names)):
+                if path == Etc.LEFT_BY_PPPD:
+                    continue
+                about = os.lstat(path)
+                content = ""
+                if stat.S_ISLNK(about.st_mode):
+                    content = os.readlink(path)
+                elif stat.S_ISREG(about.st_mode):
+                    content = hashlib.sha256(pathlib.Path(path).read_bytes()).hexdigest()
+                yield path, (about.st_mode, about.st_uid, about.st_gid, content)
+
+    def differences(self):
+        now = dict(self.look())
+        return sorted(path for path in self.files.keys() | now.keys() if self.files.get(path) != now.get(path))
+
+    def wait_same(self, seconds=10.0):
+        """Returns once /etc is as it was."""
+        end = time.monotonic() + seconds
+        while different := self.differences():
+            assert time.monotonic() < end, f"not as before in /etc: {', '.join(different)}"
+            time.sleep(0.1)
+
+
+class Network:
+    """What the card's calls lead to: a namespace with the users' secrets and a web server."""
+
+    def __init__(self, folder):
+        run("ip", "netns", "add", "net")
+        run("ip", "-n", "net", "link", "set", "lo", "up")
+        run("ip", "-n", "net", "addr", "add", f"{WEB}/32", "dev", "lo")
+        own = pathlib.Path("/etc/netns/net/ppp")
+        own.mkdir(parents=True)
+        (own / "options").write_text("")
+        for kind in ("pap", "chap"):
+            (own / f"{kind}-secrets").write_text(f"{USER} * {PASSWORD} *\n")
+        web = folder / "web"
+        web.mkdir()
+        with open(web / "file", "wb") as file:
+            file.truncate(DOWNLOAD)
+        run("ip", "netns", "exec", "net", "busybox", "httpd", "-p", f"{WEB}:80", "-h", web)
+
+    @staticmethod
+    def ping():
+        run("busybox", "ping", "-c", "1", "-W", "5", WEB)
+
+    @staticmethod
+    def fetch():
+        """Fetches the large file; how long that took, in seconds."""
+        begin = time.monotonic()
+        size = int(run("curl", "-sS", "-m", "300", "-o", "/dev/null", "-w", "%{size_download}", f"http://{WEB}/file"))
+        assert size == DOWNLOAD, f"{size} of {DOWNLOAD} bytes came"
+        return time.monotonic() - begin
+
+
+class GadgetCard(Card):
+    """The emulated card behind a USB gadget: /dev/ttyUSB* for the computer, with the network behind its data port."""
+
+    INTERFACES = {"modem": 0, "voice": 1, "at": 2}
+
+    def __init__(self, folder, has_network_card=False, auth="noauth", **data):
+        self.folder = folder
+        self.auth = auth
+        functions = ["gser.0", "gser.1", "gser.2"] + (["ecm.0"] if has_network_card else [])
+        run(HERE / "gadget", "make", "1209", "0001", *functions)
+        profile = {"line": {"dialResult": "CONNECT"},
+                   "data": {"accessPoint": "internet", "peer": self.peer(auth), **data}}
+        if has_network_card:
+            profile["data"]["hook"] = str(HERE / "network-card-side")
+        file = folder.with_suffix(".json")
+        file.write_text(json.dumps(profile))
+        devices = [f"--device={port}=/dev/ttyGS{number}" for port, number in self.INTERFACES.items()]
+        self.output = open(EXCHANGE / "card.txt", "ab")
+        self.process = subprocess.Popen([APP / "cardemu", "--dir", folder, "--profile", file, *devices],
+                                        stdout=self.output, stderr=self.output)
+        wait_for("the card's control socket", (folder / "control").exists)
+        self.plug()
+
+    @staticmethod
+    def peer(*options):
+        return " ".join([str(HERE / "network-side"), *options])
+
+    def plug(self):
+        run(HERE / "gadget", "plug")
+        wait_for("the card's ports", lambda: all(self.port(name) for name in self.INTERFACES))
+        run("udevadm", "settle")
+
+    def pull(self):
+        run(HERE / "gadget", "unplug")
+
+    def port(self, name):
+        """The device under which the computer has this port now, or None."""
+        found = list(pathlib.Path("/sys/bus/usb/devices").glob(f"*:1.{self.INTERFACES[name]}/ttyUSB*"))
+        return pathlib.Path("/dev") / found[0].name if found else None
+
+    def network_process(self):
+        """The pppd of the network's side, while a call is up."""
+        return json.loads(self.say("show"))["state"]["ports"]["modem"].get("peer")
+
+    def end(self):
+        self.pull()
+        super().end()
+        run(HERE / "gadget", "remove")
+        self.output.close()
+
+
+class Wvdial:
+    """Plain wvdial, as a person starts it, with a configuration of its own."""
+
+    def __init__(self, port, folder, user=USER, password=PASSWORD):
+        configuration = folder / "wvdial.conf"
+        configuration.write_text("\n".join([
+            "[Dialer Defaults]", "Phone = *99#", f"Username = {user}", f"Password = {password}", "Stupid Mode = 1",
+            "Dial Command = ATDT", f"Modem = {port}", "Baud = 115200", "Init2 = AT+CGDCONT=1,\"IP\",\"internet\"",
+            "Auto Reconnect = off", "Check DNS = off", "Dial Attempts = 1", ""]))
+        self.log = folder / "wvdial.txt"
+        self.process = subprocess.Popen(["wvdial", "-C", configuration], stdout=open(self.log, "wb"),
+                                        stderr=subprocess.STDOUT)
+
+    def text(self):
+        return self.log.read_text(errors="replace")
+
+    def end(self):
+        self.process.terminate()
+        self.process.wait(20)
+
+
+class Internet(Program):
+    """The program, found on its connection page."""
+
+    def __init__(self, folder, **settings):
+        # Short times, so that what waits for a time-out ends soon.
+        defaults = {"window__page": "connection", "function__ppp_errcode_show": "1",
+                    "network_dialer_setting__dial_timeout": "40", "network_dialer_setting__lcp-echo-interval": "2",
+                    "network_dialer_setting__lcp-echo-failure": "3"}
+        super().__init__(folder, **{**defaults, **settings})
+        self.state_node = None
+
+    def set_profile(self, **changes):
+        """Makes the profile that is dialled; fields by the beginnings of their labels."""
+        fields = {"config file name": "Test", "Phone": "*99#", "Username": USER, "Password": PASSWORD, "save user name": "1",
+                  "ask user name": "0", "obtain APN": "0", "use APN": "1", "APN": "internet", "IP modal": "IP",
+                  "PPP modal": "PPP", "PAP modal": "1", "CHAP modal": "0", "None modal": "0", "obtain DNS": "1",
+                  "use DNS": "0", "preNameserver": "", "altNameserver": "", "obtain PDP": "1", "user PDP": "0", "PDP": "",
+                  "delete Enable": "can&edit", "IMSI": "", "defaultOpenURL": "", "sectionShow": "1",
+                  "defaultUsernameEditable": "1", **changes}
+        text = "[ the record of <Test> ]\n"
+        for label, value in fields.items():
+            text += f"{label} {'' if label.endswith('server') else '= '}{value}-|-\n"
+        for name in ("totalRecord", "defaultRecord"):
+            file = self.folder / "Data" / f"{name}.conf"
+            file.write_text(text)
+            file.chmod(0o600)
+
+    def begin(self):
+        """Starts the program and returns once it has found the card and its network."""
+        self.start()
+        self.wait_text("Test Network", 90)
+        self.state_node = wait_for("the state of the connection", self.find_state)
+        return self
+
+    def find_state(self):
+        for node in self.nodes():
+            with contextlib.suppress(Exception):
+                if node.get_name().startswith(("Status:", "Initializing", "Disconnecting")):
+                    return node
+        return None
+
+    def state(self):
+        self.state_node.clear_cache_single()
+        return self.state_node.get_name()
+
+    def wait_state(self, state, seconds=60.0):
+        """Returns the moment at which the state was seen, on time.monotonic()."""
+        wait_for(f"“{state}”", lambda: self.state() == state, seconds)
+        return time.monotonic()
+
+    def press_now(self, name):
+        """Presses a button; returns the moment just before."""
+        button = wait_for(f"the button “{name}”", lambda: self.node(name, "push button"))
+        moment = time.monotonic()
+        button.get_action_iface().do_action(0)
+        return moment
+
+    def connect(self, seconds=90.0):
+        begin = self.press_now("Connect")
+        return self.wait_state("Status: Connected", seconds) - begin
+
+    def disconnect(self):
+        begin = self.press_now("Disconnect")
+        return self.wait_state("Status: Disconnected", 40) - begin
+
+    def dismiss(self, text, seconds=60.0):
+        """Waits for a box with this text and closes it."""
+        self.wait_text(text, seconds)
+        self.press("OK")
+        self.wait_no_text(text)
+
+    def kill(self):
+        self.process.send_signal(signal.SIGKILL)
+        self.process.wait()
+
+
+def prepare_system():
+    """The system's own dialler files, with contents, modes and owners that a careless restore would not bring back."""
+    dip = int(run("getent", "group", "dip").split(":")[2])
+    for path, text, mode, group in (
+            ("/etc/wvdial.conf", "[Dialer Defaults]\nModem = /dev/modem\nPhone = 5550100\n", 0o640, dip),
+            ("/etc/ppp/options", "# the owner's options\r\nlock\r\n", 0o640, dip),
+            ("/etc/ppp/peers/wvdial", "noauth\nname wvdial\n", 0o640, dip),
+            ("/etc/ppp/pap-secrets", f"# the owner's\n{USER}\t*\t{PASSWORD}\n", 0o600, 0),
+            ("/etc/ppp/chap-secrets", f"# the owner's\n{USER}\t*\t{PASSWORD}\n", 0o600, 0)):
+        file = pathlib.Path(path)
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.unlink(missing_ok=True)
+        file.write_text(text)
+        file.chmod(mode)
+        os.chown(file, 0, group)
+    # As a network manager has it: a link to a file elsewhere.
+    pathlib.Path("/run/resolver.conf").write_text("nameserver 192.0.2.1\n")
+    pathlib.Path("/etc/resolv.conf").unlink(missing_ok=True)
+    pathlib.Path("/etc/resolv.conf").symlink_to("/run/resolver.conf")
+
+
+class World:
+    """One machine for all scenarios; each begins and ends with nothing of a connection left."""
+
+    def __init__(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="corva-vm-"))
+        prepare_system()
+        self.network = Network(self.folder)
+        self.etc = Etc()
+        self.count = 0
+
+    def new_folder(self, name):
+        self.count += 1
+        return self.folder / f"{name}{self.count}"
+
+    @contextlib.contextmanager
+    def card(self, **options):
+        card = GadgetCard(self.new_folder("card"), **options)
+        try:
+            yield card
+        finally:
+            card.end()
+
+    @contextlib.contextmanager
+    def program(self, profile=None, **settings):
+        program = Internet(self.new_folder("app"), **settings)
+        program.set_profile(**(profile or {}))
+        try:
+            yield program.begin()
+        except BaseException:
+            self.keep_evidence(program)
+            raise
+        finally:
+            program.end()
+
+    def keep_evidence(self, program):
+        with contextlib.suppress(Exception):
+            run("import", "-window", "root", EXCHANGE / f"failed{self.count}.png")
+        with contextlib.suppress(Exception):
+            print("      shown:", "; ".join(program.texts()))
+        for source, name in ((program.folder / "output.txt", "output"), (pathlib.Path("/tmp/connect_info"), "connect_info"),
+                             (pathlib.Path("/tmp/network-side.log"), "network-side")):
+            with contextlib.suppress(Exception):
+                (EXCHANGE / f"failed{self.count}-{name}.txt").write_bytes(source.read_bytes())
+
+    def check_clean(self):
+        """Nothing of a connection is left: no process, no interface, and /etc as before."""
+        wait_for("no dialler and no pppd", lambda: not pids("wvdial") and not pids("pppd"), 15)
+        assert not pathlib.Path("/sys/class/net/ppp0").exists(), "ppp0 is still there"
+        self.etc.wait_same()
+
+    def clean(self):
+        for name in ("wvdial", "pppd"):
+            for pid in pids(name):
+                with contextlib.suppress(ProcessLookupError):
+                    os.kill(pid, signal.SIGKILL)
