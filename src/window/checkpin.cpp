@@ -4,7 +4,7 @@
 #include "widgets/buttonkind.h"
 #include "widgets/skin.h"
 #include "widgets/textlabel.h"
-#include "widgets/whendone.h"
+#include "shell/whendone.h"
 #include "window/pinfield.h"
 
 #include <QCheckBox>

@@ -26,6 +26,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPainter>
@@ -87,7 +88,7 @@ WTMainWindow::WTMainWindow(QWidget *parent, const char *name, Qt::WindowFlags fl
 WTMainWindow::~WTMainWindow()
 {
     stopLink();
-    delete m_services; // before the card's monitor, which a link that is still up leans on
+    delete m_services; // before the card's monitor, which it leans on
 }
 
 void WTMainWindow::build()
@@ -196,6 +197,8 @@ void WTMainWindow::connectServices()
     });
     connect(m_services->connection(), &ConnectionService::sigStatusChanged, this,
             &WTMainWindow::slotConnectionChanged);
+    connect(m_services->connection(), &ConnectionService::sigOpenUrl, this,
+            [](const QUrl &page) { QDesktopServices::openUrl(page); });
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { m_isSessionEnding = true; });
     slotConnectionChanged(m_services->connection()->status());
 }
@@ -228,6 +231,7 @@ void WTMainWindow::slotDelayShow()
 void WTMainWindow::stopLink()
 {
     m_isReady = false;
+    m_services->connection()->shutDown(); // while the card still answers
     m_monitor->stop();
 }
 

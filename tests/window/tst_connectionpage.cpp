@@ -365,6 +365,7 @@ private Q_SLOTS:
         QVERIFY2(!fakecard::takeCalls().contains(u"stop"_s), "the card's link serves until the link is down");
         fakeconnection::put({});
         QCOMPARE(fakecard::takeCalls(), QStringList{u"stop"_s});
+        QCOMPARE(fakeconnection::takeCalls(), QStringList{u"shutDown"_s});
     }
 
     void startsWithWhatAnEarlierRunLeft()

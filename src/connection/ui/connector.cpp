@@ -7,7 +7,7 @@
 #include "connection/ui/credentialsdialog.h"
 #include "device/cardmonitor.h"
 #include "widgets/messagequeue.h"
-#include "widgets/whendone.h"
+#include "shell/whendone.h"
 
 #include <QPromise>
 #include <QThreadPool>
