@@ -66,7 +66,7 @@ QString monthText(QDate month)
 QString whenText(const QDateTime &time, const QDateTime &now)
 {
     const QDateTime local = time.toLocalTime();
-    const QString clock = QLocale().toString(local.time(), QLocale::ShortFormat);
+    QString clock = QLocale().toString(local.time(), QLocale::ShortFormat);
     const qint64 daysAgo = local.date().daysTo(now.date());
     if (daysAgo == 0)
         return clock;

@@ -36,8 +36,9 @@ void RateGraph::setSpan(int seconds)
         return before < 60 ? tr("%1 s").arg(QLocale().toString(before))
                            : tr("%1 min").arg(QLocale().toString(before / 60));
     };
-    // A little over the end: the name of the last place would be left out in a window from right to left.
-    setPlaces(-seconds, 0.01, {{-seconds, name(seconds)}, {-seconds / 2, name(seconds / 2)}, {0, tr("now")}});
+    // Some room behind: a name at the very end is left out in a window from right to left.
+    setPlaces(-seconds, seconds / 30.0,
+              {{-seconds, name(seconds)}, {-seconds / 2, name(seconds / 2)}, {0, tr("now")}});
 }
 
 void RateGraph::setRates(const RateTrace &trace)
