@@ -148,21 +148,24 @@ class Mending(unittest.TestCase):
 class Connection(unittest.TestCase):
     @unittest.skipUnless(can_dial_in_vain(), "needs root, wvdial and a kernel without PPP; see tests/vm for one with it")
     def test_failed_dial_is_told_and_leaves_the_files_as_they_were(self):
-        with desk() as (_, program):
+        with desk() as (card, program):
             before = dialler_files()
             program.start()
             program.wait_text("Test Network")
             add_profile(program, "Prepaid")
             program.picture("internet")
-            program.keys("alt+c")
-            program.wait_text("Initializing")
-            program.picture("internet-connecting")
-            program.wait_text("Fail to connect! exit code is", 90)
-            program.picture("internet-failed")
-            program.keys("Return")
-            program.wait_no_text("Fail to connect! exit code is")
-            program.wait_text("Status: Disconnected")
-            self.assertEqual(dialler_files(), before)
+            for result, says in (("no-carrier", "Connection is failed!"),
+                                 ("connect-then-silence", "Fail to connect! exit code is")):
+                card.say("dial-result", result)
+                program.keys("alt+c")
+                program.wait_text("Initializing")
+                program.picture("internet-connecting")
+                program.wait_text(says, 60)
+                program.picture("internet-failed")
+                program.keys("Return")
+                program.wait_no_text(says)
+                program.wait_text("Status: Disconnected")
+                self.assertEqual(dialler_files(), before)
             program.keys("F1")
             program.wait_text("The dialler failed")
             program.picture("internet-why")
