@@ -239,6 +239,12 @@ class Internet(Program):
         self.press("OK")
         self.wait_no_text(text)
 
+    def dismiss_all(self):
+        """Closes the boxes that may be open, whatever they say."""
+        while self.node("OK", "push button"):
+            self.press("OK", "push button")
+            time.sleep(0.3)
+
     def kill(self):
         self.process.send_signal(signal.SIGKILL)
         self.process.wait()
