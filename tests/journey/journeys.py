@@ -145,6 +145,22 @@ class Mending(unittest.TestCase):
             program.wait_text("No card")
 
 
+def dial_in_vain(program):
+    """Presses Connect, waits for the box that says how it failed, and closes it. Returns what it said."""
+    def told():
+        return next((text for text in program.texts()
+                     if text.startswith(("Fail to connect!", "Connection is failed!"))), None)
+    program.keys("alt+c")
+    program.wait_text("Initializing")
+    program.picture("internet-connecting")
+    text = wait_for("how the dial failed", told, 60)
+    program.picture("internet-failed")
+    program.keys("Return")
+    program.wait_no_text(text)
+    program.wait_text("Status: Disconnected")
+    return text
+
+
 class Connection(unittest.TestCase):
     @unittest.skipUnless(can_dial_in_vain(), "needs root, wvdial and a kernel without PPP; see tests/vm for one with it")
     def test_failed_dial_is_told_and_leaves_the_files_as_they_were(self):
@@ -154,18 +170,14 @@ class Connection(unittest.TestCase):
             program.wait_text("Test Network")
             add_profile(program, "Prepaid")
             program.picture("internet")
-            for result, says in (("no-carrier", "Connection is failed!"),
-                                 ("connect-then-silence", "Fail to connect! exit code is")):
-                card.say("dial-result", result)
-                program.keys("alt+c")
-                program.wait_text("Initializing")
-                program.picture("internet-connecting")
-                program.wait_text(says, 60)
-                program.picture("internet-failed")
-                program.keys("Return")
-                program.wait_no_text(says)
-                program.wait_text("Status: Disconnected")
-                self.assertEqual(dialler_files(), before)
+            card.say("dial-result", "no-carrier")
+            self.assertEqual(dial_in_vain(program), "Connection is failed!")
+            self.assertEqual(dialler_files(), before)
+            card.say("dial-result", "connect-then-silence")
+            # On some processors wvdial ends itself now and then, by an assertion of its own; a person tries again.
+            told = next((text for text in (dial_in_vain(program) for _ in range(8)) if "exit code" in text), "")
+            self.assertIn("Fail to connect! exit code is 4", " ".join(told.split()))
+            self.assertEqual(dialler_files(), before)
             program.keys("F1")
             program.wait_text("The dialler failed")
             program.picture("internet-why")
