@@ -24,7 +24,7 @@
 using namespace Qt::StringLiterals;
 using namespace corva;
 
-constexpr int patience = 60000; // ms: wvdial takes its time to give up
+constexpr int patience = 30000; // ms: wvdial takes its time to give up
 
 static QString whyNot;
 static const QString helperProgram = QStringLiteral(CORVA_DIALHELPER);
