@@ -56,18 +56,10 @@ PinOutcome pinOutcome(int result)
     }
 }
 
-/// Opens the port for this program alone. 0, or the error with the port closed again.
+/// Opens the port for this program alone. 0, or the error.
 int openClaimed(SerialThread &link, const QString &port)
 {
-    const int fd = link.openPort(port);
-    if (fd < 0)
-        return errno;
-    const int error = claimPort(fd);
-    if (error != 0) {
-        link.closePortNormal(fd);
-        link.forgetPort();
-    }
-    return error;
+    return link.openPort(port, claimPort) < 0 ? errno : 0;
 }
 
 } // namespace

@@ -71,6 +71,11 @@ public:
     /// Opens `name` as 115200 8N1 raw with RTS/CTS and XON/XOFF. Returns the descriptor, or -1 with `errno`
     /// of the failing step (ENOTTY for what is not a character device, which is not opened at all).
     int openPort(const QString &name);
+    /// Takes an open port for this program; 0, or errno. See `corva::claimPort`.
+    using Claim = int (*)(int fd);
+    /// As `openPort`, for this program alone: a port that `claim` is refused is closed as it was, neither its
+    /// settings nor the bytes that wait there touched.
+    int openPort(const QString &name, Claim claim);
     /// The same with the input flags left as the device had them.
     int openPortWithoutSoftFlowControl(const QString &name);
     /// False for a negative descriptor. Does not reset the stored one: see `forgetPort`.
@@ -238,7 +243,7 @@ private:
     int readFrom(int fd, char *buf, int len);
     bool fillBuffer(int fd);
     int readSome(int fd, char *buf, int len);
-    int openWith(const QString &name, bool softFlowControl);
+    int openWith(const QString &name, bool softFlowControl, Claim claim = nullptr);
     bool mayWrite(const char *cmd);
     bool writeCommand(const char *cmd, bool isLogged);
     bool waitForLockAndWrite(const char *cmd);
