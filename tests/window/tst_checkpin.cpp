@@ -113,7 +113,7 @@ private Q_SLOTS:
         if (!byAnswer)
             put(u"puk"_s);
         put(u"puk"_s);
-        QTRY_VERIFY(field(u"puk"_s)->isEnabled());
+        QTRY_VERIFY(field(u"puk"_s)->hasFocus());
         QVERIFY(said(m_dialog.get(), u"pukError"_s).trimmed().isEmpty());
         QCOMPARE(said(m_dialog.get(), u"attempts"_s), u"10 attempts left"_s);
 
