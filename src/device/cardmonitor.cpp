@@ -6,6 +6,7 @@
 #include "hotplugmonitor.h"
 #include "link/cardworker.h"
 #include "link/serialthread.h"
+#include "link/statusparsers.h"
 #include "modeswitch.h"
 #include "portclaim.h"
 #include "shell/commoncfg.h"
@@ -45,14 +46,26 @@ std::chrono::milliseconds statusPeriod(bool isThere)
                     statusInterval);
 }
 
-PinOutcome pinOutcome(int result)
+/// What a reply means that is none of the results of an entry.
+PinOutcome pinOutcome(const QByteArray &reply)
+{
+    const SimState sim = parseSimState(reply).valueOr(SimState::Unknown);
+    if (sim == SimState::Busy)
+        return PinOutcome::SimBusy;
+    if (sim == SimState::Failure)
+        return PinOutcome::SimFailure;
+    return refusal(reply) ? PinOutcome::Refused : PinOutcome::NoAnswer;
+}
+
+/// `result` is that of `SerialThread::enterPin`.
+PinOutcome pinOutcome(int result, const QByteArray &reply)
 {
     switch (result) {
     case 1: return PinOutcome::Accepted;
     case 0: return PinOutcome::Wrong;
     case 2: return PinOutcome::PukNeeded;
     case 3: return PinOutcome::SimFailure;
-    default: return PinOutcome::NoAnswer;
+    default: return pinOutcome(reply);
     }
 }
 
@@ -413,7 +426,7 @@ void CardMonitor::refreshNow()
 QFuture<PinOutcome> CardMonitor::enterPin(const QString &pin)
 {
     return d->worker.submit([this, pin](SerialThread &link) {
-        const PinOutcome outcome = pinOutcome(link.enterPin(pin));
+        const PinOutcome outcome = pinOutcome(link.enterPin(pin), link.lastReply());
         d->poll();
         return outcome;
     });
@@ -422,7 +435,7 @@ QFuture<PinOutcome> CardMonitor::enterPin(const QString &pin)
 QFuture<PinOutcome> CardMonitor::enterPuk(const QString &puk, const QString &newPin)
 {
     return d->worker.submit([this, puk, newPin](SerialThread &link) {
-        const PinOutcome outcome = pinOutcome(link.enterPuk(puk, newPin));
+        const PinOutcome outcome = pinOutcome(link.enterPuk(puk, newPin), link.lastReply());
         d->poll();
         return outcome;
     });

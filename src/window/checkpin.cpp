@@ -199,6 +199,12 @@ void CheckPIN::takeOutcome(PinOutcome outcome)
     case PinOutcome::SimFailure:
         m_result->setText(tr("The SIM card cannot be read. Take it out and put it in again."));
         break;
+    case PinOutcome::SimBusy:
+        m_result->setText(tr("The SIM card is still starting. Try again in a moment."));
+        break;
+    case PinOutcome::Refused:
+        m_result->setText(tr("The card refused the entry, without saying that it is wrong."));
+        break;
     case PinOutcome::NoAnswer:
     case PinOutcome::Accepted:
         m_result->setText(
