@@ -106,12 +106,16 @@ public:
     bool atLocked() const { return m_locked; }
 
     // --- Transaction
+    static constexpr int ceilingFactor = 5;
+    static constexpr std::chrono::seconds lowestCeiling{10};
     // ---------------------------------------------------------------------------------------------
 
     /// Writes one command with its line end. False when a gate refused it or the write failed.
     bool excuteAtStr(const char *cmd);
     /// Collects one reply. 1 when it is complete, -1 on time-out or error, 0 (and no text) while another read
-    /// runs.
+    /// runs. Only silence spends the time-out: a reply may come as slowly as it likes. A card that goes on
+    /// sending and never ends its reply is given up after `ceilingFactor` times the time-out, and not before
+    /// `lowestCeiling`.
     int resAtStr(int fd, char *reply, int seconds, int microseconds);
     /// Drains what the card sent since the last transaction, and dispatches the reports in it.
     void purgeComData();
@@ -238,6 +242,11 @@ protected:
 
 private:
     enum class Wait { Ready, Silent, Failed };
+    /// The time that one reply may take.
+    struct Budget {
+        qint64 rounds; ///< silent ones of 100 ms that are left
+        std::chrono::steady_clock::time_point end;
+    };
 
     Wait waitFor(int fd, short events, int milliseconds);
     int readFrom(int fd, char *buf, int len);
@@ -248,8 +257,8 @@ private:
     bool writeCommand(const char *cmd, bool isLogged);
     bool waitForLockAndWrite(const char *cmd);
     int collectReply(int fd, QByteArray &reply, std::chrono::seconds whole, std::chrono::microseconds rest);
-    QString readReply(int fd, corva::ReplyReader &reader, qint64 &roundsLeft);
-    QString waitForBytes(int fd, qint64 &roundsLeft);
+    QString readReply(int fd, corva::ReplyReader &reader, Budget &budget);
+    QString waitForBytes(int fd, Budget &budget);
     std::optional<QByteArray> drain();
     void runStartJobs();
     bool sleepTwoSeconds();
