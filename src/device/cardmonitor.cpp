@@ -6,6 +6,7 @@
 #include "hotplugmonitor.h"
 #include "link/cardworker.h"
 #include "link/serialthread.h"
+#include "link/statusparsers.h"
 #include "modeswitch.h"
 #include "portclaim.h"
 #include "shell/commoncfg.h"
@@ -45,29 +46,33 @@ std::chrono::milliseconds statusPeriod(bool isThere)
                     statusInterval);
 }
 
-PinOutcome pinOutcome(int result)
+/// What a reply means that is none of the results of an entry.
+PinOutcome pinOutcome(const QByteArray &reply)
+{
+    const SimState sim = parseSimState(reply).valueOr(SimState::Unknown);
+    if (sim == SimState::Busy)
+        return PinOutcome::SimBusy;
+    if (sim == SimState::Failure)
+        return PinOutcome::SimFailure;
+    return refusal(reply) ? PinOutcome::Refused : PinOutcome::NoAnswer;
+}
+
+/// `result` is that of `SerialThread::enterPin`.
+PinOutcome pinOutcome(int result, const QByteArray &reply)
 {
     switch (result) {
     case 1: return PinOutcome::Accepted;
     case 0: return PinOutcome::Wrong;
     case 2: return PinOutcome::PukNeeded;
     case 3: return PinOutcome::SimFailure;
-    default: return PinOutcome::NoAnswer;
+    default: return pinOutcome(reply);
     }
 }
 
-/// Opens the port for this program alone. 0, or the error with the port closed again.
+/// Opens the port for this program alone. 0, or the error.
 int openClaimed(SerialThread &link, const QString &port)
 {
-    const int fd = link.openPort(port);
-    if (fd < 0)
-        return errno;
-    const int error = claimPort(fd);
-    if (error != 0) {
-        link.closePortNormal(fd);
-        link.forgetPort();
-    }
-    return error;
+    return link.openPort(port, claimPort) < 0 ? errno : 0;
 }
 
 } // namespace
@@ -148,6 +153,7 @@ void CardMonitor::Private::search(bool byFixedNames)
     state.portHolder = card.holder.name;
     state.portHolderPid = card.holder.pid;
     state.portGroup = card.group;
+    state.portFault = card.fault;
     state.family = link.family();
     stick = card.usb;
     if (card.presence == CardPresence::Ready && !foundPortFlag)
@@ -421,7 +427,7 @@ void CardMonitor::refreshNow()
 QFuture<PinOutcome> CardMonitor::enterPin(const QString &pin)
 {
     return d->worker.submit([this, pin](SerialThread &link) {
-        const PinOutcome outcome = pinOutcome(link.enterPin(pin));
+        const PinOutcome outcome = pinOutcome(link.enterPin(pin), link.lastReply());
         d->poll();
         return outcome;
     });
@@ -430,7 +436,7 @@ QFuture<PinOutcome> CardMonitor::enterPin(const QString &pin)
 QFuture<PinOutcome> CardMonitor::enterPuk(const QString &puk, const QString &newPin)
 {
     return d->worker.submit([this, puk, newPin](SerialThread &link) {
-        const PinOutcome outcome = pinOutcome(link.enterPuk(puk, newPin));
+        const PinOutcome outcome = pinOutcome(link.enterPuk(puk, newPin), link.lastReply());
         d->poll();
         return outcome;
     });

@@ -177,8 +177,11 @@ int SerialThread::collectReply(int fd, QByteArray &reply, seconds whole, microse
         return 0;
 
     corva::ReplyReader reader;
-    auto roundsLeft = std::max<qint64>((whole + rest) / round100ms, 0);
-    const QString failure = readReply(fd, reader, roundsLeft);
+    const std::chrono::microseconds timeout = whole + rest;
+    Budget budget{std::max<qint64>(timeout / round100ms, 0),
+                  steady_clock::now() +
+                      std::max<std::chrono::microseconds>(timeout * ceilingFactor, lowestCeiling)};
+    const QString failure = readReply(fd, reader, budget);
     if (!failure.isEmpty()) {
         logLine(failure);
         receive_flag = false;
@@ -188,18 +191,18 @@ int SerialThread::collectReply(int fd, QByteArray &reply, seconds whole, microse
     findUpReportAtCmd(QString::fromLatin1(reply));
     logLine(u"****** in resAtStr, timer_sec=%1, timer_usec=%2, con=%3"_s.arg(whole.count())
                 .arg(rest.count())
-                .arg(roundsLeft));
+                .arg(budget.rounds));
     logLine(u"****** in resAtStr, pResStr = %1"_s.arg(readable(reply)));
     receive_flag = false;
     return 1;
 }
 
 /// Feeds the reader until its reply is complete. Returns why it is not; empty when it is.
-QString SerialThread::readReply(int fd, corva::ReplyReader &reader, qint64 &roundsLeft)
+QString SerialThread::readReply(int fd, corva::ReplyReader &reader, Budget &budget)
 {
     std::size_t notesLogged = 0;
     for (;;) {
-        QString failure = waitForBytes(fd, roundsLeft);
+        QString failure = waitForBytes(fd, budget);
         if (!failure.isEmpty())
             return failure;
         const auto progress = reader.feed(m_ahead);
@@ -217,19 +220,21 @@ QString SerialThread::readReply(int fd, corva::ReplyReader &reader, qint64 &roun
 
 /// Until bytes wait in the buffer. A round is spent only when its 100 ms were silent to the end. Returns why
 /// none came; empty when some did.
-QString SerialThread::waitForBytes(int fd, qint64 &roundsLeft)
+QString SerialThread::waitForBytes(int fd, Budget &budget)
 {
     while (m_ahead.isEmpty()) {
+        if (steady_clock::now() >= budget.end)
+            return u"****** SerialThread::resAtStr: the card goes on without an end of its reply"_s;
         Wait wait = waitFor(fd, POLLIN, int(firstPoll.count()));
         if (wait == Wait::Silent) {
-            if (roundsLeft == 0)
+            if (budget.rounds == 0)
                 return u"****** select of SerialThread::resAtStr is timerout"_s;
             wait = waitFor(fd, POLLIN, int(round100ms.count()));
         }
         if (wait == Wait::Failed)
             return u"select of SerialThread::resAtStr is ko,errno = %1!"_s.arg(errno);
         if (wait == Wait::Silent)
-            --roundsLeft;
+            --budget.rounds;
         else if (!fillBuffer(fd))
             return u"SerialThread::resAtStr() ===> no data to read!"_s;
     }

@@ -26,12 +26,19 @@ bool isDigits(const QByteArray &text)
     return !text.isEmpty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
 }
 
-/// What people can read: letters, digits, marks, punctuation; no controls, no private or unassigned
-/// characters.
-bool isReadable(const QString &text)
+/// What people can read of it: letters, digits, marks, punctuation; no controls or format characters, no
+/// private or unassigned ones, no half pairs.
+QString readablePart(const QString &text)
 {
-    return std::ranges::all_of(
-        text, [](QChar c) { return c.isPrint() && c.category() != QChar::Other_NotAssigned; });
+    QString part;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool isPair = i + 1 < text.size() && text[i].isHighSurrogate() && text[i + 1].isLowSurrogate();
+        const char32_t c = isPair ? QChar::surrogateToUcs4(text[i], text[i + 1]) : text[i].unicode();
+        if (QChar::isPrint(c) && QChar::category(c) != QChar::Other_NotAssigned)
+            part += QStringView(text).sliced(i, isPair ? 2 : 1);
+        i += isPair ? 1 : 0;
+    }
+    return part.trimmed();
 }
 
 /// <AcT> of 3GPP TS 27.007 7.3, in its order.
@@ -108,7 +115,9 @@ QString decodeCardText(const QByteArray &text)
     QString decoded;
     for (qsizetype i = 0; i < text.size(); i += 4)
         decoded.append(QChar(char16_t(text.sliced(i, 4).toUShort(nullptr, 16))));
-    return isReadable(decoded) ? decoded.trimmed() : plain;
+    const QString name = readablePart(decoded.remove(QChar::Null)); // some cards pad with it
+    // A name of the letters A to F decodes, too, but to little that makes sense.
+    return name.size() * 2 > decoded.size() ? name : plain;
 }
 
 ReplyResult<SignalQuality> parseSignalQuality(const QByteArray &reply)

@@ -173,6 +173,8 @@ void CheckPIN::setBusy(bool busy)
     m_isBusy = busy;
     for (QWidget *widget : std::initializer_list<QWidget *>{m_puk, m_pin, m_repeat, m_show, m_unlock})
         widget->setEnabled(!busy);
+    if (!busy) // a field that is disabled loses the focus, or did not get it
+        (m_asksForPuk ? m_puk : m_pin)->takeFocus();
 }
 
 void CheckPIN::takeOutcome(PinOutcome outcome)
@@ -193,10 +195,15 @@ void CheckPIN::takeOutcome(PinOutcome outcome)
             field->setError(tr("The PUK is wrong."));
         else
             setAsksForPuk(true);
-        field = m_puk;
         break;
     case PinOutcome::SimFailure:
         m_result->setText(tr("The SIM card cannot be read. Take it out and put it in again."));
+        break;
+    case PinOutcome::SimBusy:
+        m_result->setText(tr("The SIM card is still starting. Try again in a moment."));
+        break;
+    case PinOutcome::Refused:
+        m_result->setText(tr("The card refused the entry, without saying that it is wrong."));
         break;
     case PinOutcome::NoAnswer:
     case PinOutcome::Accepted:
@@ -205,7 +212,6 @@ void CheckPIN::takeOutcome(PinOutcome outcome)
                "attempts left are shown as far as the card tells them."));
         break;
     }
-    field->takeFocus();
     // A wrong attempt costs one, and the last one turns the PIN into the PUK: the card knows.
     m_monitor->refreshNow();
 }

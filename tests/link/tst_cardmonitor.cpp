@@ -118,6 +118,10 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(state().pinAttempts, std::optional(3), patience);
         QCOMPARE(state().sim, SimState::PinNeeded);
         QVERIFY(!state().modemReady);
+        tell(R"({"command": "fault", "kind": "refuse", "match": "+CPIN=", "code": 14})");
+        QCOMPARE(m_monitor->enterPin(u"1234"_s).result(), PinOutcome::SimBusy);
+        tell(R"({"command": "fault", "kind": "refuse", "match": "+CPIN=", "code": 100})");
+        QCOMPARE(m_monitor->enterPin(u"1234"_s).result(), PinOutcome::Refused);
         QCOMPARE(m_monitor->enterPin(u"9999"_s).result(), PinOutcome::Wrong);
         QTRY_COMPARE_WITH_TIMEOUT(state().pinAttempts, std::optional(2), patience);
         QCOMPARE(m_monitor->enterPin(u"1234"_s).result(), PinOutcome::Accepted);

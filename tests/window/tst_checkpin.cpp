@@ -113,7 +113,7 @@ private Q_SLOTS:
         if (!byAnswer)
             put(u"puk"_s);
         put(u"puk"_s);
-        QTRY_VERIFY(field(u"puk"_s)->isEnabled());
+        QTRY_VERIFY(field(u"puk"_s)->hasFocus());
         QVERIFY(said(m_dialog.get(), u"pukError"_s).trimmed().isEmpty());
         QCOMPARE(said(m_dialog.get(), u"attempts"_s), u"10 attempts left"_s);
 
@@ -127,12 +127,23 @@ private Q_SLOTS:
         QTRY_COMPARE(said(m_dialog.get(), u"pukError"_s), u"The PUK is wrong."_s);
     }
 
-    void noAnswerLosesNothing()
+    void otherAnswersLoseNothing_data()
     {
+        QTest::addColumn<PinOutcome>("outcome");
+        QTest::addColumn<QString>("says");
+        QTest::newRow("none") << PinOutcome::NoAnswer << u"not known whether"_s;
+        QTest::newRow("the SIM starts") << PinOutcome::SimBusy << u"still starting"_s;
+        QTest::newRow("another error") << PinOutcome::Refused << u"refused the entry"_s;
+    }
+
+    void otherAnswersLoseNothing()
+    {
+        QFETCH(const PinOutcome, outcome);
+        QFETCH(const QString, says);
         type(u"pin"_s, u"1234"_s);
         unlock();
-        fakecard::answerPin(PinOutcome::NoAnswer);
-        QTRY_VERIFY(said(m_dialog.get(), u"pinResult"_s).contains(u"not known whether"_s));
+        fakecard::answerPin(outcome);
+        QTRY_VERIFY(said(m_dialog.get(), u"pinResult"_s).contains(says));
         QVERIFY(m_dialog->findChild<QPushButton *>(u"unlock"_s)->isEnabled());
     }
 
