@@ -5,6 +5,7 @@
 #include "shell/safefile.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QStringList>
 #include <algorithm>
 #include <optional>
@@ -217,7 +218,7 @@ CommonConfig::CommonConfig()
 bool readConfigFile(CommonConfig &config, const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) // a pipe would never end
         return false;
     Lines lines(linesOf(file.read(largestFile)));
     for (const Entry &entry : entries) {
