@@ -120,6 +120,7 @@ private Q_SLOTS:
         Child first(take);
         QCOMPARE(first.result(), 0);
         const QByteArray number = QByteArray::number(first.pid());
+        QCOMPARE(corva::instanceLockHolder(path.constData()), first.pid());
         QCOMPARE(contentOf(basePath + u"/pid"_s), number);
 
         Child second(take);
@@ -127,6 +128,7 @@ private Q_SLOTS:
         QCOMPARE(contentOf(basePath + u"/pid"_s), number);
 
         first.kill();
+        QCOMPARE(corva::instanceLockHolder(path.constData()), 0);
         Child third(take);
         QCOMPARE(third.result(), 0);
         QCOMPARE(contentOf(basePath + u"/pid"_s), QByteArray::number(third.pid()));
