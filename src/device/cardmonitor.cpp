@@ -153,6 +153,7 @@ void CardMonitor::Private::search(bool byFixedNames)
     state.portHolder = card.holder.name;
     state.portHolderPid = card.holder.pid;
     state.portGroup = card.group;
+    state.portFault = card.fault;
     state.family = link.family();
     stick = card.usb;
     if (card.presence == CardPresence::Ready && !foundPortFlag)

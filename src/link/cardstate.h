@@ -24,6 +24,9 @@ enum class CardPresence {
     Ready        ///< the AT port answers
 };
 
+/// What is wrong with a port that the configuration names.
+enum class PortFault { None, Missing, NotSerial };
+
 /// The SIM's state. Source: 3GPP TS 27.007 8.3 "+CPIN", and the "^CPIN" form of CDMA cards.
 enum class SimState { Unknown, Ready, PinNeeded, PukNeeded, Busy, Failure, Absent };
 
@@ -92,6 +95,8 @@ struct CardState {
     QString portHolder;    ///< PortBusy: the other program's name; may be empty when it cannot be told
     qint64 portHolderPid = 0;
     QString portGroup; ///< NoRights: the group that owns the port, e.g. "dialout"
+    PortFault portFault =
+        PortFault::None; ///< Absent: what is wrong with the port that the configuration names
     CardFamily family = CardFamily::Wcdma;
 
     CardIdentity identity;
