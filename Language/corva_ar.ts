@@ -514,6 +514,26 @@
         <source>&amp;Ask again</source>
         <translation>إعادة الاست&amp;علام</translation>
     </message>
+    <message>
+        <source>The settings name a port</source>
+        <translation>تحدّد الإعدادات منفذًا</translation>
+    </message>
+    <message>
+        <source>The port does not exist</source>
+        <translation>المنفذ غير موجود</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which does not exist. Plug the card in; if it is plugged in, correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>تحدّد الإعدادات المنفذ ‪%1‬ وهو غير موجود. أدخل البطاقة؛ وإن كانت موصولة فصحّح ‪&quot;at_port&quot;‬ في الملف ‪Data/common-config.xml‬ ثم شغّل البرنامج من جديد.</translation>
+    </message>
+    <message>
+        <source>The port is no serial port</source>
+        <translation>المنفذ ليس منفذًا تسلسليًا</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which is no serial port. Correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>تحدّد الإعدادات المنفذ ‪%1‬ وهو ليس منفذًا تسلسليًا. صحّح ‪&quot;at_port&quot;‬ في الملف ‪Data/common-config.xml‬ ثم شغّل البرنامج من جديد.</translation>
+    </message>
 </context>
 <context>
     <name>PortAccess</name>
@@ -947,6 +967,14 @@
     <message>
         <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
         <translation>لم تستجب البطاقة في الوقت المناسب. لا يُعرف هل قبلت ما أُدخل؛ تُعرض المحاولات المتبقية إن كانت البطاقة تذكرها.</translation>
+    </message>
+    <message>
+        <source>The SIM card is still starting. Try again in a moment.</source>
+        <translation>لا تزال شريحة SIM قيد بدء التشغيل. أعد المحاولة بعد قليل.</translation>
+    </message>
+    <message>
+        <source>The card refused the entry, without saying that it is wrong.</source>
+        <translation>رفضت البطاقة ما أُدخل دون أن تذكر أنه خاطئ.</translation>
     </message>
 </context>
 <context>

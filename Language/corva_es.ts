@@ -514,6 +514,26 @@
         <source>&amp;Ask again</source>
         <translation>&amp;Consultar de nuevo</translation>
     </message>
+    <message>
+        <source>The settings name a port</source>
+        <translation>La configuración indica un puerto</translation>
+    </message>
+    <message>
+        <source>The port does not exist</source>
+        <translation>El puerto no existe</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which does not exist. Plug the card in; if it is plugged in, correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>La configuración indica el puerto %1, que no existe. Conecte la tarjeta; si ya está conectada, corrija «at_port» en el archivo Data/common-config.xml y vuelva a iniciar el programa.</translation>
+    </message>
+    <message>
+        <source>The port is no serial port</source>
+        <translation>El puerto no es un puerto serie</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which is no serial port. Correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>La configuración indica el puerto %1, que no es un puerto serie. Corrija «at_port» en el archivo Data/common-config.xml y vuelva a iniciar el programa.</translation>
+    </message>
 </context>
 <context>
     <name>PortAccess</name>
@@ -943,6 +963,14 @@
     <message>
         <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
         <translation>La módem no respondió a tiempo. No se sabe si aceptó lo introducido; los intentos restantes se muestran si la tarjeta los indica.</translation>
+    </message>
+    <message>
+        <source>The SIM card is still starting. Try again in a moment.</source>
+        <translation>La tarjeta SIM todavía se está iniciando. Inténtelo de nuevo en un momento.</translation>
+    </message>
+    <message>
+        <source>The card refused the entry, without saying that it is wrong.</source>
+        <translation>La tarjeta rechazó lo introducido, sin decir que sea incorrecto.</translation>
     </message>
 </context>
 <context>

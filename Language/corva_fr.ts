@@ -514,6 +514,26 @@
         <source>&amp;Ask again</source>
         <translation>&amp;Interroger à nouveau</translation>
     </message>
+    <message>
+        <source>The settings name a port</source>
+        <translation>Les paramètres indiquent un port</translation>
+    </message>
+    <message>
+        <source>The port does not exist</source>
+        <translation>Le port n’existe pas</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which does not exist. Plug the card in; if it is plugged in, correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>Les paramètres indiquent le port %1, qui n’existe pas. Branchez la carte&#xa0;; si elle est déjà branchée, corrigez «&#xa0;at_port&#xa0;» dans le fichier Data/common-config.xml et redémarrez le programme.</translation>
+    </message>
+    <message>
+        <source>The port is no serial port</source>
+        <translation>Le port n’est pas un port série</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which is no serial port. Correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>Les paramètres indiquent le port %1, qui n’est pas un port série. Corrigez «&#xa0;at_port&#xa0;» dans le fichier Data/common-config.xml et redémarrez le programme.</translation>
+    </message>
 </context>
 <context>
     <name>PortAccess</name>
@@ -943,6 +963,14 @@
     <message>
         <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
         <translation>La carte n’a pas répondu à temps. On ne sait pas si elle a accepté la saisie&#xa0;; les essais restants sont affichés si la carte les indique.</translation>
+    </message>
+    <message>
+        <source>The SIM card is still starting. Try again in a moment.</source>
+        <translation>La carte SIM est encore en cours de démarrage. Réessayez dans un instant.</translation>
+    </message>
+    <message>
+        <source>The card refused the entry, without saying that it is wrong.</source>
+        <translation>La carte a refusé la saisie, sans dire qu’elle est erronée.</translation>
     </message>
 </context>
 <context>

@@ -514,6 +514,26 @@
         <source>&amp;Ask again</source>
         <translation>&amp;Consultar de novo</translation>
     </message>
+    <message>
+        <source>The settings name a port</source>
+        <translation>As definições indicam uma porta</translation>
+    </message>
+    <message>
+        <source>The port does not exist</source>
+        <translation>A porta não existe</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which does not exist. Plug the card in; if it is plugged in, correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>As definições indicam a porta %1, que não existe. Ligue a placa; se já estiver ligada, corrija «at_port» no ficheiro Data/common-config.xml e inicie o programa de novo.</translation>
+    </message>
+    <message>
+        <source>The port is no serial port</source>
+        <translation>A porta não é uma porta série</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which is no serial port. Correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>As definições indicam a porta %1, que não é uma porta série. Corrija «at_port» no ficheiro Data/common-config.xml e inicie o programa de novo.</translation>
+    </message>
 </context>
 <context>
     <name>PortAccess</name>
@@ -943,6 +963,14 @@
     <message>
         <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
         <translation>A placa não respondeu a tempo. Não se sabe se aceitou o que foi introduzido; as tentativas restantes são mostradas se a placa as indicar.</translation>
+    </message>
+    <message>
+        <source>The SIM card is still starting. Try again in a moment.</source>
+        <translation>O cartão SIM ainda está a iniciar. Tente de novo dentro de momentos.</translation>
+    </message>
+    <message>
+        <source>The card refused the entry, without saying that it is wrong.</source>
+        <translation>A placa recusou o que foi introduzido, sem dizer que está errado.</translation>
     </message>
 </context>
 <context>

@@ -514,6 +514,26 @@
         <source>&amp;Ask again</source>
         <translation>Yeniden &amp;sor</translation>
     </message>
+    <message>
+        <source>The settings name a port</source>
+        <translation>Ayarlar bir port belirtiyor</translation>
+    </message>
+    <message>
+        <source>The port does not exist</source>
+        <translation>Port yok</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which does not exist. Plug the card in; if it is plugged in, correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>Ayarlar %1 portunu belirtiyor, ama böyle bir port yok. Kartı takın; takılıysa Data/common-config.xml dosyasındaki &quot;at_port&quot; değerini düzeltip programı yeniden başlatın.</translation>
+    </message>
+    <message>
+        <source>The port is no serial port</source>
+        <translation>Port, seri port değil</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which is no serial port. Correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>Ayarlar %1 portunu belirtiyor, ama bu bir seri port değil. Data/common-config.xml dosyasındaki &quot;at_port&quot; değerini düzeltip programı yeniden başlatın.</translation>
+    </message>
 </context>
 <context>
     <name>PortAccess</name>
@@ -942,6 +962,14 @@
     <message>
         <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
         <translation>Kart zamanında yanıt vermedi. Girileni kabul edip etmediği bilinmiyor; kart bildiriyorsa kalan deneme sayısı gösterilir.</translation>
+    </message>
+    <message>
+        <source>The SIM card is still starting. Try again in a moment.</source>
+        <translation>SIM kart hâlâ başlatılıyor. Biraz sonra yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The card refused the entry, without saying that it is wrong.</source>
+        <translation>Kart girileni reddetti, ama yanlış olduğunu bildirmedi.</translation>
     </message>
 </context>
 <context>

@@ -514,6 +514,26 @@
         <source>&amp;Ask again</source>
         <translation>重新查询(&amp;A)</translation>
     </message>
+    <message>
+        <source>The settings name a port</source>
+        <translation>设置中指定了端口</translation>
+    </message>
+    <message>
+        <source>The port does not exist</source>
+        <translation>端口不存在</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which does not exist. Plug the card in; if it is plugged in, correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>设置中指定的端口 %1 不存在。请插入上网卡；如已插入，请更正文件 Data/common-config.xml 中的“at_port”，然后重新启动程序。</translation>
+    </message>
+    <message>
+        <source>The port is no serial port</source>
+        <translation>该端口不是串口</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which is no serial port. Correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>设置中指定的端口 %1 不是串口。请更正文件 Data/common-config.xml 中的“at_port”，然后重新启动程序。</translation>
+    </message>
 </context>
 <context>
     <name>PortAccess</name>
@@ -942,6 +962,14 @@
     <message>
         <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
         <translation>上网卡未及时响应，无法确定是否已接受输入；若上网卡提供剩余次数，会显示出来。</translation>
+    </message>
+    <message>
+        <source>The SIM card is still starting. Try again in a moment.</source>
+        <translation>SIM 卡仍在启动，请稍后重试。</translation>
+    </message>
+    <message>
+        <source>The card refused the entry, without saying that it is wrong.</source>
+        <translation>上网卡拒绝了输入，但未说明输入有误。</translation>
     </message>
 </context>
 <context>
