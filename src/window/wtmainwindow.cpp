@@ -8,6 +8,7 @@
 #include "shell/commonconfig.h"
 #include "shell/endsignals.h"
 #include "shell/logging.h"
+#include "statistics/trafficservice.h"
 #include "widgets/line.h"
 #include "widgets/messagequeue.h"
 #include "widgets/skin.h"
@@ -197,6 +198,7 @@ void WTMainWindow::connectServices()
         if (m_desktop)
             m_desktop->tell(sentence);
     });
+    connect(m_services->traffic(), &TrafficService::sigProblem, m_strip, &StatusStrip::say);
     connect(m_services->connection(), &ConnectionService::sigStatusChanged, this,
             &WTMainWindow::slotConnectionChanged);
     connect(m_services->connection(), &ConnectionService::sigOpenUrl, this,
