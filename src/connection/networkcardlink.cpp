@@ -22,6 +22,9 @@ namespace
 // "+JPDPACT: <context>,<state>".
 enum DataCallState { Down, Up, BeingMade, Refused };
 
+/// The one whose data call the card reports about.
+constexpr int reportedContext = 1;
+
 constexpr int accepted = 1;
 constexpr int refusedPlainly = 0;
 
@@ -32,7 +35,7 @@ void NetworkCardLink::make()
 {
     m_interface = m_plan.interfaceName;
     const auto future = m_monitor.worker().submit([cid = m_plan.contextId](SerialThread &link) {
-        const int result = link.setDataCall(cid, true);
+        const int result = cid == reportedContext ? link.setDataCall(cid, true) : refusedPlainly;
         if (result != refusedPlainly)
             return std::pair(Activation::DataCall, result);
         return std::pair(Activation::Context, link.activatePdpContext(cid, true));
@@ -65,7 +68,7 @@ void NetworkCardLink::refused()
 
 void NetworkCardLink::look()
 {
-    const int state = m_activation == Activation::DataCall ? m_monitor.link().dataCallState() : Up;
+    const int state = m_activation == Activation::DataCall ? m_monitor.link().latestDataCallState() : Up;
     if (isMaking() && !m_isActivating && m_activation != Activation::None && !m_isLeased) {
         if (state == Up)
             lease();

@@ -20,6 +20,8 @@
 #include <QProcess>
 #include <QTest>
 #include <csignal>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -289,6 +291,31 @@ private Q_SLOTS:
         QVERIFY(helper.state() == QProcess::NotRunning || helper.waitForFinished(patience));
         QCOMPARE(helper.exitCode(), ends ? 2 : 0);
         QVERIFY(!QFile::exists(u"/tmp/connect_info"_s));
+    }
+
+    /// The helper's caller has no port but his own.
+    void portOfAnother()
+    {
+        constexpr uid_t nobody = 65534;
+        const QByteArray port = modemPort().toLocal8Bit();
+        if (chown(port.constData(), nobody, gid_t(-1)) != 0)
+            QSKIP("the port cannot be given away here");
+        for (const bool isHis : {true, false}) {
+            QCOMPARE(chown(port.constData(), isHis ? nobody : 0, gid_t(-1)), 0);
+            QCOMPARE(chmod(port.constData(), 0600), 0);
+            QProcess helper;
+            QProcessEnvironment environment;
+            environment.insert(u"PKEXEC_UID"_s, QString::number(nobody));
+            helper.setProcessEnvironment(environment);
+            helper.start(helperProgram, QStringList());
+            helper.write(toLine(request(DialVerb::Save, {})));
+            helper.write(toLine(request(DialVerb::Write, modemPort())));
+            QByteArray said;
+            QTRY_COMPARE_WITH_TIMEOUT((said += helper.readAllStandardOutput()).count("done"), 2, patience);
+            QCOMPARE(said.contains("error"), !isHis);
+            helper.closeWriteChannel();
+            QVERIFY(helper.waitForFinished(patience));
+        }
     }
 
 private:
