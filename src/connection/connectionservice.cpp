@@ -78,6 +78,7 @@ public:
     bool start(const ConnectionProfile &profile);
     LinkPlan planFor(const ConnectionProfile &profile, const DiallerOptions &options) const;
     void wentUp(const ConnectionProfile &profile);
+    ConnectionStatus ended(ConnectionEnd end) const;
     void isOver(const LinkOutcome &outcome);
     void tellOrRedial(const LinkOutcome &outcome, bool wasUp);
     void autoReConnWhenAbnormalDisconn();
@@ -86,6 +87,7 @@ public:
     void takeCard(const CardState &card);
     void becameIdle();
     void refresh();
+    void takeFacts(ConnectionStatus &status) const;
     void refuse(ConnectionEnd end, const QString &message);
 
     /// Changes the status and tells it, if there is a difference.
@@ -128,9 +130,6 @@ ConnectionService::Private::Private(ConnectionService *service, CardMonitor *car
     connect(&idle, &IdleMonitor::sigIdle, q, [this] { becameIdle(); });
     connect(monitor, &CardMonitor::sigStateChanged, q, [this](const CardState &card) { takeCard(card); });
 }
-
-// --- Dialling
-// ------------------------------------------------------------------------------------------------------------
 
 /// Whether nothing runs and nothing stands in the way but roaming; tells what does.
 bool ConnectionService::Private::mayDial()
@@ -238,12 +237,14 @@ void ConnectionService::Private::wentUp(const ConnectionProfile &profile)
 {
     const DiallerOptions options = DiallerOptions::fromConfiguration();
     redial.stop();
-    refreshTimer.start();
-    update([](ConnectionStatus &status) {
+    update([this](ConnectionStatus &status) {
         status.state = ConnectionState::Connected;
         status.since = QDateTime::currentDateTime();
+        takeFacts(status); // who counts begins with the interface's name
     });
-    refresh();
+    if (!link || !link->isUp())
+        return; // whoever heard of it has ended it
+    refreshTimer.start();
     if (options.idleLimit)
         idle.launchAutoDisconnectMonitor(*options.idleLimit);
     if (const QUrl url = pageOf(profile); options.opensUrl && !url.isEmpty())
@@ -252,21 +253,20 @@ void ConnectionService::Private::wentUp(const ConnectionProfile &profile)
 
 void ConnectionService::Private::refresh()
 {
-    if (!link)
-        return;
-    const LinkFacts facts = link->facts();
-    update([&](ConnectionStatus &status) {
-        status.interfaceName = facts.interfaceName;
-        status.localAddress = facts.localAddress;
-        status.peerAddress = facts.peerAddress;
-        status.nameServers = facts.nameServers;
-        status.hasDefaultRoute = facts.hasDefaultRoute;
-        status.isRoaming = isRoaming(monitor->state());
-    });
+    if (link)
+        update([this](ConnectionStatus &status) { takeFacts(status); });
 }
 
-// --- The end of a link
-// ---------------------------------------------------------------------------------------------------
+void ConnectionService::Private::takeFacts(ConnectionStatus &status) const
+{
+    const LinkFacts facts = link->facts();
+    status.interfaceName = facts.interfaceName;
+    status.localAddress = facts.localAddress;
+    status.peerAddress = facts.peerAddress;
+    status.nameServers = facts.nameServers;
+    status.hasDefaultRoute = facts.hasDefaultRoute;
+    status.isRoaming = isRoaming(monitor->state());
+}
 
 void ConnectionService::Private::isOver(const LinkOutcome &outcome)
 {
@@ -291,18 +291,24 @@ void ConnectionService::Private::tellOrRedial(const LinkOutcome &outcome, bool w
     dialsAgain = dialsAgain || redial.isActive();
 
     update([&](ConnectionStatus &status) {
-        const ConnectionStatus before = status;
-        status = {};
-        status.kind = before.kind;
-        status.profileName = before.profileName;
-        status.apn = before.apn;
-        status.end = outcome.end;
+        status = ended(outcome.end);
         status.exitCode = outcome.exitCode;
         status.endSentence = sentence;
     });
     const QString message = outcome.message.isEmpty() && wasUp && isWorthIt ? sentence : outcome.message;
     if (!message.isEmpty() && !dialsAgain)
         Q_EMIT q->sigMessage(message);
+}
+
+/// What stays known of a link that is over.
+ConnectionStatus ConnectionService::Private::ended(ConnectionEnd end) const
+{
+    ConnectionStatus status;
+    status.kind = q->m_status.kind;
+    status.profileName = q->m_status.profileName;
+    status.apn = q->m_status.apn;
+    status.end = end;
+    return status;
 }
 
 void ConnectionService::Private::autoReConnWhenAbnormalDisconn()
@@ -335,9 +341,6 @@ void ConnectionService::Private::slotAutoRedial()
     update([](ConnectionStatus &) {});
 }
 
-// --- The card
-// ------------------------------------------------------------------------------------------------------------
-
 void ConnectionService::Private::takeCard(const CardState &card)
 {
     const bool isGone = card.presence == CardPresence::Absent || card.presence == CardPresence::StorageMode;
@@ -369,9 +372,6 @@ void ConnectionService::Private::becameIdle()
     link->end({ConnectionEnd::Idle, -1, {}});
 }
 
-// --- The service
-// ---------------------------------------------------------------------------------------------------------
-
 ConnectionService::ConnectionService(CardMonitor *monitor, ProfileStore *profiles, QObject *parent)
     : ConnectionService(monitor, profiles, ConnectionParts(), parent)
 {
@@ -398,11 +398,20 @@ void ConnectionService::shutDown()
     if (std::exchange(d->isShutDown, true))
         return;
     d->redial.stop();
-    if (d->link)
+    d->idle.stopAutoDisconnectMonitor();
+    d->refreshTimer.stop();
+    const bool hadLink = d->link;
+    if (hadLink) {
+        // While the interface is there: who counts reads it for the last time.
+        d->update([](ConnectionStatus &status) { status.state = ConnectionState::Disconnecting; });
         d->link->abandon();
+    }
     d->parts.backend->shutDown();
     delete std::exchange(d->link, nullptr);
-    d->update([](ConnectionStatus &status) { status.state = ConnectionState::NotConnected; });
+    d->update([&](ConnectionStatus &status) {
+        if (hadLink)
+            status = d->ended(ConnectionEnd::ByProgram);
+    });
 }
 
 void ConnectionService::recoverLeftovers()
