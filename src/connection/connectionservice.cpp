@@ -7,8 +7,10 @@
 #include "connection/idlemonitor.h"
 #include "connection/networkcard.h"
 #include "connection/networkcardlink.h"
+#include "connection/profilechecks.h"
 #include "connection/profilestore.h"
 #include "connection/redial.h"
+#include "connection/simprofile.h"
 #include "device/cardmonitor.h"
 #include "shell/logging.h"
 
@@ -18,6 +20,8 @@
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
+
+std::atomic<int> connecting = 0;
 
 namespace corva
 {
@@ -50,9 +54,9 @@ bool isWorthAnotherDial(ConnectionEnd end)
 
 QUrl pageOf(const ConnectionProfile &profile)
 {
-    const QUrl url(profile.text(ProfileField::DefaultOpenUrl).trimmed(), QUrl::StrictMode);
-    const bool isPage = (url.scheme() == "http"_L1 || url.scheme() == "https"_L1) && !url.host().isEmpty();
-    return isPage && url.isValid() ? url : QUrl();
+    const QString text = profile.text(ProfileField::DefaultOpenUrl).trimmed();
+    const QUrl url = QUrl::fromUserInput(text);
+    return isWebAddress(text) && !url.host().isEmpty() ? url : QUrl();
 }
 
 } // namespace
@@ -67,6 +71,12 @@ ConnectionParts::ConnectionParts()
 ConnectionParts::ConnectionParts(ConnectionParts &&) noexcept = default;
 ConnectionParts::~ConnectionParts() = default;
 
+/// What the person allowed for one link and its redials.
+struct DialPermission {
+    std::optional<DialCredentials> credentials;
+    bool mayRoam = false; ///< dialled while roaming, and so agreed to it
+};
+
 class ConnectionService::Private
 {
 public:
@@ -74,7 +84,9 @@ public:
             ConnectionParts theParts);
 
     bool mayDial();
-    bool dial();
+    bool dialDefault();
+    bool dial(ConnectionProfile profile);
+    bool mayDialUnasked(const ConnectionProfile &profile) const;
     bool start(const ConnectionProfile &profile);
     LinkPlan planFor(const ConnectionProfile &profile, const DiallerOptions &options) const;
     void wentUp(const ConnectionProfile &profile);
@@ -83,6 +95,10 @@ public:
     void tellOrRedial(const LinkOutcome &outcome, bool wasUp);
     void autoReConnWhenAbnormalDisconn();
     void slotAutoRedial();
+    void missCard();
+    bool dialUnasked();
+    void beginRow(const Redial::Row &row);
+    void endRow();
     void autoConnect(const CardState &card);
     void takeCard(const CardState &card);
     void becameIdle();
@@ -92,6 +108,7 @@ public:
 
     /// Changes the status and tells it, if there is a difference.
     template <typename Change> void update(Change change);
+    void tellChange(const ConnectionStatus &before, const ConnectionStatus &now);
 
     ConnectionService *q;
     CardMonitor *monitor;
@@ -101,10 +118,10 @@ public:
     Redial redial;
     IdleMonitor idle;
     QTimer refreshTimer;
-    std::optional<DialCredentials> credentials;
+    DialPermission given;
     bool isCallUp = false;
-    bool mayRoam = false; ///< the person dialled while roaming, and so agreed to it
     bool wasReady = false;
+    bool hasToldOfCard = false; ///< in this row of redials
     bool isShutDown = false;
 };
 
@@ -116,8 +133,22 @@ template <typename Change> void ConnectionService::Private::update(Change change
     status.redials = redial.times();
     if (status == q->m_status)
         return;
-    q->m_status = status;
+    const ConnectionStatus before = std::exchange(q->m_status, status);
+    connecting = status.state == ConnectionState::Connecting;
     Q_EMIT q->sigStatusChanged(status);
+    tellChange(before, status);
+}
+
+void ConnectionService::Private::tellChange(const ConnectionStatus &before, const ConnectionStatus &now)
+{
+    const auto isNow = [&](ConnectionState state) { return now.state == state; };
+    const auto differs = [&](ConnectionState state) { return isNow(state) != (before.state == state); };
+    if (differs(ConnectionState::Connecting))
+        isNow(ConnectionState::Connecting) ? Q_EMIT q->sigConnectingStart() : Q_EMIT q->sigConnectingEnd();
+    if (differs(ConnectionState::Connected))
+        Q_EMIT q->sigUpdateConnectPixmap(isNow(ConnectionState::Connected));
+    if (isNow(ConnectionState::NotConnected) && before.since.isValid())
+        Q_EMIT q->sigUpdateHis();
 }
 
 ConnectionService::Private::Private(ConnectionService *service, CardMonitor *cardMonitor, ProfileStore *store,
@@ -147,18 +178,31 @@ bool ConnectionService::Private::mayDial()
     return true;
 }
 
-bool ConnectionService::Private::dial()
+bool ConnectionService::Private::dialDefault()
 {
-    auto profile = profiles->defaultProfile();
+    const auto profile = profiles->defaultProfile();
     if (!profile) {
         refuse(ConnectionEnd::FilesFailed, tr("Can't open deault config file!"));
         return false;
     }
-    if (credentials) {
-        profile->setText(ProfileField::UserName, credentials->userName);
-        profile->setText(ProfileField::Password, credentials->password);
+    return dial(*profile);
+}
+
+bool ConnectionService::Private::dial(ConnectionProfile profile)
+{
+    if (given.credentials && given.credentials->profileName == profile.name()) {
+        profile.setText(ProfileField::UserName, given.credentials->userName);
+        profile.setText(ProfileField::Password, given.credentials->password);
     }
-    return start(*profile);
+    return start(profile);
+}
+
+/// Whether nobody has to be asked for the user name.
+bool ConnectionService::Private::mayDialUnasked(const ConnectionProfile &profile) const
+{
+    return !profile.isOn(ProfileField::AsksUserName) || profile.isOn(ProfileField::NoAuthentication) ||
+           !profile.text(ProfileField::UserName).isEmpty() ||
+           (given.credentials && given.credentials->profileName == profile.name());
 }
 
 LinkPlan ConnectionService::Private::planFor(const ConnectionProfile &profile,
@@ -182,9 +226,11 @@ LinkPlan ConnectionService::Private::planFor(const ConnectionProfile &profile,
 bool ConnectionService::Private::start(const ConnectionProfile &profile)
 {
     const DiallerOptions options = DiallerOptions::fromConfiguration();
-    const LinkPlan plan = planFor(profile, options);
+    LinkPlan plan = planFor(profile, options);
     const bool isNetworkCard = profile.linkKind() == LinkKind::NetworkCard ||
                                (profile.linkKind() == LinkKind::Automatic && !plan.interfaceName.isEmpty());
+    if (isNetworkCard)
+        plan.contextId = NetworkCardLink::contextId;
     if (isNetworkCard && plan.interfaceName.isEmpty()) {
         refuse(ConnectionEnd::DiallerFailed,
                tr("This card has no network interface. Please choose dial-up in the profile."));
@@ -202,6 +248,7 @@ bool ConnectionService::Private::start(const ConnectionProfile &profile)
         link = dialUp;
     }
     connect(link, &DataLink::sigUp, q, [this, profile] { wentUp(profile); });
+    connect(link, &DataLink::sigPDPSetCommand, q, &ConnectionService::sigPDPSetCommand);
     connect(link, &DataLink::sigMessage, q, &ConnectionService::sigMessage);
     connect(link, &DataLink::sigOver, q, [this](const LinkOutcome &outcome) { isOver(outcome); });
     connect(link, &DataLink::sigEnding, q, [this] {
@@ -214,7 +261,7 @@ bool ConnectionService::Private::start(const ConnectionProfile &profile)
         status.state = ConnectionState::Connecting;
         status.kind = isNetworkCard ? LinkKind::NetworkCard : LinkKind::DialUp;
         status.profileName = profile.name();
-        status.apn = profile.isOn(ProfileField::ObtainsApn) ? QString() : profile.text(ProfileField::Apn);
+        status.apn = profile.isOn(ProfileField::UsesApn) ? profile.text(ProfileField::Apn) : QString();
         status.isRoaming = isRoaming(monitor->state());
     });
     link->start();
@@ -225,6 +272,7 @@ bool ConnectionService::Private::start(const ConnectionProfile &profile)
 void ConnectionService::Private::refuse(ConnectionEnd end, const QString &message)
 {
     redial.stop();
+    given = {};
     update([&](ConnectionStatus &status) {
         status = {};
         status.end = end;
@@ -289,6 +337,8 @@ void ConnectionService::Private::tellOrRedial(const LinkOutcome &outcome, bool w
     if (wasUp && isWorthIt)
         autoReConnWhenAbnormalDisconn();
     dialsAgain = dialsAgain || redial.isActive();
+    if (!dialsAgain)
+        given = {};
 
     update([&](ConnectionStatus &status) {
         status = ended(outcome.end);
@@ -315,7 +365,7 @@ void ConnectionService::Private::autoReConnWhenAbnormalDisconn()
 {
     const DiallerOptions options = DiallerOptions::fromConfiguration();
     if (options.redials)
-        redial.autoRedialNetwork(options.redial);
+        beginRow(options.redial);
 }
 
 /// One dial of a row that nobody pressed a button for.
@@ -323,22 +373,43 @@ void ConnectionService::Private::slotAutoRedial()
 {
     if (link)
         return;
-    if (isRoaming(monitor->state()) && !mayRoam) {
-        redial.stop(); // roaming costs: a person decides
-        update([](ConnectionStatus &) {});
-        return;
-    }
-    if (q->obstacle() == ConnectObstacle::CardGone && redial.next()) {
-        if (redial.number() == 2) // one box for the row
-            Q_EMIT q->sigMessage(tr("The device has been disconnected or is unavailable."));
-        update([](ConnectionStatus &) {});
-        return;
-    }
-    if (mayDial())
-        dial();
-    else
-        redial.stop();
+    if (q->obstacle() == ConnectObstacle::CardGone)
+        missCard();
+    else if (!dialUnasked())
+        endRow();
     update([](ConnectionStatus &) {});
+}
+
+/// A dial of the row that has no card to go by: one box for the row, and the next dial.
+void ConnectionService::Private::missCard()
+{
+    if (!std::exchange(hasToldOfCard, true))
+        Q_EMIT q->sigMessage(tr("The device has been disconnected or is unavailable."));
+    if (!redial.next())
+        given = {};
+}
+
+/// Roaming costs, and a password has to be entered: there a person decides.
+bool ConnectionService::Private::dialUnasked()
+{
+    if ((isRoaming(monitor->state()) && !given.mayRoam) || !mayDial())
+        return false;
+    const auto profile = profileForSim(*profiles, monitor->state().identity.imsi);
+    if (profile)
+        return mayDialUnasked(*profile) && dial(*profile);
+    return !profiles->defaultProfile() && dialDefault(); // which says that there is none
+}
+
+void ConnectionService::Private::beginRow(const Redial::Row &row)
+{
+    hasToldOfCard = false;
+    redial.autoRedialNetwork(row);
+}
+
+void ConnectionService::Private::endRow()
+{
+    redial.stop();
+    given = {};
 }
 
 void ConnectionService::Private::takeCard(const CardState &card)
@@ -352,14 +423,15 @@ void ConnectionService::Private::takeCard(const CardState &card)
 /// Dials once for each time that a card becomes ready.
 void ConnectionService::Private::autoConnect(const CardState &card)
 {
-    const bool isReady =
-        card.presence == CardPresence::Ready && card.modemReady && card.registration == Registration::Home;
+    const bool isReady = card.presence == CardPresence::Ready && card.modemReady &&
+                         card.registration == Registration::Home && isSimKnown(*profiles, card.identity.imsi);
     const bool becameReady = isReady && !wasReady;
     wasReady = isReady || (wasReady && card.presence == CardPresence::Ready);
     const DiallerOptions options = DiallerOptions::fromConfiguration();
     if (!becameReady || !options.connectsByItself || link || redial.isActive())
         return;
-    redial.autoRedialNetwork(options.automatic);
+    given = {};
+    beginRow(options.automatic);
     update([](ConnectionStatus &) {});
 }
 
@@ -441,16 +513,15 @@ bool ConnectionService::connectNow(const std::optional<DialCredentials> &credent
         return false;
     }
     d->redial.stop();
-    d->credentials = credentials;
-    d->mayRoam = isRoaming(d->monitor->state());
-    const bool isDialling = d->mayDial() && d->dial();
+    d->given = {credentials, isRoaming(d->monitor->state())};
+    const bool isDialling = d->mayDial() && d->dialDefault();
     d->update([](ConnectionStatus &) {}); // a row of redials may have ended
     return isDialling;
 }
 
 void ConnectionService::disconnectNow(ConnectionEnd why)
 {
-    d->redial.stop();
+    d->endRow();
     if (d->link)
         d->link->end({why, -1, {}});
     d->update([](ConnectionStatus &) {});

@@ -77,7 +77,7 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(u"Data"_s));
         QFile port(basePath + u"/modem"_s);
         QVERIFY(port.open(QFile::WriteOnly));
-        for (const auto &key : {u"AutoConnectFlag"_s, u"autoRedial_enabled"_s, u"autoDisconnect_enabled"_s})
+        for (const auto &key : {u"AutoConnectFlag"_s, u"autoRedial_enabled"_s, u"Show_open_URL"_s})
             set(key, u"0"_s);
         cmcfg.setValue(u"statistics"_s, u"quota_mb"_s, u"0"_s);
         cmcfg.setValue(u"statistics"_s, u"end_at_quota"_s, u"0"_s);
@@ -122,6 +122,76 @@ private Q_SLOTS:
         QCOMPARE(m_backend->count(DialVerb::HangUp), 2);
     }
 
+    /// What was entered for one dial is for that link and its profile.
+    void aPasswordIsNotKeptForALaterDial()
+    {
+        set(u"AutoConnectFlag"_s, u"1"_s);
+        ConnectionProfile asking = profile(u"Asking"_s);
+        asking.setOn(ProfileField::AsksUserName, true);
+        start({asking});
+        QTRY_COMPARE(status().redial, 0); // nobody can be asked
+        QVERIFY(m_backend->asked.empty());
+        connectNow(DialCredentials{u"Asking"_s, u"maria"_s, u"secret"_s});
+        QCOMPARE(lastWritten().text(ProfileField::Password), u"secret"_s);
+        m_services->connection()->disconnectNow();
+        QTRY_COMPARE(status().state, ConnectionState::NotConnected);
+        connectNow();
+        QCOMPARE(lastWritten().text(ProfileField::Password), QString());
+        m_services->connection()->disconnectNow();
+        QTRY_COMPARE(status().state, ConnectionState::NotConnected);
+        connectNow(DialCredentials{u"Another"_s, u"maria"_s, u"secret"_s});
+        QCOMPARE(lastWritten().text(ProfileField::Password), QString());
+    }
+
+    void connectsByItselfWithTheProfileOfTheSim()
+    {
+        set(u"AutoConnectFlag"_s, u"1"_s);
+        ConnectionProfile other = profile(u"Other"_s);
+        other.setText(ProfileField::Imsi, u"99901"_s);
+        ConnectionProfile mine = profile(u"Mine"_s);
+        mine.setText(ProfileField::Imsi, u"26201"_s);
+        mine.setText(ProfileField::DefaultOpenUrl, u"www.example.org/start"_s);
+        set(u"Show_open_URL"_s, u"1"_s);
+        start({other, mine}, QString());
+        QCOMPARE(status().redial, 0); // whose SIM it is shows later
+        QSignalSpy pages(m_services->connection(), &ConnectionService::sigOpenUrl);
+        putCard(u"262011234567890"_s);
+        comesUp(1);
+        QCOMPARE(status().profileName, u"Mine"_s);
+        QCOMPARE(pages.at(0).at(0).toUrl(), QUrl(u"http://www.example.org/start"_s));
+    }
+
+    void aRowWithoutACardTellsItOnce()
+    {
+        set(u"autoRedial_enabled"_s, u"1"_s);
+        set(u"autoRedial_time"_s, u"3"_s);
+        set(u"autoRedial_startSec"_s, u"0"_s);
+        set(u"autoRedial_afterSec"_s, u"1"_s);
+        start({profile(u"Mine"_s)});
+        connectNow();
+        QSignalSpy boxes(m_services->connection(), &ConnectionService::sigMessage);
+        fakecard::put({});
+        QTRY_COMPARE(status().redial, 3);
+        QTRY_COMPARE(status().redial, 0);
+        QCOMPARE(boxes.size(), 1);
+    }
+
+    /// As while a window asks for an administrator's password: its answer may never come.
+    void aCancelledDialDoesNotWaitForEver()
+    {
+        start({profile(u"Mine"_s)});
+        m_backend->silentAt = DialVerb::Save;
+        LinkPlan plan;
+        plan.hasContexts = false;
+        plan.endLimit = std::chrono::milliseconds(50);
+        DialUpLink link(*m_monitor, *m_backend, factsOfLoopback, plan);
+        QSignalSpy over(&link, &DataLink::sigOver);
+        link.start();
+        link.end({});
+        QTRY_COMPARE(over.size(), 1);
+        QCOMPARE(m_backend->asked.back().verb, DialVerb::Recover);
+    }
+
     void whatTheEndOfTheProgramCutsOffIsCounted()
     {
         start({profile(u"Mine"_s)});
@@ -149,7 +219,7 @@ private:
     const ConnectionStatus &status() const { return m_services->connection()->status(); }
 
     /// A card that is ready; the first profile is the default.
-    void start(const QList<ConnectionProfile> &profiles)
+    void start(const QList<ConnectionProfile> &profiles, const QString &imsi = u"262011234567890"_s)
     {
         ProfileStore store(basePath + u"/Data"_s);
         for (const ConnectionProfile &each : profiles)
@@ -167,15 +237,14 @@ private:
                 return std::make_unique<ConnectionService>(monitor, known, std::move(parts));
             },
             nullptr);
-        putCard();
+        putCard(imsi);
     }
-    void putCard(const std::function<void(CardState &)> &change = {})
+    static void putCard(const QString &imsi)
     {
         CardState card = fakecard::registeredCard();
         card.family = CardFamily::Cdma; // has no contexts that would have to be set on the card
         card.modemPortName = basePath + u"/modem"_s;
-        if (change)
-            change(card);
+        card.identity.imsi = imsi;
         fakecard::put(card);
     }
     void connectNow(const std::optional<DialCredentials> &credentials = std::nullopt)
@@ -184,6 +253,12 @@ private:
         comesUp(m_backend->count(DialVerb::Dial) + 1);
     }
 
+    ConnectionProfile lastWritten() const
+    {
+        const auto written = std::find_if(m_backend->asked.rbegin(), m_backend->asked.rend(),
+                                          [](const auto &each) { return each.verb == DialVerb::Write; });
+        return written->profile;
+    }
     /// The dialler has begun its dial of that number, and gets through.
     void comesUp(qsizetype dial)
     {
