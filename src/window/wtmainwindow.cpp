@@ -102,7 +102,8 @@ void WTMainWindow::build()
     m_navigation = new Navigation(this);
     m_pages = new PageHost(standardPages(),
                            {m_monitor, m_reports, m_mender, m_services->connection(), m_services->profiles(),
-                            m_services->traffic(), m_connector, m_services->meter()},
+                            m_services->traffic(), m_connector, m_services->meter(),
+                            [this] { showOfflinePanel(); }},
                            this);
     m_strip = new StatusStrip(this);
     buildMenu(menu);
