@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
@@ -227,6 +228,12 @@ void CdeStyle::drawComplexControl(ComplexControl control, const QStyleOptionComp
     const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
     if (control == CC_ComboBox && combo) {
         paint::comboBox(*combo, *painter, subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget));
+        return;
+    }
+    const auto *spin = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
+    if (control == CC_SpinBox && spin) {
+        paint::spinBox(*spin, *painter, subControlRect(CC_SpinBox, option, SC_SpinBoxUp, widget),
+                       subControlRect(CC_SpinBox, option, SC_SpinBoxDown, widget));
         return;
     }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
