@@ -291,6 +291,9 @@ int CdeStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const 
 int CdeStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                         QStyleHintReturn *returnData) const
 {
+    // The line below one letter would part it from the letters that it joins in Arabic.
+    if (hint == SH_UnderlineShortcut && QGuiApplication::isRightToLeft())
+        return 0;
     const auto *row = find(std::begin(styleHints), std::end(styleHints), &HintRow::hint, hint);
     return row ? row->value : QProxyStyle::styleHint(hint, option, widget, returnData);
 }
