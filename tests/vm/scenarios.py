@@ -37,7 +37,7 @@ class Watch:
         self.moments = {}
         self.conditions = conditions
         self.over = threading.Event()
-        self.thread = threading.Thread(target=self.look)
+        self.thread = threading.Thread(target=self.look, daemon=True)
         self.thread.start()
 
     def look(self):

@@ -23,7 +23,10 @@ EXCHANGE = pathlib.Path("/exchange")
 
 
 def run(*words, **options):
-    return subprocess.run([str(word) for word in words], check=True, capture_output=True, text=True, **options).stdout
+    words = [str(word) for word in words]
+    done = subprocess.run(words, capture_output=True, text=True, **options)
+    assert done.returncode == 0, f"{' '.join(words)}: status {done.returncode}, {done.stdout}{done.stderr}".strip()
+    return done.stdout
 
 
 def pids(name):
@@ -49,6 +52,8 @@ class Etc:
                 content = ""
                 if stat.S_ISLNK(about.st_mode):
                     content = os.readlink(path)
+                    if path == "/etc/resolv.conf":
+                        content += pathlib.Path(path).read_text()
                 elif stat.S_ISREG(about.st_mode):
                     content = hashlib.sha256(pathlib.Path(path).read_bytes()).hexdigest()
                 yield path, (about.st_mode, about.st_uid, about.st_gid, content)
@@ -85,7 +90,10 @@ class Network:
 
     @staticmethod
     def ping():
-        run("busybox", "ping", "-c", "1", "-W", "5", WEB)
+        """Pings across; "connected" may be said a moment before the route stands."""
+        def answers():
+            return subprocess.run(["busybox", "ping", "-c", "1", "-W", "5", WEB], capture_output=True).returncode == 0
+        wait_for("an answer to a ping", answers, 5)
 
     @staticmethod
     def fetch():
@@ -210,7 +218,7 @@ class Internet(Program):
         return None
 
     def state(self):
-        self.state_node.clear_cache_single()
+        self.state_node.clear_cache()
         return self.state_node.get_name()
 
     def wait_state(self, state, seconds=60.0):
@@ -253,6 +261,9 @@ class Internet(Program):
 def prepare_system():
     """The system's own dialler files, with contents, modes and owners that a careless restore would not bring back."""
     dip = int(run("getent", "group", "dip").split(":")[2])
+    for left in ("/etc/tmpwvdial.conf", "/etc/tmpresolv.conf", "/etc/ppp/tmpoptions", "/etc/ppp/peers/tmpwvdial",
+                 "/etc/ppp/corva-saved.json"):
+        pathlib.Path(left).unlink(missing_ok=True)
     for path, text, mode, group in (
             ("/etc/wvdial.conf", "[Dialer Defaults]\nModem = /dev/modem\nPhone = 5550100\n", 0o640, dip),
             ("/etc/ppp/options", "# the owner's options\r\nlock\r\n", 0o640, dip),
@@ -310,6 +321,12 @@ class World:
             run("import", "-window", "root", EXCHANGE / f"failed{self.count}.png")
         with contextlib.suppress(Exception):
             print("      shown:", "; ".join(program.texts()))
+        with open(EXCHANGE / f"failed{self.count}-system.txt", "w") as log:
+            for words in ("ip -s address", "ip route", "ip -n net -s address", "ip -n net route", "ps ax", "ls -lR /etc/ppp",
+                          "cat /etc/ppp/options", "dmesg"):
+                log.write(f"=== {words}\n")
+                log.flush()
+                subprocess.run(words.split(), stdout=log, stderr=log)
         for source, name in ((program.folder / "output.txt", "output"), (pathlib.Path("/tmp/connect_info"), "connect_info"),
                              (pathlib.Path("/tmp/network-side.log"), "network-side")):
             with contextlib.suppress(Exception):
