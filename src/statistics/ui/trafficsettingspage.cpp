@@ -27,7 +27,7 @@ constexpr int megabytesPerGigabyte = 1000;
 constexpr double mostVolume = 999'999;
 const QString section = u"statistics"_s;
 
-QWidget *captioned(const QString &caption, const std::vector<QWidget *> &controls, QWidget *parent)
+QWidget *captionedRow(const QString &caption, const std::vector<QWidget *> &controls, QWidget *parent)
 {
     auto *row = new QWidget(parent);
     auto *name = new TextLabel(caption, TextRole::Text, row);
@@ -82,6 +82,7 @@ QWidget *TrafficSettingsPage::buildVolume(const QString &caption, const QString 
     amount->setObjectName(id);
     amount->setAccessibleName(QString(caption).remove(u'&'));
     amount->setRange(0, mostVolume);
+    amount->setPrefix(numberPrefix());
     amount->setSpecialValueText(none);
     amount->setMinimumWidth(numberWidth);
     amount->setKeyboardTracking(false);
@@ -99,7 +100,7 @@ QWidget *TrafficSettingsPage::buildVolume(const QString &caption, const QString 
     });
     connect(unit, &QComboBox::activated, this,
             [fit, unit, key] { fit(qMax(0, cmcfg.getNumber(section, key)), unit->currentData().toInt()); });
-    return captioned(caption, {amount, unit}, this);
+    return captionedRow(caption, {amount, unit}, this);
 }
 
 QWidget *TrafficSettingsPage::buildNumber(const QString &caption, const QString &key, int least, int most,
@@ -109,6 +110,7 @@ QWidget *TrafficSettingsPage::buildNumber(const QString &caption, const QString 
     number->setObjectName(key);
     number->setAccessibleName(QString(caption).remove(u'&'));
     number->setRange(least, most);
+    number->setPrefix(numberPrefix());
     number->setSuffix(suffix);
     number->setMinimumWidth(numberWidth);
     number->setKeyboardTracking(false);
@@ -116,7 +118,7 @@ QWidget *TrafficSettingsPage::buildNumber(const QString &caption, const QString 
         number->setSpecialValueText(tr("Never"));
     number->setValue(cmcfg.getNumber(section, key));
     connect(number, &QSpinBox::valueChanged, this, [this, key](int value) { storeNumber(key, value); });
-    return captioned(caption, {number}, this);
+    return captionedRow(caption, {number}, this);
 }
 
 QWidget *TrafficSettingsPage::buildEnd()
