@@ -2861,10 +2861,6 @@ au %2</translation>
         <translation> %</translation>
     </message>
     <message>
-        <source>This could not be stored: %1</source>
-        <translation>Impossible d’enregistrer ce réglage&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>Unit: %1</source>
         <translation>Unité&#xa0;: %1</translation>
     </message>
