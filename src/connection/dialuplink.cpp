@@ -104,6 +104,7 @@ void DialUpLink::slotKillWvdial()
 
 void DialUpLink::takeOutput(const QByteArray &chunk)
 {
+    qCDebug(lcConnection).noquote() << logTime() + QString::fromUtf8(chunk).trimmed();
     if (!isMaking() && !isUp())
         return;
     for (const WvdialEvent &event : m_output.feed(chunk))

@@ -89,10 +89,11 @@ bool makePipe(Descriptor &readEnd, Descriptor &writeEnd)
     dup2(output, STDERR_FILENO);
     syscall(SYS_close_range, STDERR_FILENO + 1, ~0U, 0); // the card's ports and locks are not the dialler's
 
-    // A person's own ~/.wvdialrc must not change what the system's file says.
+    // A person's own ~/.wvdialrc must not change what the system's file says. And wvdial's small stacks do
+    // not hold the registers of newer processors, which the loader keeps there when it binds a function late.
     std::array environment = {const_cast<char *>("PATH=/usr/sbin:/usr/bin:/sbin:/bin"),
                               const_cast<char *>("HOME=/nonexistent"), const_cast<char *>("LC_ALL=C"),
-                              static_cast<char *>(nullptr)};
+                              const_cast<char *>("LD_BIND_NOW=1"), static_cast<char *>(nullptr)};
     std::array arguments = {const_cast<char *>("sh"), const_cast<char *>("-c"), const_cast<char *>(command),
                             static_cast<char *>(nullptr)};
     execve("/bin/sh", arguments.data(), environment.data());

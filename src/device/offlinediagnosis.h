@@ -9,7 +9,7 @@
 namespace corva
 {
 
-/// The steps from the stick in the socket to the network, in the order in which they have to succeed.
+/// The steps from the stick in the socket to the internet, in the order in which they have to succeed.
 enum class DiagnosisStepId {
     UsbMode,
     Port,
@@ -20,7 +20,14 @@ enum class DiagnosisStepId {
     Pin,
     Radio,
     Registration,
-    Network
+    Network,
+    // Those of the data connection follow, see connection/connectiondiagnosis.h.
+    Profile,
+    AccessPoint,
+    Dialler,
+    Address,
+    NameServers,
+    Route
 };
 
 enum class StepStatus {
@@ -39,7 +46,10 @@ enum class MendAction {
     EnterPin,
     EnterPuk,
     SwitchRadioOn,
-    AskAgain
+    AskAgain,
+    Connect,
+    ChooseProfile,
+    EditProfile
 };
 
 /// One step with its finding, in words for people.
@@ -53,8 +63,11 @@ struct DiagnosisStep {
     QString actionText; ///< the text of the button, a verb; empty for `None`
 };
 
-/// Walks all steps for `state`. After the first step that is not in order the rest is not reached, so at most
-/// one step is `Failed` or `Running`.
+/// The text of the button that does it.
+QString mendActionText(MendAction action);
+
+/// Walks the steps of the card, up to the network, for `state`. After the first step that is not in order the
+/// rest is not reached, so at most one step is `Failed` or `Running`.
 std::vector<DiagnosisStep> diagnose(const CardState &state);
 
 /// The step that is not in order; nullptr when all are. Points into `steps`.

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/csetting.h"
 
+#include "connection/ui/connectionsettings.h"
 #include "settings/generalpage.h"
+#include "statistics/ui/trafficsettingspage.h"
 #include "widgets/skin.h"
 #include "widgets/textlabel.h"
 
@@ -23,7 +25,7 @@ constexpr int listWidth = 160;
 /// The groups of this program, in the order shown.
 std::vector<SettingsEntry> standardGroups()
 {
-    return {generalSettingsEntry()};
+    return {generalSettingsEntry(), connectionSettingsEntry(), trafficSettingsEntry()};
 }
 
 } // namespace

@@ -4,13 +4,15 @@
 #include "settings/languages.h"
 #include "settings/skinchooser.h"
 #include "shell/commoncfg.h"
+#include "shell/commonconfig.h"
+#include "shell/globals.h"
+#include "shell/updatecfg.h"
 #include "widgets/factrow.h"
 #include "widgets/skin.h"
-#include "widgets/textlabel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QHBoxLayout>
+#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -19,9 +21,6 @@ namespace corva
 
 namespace
 {
-
-constexpr int captionWidth = 160;
-constexpr int choiceWidth = 220;
 
 /// The shipped skins have names in every language; a person's own is shown by its own name.
 QString shownName(const Skin &skin)
@@ -33,20 +32,19 @@ QString shownName(const Skin &skin)
     return skin.name.isEmpty() ? skin.file : skin.name;
 }
 
-QWidget *captioned(const QString &caption, QWidget *control, QWidget *parent)
+/// An external updater is there when it has left its period, or somebody has switched it before.
+bool hasUpdater()
 {
-    auto *row = new QWidget(parent);
-    auto *name = new TextLabel(caption, TextRole::Text, row);
-    name->setBuddy(control);
-    name->setMinimumWidth(captionWidth);
-    control->setAccessibleName(QString(caption).remove(u'&'));
-    control->setMinimumWidth(choiceWidth);
-    auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(name);
-    layout->addWidget(control);
-    layout->addStretch(1);
-    return row;
+    return !UpdateCfg::value(UpdateKey::UpdateFrequence).isEmpty() ||
+           !UpdateCfg::value(UpdateKey::EnableUpdate).isEmpty();
+}
+
+/// Who this program is.
+void tellUpdater()
+{
+    UpdateCfg::setValues({{UpdateKey::CmName, comcfg.softwareName},
+                          {UpdateKey::LanguageType, cmcfg.getValue(u"function"_s, u"selected-language"_s)},
+                          {UpdateKey::SoftwareVersion, readVersionInfo()}});
 }
 
 } // namespace
@@ -65,13 +63,16 @@ GeneralPage::GeneralPage(QWidget *parent) : SettingsPage(parent)
     layout->addWidget(buildSkin());
     layout->addSpacing(2 * metrics::Grid);
     layout->addWidget(new SectionHeader(tr("Beside other programs"), this));
-    layout->addWidget(
-        buildSwitch(tr("&Keep running in the tray when the window is closed"), u"close_to_tray"_s), 0,
-        Qt::AlignLeading);
-    layout->addWidget(
-        buildSwitch(tr("&Notify about calls and messages on the desktop"), u"notifications_enabled"_s), 0,
-        Qt::AlignLeading);
+    layout->addWidget(settingSwitch(tr("&Keep running in the tray when the window is closed"),
+                                    {u"window"_s, u"close_to_tray"_s}),
+                      0, Qt::AlignLeading);
+    layout->addWidget(settingSwitch(tr("&Notify about calls and messages on the desktop"),
+                                    {u"window"_s, u"notifications_enabled"_s}),
+                      0, Qt::AlignLeading);
+    if (hasUpdater())
+        layout->addWidget(buildUpdates(), 0, Qt::AlignLeading);
     layout->addStretch(1);
+    tellUpdater();
 }
 
 QWidget *GeneralPage::buildLanguage()
@@ -100,20 +101,24 @@ QWidget *GeneralPage::buildSkin()
     return captioned(tr("&Colours"), choice, this);
 }
 
-QCheckBox *GeneralPage::buildSwitch(const QString &text, const QString &key)
+QCheckBox *GeneralPage::buildUpdates()
 {
-    auto *box = new QCheckBox(text, this);
-    box->setObjectName(key);
-    box->setChecked(cmcfg.getNumber(u"window"_s, key) == 1);
+    auto *box = new QCheckBox(tr("Look for &updates"), this);
+    box->setObjectName(u"updates"_s);
+    box->setChecked(UpdateCfg::value(UpdateKey::EnableUpdate).toInt() == 1);
     box->setMinimumHeight(metrics::ControlHeight);
-    connect(box, &QCheckBox::toggled, this,
-            [key](bool on) { cmcfg.setValue(u"window"_s, key, on ? u"1"_s : u"0"_s); });
+    connect(box, &QCheckBox::toggled, this, [this](bool on) {
+        const bool isStored = UpdateCfg::setValue(UpdateKey::EnableUpdate, on ? u"1"_s : u"0"_s);
+        sayStored(isStored ? QString() : u"UpdateCfg.ini"_s);
+    });
     return box;
 }
 
 void GeneralPage::takeLanguage(const QString &file)
 {
-    cmcfg.setValue(u"function"_s, u"selected-language"_s, file);
+    if (!store(u"function"_s, u"selected-language"_s, file))
+        return;
+    tellUpdater();
     Q_EMIT sigSaid(tr("The language is stored. It takes effect when the program starts next."));
 }
 

@@ -3,9 +3,7 @@
 
 #include "settings/settingspage.h"
 
-class QCheckBox;
 class QComboBox;
-class QFormLayout;
 
 namespace corva
 {
@@ -21,7 +19,7 @@ public:
 private:
     QWidget *buildLanguage();
     QWidget *buildSkin();
-    QCheckBox *buildSwitch(const QString &text, const QString &key);
+    QCheckBox *buildUpdates();
     void takeLanguage(const QString &file);
     void takeSkin(const QString &file);
 };

@@ -68,7 +68,9 @@ void frame(const QStyleOption &option, QPainter &painter, const QWidget *widget)
         menuPanel(option, painter, widget);
         return;
     }
-    box(painter, option.rect, QColor(), skinColor(SkinRole::Line));
+    const bool isList = widget && widget->inherits("QAbstractItemView");
+    box(painter, option.rect, isList ? option.palette.color(QPalette::Base) : QColor(),
+        skinColor(SkinRole::Line));
 }
 
 void fieldPanel(const QStyleOption &option, QPainter &painter, const QWidget *widget)
@@ -221,6 +223,25 @@ void comboBox(const QStyleOptionComboBox &option, QPainter &painter, const QRect
     box(painter, option.rect, fill, skinColor(SkinRole::Line));
     chevron(painter, arrow, Qt::DownArrow,
             enabled ? skinColor(SkinRole::Text) : skinColor(SkinRole::DisabledText));
+}
+
+void spinBox(const QStyleOptionSpinBox &option, QPainter &painter, const QRect &up, const QRect &down)
+{
+    const bool isFocused = has(option, QStyle::State_HasFocus);
+    box(painter, option.rect, option.palette.color(QPalette::Base),
+        skinColor(isFocused ? SkinRole::Accent : SkinRole::Line));
+    const auto arrow = [&](const QRect &rect, QAbstractSpinBox::StepEnabledFlag step, QStyle::SubControl part,
+                           Qt::ArrowType direction) {
+        const bool mayStep = has(option, QStyle::State_Enabled) && option.stepEnabled.testFlag(step);
+        const bool isUnderMouse =
+            has(option, QStyle::State_MouseOver) && option.activeSubControls.testFlag(part);
+        chevron(painter, rect, direction,
+                skinColor(!mayStep       ? SkinRole::DisabledText
+                          : isUnderMouse ? SkinRole::Accent
+                                         : SkinRole::Text));
+    };
+    arrow(up, QAbstractSpinBox::StepUpEnabled, QStyle::SC_SpinBoxUp, Qt::UpArrow);
+    arrow(down, QAbstractSpinBox::StepDownEnabled, QStyle::SC_SpinBoxDown, Qt::DownArrow);
 }
 
 } // namespace corva::paint

@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
@@ -78,6 +79,7 @@ constexpr MetricRow pixelMetrics[] = {
     {QStyle::PM_IndicatorHeight, 18},
     {QStyle::PM_ExclusiveIndicatorWidth, 18},
     {QStyle::PM_ExclusiveIndicatorHeight, 18},
+    {QStyle::PM_HeaderMargin, metrics::Grid},
     {QStyle::PM_CheckBoxLabelSpacing, metrics::Grid},
     {QStyle::PM_RadioButtonLabelSpacing, metrics::Grid},
     {QStyle::PM_ButtonShiftHorizontal, 0},
@@ -176,6 +178,9 @@ void CdeStyle::polish(QWidget *widget)
     if (qobject_cast<QAbstractButton *>(widget) || qobject_cast<QComboBox *>(widget) ||
         qobject_cast<QScrollBar *>(widget))
         widget->setAttribute(Qt::WA_Hover);
+    // The frame fills its round corners itself; a filled viewport would stand out of them.
+    if (auto *view = qobject_cast<QAbstractItemView *>(widget); view && view->frameShape() != QFrame::NoFrame)
+        view->viewport()->setAutoFillBackground(false);
 }
 
 void CdeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
@@ -225,6 +230,12 @@ void CdeStyle::drawComplexControl(ComplexControl control, const QStyleOptionComp
         paint::comboBox(*combo, *painter, subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget));
         return;
     }
+    const auto *spin = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
+    if (control == CC_SpinBox && spin) {
+        paint::spinBox(*spin, *painter, subControlRect(CC_SpinBox, option, SC_SpinBoxUp, widget),
+                       subControlRect(CC_SpinBox, option, SC_SpinBoxDown, widget));
+        return;
+    }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
@@ -261,6 +272,13 @@ QSize CdeStyle::sizeFromContents(ContentsType type, const QStyleOption *option, 
     }
 }
 
+QRect CdeStyle::subElementRect(SubElement element, const QStyleOption *option, const QWidget *widget) const
+{
+    if (element == SE_ItemViewItemFocusRect) // around the row, its icon and all
+        return option->rect;
+    return QProxyStyle::subElementRect(element, option, widget);
+}
+
 int CdeStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
 {
     // The room beside the text of a row.
@@ -273,6 +291,9 @@ int CdeStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const 
 int CdeStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                         QStyleHintReturn *returnData) const
 {
+    // The line below one letter would part it from the letters that it joins in Arabic.
+    if (hint == SH_UnderlineShortcut && QGuiApplication::isRightToLeft())
+        return 0;
     const auto *row = find(std::begin(styleHints), std::end(styleHints), &HintRow::hint, hint);
     return row ? row->value : QProxyStyle::styleHint(hint, option, widget, returnData);
 }

@@ -2,6 +2,7 @@
 #include "window/desktoppresence.h"
 
 #include "shell/commoncfg.h"
+#include "shell/commonconfig.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +28,12 @@ DesktopPresence::DesktopPresence(QObject *parent)
 bool DesktopPresence::keepsWindow() const
 {
     return isOn(u"close_to_tray"_s) && m_tray.isShown();
+}
+
+void DesktopPresence::tell(const QString &sentence)
+{
+    if (isOn(u"notifications_enabled"_s))
+        m_notifier.notify(u"volume"_s, comcfg.softwareName, sentence);
 }
 
 void DesktopPresence::report(LinkReport report, const QString &text)

@@ -23,6 +23,8 @@ public:
     bool keepsWindow() const;
     /// Notifies, or takes a notification back, as far as the settings want notifications.
     void report(LinkReport report, const QString &text);
+    /// Notifies of something that is the program's own.
+    void tell(const QString &sentence);
 
 private:
     TrayIcon m_tray;

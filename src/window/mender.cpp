@@ -2,7 +2,7 @@
 #include "window/mender.h"
 
 #include "device/cardmonitor.h"
-#include "widgets/whendone.h"
+#include "shell/whendone.h"
 #include "window/checkpin.h"
 
 #include <QClipboard>
@@ -45,6 +45,9 @@ void Mender::mend(MendAction action)
         Q_EMIT sigSaid(tr("Asking the card"));
         m_monitor->refreshNow();
         return;
+    case MendAction::Connect:
+    case MendAction::ChooseProfile:
+    case MendAction::EditProfile: Q_EMIT sigConnectionWanted(action); return;
     }
 }
 

@@ -33,6 +33,8 @@ Q_SIGNALS:
     void sigSaid(const QString &sentence);
     /// The person asks which step keeps the card offline.
     void sigDiagnosisWanted();
+    /// One of the actions of the data connection, which is somebody else's.
+    void sigConnectionWanted(corva::MendAction action);
 
 private:
     void copyGroupCommand();

@@ -1,18 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "window/offlinepanel.h"
 
+#include "connection/connectiondiagnosis.h"
+#include "connection/connectionservice.h"
+#include "connection/profilestore.h"
 #include "device/cardmonitor.h"
 #include "widgets/buttonkind.h"
 #include "widgets/cdepaint.h"
 #include "widgets/skinicon.h"
 #include "widgets/textlabel.h"
 #include "window/mender.h"
+#include "window/pageregistry.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -123,9 +128,10 @@ void DiagnosisRow::paintEvent(QPaintEvent *)
                blend(skinColor(SkinRole::Window), skinColor(SkinRole::Line), 0.45));
 }
 
-OfflinePanel::OfflinePanel(CardMonitor *monitor, Mender *mender, QWidget *parent)
-    : QWidget(parent), m_monitor(monitor), m_conclusion(new TextLabel(TextRole::Text, this)),
-      m_back(new QPushButton(tr("&Back"), this))
+OfflinePanel::OfflinePanel(const PageContext &context, QWidget *parent)
+    : QWidget(parent), m_monitor(context.monitor), m_connection(context.connection),
+      m_profiles(context.profiles), m_scroll(new QScrollArea(this)),
+      m_conclusion(new TextLabel(TextRole::Text, this)), m_back(new QPushButton(tr("&Back"), this))
 {
     setObjectName(u"offlinePanel"_s);
     m_back->setObjectName(u"back"_s);
@@ -142,19 +148,19 @@ OfflinePanel::OfflinePanel(CardMonitor *monitor, Mender *mender, QWidget *parent
     auto *rows = new QVBoxLayout(list);
     rows->setContentsMargins(0, 0, metrics::HalfGrid, 0);
     rows->setSpacing(0);
-    for (const DiagnosisStep &step : diagnose(monitor->state())) {
+    const auto all = steps();
+    for (const DiagnosisStep &step : all) {
         m_rows.push_back(new DiagnosisRow(step.id, list));
         rows->addWidget(m_rows.back());
-        connect(m_rows.back(), &DiagnosisRow::sigMend, mender, &Mender::mend);
+        connect(m_rows.back(), &DiagnosisRow::sigMend, context.mender, &Mender::mend);
     }
     rows->addStretch(1);
-    auto *scroll = new QScrollArea(this);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(list);
-    scroll->viewport()->setAutoFillBackground(false);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll->setWidget(list);
+    m_scroll->viewport()->setAutoFillBackground(false);
     list->setAutoFillBackground(false);
 
     auto *layout = new QVBoxLayout(this);
@@ -164,31 +170,53 @@ OfflinePanel::OfflinePanel(CardMonitor *monitor, Mender *mender, QWidget *parent
     layout->addLayout(titleRow);
     layout->addWidget(m_conclusion);
     layout->addSpacing(metrics::Grid);
-    layout->addWidget(scroll, 1);
+    layout->addWidget(m_scroll, 1);
 
     connect(m_back, &QPushButton::clicked, this, &OfflinePanel::sigBack);
-    connect(monitor, &CardMonitor::sigStateChanged, this, &OfflinePanel::takeState);
-    takeState(monitor->state());
+    connect(m_monitor, &CardMonitor::sigStateChanged, this, &OfflinePanel::update);
+    connect(m_connection, &ConnectionService::sigStatusChanged, this, &OfflinePanel::update);
+    connect(m_profiles, &ProfileStore::sigChanged, this, &OfflinePanel::update);
+    update();
 }
 
-void OfflinePanel::takeState(const CardState &state)
+std::vector<DiagnosisStep> OfflinePanel::steps() const
 {
-    const auto steps = diagnose(state);
+    return diagnose(m_monitor->state(), m_connection->status(), m_profiles->defaultProfile());
+}
+
+void OfflinePanel::update()
+{
+    const auto found = steps();
     for (std::size_t i = 0; i < m_rows.size(); ++i)
-        m_rows[i]->setStep(steps[i]);
-    const DiagnosisStep *problem = firstProblem(steps);
+        m_rows[i]->setStep(found[i]);
+    const DiagnosisStep *problem = firstProblem(found);
     if (!problem)
-        m_conclusion->setText(tr("Everything from the socket to the network is in order."));
+        m_conclusion->setText(tr("Everything from the socket to the internet is in order."));
     else if (problem->status == StepStatus::Running)
         m_conclusion->setText(tr("Nothing is wrong so far; the card is at it."));
     else
         m_conclusion->setText(tr("One step is not in order. The steps after it follow by themselves."));
+    if (isVisible())
+        showProblem();
 }
 
 void OfflinePanel::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     m_back->setFocus(Qt::OtherFocusReason);
+    m_shownProblem.reset();
+    showProblem();
+}
+
+void OfflinePanel::showProblem()
+{
+    const auto found = steps();
+    const DiagnosisStep *problem = firstProblem(found);
+    const auto id = problem ? std::optional(problem->id) : std::nullopt;
+    if (std::exchange(m_shownProblem, id) == id || !problem)
+        return; // the person may be reading elsewhere
+    m_scroll->widget()->layout()->activate();
+    m_scroll->ensureWidgetVisible(m_rows.at(std::size_t(problem - found.data())), 0, metrics::GroupGap);
 }
 
 } // namespace corva

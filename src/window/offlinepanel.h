@@ -7,14 +7,16 @@
 
 class QLabel;
 class QPushButton;
-class QVBoxLayout;
+class QScrollArea;
 
 namespace corva
 {
 
 class CardMonitor;
-class Mender;
+class ConnectionService;
+class ProfileStore;
 class TextLabel;
+struct PageContext;
 
 /// One step of the diagnosis: its sign, its name and what was found; below it, for the step that keeps the
 /// card offline, what to do and the button that does it.
@@ -45,14 +47,14 @@ private:
     QPushButton *m_mend;
 };
 
-/// "Why am I offline?": every step from the socket to the network, as a list to check off. Follows the card
-/// while it is shown.
+/// "Why am I offline?": every step from the socket to the internet, as a list to check off. Follows the card
+/// and the connection while it is shown.
 class OfflinePanel final : public QWidget
 {
     Q_OBJECT
 
 public:
-    OfflinePanel(CardMonitor *monitor, Mender *mender, QWidget *parent);
+    OfflinePanel(const PageContext &context, QWidget *parent);
 
 Q_SIGNALS:
     void sigBack();
@@ -61,12 +63,18 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void takeState(const CardState &state);
+    void update();
+    std::vector<DiagnosisStep> steps() const;
+    void showProblem();
 
     CardMonitor *m_monitor;
+    ConnectionService *m_connection;
+    ProfileStore *m_profiles;
+    QScrollArea *m_scroll;
     TextLabel *m_conclusion;
     QPushButton *m_back;
     std::vector<DiagnosisRow *> m_rows;
+    std::optional<DiagnosisStepId> m_shownProblem; ///< the one that was scrolled to
 };
 
 } // namespace corva

@@ -42,7 +42,7 @@ Page *PageHost::build(const PageEntry &entry)
 void PageHost::openDiagnosis()
 {
     if (!m_diagnosis) {
-        m_diagnosis = new OfflinePanel(m_context.monitor, m_context.mender, this);
+        m_diagnosis = new OfflinePanel(m_context, this);
         addWidget(m_diagnosis);
         connect(m_diagnosis, &OfflinePanel::sigBack, this, &PageHost::leaveDiagnosis);
         auto *back = new QShortcut(Qt::Key_Escape, m_diagnosis);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "window/pageregistry.h"
 
+#include "connection/ui/wirelesswindow.h"
 #include "settings/csetting.h"
+#include "statistics/ui/trafficpage.h"
 #include "window/cardpage.h"
 
 #include <algorithm>
@@ -26,7 +28,9 @@ bool PageRegistry::add(PageEntry entry)
 PageRegistry standardPages()
 {
     PageRegistry registry;
+    registry.add(connectionPageEntry());
     registry.add(cardPageEntry());
+    registry.add(trafficPageEntry());
     registry.add(settingsPageEntry());
     return registry;
 }

@@ -10,14 +10,25 @@ namespace corva
 {
 
 class CardMonitor;
+class ConnectionService;
+class Connector;
+class LinkMeter;
 class Mender;
+class ProfileStore;
 class ReportHub;
+class TrafficService;
 
 /// What a page may lean on. Everything outlives the page.
 struct PageContext {
     CardMonitor *monitor = nullptr;
     ReportHub *reports = nullptr;
     Mender *mender = nullptr;
+    ConnectionService *connection = nullptr;
+    ProfileStore *profiles = nullptr;
+    TrafficService *traffic = nullptr;
+    Connector *connector = nullptr;
+    LinkMeter *meter = nullptr;
+    std::function<void()> showDiagnosis; ///< which step keeps the computer offline
 };
 
 /// A page as its subsystem contributes it. It is built when it is first shown.

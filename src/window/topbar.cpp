@@ -34,17 +34,6 @@ int signalWidth()
     return configured > 0 ? qMin(configured, metrics::ControlHeight) : metrics::IconSize;
 }
 
-QString connectionText(ConnectionState connection)
-{
-    switch (connection) {
-    case ConnectionState::Connecting: return TopBar::tr("Connecting");
-    case ConnectionState::Connected: return TopBar::tr("Connected");
-    case ConnectionState::Disconnecting: return TopBar::tr("Disconnecting");
-    case ConnectionState::NotConnected: break;
-    }
-    return TopBar::tr("Not connected");
-}
-
 /// Hours and minutes as the person's locale writes them.
 QString clockText(QTime time)
 {
@@ -55,6 +44,17 @@ QString clockText(QTime time)
 }
 
 } // namespace
+
+QString connectionText(ConnectionState connection)
+{
+    switch (connection) {
+    case ConnectionState::Connecting: return TopBar::tr("Connecting");
+    case ConnectionState::Connected: return TopBar::tr("Connected");
+    case ConnectionState::Disconnecting: return TopBar::tr("Disconnecting");
+    case ConnectionState::NotConnected: break;
+    }
+    return TopBar::tr("Not connected");
+}
 
 TopBar::TopBar(QMenu *menu, QWidget *parent)
     : SkinAreaWidget(&CommonConfig::topBar, parent), m_menu(menu), m_menuButton(new QToolButton(this)),

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "connection/connectionstate.h"
 #include "link/cardstate.h"
 #include "widgets/skinareawidget.h"
-#include "connection/connectionstate.h"
 
 #include <QTimer>
 
@@ -19,6 +19,9 @@ class IconButton;
 class SignalBars;
 class StatusChip;
 class TextLabel;
+
+/// What the data connection does, in a word or two.
+QString connectionText(ConnectionState connection);
 
 /// The window's own title bar: the program's menu, what the card's radio does, the SIM, the connection, the
 /// clock, and the buttons of the window. Dragging it moves the window; a double click fills the screen with

@@ -4,6 +4,7 @@
 #include "widgets/signalbars.h"
 #include "widgets/skin.h"
 #include "window/statustexts.h"
+#include "window/topbar.h"
 
 #include <QPainter>
 
@@ -12,9 +13,11 @@ using namespace Qt::StringLiterals;
 namespace corva
 {
 
-TrayIcon::TrayIcon(QObject *parent) : QObject(parent), m_showOrHide(m_menu.addAction(QString()))
+TrayIcon::TrayIcon(QObject *parent)
+    : QObject(parent), m_showOrHide(m_menu.addAction(QString())), m_connect(m_menu.addAction(QString()))
 {
     connect(m_showOrHide, &QAction::triggered, this, &TrayIcon::sigShowOrHide);
+    connect(m_connect, &QAction::triggered, this, &TrayIcon::sigConnect);
     connect(m_menu.addAction(tr("&Why am I offline?")), &QAction::triggered, this, &TrayIcon::sigWhy);
     connect(m_menu.addAction(tr("&About %1").arg(comcfg.softwareName)), &QAction::triggered, this,
             &TrayIcon::sigAbout);
@@ -26,6 +29,7 @@ TrayIcon::TrayIcon(QObject *parent) : QObject(parent), m_showOrHide(m_menu.addAc
     });
     setWindowShown(true);
     setState({});
+    setConnection({});
     m_icon.setContextMenu(&m_menu);
     m_icon.show();
 }
@@ -37,8 +41,27 @@ bool TrayIcon::isShown() const
 
 void TrayIcon::setState(const CardState &state)
 {
-    m_icon.setToolTip(u"%1\n%2"_s.arg(comcfg.softwareName, summaryText(state)));
+    m_summary = summaryText(state);
+    showToolTip();
     draw(state);
+}
+
+void TrayIcon::setConnection(const ConnectionStatus &connection)
+{
+    m_connection = connectionText(connection.state);
+    const bool isUp = connection.state == ConnectionState::Connected;
+    const bool isEnding = connection.state == ConnectionState::Disconnecting;
+    const bool isTrying = connection.state == ConnectionState::Connecting || connection.redial > 0;
+    m_connect->setText(isUp || isEnding ? tr("&Disconnect")
+                       : isTrying       ? tr("&Cancel connecting")
+                                        : tr("&Connect"));
+    m_connect->setEnabled(!isEnding);
+    showToolTip();
+}
+
+void TrayIcon::showToolTip()
+{
+    m_icon.setToolTip(u"%1\n%2\n%3"_s.arg(comcfg.softwareName, m_summary, m_connection));
 }
 
 void TrayIcon::setWindowShown(bool shown)

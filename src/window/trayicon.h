@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "connection/connectionstate.h"
 #include "link/cardstate.h"
 
 #include <QMenu>
@@ -20,20 +21,27 @@ public:
     /// Whether the desktop shows it, so that the window may hide there.
     bool isShown() const;
     void setState(const CardState &state);
+    void setConnection(const ConnectionStatus &connection);
     void setWindowShown(bool shown);
     void notify(const QString &title, const QString &body);
 
 Q_SIGNALS:
     void sigShowOrHide();
+    /// Connect, cancel or disconnect, as the state of the connection is.
+    void sigConnect();
     void sigWhy();
     void sigAbout();
     void sigQuit();
 
 private:
     void draw(const CardState &state);
+    void showToolTip();
 
     QMenu m_menu;
+    QString m_summary;    ///< of the card
+    QString m_connection; ///< what the data connection does
     QAction *m_showOrHide;
+    QAction *m_connect;
     QSystemTrayIcon m_icon;
 };
 

@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "window/wtmainwindow.h"
 
+#include "connection/connectionservice.h"
+#include "connection/ui/connector.h"
 #include "device/cardmonitor.h"
 #include "shell/commoncfg.h"
 #include "shell/commonconfig.h"
+#include "shell/endsignals.h"
 #include "shell/logging.h"
+#include "statistics/trafficservice.h"
 #include "widgets/line.h"
+#include "widgets/messagequeue.h"
 #include "widgets/skin.h"
+#include "widgets/tooltipmover.h"
 #include "window/aboutbox.h"
 #include "window/desktoppresence.h"
 #include "window/edgegrips.h"
@@ -14,6 +20,8 @@
 #include "window/mender.h"
 #include "window/navigation.h"
 #include "window/pagehost.h"
+#include "window/services.h"
+#include "window/settingsnotice.h"
 #include "window/splash.h"
 #include "window/statusstrip.h"
 #include "window/topbar.h"
@@ -21,6 +29,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPainter>
@@ -36,6 +45,7 @@ namespace
 {
 
 constexpr QSize smallestSize(800, 520);
+constexpr auto longestHangUp = 12s; // pppd has been seen to take seven
 const QString windowSection = u"window"_s;
 
 /// A report without what it says, which is the person's own: "+CUSD".
@@ -57,7 +67,10 @@ QList<QRect> screenAreas()
 
 WTMainWindow::WTMainWindow(QWidget *parent, const char *name, Qt::WindowFlags flags)
     : QWidget(parent, flags | Qt::Window | Qt::FramelessWindowHint), m_monitor(new CardMonitor(this, this)),
-      m_reports(new ReportHub(this)), m_mender(new Mender(m_monitor, this))
+      m_reports(new ReportHub(this)), m_mender(new Mender(m_monitor, this)),
+      m_messages(new MessageQueue(this)), m_services(new Services(m_monitor, this)),
+      m_connector(
+          new Connector(m_monitor, m_services->connection(), m_services->profiles(), m_messages, this))
 {
     setObjectName(QString::fromLatin1(name));
     setWindowTitle(comcfg.softwareName);
@@ -65,17 +78,20 @@ WTMainWindow::WTMainWindow(QWidget *parent, const char *name, Qt::WindowFlags fl
     build();
     addShortcuts();
     connectParts();
+    connectServices();
     slotStateChanged(m_monitor->state());
     showPage(cmcfg.getValue(windowSection, u"page"_s));
     if (m_pages->currentPage().isEmpty())
         showPage(m_navigation->pageIds().value(0));
     m_isReady = true;
+    m_services->connection()->recoverLeftovers();
     m_monitor->start();
 }
 
 WTMainWindow::~WTMainWindow()
 {
     stopLink();
+    delete m_services; // before the card's monitor, which it leans on
 }
 
 void WTMainWindow::build()
@@ -84,7 +100,11 @@ void WTMainWindow::build()
     m_mover = new KeyboardMover(this);
     m_topBar = new TopBar(menu, this);
     m_navigation = new Navigation(this);
-    m_pages = new PageHost(standardPages(), {m_monitor, m_reports, m_mender}, this);
+    m_pages = new PageHost(standardPages(),
+                           {m_monitor, m_reports, m_mender, m_services->connection(), m_services->profiles(),
+                            m_services->traffic(), m_connector, m_services->meter(),
+                            [this] { showOfflinePanel(); }},
+                           this);
     m_strip = new StatusStrip(this);
     buildMenu(menu);
     for (const PageEntry &entry : m_pages->registry().entries())
@@ -118,7 +138,9 @@ void WTMainWindow::buildMenu(QMenu *menu)
         entry->setShortcutContext(Qt::WindowShortcut);
         connect(entry, &QAction::triggered, this, action);
         addAction(entry);
+        return entry;
     };
+    m_connect = add(tr("&Connect"), Qt::CTRL | Qt::Key_D, [this] { toggleConnection(); });
     add(tr("&Why am I offline?"), Qt::Key_F1, [this] { showOfflinePanel(); });
     add(tr("&Refresh"), Qt::Key_F5, [this] { m_monitor->refreshNow(); });
     menu->addSeparator();
@@ -128,8 +150,8 @@ void WTMainWindow::buildMenu(QMenu *menu)
     add(tr("&Fill the screen"), Qt::Key_F11, [this] { fillScreen(); });
     menu->addSeparator();
     add(tr("&About %1").arg(comcfg.softwareName), {}, [this] { aboutShow(); });
-    add(tr("&Close"), Qt::ALT | Qt::Key_F4, [this] { close(); });
-    add(tr("&Quit"), Qt::CTRL | Qt::Key_Q, [this] { quit(); });
+    add(tr("C&lose"), Qt::ALT | Qt::Key_F4, [this] { close(); });
+    add(tr("&Quit"), Qt::CTRL | Qt::Key_Q, [this] { askToQuit(); });
 }
 
 void WTMainWindow::addShortcuts()
@@ -168,6 +190,24 @@ void WTMainWindow::connectParts()
     connect(m_reports, &ReportHub::sigReport, this, &WTMainWindow::slotReport);
 }
 
+void WTMainWindow::connectServices()
+{
+    connect(m_mender, &Mender::sigConnectionWanted, this, &WTMainWindow::mendConnection);
+    connect(m_connector, &Connector::sigProfileWanted, this, [this] { showPage(u"connection"_s); });
+    connect(m_services, &Services::sigVolume, this, [this](const QString &sentence) {
+        m_strip->say(sentence);
+        if (m_desktop)
+            m_desktop->tell(sentence);
+    });
+    connect(m_services->traffic(), &TrafficService::sigProblem, m_strip, &StatusStrip::say);
+    connect(m_services->connection(), &ConnectionService::sigStatusChanged, this,
+            &WTMainWindow::slotConnectionChanged);
+    connect(m_services->connection(), &ConnectionService::sigOpenUrl, this,
+            [](const QUrl &page) { QDesktopServices::openUrl(page); });
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { m_isSessionEnding = true; });
+    slotConnectionChanged(m_services->connection()->status());
+}
+
 bool WTMainWindow::getModemState() const
 {
     return m_monitor->state().modemReady;
@@ -196,6 +236,7 @@ void WTMainWindow::slotDelayShow()
 void WTMainWindow::stopLink()
 {
     m_isReady = false;
+    m_services->connection()->shutDown(); // while the card still answers
     m_monitor->stop();
 }
 
@@ -206,9 +247,39 @@ void WTMainWindow::aboutShow()
     box->open();
 }
 
-void WTMainWindow::setConnection(ConnectionState connection)
+void WTMainWindow::slotConnectionChanged(const ConnectionStatus &status)
 {
-    m_topBar->setConnection(connection);
+    m_topBar->setConnection(status.state);
+    if (m_desktop)
+        m_desktop->tray().setConnection(status);
+    const bool isUp = status.state == ConnectionState::Connected;
+    m_connect->setText(isUp                      ? tr("&Disconnect")
+                       : m_connector->isActive() ? tr("&Cancel connecting")
+                                                 : tr("&Connect"));
+    m_connect->setEnabled(status.state != ConnectionState::Disconnecting);
+    if (m_isQuitting && !m_connector->isActive())
+        finishQuitting();
+}
+
+void WTMainWindow::toggleConnection()
+{
+    // What has to be settled before a dial is asked for in the window.
+    if (!m_connector->isActive()) {
+        showPage(u"connection"_s);
+        showInFront();
+    }
+    m_connector->toggle();
+}
+
+void WTMainWindow::mendConnection(MendAction action)
+{
+    showPage(u"connection"_s);
+    if (action == MendAction::Connect)
+        m_connector->connectNow();
+    else if (action == MendAction::EditProfile)
+        m_connector->editProfile();
+    else
+        m_connector->chooseProfile();
 }
 
 void WTMainWindow::showPage(const QString &pageId)
@@ -277,14 +348,20 @@ void WTMainWindow::finishShowing()
     m_desktop = new DesktopPresence(this);
     TrayIcon &tray = m_desktop->tray();
     tray.setState(m_monitor->state());
+    tray.setConnection(m_services->connection()->status());
+    connect(&tray, &TrayIcon::sigConnect, this, &WTMainWindow::toggleConnection);
     connect(&tray, &TrayIcon::sigShowOrHide, this, &WTMainWindow::showOrHide);
     connect(&tray, &TrayIcon::sigWhy, this, &WTMainWindow::showOfflinePanel);
-    connect(&tray, &TrayIcon::sigQuit, this, &WTMainWindow::quit);
+    connect(&tray, &TrayIcon::sigQuit, this, &WTMainWindow::askToQuit);
     connect(&tray, &TrayIcon::sigAbout, this, [this] {
         showInFront();
         aboutShow();
     });
+    if (const int pixelsDown = cmcfg.getNumber(u"resource_position"_s, u"tooltipLabel_y"_s))
+        new ToolTipMover(pixelsDown, this);
+    tellOfSettings(cmcfg, this);
     askForPinOnce(m_monitor->state());
+    connect(new EndSignals(this), &EndSignals::sigEnd, this, &WTMainWindow::quit);
 }
 
 void WTMainWindow::hideEvent(QHideEvent *event)
@@ -367,8 +444,21 @@ void WTMainWindow::closeEvent(QCloseEvent *event)
         hide();
         return;
     }
-    event->accept();
-    quit();
+    event->setAccepted(m_isQuitting || m_isSessionEnding);
+    if (m_isSessionEnding)
+        quit();
+    else
+        askToQuit();
+}
+
+void WTMainWindow::askToQuit()
+{
+    if (!m_connector->isActive()) {
+        quit();
+        return;
+    }
+    showInFront();
+    m_messages->ask(tr("Disconnect and quit?"), tr("Disconnect and &quit"), [this] { quit(); });
 }
 
 void WTMainWindow::quit()
@@ -378,6 +468,16 @@ void WTMainWindow::quit()
     m_isQuitting = true;
     savePlace();
     hide();
+    if (!m_connector->isActive()) {
+        finishQuitting();
+        return;
+    }
+    QTimer::singleShot(longestHangUp, this, &WTMainWindow::finishQuitting);
+    m_connector->disconnectNow();
+}
+
+void WTMainWindow::finishQuitting()
+{
     stopLink();
     QCoreApplication::exit(0);
 }

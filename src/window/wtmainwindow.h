@@ -1,31 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "link/linkowner.h"
 #include "connection/connectionstate.h"
+#include "link/linkowner.h"
 #include "window/linkreport.h"
 
 #include <QTimer>
 #include <QWidget>
 #include <atomic>
 
+class QAction;
 class QMenu;
 
 namespace corva
 {
 class CardMonitor;
+class Connector;
 class DesktopPresence;
 class KeyboardMover;
+enum class MendAction;
 class Mender;
+class MessageQueue;
 class Navigation;
 class PageHost;
+class Services;
 class StatusStrip;
 class TopBar;
 struct CardState;
 } // namespace corva
 
-/// The window: top bar, navigation, the pages, status strip, tray. A shell that owns the card's monitor,
-/// shows its state and passes the card's reports on; what is done with them is the pages' business.
+/// The window: top bar, navigation, the pages, status strip, tray. A shell that owns the card's monitor and
+/// the services, shows their state and passes the card's reports on; what is done with them is the pages'
+/// business.
 class WTMainWindow final : public QWidget, public LinkOwner
 {
     Q_OBJECT
@@ -46,8 +52,6 @@ public:
     void stopLink();
     void aboutShow();
 
-    /// What the data connection does, told by its owner.
-    void setConnection(corva::ConnectionState connection);
     /// Opens a page by its id; an unknown one changes nothing.
     void showPage(const QString &pageId);
     void showOfflinePanel();
@@ -78,6 +82,8 @@ public:
 
 public Q_SLOTS:
     void slotDelayShow();
+    /// Hangs up where there is something to end, and ends the program then. Asks nothing.
+    void quit();
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -89,6 +95,7 @@ protected:
 
 private Q_SLOTS:
     void slotStateChanged(const corva::CardState &state);
+    void slotConnectionChanged(const corva::ConnectionStatus &status);
     void slotReport(corva::LinkReport report, const QString &text);
 
 private:
@@ -96,6 +103,9 @@ private:
     void buildMenu(QMenu *menu);
     void addShortcuts();
     void connectParts();
+    void connectServices();
+    void toggleConnection();
+    void mendConnection(corva::MendAction action);
     void showOrHide();
     void showInFront();
     void fillScreen();
@@ -103,21 +113,27 @@ private:
     void finishShowing();
     void restorePlace();
     void savePlace();
-    void quit();
+    void askToQuit();
+    void finishQuitting();
 
     corva::CardMonitor *m_monitor;
     corva::ReportHub *m_reports;
     corva::Mender *m_mender;
+    corva::MessageQueue *m_messages;
+    corva::Services *m_services;
+    corva::Connector *m_connector;
     corva::TopBar *m_topBar = nullptr;
     corva::Navigation *m_navigation = nullptr;
     corva::PageHost *m_pages = nullptr;
     corva::StatusStrip *m_strip = nullptr;
     corva::KeyboardMover *m_mover = nullptr;
+    QAction *m_connect = nullptr;                ///< in the menu: connect, cancel or disconnect
     corva::DesktopPresence *m_desktop = nullptr; ///< from the first show on
     QTimer m_delayShow;                          ///< from the splash to the window
     QTimer m_afterShow;                          ///< to the next turn of the event loop after the first show
     std::atomic<bool> m_isReady = false;
     bool m_wasShown = false;
     bool m_wasAskedForPin = false;
+    bool m_isSessionEnding = false; ///< the desktop logs out
     bool m_isQuitting = false;
 };

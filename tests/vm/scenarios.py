@@ -99,10 +99,11 @@ def whole_connection(world):
         seconds = world.network.fetch()
         watch = Watch(gone=lambda: not pids("pppd") or not card.network_process() or not interface_is_up())
         begin = program.press_now("Disconnect")
-        ended = program.wait_state("Status: Disconnected", 40) - begin
-        world.etc.wait_same(3)
+        world.etc.wait_same(40)
         restored = time.monotonic() - begin
+        ended = program.wait_state("Status: Disconnected", 40) - begin  # comes when everything is as before
         gone = watch.end().get("gone", begin) - begin
+        assert restored <= gone + 1, f"/etc as before {restored:.1f} s after Disconnect, pppd gone after {gone:.1f} s"
         counted = history(program)[-1]
         received = int(counted["received"])
         assert DOWNLOAD <= received < 1.1 * DOWNLOAD, f"{received} bytes counted of {DOWNLOAD} and their packets"
@@ -217,6 +218,23 @@ def network_hangs_up(world):
         world.network.ping()
         program.disconnect()
         assert [record["ended"] for record in history(program)] == ["network", "person"], history(program)
+
+
+@scenario
+def own_name_servers(world):
+    """name servers of one's own are the system's while connected."""
+    resolver = pathlib.Path("/etc/resolv.conf")
+    before = resolver.read_text()
+    own = ["198.51.100.53", "198.51.100.54"]
+    profile = {"obtain DNS": "0", "use DNS": "1", "preNameserver": own[0], "altNameserver": own[1]}
+    with world.card() as card, world.program(profile=profile) as program:
+        program.connect()
+        wait_for("the own name servers", lambda: own == [
+            line.split()[1] for line in resolver.read_text().splitlines() if line.startswith("nameserver")])
+        world.network.ping()
+        program.disconnect()
+        world.check_clean()
+        assert resolver.read_text() == before, "the file behind the link is not as before"
 
 
 @scenario

@@ -223,7 +223,10 @@ class GadgetCard(Card):
 class Wvdial:
     """Plain wvdial, as a person starts it, with a configuration of its own."""
 
+    SECRETS = [pathlib.Path("/etc/ppp") / f"{kind}-secrets" for kind in ("pap", "chap")]
+
     def __init__(self, port, folder, user=USER, password=PASSWORD):
+        self.secrets = {file: file.read_bytes() for file in self.SECRETS}
         configuration = folder / "wvdial.conf"
         configuration.write_text("\n".join([
             "[Dialer Defaults]", "Phone = *99#", f"Username = {user}", f"Password = {password}", "Stupid Mode = 1",
@@ -239,6 +242,8 @@ class Wvdial:
     def end(self):
         self.process.terminate()
         self.process.wait(20)
+        for file, content in self.secrets.items():  # it has added its own line
+            file.write_bytes(content)
 
 
 class Internet(Program):
@@ -333,8 +338,8 @@ def prepare_system():
             ("/etc/wvdial.conf", "[Dialer Defaults]\nModem = /dev/modem\nPhone = 5550100\n", 0o640, dip),
             ("/etc/ppp/options", "# the owner's options\r\nlock\r\n", 0o640, dip),
             ("/etc/ppp/peers/wvdial", "noauth\nname wvdial\n", 0o640, dip),
-            ("/etc/ppp/pap-secrets", f"# the owner's\n{USER}\t*\t{PASSWORD}\n", 0o600, 0),
-            ("/etc/ppp/chap-secrets", f"# the owner's\n{USER}\t*\t{PASSWORD}\n", 0o600, 0)):
+            ("/etc/ppp/pap-secrets", "# the owner's\nsomebody\t*\telse\n", 0o600, 0),
+            ("/etc/ppp/chap-secrets", f"# the owner's\n{USER}\t*\tolder\n", 0o600, 0)):
         file = pathlib.Path(path)
         file.parent.mkdir(parents=True, exist_ok=True)
         file.unlink(missing_ok=True)

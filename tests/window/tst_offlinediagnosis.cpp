@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fakecardmonitor.h"
+#include "fakeconnection.h"
 
-#include "device/offlinediagnosis.h"
+#include "connection/connectiondiagnosis.h"
 
 #include <QTest>
 
@@ -30,6 +31,7 @@ private Q_SLOTS:
         row("absent", UsbMode, Failed, SearchAgain, u"Plug the card"_s);
         row("storage", UsbMode, Failed, SwitchMode, u"Switch it over"_s);
         row("noport", Port, Failed, SearchAgain, u"\"Data Stick\""_s);
+        row("wrongport", Port, Failed, SearchAgain, u"/dev/null, which is no serial port"_s);
         row("norights", Rights, Failed, CopyGroupCommand, u"group \"dialout\""_s);
         row("busy", PortFree, Failed, SearchAgain,
             u"ModemManager (process 812) holds the port /dev/ttyUSB2"_s);
@@ -78,6 +80,73 @@ private Q_SLOTS:
         QVERIFY(!firstProblem(steps));
         for (const DiagnosisStep &step : steps)
             QVERIFY(!step.title.isEmpty() && !step.headline.isEmpty() && step.sentence.isEmpty());
+    }
+
+    void findsTheFailingStepOfTheConnection_data()
+    {
+        QTest::addColumn<ConnectionStatus>("status");
+        QTest::addColumn<std::optional<ConnectionProfile>>("profile");
+        QTest::addColumn<DiagnosisStepId>("step");
+        QTest::addColumn<MendAction>("action");
+        QTest::addColumn<QString>("says");
+        ConnectionProfile good;
+        good.setText(ProfileField::Name, u"Mine"_s);
+        good.setOn(ProfileField::UsesApn, true);
+        good.setText(ProfileField::Apn, u"internet"_s);
+        ConnectionProfile noApn = good;
+        noApn.setText(ProfileField::Apn, u" "_s);
+        ConnectionProfile supplied = noApn;
+        supplied.setOn(ProfileField::UsesApn, false);
+        const auto up = [](auto change) {
+            ConnectionStatus status = fakeconnection::connected();
+            change(status);
+            return status;
+        };
+        const auto row = [](const char *name, const ConnectionStatus &status,
+                            const std::optional<ConnectionProfile> &profile, DiagnosisStepId step,
+                            MendAction action, const QString &says) {
+            QTest::newRow(name) << status << profile << step << action << says;
+        };
+        using enum DiagnosisStepId;
+        const ConnectionStatus none;
+        row("no profile", none, {}, Profile, MendAction::ChooseProfile, u"choose one"_s);
+        row("no APN", none, noApn, AccessPoint, MendAction::EditProfile, u"(APN)"_s);
+        row("not tried yet", none, supplied, Dialler, MendAction::Connect, u"everything is there"_s);
+        row("ended by the person", fakeconnection::ended(ConnectionEnd::ByPerson, {}), good, Dialler,
+            MendAction::Connect, u"everything is there"_s);
+        row("refused", fakeconnection::ended(ConnectionEnd::Refused, u"Wrong password."_s), good, Dialler,
+            MendAction::EditProfile, u"Wrong password."_s);
+        row("no carrier", fakeconnection::ended(ConnectionEnd::NoCarrier, u"Not taken."_s), good, Dialler,
+            MendAction::Connect, u"Not taken."_s);
+        row("no address", up([](ConnectionStatus &s) { s.localAddress.clear(); }), good, Address,
+            MendAction::EditProfile, u"again"_s);
+        row("no name servers", up([](ConnectionStatus &s) { s.nameServers.clear(); }), good, NameServers,
+            MendAction::EditProfile, u"Enter some"_s);
+        row("other route, profile gone", up([](ConnectionStatus &s) { s.hasDefaultRoute = false; }), {},
+            Route, MendAction::None, u"Wi-Fi"_s);
+    }
+
+    void findsTheFailingStepOfTheConnection()
+    {
+        QFETCH(const ConnectionStatus, status);
+        QFETCH(const std::optional<ConnectionProfile>, profile);
+        QFETCH(const QString, says);
+        const auto steps = diagnose(fakecard::registeredCard(), status, profile);
+        const DiagnosisStep *problem = firstProblem(steps);
+        QVERIFY(problem);
+        QTEST(problem->id, "step");
+        QTEST(problem->action, "action");
+        QCOMPARE(problem->actionText.isEmpty(), problem->action == MendAction::None);
+        QVERIFY2(problem->sentence.contains(says), qPrintable(problem->sentence));
+        QCOMPARE(steps.back().status == StepStatus::NotReached, problem->id != DiagnosisStepId::Route);
+    }
+
+    void aCardThatIsOfflineComesFirst()
+    {
+        const auto steps = diagnose(fakecard::namedState(u"searching"_s), {}, {});
+        QCOMPARE(firstProblem(steps)->id, DiagnosisStepId::Registration);
+        QCOMPARE(steps.back().status, StepStatus::NotReached);
+        QVERIFY(!firstProblem(diagnose(fakecard::registeredCard(), fakeconnection::connected(), {})));
     }
 
     void aHolderThatCannotBeToldIsStillSaid()

@@ -2,8 +2,10 @@
 #include "windowtest.h"
 
 #include "settings/languages.h"
+#include "shell/updatecfg.h"
 #include "window/offlinepanel.h"
 #include "window/pageregistry.h"
+#include "window/settingsnotice.h"
 #include "window/splash.h"
 
 #include <QCheckBox>
@@ -11,6 +13,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QMenu>
+#include <QMessageBox>
 #include <QSignalSpy>
 #include <QTimer>
 #include <QToolButton>
@@ -59,6 +62,7 @@ private Q_SLOTS:
         m_surroundings = std::make_unique<Surroundings>();
         applySkin();
         m_window.reset(makeWindow());
+        m_window->showPage(u"card"_s);
     }
 
     void cleanup()
@@ -166,6 +170,9 @@ private Q_SLOTS:
         for (const Language &language : languages()) {
             const QString file = QString::fromLatin1(language.file);
             QTest::addRow("%s, settings", language.file) << u"registered"_s << u"settings"_s << file;
+            for (const auto &connection : {u"connected"_s, u"connecting"_s, u"redial"_s, u"refused"_s})
+                QTest::addRow("%s, %s", language.file, qPrintable(connection))
+                    << connection << u"connection"_s << file;
             for (const QString &state : fakecard::stateNames()) {
                 QTest::addRow("%s, %s, card", language.file, qPrintable(state)) << state << u"card"_s << file;
                 QTest::addRow("%s, %s, diagnosis", language.file, qPrintable(state))
@@ -187,6 +194,7 @@ private Q_SLOTS:
         m_window->resize(800, 520);
         m_window->show();
         fakecard::put(fakecard::namedState(state));
+        fakeconnection::put(fakeconnection::namedStatus(state));
         if (page.isEmpty())
             m_window->showOfflinePanel();
         else
@@ -244,9 +252,9 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         fakecard::put(fakecard::registeredCard());
         fakecard::takeCalls();
-        QTest::keyClick(m_window.get(), Qt::Key_2, Qt::ControlModifier);
-        QVERIFY(shown<Page>(m_window.get(), u"settings"_s));
         QTest::keyClick(m_window.get(), Qt::Key_1, Qt::ControlModifier);
+        QVERIFY(shown<Page>(m_window.get(), u"connection"_s));
+        QTest::keyClick(m_window.get(), Qt::Key_2, Qt::ControlModifier);
         QVERIFY(shown<Page>(m_window.get(), u"card"_s));
         QTest::keyClick(m_window.get(), Qt::Key_F5);
         QCOMPARE(fakecard::takeCalls(), QStringList{u"refreshNow"_s});
@@ -286,16 +294,16 @@ private Q_SLOTS:
     {
         m_window->show();
         fakecard::put(fakecard::registeredCard());
-        m_window->showPage(u"settings"_s);
-        m_window->showOfflinePanel();
-        m_window->showPage(u"card"_s);
-        for (const QWidget *widget : m_window->findChildren<QWidget *>())
-            if (widget->isVisible() && widget->focusPolicy() & Qt::TabFocus) {
-                const auto *button = qobject_cast<const QAbstractButton *>(widget);
-                const bool isNamed =
-                    !widget->accessibleName().isEmpty() || (button && !button->text().isEmpty());
-                QVERIFY2(isNamed, widget->metaObject()->className());
-            }
+        for (const auto &page : {u"settings"_s, u"card"_s, u"connection"_s}) {
+            m_window->showPage(page);
+            for (const QWidget *widget : m_window->findChildren<QWidget *>())
+                if (widget->isVisible() && widget->focusPolicy() & Qt::TabFocus) {
+                    const auto *button = qobject_cast<const QAbstractButton *>(widget);
+                    const bool isNamed =
+                        !widget->accessibleName().isEmpty() || (button && !button->text().isEmpty());
+                    QVERIFY2(isNamed, widget->metaObject()->className());
+                }
+        }
     }
 
     void pagesAreInTheOrderOfTheRegistry()
@@ -414,7 +422,62 @@ private Q_SLOTS:
         language->setFocus();
         QTest::keyClicks(language, u"Fran"_s);
         QCOMPARE(CommonCfg().getValue(u"function"_s, u"selected-language"_s), u"French"_s);
+        QCOMPARE(UpdateCfg::value(UpdateKey::LanguageType), u"French"_s);
         QVERIFY(said(m_window.get(), u"settingsSaid"_s).contains(u"starts next"_s));
+    }
+
+    void theUpdaterIsToldAndSwitched()
+    {
+        m_window->show();
+        m_window->showPage(u"settings"_s);
+        QCOMPARE(UpdateCfg::value(UpdateKey::CmName), comcfg.softwareName);
+        QCOMPARE(UpdateCfg::value(UpdateKey::SoftwareVersion), readVersionInfo());
+        QVERIFY(!m_window->findChild<QCheckBox *>(u"updates"_s)); // nothing would look for any
+
+        QVERIFY(UpdateCfg::setValue(UpdateKey::UpdateFrequence, u"7"_s));
+        m_window.reset(makeWindow());
+        m_window->show();
+        m_window->showPage(u"settings"_s);
+        shown<QCheckBox>(m_window.get(), u"updates"_s)->click();
+        QCOMPARE(UpdateCfg::value(UpdateKey::EnableUpdate), u"1"_s);
+    }
+
+    void aSettingThatCannotBeStoredIsTold()
+    {
+        cmcfg.setValue(u"function"_s, u"lansetting_enabled"_s, u"1"_s);
+        m_window->show();
+        m_window->showPage(u"settings"_s);
+        QVERIFY(QDir().rename(u"Data"_s, u"Away"_s));
+        QVERIFY(QFile(u"Data"_s).open(QIODevice::WriteOnly)); // in the way of the folder
+        auto *tray = shown<QCheckBox>(m_window.get(), u"close_to_tray"_s);
+        auto *language = shown<QComboBox>(m_window.get(), u"language"_s);
+        tray->click();
+        QVERIFY(said(m_window.get(), u"settingsSaid"_s).contains(u"could not be stored"_s));
+        language->setFocus();
+        QTest::keyClicks(language, u"Span"_s);
+        QVERIFY(said(m_window.get(), u"settingsSaid"_s).contains(u"could not be stored"_s));
+
+        QVERIFY(QFile::remove(u"Data"_s) && QDir().rename(u"Away"_s, u"Data"_s));
+        tray->click();
+        QCOMPARE(said(m_window.get(), u"settingsSaid"_s), QString());
+    }
+
+    void tellsWhereABrokenSettingsFileWasKept()
+    {
+        QFile file(u"Data/common-config.xml"_s);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("<settings><cut");
+        file.close();
+        CommonCfg config;
+        const auto box = [this] { return m_window->findChild<QMessageBox *>(u"settingsNotice"_s); };
+        m_window->show();
+        tellOfSettings(config, m_window.get());
+        QVERIFY(!box()); // nothing was lost yet
+        config.setValue(u"window"_s, u"page"_s, u"card"_s);
+        tellOfSettings(config, m_window.get());
+        QVERIFY(box()->isVisible());
+        QVERIFY(!box()->isModal());
+        QVERIFY(box()->text().contains(QFileInfo(config.keptBrokenFile()).fileName()));
     }
 
     void theSkinChangesAtOnceAndStays()

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The real window over a card that is only told: to look at every state without any hardware.
 //     windowdemo STATE [page | offline | about] [picture.png]
-// CORVA_DEMO_SKIN, CORVA_DEMO_SIZE=800x520 and CORVA_DEMO_RTL=1 change its looks.
+// CORVA_DEMO_SKIN, CORVA_DEMO_SIZE=800x520 and CORVA_DEMO_RTL=1 change its looks, CORVA_DEMO_CONNECTION
+// (connected, connecting, redial, refused) what the data connection does.
 #include "fakecardmonitor.h"
+#include "fakeconnection.h"
 
 #include "settings/skinchooser.h"
 #include "shell/commoncfg.h"
@@ -51,6 +53,7 @@ int main(int argc, char **argv)
     const QStringList arguments = QCoreApplication::arguments();
     WTMainWindow window(nullptr, "wtmainwindowbase", Qt::Window | Qt::FramelessWindowHint);
     fakecard::put(fakecard::namedState(arguments.value(1)));
+    fakeconnection::put(fakeconnection::namedStatus(qEnvironmentVariable("CORVA_DEMO_CONNECTION")));
     takeSize(window);
     corva::centre(&window);
     window.show();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "fakecardmonitor.h"
+#include "fakeconnection.h"
 
 #include "shell/commoncfg.h"
 #include "shell/globals.h"
@@ -18,7 +19,8 @@
 
 using namespace Qt::StringLiterals;
 
-/// A program's surroundings in a folder of its own: settings are written there, pictures are the real ones.
+/// A program's surroundings in a folder of its own: settings and profiles are written there, pictures are the
+/// real ones.
 class Surroundings
 {
 public:
@@ -26,7 +28,9 @@ public:
     {
         QDir::setCurrent(m_folder.path());
         QDir().mkdir(QStringLiteral("Data"));
-        basePath = QStringLiteral(CORVA_SOURCE_DIR);
+        basePath = m_folder.path();
+        for (const auto &own : {u"/res"_s, u"/Data/skins"_s, u"/Data/version.txt"_s})
+            QFile::link(QStringLiteral(CORVA_SOURCE_DIR) + own, basePath + own);
         corva::installCdeStyle();
         QGuiApplication::setQuitOnLastWindowClosed(false);
         // The store lives as long as the process: what an earlier test set is taken back.

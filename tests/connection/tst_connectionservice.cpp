@@ -1,0 +1,462 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "connection/connectionservice.h"
+#include "connection/idlemonitor.h"
+#include "connection/linkfacts.h"
+#include "connection/profilestore.h"
+#include "fakebackend.h"
+#include "fakecardmonitor.h"
+#include "shell/commoncfg.h"
+
+#include <QDir>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace corva;
+
+constexpr auto linkComesUp = "--> Using interface ppp0\n--> local  IP address 10.1.2.3\n"
+                             "--> remote IP address 10.64.64.64\n--> primary   DNS address 10.64.64.65\n";
+
+class TestConnectionService : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(QDir::setCurrent(m_folder.path()));
+        QVERIFY(QDir().mkpath(u"Data"_s));
+        QFile port(m_folder.filePath(u"modem"_s));
+        QVERIFY(port.open(QIODevice::WriteOnly));
+    }
+    void init()
+    {
+        for (const char *key : {"autoRedial_enabled", "AutoConnectFlag", "Show_open_URL"})
+            set(key, "0");
+        set("dial_timeout", "30");
+        set("autoRedial_startSec", "0");
+        set("autoRedial_afterSec", "1");
+        set("autoRedial_time", "2");
+        set("AutoConnectTimes", "2");
+        cmcfg.setValue(u"function"_s, u"ppp_errcode_show"_s, u"1"_s);
+        m_facts = {};
+        m_messages.clear();
+
+        ConnectionProfile profile = ProfileStore::newProfile();
+        profile.setText(ProfileField::Name, u"Home"_s);
+        profile.setText(ProfileField::Apn, u"internet"_s);
+        profile.setOn(ProfileField::UsesApn, true);
+        profile.setLinkKind(LinkKind::DialUp);
+        profile.setText(ProfileField::DefaultOpenUrl, u"https://example.org/start"_s);
+        QDir(u"Data"_s).removeRecursively();
+        m_store = std::make_unique<ProfileStore>(m_folder.filePath(u"Data"_s));
+        QString error;
+        QVERIFY2(m_store->add(profile, &error) && m_store->setDefault(u"Home"_s, &error), qPrintable(error));
+
+        m_monitor = std::make_unique<CardMonitor>(nullptr);
+        put(card());
+        ConnectionParts parts;
+        auto backend = std::make_unique<FakeBackend>();
+        m_backend = backend.get();
+        parts.backend = std::move(backend);
+        parts.facts = [this](const QString &) { return m_facts; };
+        parts.hasLeftovers = [] { return true; };
+        m_service = std::make_unique<ConnectionService>(m_monitor.get(), m_store.get(), std::move(parts));
+        connect(m_service.get(), &ConnectionService::sigMessage, this,
+                [this](const QString &text) { m_messages += text; });
+    }
+    void cleanup()
+    {
+        m_service.reset();
+        m_monitor.reset();
+    }
+
+    void upWhenItCarries()
+    {
+        QSignalSpy changes(m_service.get(), &ConnectionService::sigStatusChanged);
+        beginDial();
+        QCOMPARE(m_service->status().state, ConnectionState::Connecting);
+        QCOMPARE(m_backend->asked, (QList{DialVerb::Save, DialVerb::Write, DialVerb::Dial}));
+        QVERIFY(!m_service->connectNow());
+
+        m_backend->say("--> Using interface ppp0\n");
+        m_facts.interfaceName = u"ppp0"_s;
+        m_facts.isUp = true;
+        m_backend->say("--> Pid of pppd: 77\n"); // an interface without an address carries nothing
+        QCOMPARE(m_service->status().state, ConnectionState::Connecting);
+        goUp();
+        QCOMPARE(m_service->status().interfaceName, u"ppp0"_s);
+        QCOMPARE(m_service->status().localAddress, u"10.1.2.3"_s);
+        QCOMPARE(m_service->status().peerAddress, u"10.64.64.64"_s);
+        QCOMPARE(m_service->status().nameServers, QStringList{u"10.64.64.65"_s});
+        QVERIFY(m_service->status().since.isValid());
+        QTRY_COMPARE(m_backend->asked.last(), DialVerb::RouteHelper);
+
+        m_service->disconnectNow();
+        QCOMPARE(m_service->status().state, ConnectionState::Disconnecting);
+        QTRY_COMPARE(m_service->status().state, ConnectionState::NotConnected);
+        QCOMPARE(m_backend->asked.mid(4), (QList{DialVerb::HangUp, DialVerb::Recover}));
+        QCOMPARE(m_service->status().end, ConnectionEnd::ByPerson);
+        QCOMPARE(m_messages, QStringList());
+        for (qsizetype i = 1; i < changes.size(); ++i)
+            QVERIFY(changes.at(i) != changes.at(i - 1));
+    }
+
+    void failedDials_data()
+    {
+        QTest::addColumn<QByteArray>("output");
+        QTest::addColumn<ConnectionEnd>("end");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QString>("message");
+        const auto row = [](const char *name, const char *output, ConnectionEnd end, int code = -1,
+                            const QString &message = u"Connection is failed!"_s) {
+            QTest::newRow(name) << QByteArray(output) << end << code << message;
+        };
+        row("busy", "BUSY\n--> The line is busy.\n", ConnectionEnd::Busy);
+        row("no carrier", "--> Waiting for carrier.\nNO CARRIER\n--> No Carrier!  Trying again.\n",
+            ConnectionEnd::NoCarrier);
+        row("wrong password",
+            "--> The PPP daemon has died: Authentication error.\n--> Maybe bad account or password? (exit "
+            "code = 19)\n",
+            ConnectionEnd::Refused, 19,
+            u"Fail to connect! exit code is 19\nWe failed to authenticate ourselves to the peer."_s);
+        row("a status without a text", "--> The PPP daemon has died. (exit code = 20)\n",
+            ConnectionEnd::DiallerFailed, 20, u"Fail to connect! exit code is 20"_s);
+    }
+    void failedDials()
+    {
+        QFETCH(QByteArray, output);
+        beginDial();
+        m_backend->say(output);
+        QTRY_COMPARE(m_service->status().state, ConnectionState::NotConnected);
+        QTEST(m_service->status().end, "end");
+        QTEST(m_service->status().exitCode, "exitCode");
+        QTEST(m_messages.join(u'|'), "message");
+        QCOMPARE(m_backend->asked.mid(3), (QList{DialVerb::HangUp, DialVerb::Recover}));
+    }
+
+    void failedSteps_data()
+    {
+        QTest::addColumn<DialVerb>("verb");
+        QTest::addColumn<DialResult::Kind>("kind");
+        QTest::addColumn<ConnectionEnd>("end");
+        QTest::addColumn<bool>("recovers");
+        QTest::newRow("files not saved")
+            << DialVerb::Save << DialResult::Kind::Failed << ConnectionEnd::FilesFailed << false;
+        QTest::newRow("password not given")
+            << DialVerb::Save << DialResult::Kind::NoRights << ConnectionEnd::NoRights << false;
+        QTest::newRow("files not written")
+            << DialVerb::Write << DialResult::Kind::Failed << ConnectionEnd::FilesFailed << true;
+        QTest::newRow("wvdial missing")
+            << DialVerb::Dial << DialResult::Kind::Failed << ConnectionEnd::DiallerFailed << true;
+    }
+    void failedSteps()
+    {
+        QFETCH(DialVerb, verb);
+        QFETCH(DialResult::Kind, kind);
+        m_backend->results[verb] = {kind, u"This went wrong."_s};
+        QVERIFY(m_service->connectNow());
+        QTRY_COMPARE(m_messages, QStringList{u"This went wrong."_s});
+        QTEST(m_service->status().end, "end");
+        QTEST(m_backend->asked.contains(DialVerb::Recover), "recovers");
+        QCOMPARE(m_service->status().endSentence, u"This went wrong."_s);
+    }
+
+    void failedRestoreIsTold()
+    {
+        m_backend->results[DialVerb::Recover] = {DialResult::Kind::Failed, u"Not restored."_s};
+        beginDial();
+        m_backend->say("BUSY\n--> The line is busy.\n");
+        QTRY_COMPARE(m_messages, QStringList{u"Connection is failed!\n\nNot restored."_s});
+    }
+
+    void timeOut()
+    {
+        set("dial_timeout", "1");
+        beginDial();
+        QTRY_COMPARE(m_messages, QStringList{u"Fail to connect! Link ppp0 wasn't built !"_s});
+        QCOMPARE(m_service->status().end, ConnectionEnd::TimeOut);
+    }
+
+    void cancelledAtAnyStep_data()
+    {
+        QTest::addColumn<DialVerb>("step");
+        QTest::addColumn<bool>("hangsUp");
+        QTest::newRow("while a password is asked for") << DialVerb::Save << false;
+        QTest::newRow("while the files are written") << DialVerb::Write << false;
+        QTest::newRow("while wvdial starts") << DialVerb::Dial << true;
+    }
+    void cancelledAtAnyStep()
+    {
+        QFETCH(DialVerb, step);
+        m_backend->holds = step;
+        QVERIFY(m_service->connectNow());
+        QTRY_VERIFY(m_backend->held);
+        m_service->disconnectNow();
+        m_backend->say("BUSY\n--> The line is busy.\n"); // too late to matter
+        m_backend->held({});
+        QTRY_COMPARE(m_service->status().state, ConnectionState::NotConnected);
+        QCOMPARE(m_service->status().end, ConnectionEnd::ByPerson);
+        QTEST(m_backend->asked.contains(DialVerb::HangUp), "hangsUp");
+        QCOMPARE(m_backend->asked.count(DialVerb::Recover), 1);
+        QCOMPARE(m_messages, QStringList());
+    }
+
+    void brokenLinks_data()
+    {
+        QTest::addColumn<QByteArray>("output");
+        QTest::addColumn<ConnectionEnd>("end");
+        QTest::newRow("the network hung up")
+            << QByteArray("--> The PPP daemon has died: A modem hung up the phone (exit code = 16)\n")
+            << ConnectionEnd::ByPeer;
+        QTest::newRow("no answer to echoes")
+            << QByteArray("--> The PPP daemon has died. (exit code = 15)\n") << ConnectionEnd::LinkLost;
+        QTest::newRow("wvdial crashed") << QByteArray() << ConnectionEnd::DiallerFailed;
+    }
+    void brokenLinks()
+    {
+        QFETCH(QByteArray, output);
+        beginDial();
+        goUp();
+        m_backend->say(output);
+        m_backend->beGone();
+        QTRY_COMPARE(m_service->status().state, ConnectionState::NotConnected);
+        QTEST(m_service->status().end, "end");
+        QCOMPARE(m_messages, QStringList{m_service->status().endSentence});
+        QVERIFY(!m_messages.first().isEmpty());
+    }
+
+    void cardPulledOut()
+    {
+        beginDial();
+        goUp();
+        CardState gone = card();
+        gone.presence = CardPresence::Absent;
+        put(gone);
+        QTRY_COMPARE(m_service->status().state, ConnectionState::NotConnected);
+        QCOMPARE(m_service->status().end, ConnectionEnd::CardGone);
+        QCOMPARE(m_backend->asked.last(), DialVerb::Recover);
+    }
+
+    void redialsAfterABreak()
+    {
+        set("autoRedial_enabled", "1");
+        beginDial();
+        goUp();
+        m_facts = {};
+        m_backend->say("--> The PPP daemon has died. (exit code = 16)\n");
+        for (int attempt = 1; attempt <= 2; ++attempt) {
+            QTRY_COMPARE(m_backend->asked.count(DialVerb::Dial), attempt + 1);
+            QCOMPARE(m_service->status().redial, attempt);
+            QCOMPARE(m_service->status().redials, 2);
+            QCOMPARE(m_messages, QStringList());
+            m_backend->say("NO CARRIER\n--> No Carrier!  Trying again.\n");
+            QTRY_COMPARE(m_service->status().state, ConnectionState::NotConnected);
+        }
+        QCOMPARE(m_messages, QStringList{u"Connection is failed!"_s}); // of the last one alone
+        QCOMPARE(m_service->status().redial, 0);
+    }
+
+    void redialIsNoSecondTry_data()
+    {
+        QTest::addColumn<QByteArray>("output");
+        QTest::newRow("the password is wrong")
+            << QByteArray("--> The PPP daemon has died. (exit code = 19)\n");
+        QTest::newRow("the person ends it") << QByteArray();
+    }
+    void redialIsNoSecondTry()
+    {
+        QFETCH(QByteArray, output);
+        set("autoRedial_enabled", "1");
+        beginDial();
+        goUp();
+        m_facts = {};
+        m_backend->say("--> The PPP daemon has died. (exit code = 16)\n");
+        QTRY_COMPARE(m_backend->asked.count(DialVerb::Dial), 2);
+        if (output.isEmpty())
+            m_service->disconnectNow();
+        else
+            m_backend->say(output);
+        QTRY_COMPARE(m_service->status().state, ConnectionState::NotConnected);
+        QCOMPARE(m_service->status().redial, 0);
+    }
+
+    void connectsByItself_data()
+    {
+        QTest::addColumn<bool>("isRoaming");
+        QTest::addColumn<int>("dials");
+        QTest::newRow("at home") << false << 1;
+        QTest::newRow("abroad it would cost") << true << 0;
+    }
+    void connectsByItself()
+    {
+        QFETCH(bool, isRoaming);
+        CardState away = card();
+        away.presence = CardPresence::Absent;
+        put(away);
+        set("AutoConnectFlag", "1");
+        CardState back = card();
+        back.roaming = isRoaming;
+        put(back);
+        QTRY_COMPARE(m_service->status().redial, 0 + (isRoaming ? 0 : 1));
+        QTRY_COMPARE(m_backend->asked.count(DialVerb::Dial), isRoaming ? 0 : 1);
+        if (!isRoaming)
+            goUp();
+        QTEST(int(m_backend->asked.count(DialVerb::Dial)), "dials");
+        QCOMPARE(m_service->status().redial, 0);
+    }
+
+    void obstacles_data()
+    {
+        QTest::addColumn<QString>("state");
+        QTest::addColumn<bool>("isCallUp");
+        QTest::addColumn<NetworkType>("network");
+        QTest::addColumn<ConnectObstacle>("obstacle");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("none") << u"registered"_s << false << NetworkType::Edge << ConnectObstacle::None
+                              << QString();
+        QTest::newRow("a call on GSM")
+            << u"registered"_s << true << NetworkType::Edge << ConnectObstacle::CallOnOtherNetwork
+            << u"Only UMTS network can connect while calling!"_s;
+        QTest::newRow("a call on UMTS")
+            << u"registered"_s << true << NetworkType::Hspa << ConnectObstacle::None << QString();
+        QTest::newRow("roaming, to be asked about")
+            << u"roaming"_s << false << NetworkType::Umts << ConnectObstacle::Roaming << QString();
+        QTest::newRow("no card") << u"absent"_s << false << NetworkType::Unknown << ConnectObstacle::CardGone
+                                 << u"The device has been disconnected or is unavailable."_s;
+    }
+    void obstacles()
+    {
+        QFETCH(QString, state);
+        QFETCH(bool, isCallUp);
+        QFETCH(NetworkType, network);
+        QFETCH(QString, message);
+        CardState now = fakecard::namedState(state);
+        now.networkType = network;
+        now.family = CardFamily::Cdma;
+        now.modemPortName = card().modemPortName;
+        put(now);
+        m_service->setCallUp(isCallUp);
+        QTEST(m_service->obstacle(), "obstacle");
+        QCOMPARE(m_service->connectNow(), message.isEmpty());
+        QCOMPARE(m_messages.join(u'|'), message);
+    }
+
+    void noProfile()
+    {
+        QVERIFY(m_store->remove(u"Home"_s));
+        QVERIFY(!m_service->connectNow());
+        QCOMPARE(m_messages, QStringList{u"Can't open deault config file!"_s});
+    }
+
+    void ownNameServers()
+    {
+        ConnectionProfile profile = *m_store->defaultProfile();
+        profile.setOn(ProfileField::UsesDns, true);
+        profile.setText(ProfileField::PreferredDns, u"192.0.2.1"_s);
+        QVERIFY(m_store->change(u"Home"_s, profile));
+        m_backend->results[DialVerb::NameServers] = {DialResult::Kind::Failed, u"The DNS is invalid !"_s};
+        beginDial();
+        goUp();
+        QTRY_COMPARE(m_messages, QStringList{u"The DNS is invalid !"_s});
+        QCOMPARE(m_service->status().state, ConnectionState::Connected);
+    }
+
+    void opensOnlyPages_data()
+    {
+        QTest::addColumn<QString>("url");
+        QTest::addColumn<bool>("opens");
+        QTest::newRow("a page") << u"https://example.org/start"_s << true;
+        QTest::newRow("a file") << u"file:///etc/passwd"_s << false;
+        QTest::newRow("a script") << u"javascript:alert(1)"_s << false;
+        QTest::newRow("no host") << u"http:///"_s << false;
+    }
+    void opensOnlyPages()
+    {
+        QFETCH(QString, url);
+        set("Show_open_URL", "1");
+        ConnectionProfile profile = *m_store->defaultProfile();
+        profile.setText(ProfileField::DefaultOpenUrl, url);
+        QFile record(m_folder.filePath(u"Data/defaultRecord.conf"_s));
+        QVERIFY(record.open(QIODevice::ReadWrite));
+        QByteArray text = record.readAll().replace("https://example.org/start", url.toUtf8());
+        QVERIFY(record.resize(0) && record.seek(0) && record.write(text) > 0);
+        record.close();
+        m_store->reload();
+        QSignalSpy opened(m_service.get(), &ConnectionService::sigOpenUrl);
+        beginDial();
+        goUp();
+        QTEST(!opened.isEmpty(), "opens");
+    }
+
+    void idleness()
+    {
+        quint64 bytes = 1;
+        IdleMonitor monitor;
+        int asked = 0;
+        monitor.setCounter([&] {
+            ++asked;
+            return std::optional(asked < 4 ? ++bytes : bytes);
+        });
+        QSignalSpy idle(&monitor, &IdleMonitor::sigIdle);
+        monitor.launchAutoDisconnectMonitor(std::chrono::milliseconds(10));
+        QTRY_COMPARE(idle.size(), 1);
+        QCOMPARE(asked, 4); // at the start, twice with new bytes, and once without
+    }
+
+    void leftoversAreRecoveredOnce()
+    {
+        m_service->recoverLeftovers();
+        QCOMPARE(m_backend->asked, QList{DialVerb::Recover});
+    }
+
+    void endOfTheProgram()
+    {
+        beginDial();
+        goUp();
+        m_service->shutDown();
+        QVERIFY(m_backend->isShutDown);
+        QCOMPARE(m_service->status().state, ConnectionState::NotConnected);
+        QVERIFY(!m_service->connectNow());
+    }
+
+private:
+    static void set(const char *key, const char *value)
+    {
+        cmcfg.setValue(u"network_dialer_setting"_s, QString::fromLatin1(key), QString::fromLatin1(value));
+    }
+    /// Without contexts, which would want a card to talk to.
+    CardState card() const
+    {
+        CardState state = fakecard::registeredCard();
+        state.family = CardFamily::Cdma;
+        state.modemPortName = m_folder.filePath(u"modem"_s);
+        return state;
+    }
+    static void put(const CardState &state) { fakecard::put(state); }
+    void beginDial()
+    {
+        QVERIFY(m_service->connectNow());
+        QTRY_VERIFY(m_backend->asked.contains(DialVerb::Dial));
+        QCoreApplication::processEvents();
+    }
+    void goUp()
+    {
+        m_facts.interfaceName = u"ppp0"_s;
+        m_facts.isUp = true;
+        m_backend->say(linkComesUp);
+        QTRY_COMPARE(m_service->status().state, ConnectionState::Connected);
+    }
+
+    QTemporaryDir m_folder;
+    LinkFacts m_facts;
+    QStringList m_messages;
+    std::unique_ptr<CardMonitor> m_monitor;
+    std::unique_ptr<ProfileStore> m_store;
+    std::unique_ptr<ConnectionService> m_service;
+    FakeBackend *m_backend = nullptr; ///< belongs to the service
+};
+
+QTEST_GUILESS_MAIN(TestConnectionService)
+#include "tst_connectionservice.moc"

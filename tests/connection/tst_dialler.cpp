@@ -1,0 +1,411 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The real wvdial and pppd on an emulated card, through the whole service. Where the kernel has no PPP pppd
+// says so after the card's CONNECT, which is one more way for a dial to fail.
+#include "cardthread.h"
+#include "connection/connectionservice.h"
+#include "connection/helperbackend.h"
+#include "connection/linkfacts.h"
+#include "connection/ownbackend.h"
+#include "connection/processsession.h"
+#include "connection/profilestore.h"
+#include "device/cardmonitor.h"
+#include "linktest.h"
+#include "ownsystem.h"
+#include "shell/commoncfg.h"
+#include "shell/globals.h"
+#include "shell/updatecfg.h"
+
+#include <QDir>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QTest>
+#include <csignal>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace corva;
+
+constexpr int patience = 30000; // ms: wvdial takes its time to give up
+
+static QString whyNot;
+static const QString helperProgram = QStringLiteral(CORVA_DIALHELPER);
+
+static ConnectionProfile homeProfile()
+{
+    ConnectionProfile profile = ProfileStore::newProfile();
+    profile.setText(ProfileField::Name, u"Home"_s);
+    profile.setText(ProfileField::Apn, u"internet"_s);
+    profile.setOn(ProfileField::UsesApn, true);
+    profile.setLinkKind(LinkKind::DialUp);
+    return profile;
+}
+
+static DialRequest request(DialVerb verb, const QString &port)
+{
+    DialRequest request{.verb = verb};
+    request.profile = homeProfile();
+    request.modemPort = port;
+    return request;
+}
+
+class TestDialler : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!whyNot.isEmpty())
+            QSKIP(qPrintable(whyNot));
+        if (!QFile::exists(u"/usr/bin/wvdial"_s))
+            QSKIP("wvdial is not installed");
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir::setCurrent(m_folder->path()));
+        QVERIFY(QDir().mkpath(u"Data"_s));
+        basePath = m_folder->path();
+        cmcfg.setValue(u"device"_s, u"at_port"_s, basePath + u"/card/at"_s);
+        cmcfg.setValue(u"device"_s, u"modem_port"_s, basePath + u"/card/modem"_s);
+        set(u"send_nullatcommand_timer_100ms"_s, u"10"_s);
+        cmcfg.setValue(u"function"_s, u"ppp_errcode_show"_s, u"1"_s);
+        m_owner.onFind = [this] { m_monitor->findPorts(false); };
+        m_before = etcAsText();
+    }
+    void init()
+    {
+        resetLinkGlobals();
+        set(u"dial_timeout"_s, u"60"_s);
+        begin();
+    }
+    void cleanup()
+    {
+        m_service.reset();
+        m_monitor.reset();
+        m_card.reset();
+        m_store.reset();
+        QCOMPARE(etcAsText(), m_before);
+        QVERIFY(!QFile::exists(u"/tmp/connect_info"_s));
+    }
+
+    void failedDials_data()
+    {
+        QTest::addColumn<QByteArray>("dial");
+        QTest::addColumn<ConnectionEnd>("end");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("NO CARRIER") << QByteArray(R"("result": "no-carrier")") << ConnectionEnd::NoCarrier
+                                    << -1 << u"Connection is failed!"_s;
+        QTest::newRow("BUSY, which wvdial would redial for ever")
+            << QByteArray(R"("result": "busy")") << ConnectionEnd::Busy << -1 << u"Connection is failed!"_s;
+        QTest::newRow("the dial command refused")
+            << QByteArray(R"("result": "error")") << ConnectionEnd::NoCarrier << -1
+            << u"Connection is failed!"_s;
+        if (!QFile::exists(u"/dev/ppp"_s))
+            QTest::newRow("no PPP in the kernel")
+                << QByteArray(R"("result": "connect")") << ConnectionEnd::DiallerFailed << 4
+                << u"Fail to connect! exit code is 4\nThe kernel does not support PPP, for example, the "
+                   u"PPP kernel driver is not included or cannot be loaded."_s;
+    }
+    void failedDials()
+    {
+        QFETCH(QByteArray, dial);
+        tell(R"({"command": "dial-result", )" + dial + '}');
+        QVERIFY(m_service->connectNow());
+        QVERIFY(!m_service->connectNow()); // a second press changes nothing
+        QTRY_VERIFY_WITH_TIMEOUT(!m_messages.isEmpty(), patience);
+        QCOMPARE(m_service->status().state, ConnectionState::NotConnected);
+        QTEST(m_service->status().end, "end");
+        QTEST(m_service->status().exitCode, "exitCode");
+        QVERIFY(!m_service->status().endSentence.isEmpty());
+        QTEST(m_messages.join(u'|'), "message");
+        QCOMPARE(UpdateCfg::value(UpdateKey::Wvdial), u"1"_s);
+    }
+
+    void accessPointGoesToTheCard()
+    {
+        tell(R"({"command": "dial-result", "result": "no-carrier"})");
+        const LogCapture log;
+        QVERIFY(m_service->connectNow());
+        QTRY_VERIFY_WITH_TIMEOUT(!m_messages.isEmpty(), patience);
+        QVERIFY(log.lines().contains(u"*****sigPDPSetCommand_result is 1*****"_s));
+        const QByteArray heard = QJsonDocument(m_card->control(R"({"command": "log"})")).toJson();
+        QVERIFY2(heard.contains(R"(AT+CGDCONT=1,\"IP\",\"internet\")"), heard.constData());
+    }
+
+    void judgedAtTheTimeOutAtTheLatest()
+    {
+        set(u"dial_timeout"_s, u"3"_s);
+        tell(R"({"command": "dial-result", "result": "silence"})");
+        QVERIFY(m_service->connectNow());
+        QTRY_COMPARE_WITH_TIMEOUT(m_messages, QStringList{u"Fail to connect! Link ppp0 wasn't built !"_s},
+                                  patience);
+        QCOMPARE(m_service->status().end, ConnectionEnd::TimeOut);
+    }
+
+    void cancelledWhileDialling()
+    {
+        tell(R"({"command": "dial-result", "result": "silence"})");
+        QVERIFY(m_service->connectNow());
+        QTRY_VERIFY_WITH_TIMEOUT(!dialler().empty(), patience);
+        m_service->disconnectNow();
+        QCOMPARE(m_service->status().state, ConnectionState::Disconnecting);
+        QTRY_COMPARE_WITH_TIMEOUT(m_service->status().state, ConnectionState::NotConnected, patience);
+        QCOMPARE(m_service->status().end, ConnectionEnd::ByPerson);
+        QVERIFY(dialler().empty());
+        QCOMPARE(m_messages, QStringList());
+    }
+
+    void somebodyElsesDiallerLives()
+    {
+        QProcess other;
+        other.start(u"sh"_s, {u"-c"_s, u"cp /bin/sleep /tmp/wvdial; exec /tmp/wvdial 600"_s});
+        QVERIFY(other.waitForStarted());
+        cancelledWhileDialling();
+        QCOMPARE(other.state(), QProcess::Running);
+        other.kill();
+        other.waitForFinished();
+    }
+
+    /// A link that somebody left in the shared folder must not be written through.
+    void plantedConnectInfo()
+    {
+        QFile victim(m_folder->filePath(u"victim"_s));
+        QVERIFY(victim.open(QIODevice::WriteOnly) && victim.write("precious") > 0);
+        victim.close();
+        QVERIFY(QFile::link(victim.fileName(), u"/tmp/connect_info"_s));
+        tell(R"({"command": "dial-result", "result": "no-carrier"})");
+        QVERIFY(m_service->connectNow());
+        QTRY_VERIFY_WITH_TIMEOUT(!m_messages.isEmpty(), patience);
+        QVERIFY(victim.open(QIODevice::ReadOnly));
+        QCOMPARE(victim.readAll(), QByteArray("precious"));
+    }
+
+    /// Killed at a moment at which it cannot put anything back: the next start finds dialler and files.
+    void killedWhileDialling()
+    {
+        tell(R"({"command": "dial-result", "result": "silence"})");
+        QProcess program;
+        program.start(QCoreApplication::applicationFilePath(), {u"--dial-and-die"_s, modemPort()});
+        QVERIFY(program.waitForFinished(patience));
+        QCOMPARE(program.exitStatus(), QProcess::CrashExit);
+        QTRY_VERIFY_WITH_TIMEOUT(!dialler().empty(), patience);
+        QVERIFY(etcAsText() != m_before);
+
+        m_service->recoverLeftovers();
+        QTRY_COMPARE_WITH_TIMEOUT(etcAsText(), m_before, patience);
+        QVERIFY(dialler().empty());
+    }
+
+    void endOfTheProgramHangsUp()
+    {
+        tell(R"({"command": "dial-result", "result": "silence"})");
+        QVERIFY(m_service->connectNow());
+        QTRY_VERIFY_WITH_TIMEOUT(!dialler().empty(), patience);
+        m_service.reset();
+        QVERIFY(dialler().empty());
+        QCOMPARE(etcAsText(), m_before);
+    }
+
+    void throughTheHelper()
+    {
+        makeService(std::make_unique<HelperBackend>(QStringList{helperProgram}));
+        tell(R"({"command": "dial-result", "result": "busy"})");
+        QVERIFY(m_service->connectNow());
+        QTRY_VERIFY_WITH_TIMEOUT(!m_messages.isEmpty(), patience);
+        QCOMPARE(m_service->status().end, ConnectionEnd::Busy);
+        QCOMPARE(m_service->status().state, ConnectionState::NotConnected);
+        QCOMPARE(etcAsText(), m_before);
+    }
+
+    /// The service asks a new helper to put right what the dead one left.
+    void helperKilledWhileDialling()
+    {
+        makeService(std::make_unique<HelperBackend>(QStringList{helperProgram}));
+        tell(R"({"command": "dial-result", "result": "silence"})");
+        QVERIFY(m_service->connectNow());
+        QTRY_VERIFY_WITH_TIMEOUT(!running("wvdial").empty(), patience);
+        kill(running("corva-dialhelpe").at(0), SIGKILL);
+        QTRY_COMPARE_WITH_TIMEOUT(m_service->status().state, ConnectionState::NotConnected, patience);
+        QCOMPARE(m_service->status().end, ConnectionEnd::DiallerFailed);
+        QVERIFY(dialler().empty());
+    }
+
+    void windowKilledWhileTheHelperDials()
+    {
+        tell(R"({"command": "dial-result", "result": "silence"})");
+        QProcess helper;
+        helper.start(helperProgram, QStringList());
+        for (const DialVerb verb : {DialVerb::Save, DialVerb::Write, DialVerb::Dial})
+            helper.write(toLine(request(verb, modemPort())));
+        QTRY_VERIFY_WITH_TIMEOUT(!dialler().empty(), patience);
+        QVERIFY(etcAsText() != m_before);
+        helper.closeWriteChannel();
+        QVERIFY(helper.waitForFinished(patience));
+        QCOMPARE(helper.exitCode(), 0);
+        QVERIFY(dialler().empty());
+        QCOMPARE(etcAsText(), m_before);
+    }
+
+    void helperRefuses_data()
+    {
+        QTest::addColumn<QByteArray>("line");
+        QTest::addColumn<bool>("ends"); // it does not speak on with who speaks like that
+        const auto write = [](const QString &port, ProfileField field, const QString &text) {
+            DialRequest hostile = request(DialVerb::Write, {});
+            hostile.modemPort = port;
+            hostile.profile.setText(field, text);
+            return toLine(hostile);
+        };
+        const QString port = u"%PORT%"_s;
+        const QByteArray servers = R"({"verb":"nameServers","servers":["1.1.1.1\nsearch evil"]})";
+        QTest::newRow("an unknown verb") << QByteArray(R"({"verb":"shell","text":"id"})") << true;
+        QTest::newRow("a path beside a verb")
+            << QByteArray(R"({"verb":"save","path":"/etc/shadow"})") << true;
+        QTest::newRow("no JSON") << QByteArray("save") << true;
+        QTest::newRow("an endless line") << QByteArray(100000, 'x') << true;
+        QTest::newRow("a phone number that is two lines")
+            << write(port, ProfileField::Phone, u"*99#\nInit2 = AT+X"_s) << false;
+        QTest::newRow("an option in the user name")
+            << write(port, ProfileField::UserName, u"a\"\nconnect /bin/sh"_s) << false;
+        QTest::newRow("a disk") << write(u"/dev/null"_s, ProfileField::Name, u"x"_s) << false;
+        QTest::newRow("a console") << write(u"/dev/tty1"_s, ProfileField::Name, u"x"_s) << false;
+        QTest::newRow("no device") << write(u"/etc/passwd"_s, ProfileField::Name, u"x"_s) << false;
+        QTest::newRow("another's network interface")
+            << QByteArray(R"({"verb":"lease","port":"%PORT%","interface":"lo"})") << false;
+        QTest::newRow("servers that are more than that") << servers << false;
+    }
+    void helperRefuses()
+    {
+        QFETCH(QByteArray, line);
+        QFETCH(bool, ends);
+        QProcess helper;
+        helper.start(helperProgram, QStringList());
+        helper.write(toLine(request(DialVerb::Save, {})));
+        helper.write(line.replace("%PORT%", modemPort().toUtf8()).trimmed() + '\n');
+        QByteArray said;
+        QTRY_VERIFY_WITH_TIMEOUT((said += helper.readAllStandardOutput()).contains("error") ||
+                                     helper.state() == QProcess::NotRunning,
+                                 patience);
+        QCOMPARE(helper.state() == QProcess::NotRunning, ends);
+        helper.closeWriteChannel();
+        QVERIFY(helper.state() == QProcess::NotRunning || helper.waitForFinished(patience));
+        QCOMPARE(helper.exitCode(), ends ? 2 : 0);
+        QVERIFY(!QFile::exists(u"/tmp/connect_info"_s));
+    }
+
+    /// The helper's caller has no port but his own.
+    void portOfAnother()
+    {
+        constexpr uid_t nobody = 65534;
+        const QByteArray port = modemPort().toLocal8Bit();
+        if (chown(port.constData(), nobody, gid_t(-1)) != 0)
+            QSKIP("the port cannot be given away here");
+        for (const bool isHis : {true, false}) {
+            QCOMPARE(chown(port.constData(), isHis ? nobody : 0, gid_t(-1)), 0);
+            QCOMPARE(chmod(port.constData(), 0600), 0);
+            QProcess helper;
+            QProcessEnvironment environment;
+            environment.insert(u"PKEXEC_UID"_s, QString::number(nobody));
+            helper.setProcessEnvironment(environment);
+            helper.start(helperProgram, QStringList());
+            helper.write(toLine(request(DialVerb::Save, {})));
+            helper.write(toLine(request(DialVerb::Write, modemPort())));
+            QByteArray said;
+            QTRY_COMPARE_WITH_TIMEOUT((said += helper.readAllStandardOutput()).count("done"), 2, patience);
+            QCOMPARE(said.contains("error"), !isHis);
+            helper.closeWriteChannel();
+            QVERIFY(helper.waitForFinished(patience));
+        }
+    }
+
+private:
+    void set(const QString &key, const QString &value)
+    {
+        cmcfg.setValue(u"network_dialer_setting"_s, key, value);
+    }
+    void tell(const QByteArray &command) { QVERIFY(m_card->control(command).value(u"ok"_s).toBool()); }
+
+    void begin()
+    {
+        m_store = std::make_unique<ProfileStore>(basePath + u"/Data"_s);
+        QString error;
+        if (m_store->list().isEmpty())
+            QVERIFY2(m_store->add(homeProfile(), &error) && m_store->setDefault(u"Home"_s, &error),
+                     qPrintable(error));
+        m_card = std::make_unique<cardemu::CardThread>(
+            std::get<cardemu::Profile>(cardemu::Profile::builtIn(u"wcdma"_s)));
+        QCOMPARE(m_card->start(basePath + u"/card"_s), QString());
+        m_monitor = std::make_unique<CardMonitor>(&m_owner);
+        m_monitor->start();
+        QTRY_VERIFY_WITH_TIMEOUT(m_monitor->state().modemReady, patience);
+        makeService();
+    }
+    void makeService(std::unique_ptr<DiallerBackend> backend = nullptr)
+    {
+        m_service.reset();
+        ConnectionParts parts;
+        if (backend)
+            parts.backend = std::move(backend);
+        m_service = std::make_unique<ConnectionService>(m_monitor.get(), m_store.get(), std::move(parts));
+        m_messages.clear();
+        connect(m_service.get(), &ConnectionService::sigMessage, this,
+                [this](const QString &text) { m_messages += text; });
+    }
+
+    static QString modemPort() { return QFileInfo(basePath + u"/card/modem"_s).canonicalFilePath(); }
+    static std::vector<pid_t> running(const QByteArray &name)
+    {
+        std::vector<pid_t> pids;
+        for (const QString &entry : QDir(u"/proc"_s).entryList(QDir::Dirs))
+            if (const auto stat = processStat(entry.toInt()); stat && stat->name == name && !stat->isZombie())
+                pids.push_back(stat->pid);
+        return pids;
+    }
+    /// Diallers on the card's port: this machine may have others.
+    static std::vector<pid_t> dialler()
+    {
+        std::vector<pid_t> pids = running("wvdial");
+        std::erase_if(pids, [](pid_t pid) {
+            return !QFile::symLinkTarget(u"/proc/%1/exe"_s.arg(pid)).startsWith(u"/usr/bin/"_s);
+        });
+        return pids;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    FakeOwner m_owner;
+    QString m_before;
+    QStringList m_messages;
+    std::unique_ptr<cardemu::CardThread> m_card;
+    std::unique_ptr<CardMonitor> m_monitor;
+    std::unique_ptr<ProfileStore> m_store;
+    std::unique_ptr<ConnectionService> m_service;
+};
+
+/// Another run of the program, killed as soon as its dialler runs.
+static int dialAndDie(const QString &port)
+{
+    basePath = QDir::currentPath();
+    OwnBackend backend{SystemFiles()};
+    for (const DialVerb verb : {DialVerb::Save, DialVerb::Write, DialVerb::Dial})
+        backend.ask(request(verb, port), [verb](const DialResult &result) {
+            if (!result.isDone())
+                QCoreApplication::exit(1);
+            else if (verb == DialVerb::Dial)
+                raise(SIGKILL);
+        });
+    return QCoreApplication::exec();
+}
+
+int main(int argc, char **argv)
+{
+    if (argc == 3 && qstrcmp(argv[1], "--dial-and-die") == 0) {
+        QCoreApplication app(argc, argv);
+        return dialAndDie(QString::fromLocal8Bit(argv[2]));
+    }
+    whyNot = enterOwnSystem();
+    QCoreApplication app(argc, argv);
+    TestDialler test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_dialler.moc"

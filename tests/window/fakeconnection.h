@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "connection/connectionservice.h"
+
+#include <QStringList>
+
+/// The data connection without a dialler: the same class, with members that do as a test says. A test links
+/// it in place of the real one.
+namespace fakeconnection
+{
+
+/// What was asked for, in order: "connect", "connect maria/secret", "disconnect", "recover",
+/// "shutDown".
+QStringList takeCalls();
+/// The connection is now in this state.
+void put(const corva::ConnectionStatus &status);
+/// What stands in the way of the next dial.
+void setObstacle(corva::ConnectObstacle obstacle);
+/// The service has a box for the person.
+void say(const QString &text);
+/// Bytes, as the service is told of them.
+std::optional<quint64> countedBytes();
+
+/// A link that is up, with everything known.
+corva::ConnectionStatus connected();
+/// The last attempt ended so.
+corva::ConnectionStatus ended(corva::ConnectionEnd end, const QString &sentence);
+/// Named states to look at: "connected", "connecting", "redial", "refused", "disconnecting".
+corva::ConnectionStatus namedStatus(const QString &name);
+
+} // namespace fakeconnection
