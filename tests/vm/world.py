@@ -162,7 +162,7 @@ class GadgetCard(Card):
 
     def __init__(self, folder, has_network_card=False, auth="noauth", **data):
         self.folder = folder
-        self.auth = auth
+        self.hang_up = threading.Timer(0, self.end_call, [None])
         functions = ["gser.0", "gser.1", "gser.2"] + (["ecm.0"] if has_network_card else [])
         run(HERE / "gadget", "make", "1209", "0001", *functions)
         profile = {"line": {"dialResult": "CONNECT"},
@@ -180,16 +180,19 @@ class GadgetCard(Card):
 
     def dtr_changed(self, interface, is_up):
         """A lowered DTR ends the call. Not at once: pppd says goodbye over the line at the same moment, and cannot be told
-        that it is dead, since the gadget has no carrier detect either."""
+        that it is dead, since the gadget has no carrier detect either. Raised again meanwhile, it ends it at once."""
         if interface != self.INTERFACES["modem"]:
             return
+        waits = self.hang_up.is_alive()
         self.hang_up.cancel()
-        self.hang_up = threading.Timer(0 if is_up else 3, self.end_call)
-        self.hang_up.start()
+        if waits or not is_up:
+            call = self.hang_up.args[0] if waits else self.network_process()
+            self.hang_up = threading.Timer(0 if is_up else 3, self.end_call, [call])
+            self.hang_up.start()
 
-    def end_call(self):
+    def end_call(self, call):
         with contextlib.suppress(subprocess.CalledProcessError):
-            if self.dtr_call and self.network_process() == self.dtr_call:
+            if call and self.network_process() == call:
                 self.say("drop-data")
 
     @staticmethod
