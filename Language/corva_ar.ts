@@ -89,6 +89,246 @@
     </message>
 </context>
 <context>
+    <name>ConnectionDiagnosis</name>
+    <message>
+        <source>No profile is chosen</source>
+        <translation>لم يُختر ملف تعريف</translation>
+    </message>
+    <message>
+        <source>A profile says how to reach the internet through your operator. Those of most operators are known; choose one, or add your own.</source>
+        <translation>يبيّن ملف التعريف كيفية الوصول إلى الإنترنت عبر المشغّل. إعدادات معظم المشغّلين معروفة؛ اختر أحد ملفات التعريف أو أضف ملفًا خاصًا بك.</translation>
+    </message>
+    <message>
+        <source>The network chooses it</source>
+        <translation>تختارها الشبكة</translation>
+    </message>
+    <message>
+        <source>The profile names no access point</source>
+        <translation>لا يذكر ملف التعريف نقطة وصول</translation>
+    </message>
+    <message>
+        <source>Your operator can tell you its name (APN). Enter it in the profile.</source>
+        <translation>يستطيع المشغّل إخبارك باسمها (APN). أدخله في ملف التعريف.</translation>
+    </message>
+    <message>
+        <source>User name or password refused</source>
+        <translation>رُفض اسم المستخدم أو كلمة المرور</translation>
+    </message>
+    <message>
+        <source>The call was not taken</source>
+        <translation>لم يُرَدّ على الطلب</translation>
+    </message>
+    <message>
+        <source>The line was busy</source>
+        <translation>كان الخط مشغولًا</translation>
+    </message>
+    <message>
+        <source>No link within the time</source>
+        <translation>لم يُنشأ ارتباط خلال المهلة</translation>
+    </message>
+    <message>
+        <source>The dialler failed</source>
+        <translation>فشل برنامج الطلب</translation>
+    </message>
+    <message>
+        <source>System files cannot be changed</source>
+        <translation>لا يمكن تغيير ملفات النظام</translation>
+    </message>
+    <message>
+        <source>No right to dial</source>
+        <translation>لا يُسمح لك بالطلب</translation>
+    </message>
+    <message>
+        <source>The network ended the connection</source>
+        <translation>أنهت الشبكة الاتصال</translation>
+    </message>
+    <message>
+        <source>The connection broke off</source>
+        <translation>انقطع الاتصال</translation>
+    </message>
+    <message>
+        <source>The card was taken out</source>
+        <translation>أُخرجت البطاقة</translation>
+    </message>
+    <message>
+        <source>Ended because nothing was carried</source>
+        <translation>أُنهي لعدم نقل أي بيانات</translation>
+    </message>
+    <message>
+        <source>The month&apos;s volume is used up</source>
+        <translation>نفدت حصة الشهر</translation>
+    </message>
+    <message>
+        <source>The connection is up</source>
+        <translation>الاتصال قائم</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>جارٍ الاتصال</translation>
+    </message>
+    <message>
+        <source>This takes a few seconds.</source>
+        <translation>يستغرق هذا بضع ثوانٍ.</translation>
+    </message>
+    <message>
+        <source>Disconnecting</source>
+        <translation>جارٍ قطع الاتصال</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>غير متصل</translation>
+    </message>
+    <message>
+        <source>The card is in the network, and everything is there to connect.</source>
+        <translation>البطاقة مسجَّلة في الشبكة، وكل ما يلزم للاتصال متوفر.</translation>
+    </message>
+    <message>
+        <source>The network gave no address</source>
+        <translation>لم تمنح الشبكة عنوانًا</translation>
+    </message>
+    <message>
+        <source>Disconnect and connect again. If that does not help, the access point of the profile may be the wrong one.</source>
+        <translation>اقطع الاتصال ثم اتصل من جديد. إن لم يُجدِ ذلك فقد تكون نقطة الوصول في ملف التعريف غير صحيحة.</translation>
+    </message>
+    <message>
+        <source>No name servers</source>
+        <translation>لا توجد خوادم أسماء</translation>
+    </message>
+    <message>
+        <source>Without them names of web sites cannot be found. Enter some in the profile, then disconnect and connect again.</source>
+        <translation>بدونها لا يمكن العثور على أسماء مواقع الويب. أدخل بعضها في ملف التعريف، ثم اقطع الاتصال واتصل من جديد.</translation>
+    </message>
+    <message>
+        <source>Another connection carries the traffic</source>
+        <translation>تمر حركة البيانات عبر اتصال آخر</translation>
+    </message>
+    <message>
+        <source>This computer goes through a cable, Wi-Fi or another way first. Switch that off, then disconnect and connect again here.</source>
+        <translation>يستخدم هذا الحاسوب أولًا كبلًا أو Wi-Fi أو طريقًا آخر. أوقفه، ثم اقطع الاتصال واتصل من جديد هنا.</translation>
+    </message>
+    <message>
+        <source>The traffic goes through the card</source>
+        <translation>تمر حركة البيانات عبر البطاقة</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>ملف التعريف</translation>
+    </message>
+    <message>
+        <source>Access point</source>
+        <translation>نقطة الوصول</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>الاتصال</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>عنوان IP</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>خوادم الأسماء</translation>
+    </message>
+    <message>
+        <source>Route</source>
+        <translation>المسار</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionTexts</name>
+    <message>
+        <source>With &quot;%1&quot;, since %2.</source>
+        <translation>عبر &quot;%1&quot;، منذ %2.</translation>
+    </message>
+    <message>
+        <source>With &quot;%1&quot;, attempt %2 of %3.</source>
+        <translation>عبر &quot;%1&quot;، المحاولة %2 من %3.</translation>
+    </message>
+    <message>
+        <source>With &quot;%1&quot;.</source>
+        <translation>عبر &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 Attempt %2 of %3 follows.</source>
+        <translation>%1 تليها المحاولة %2 من %3.</translation>
+    </message>
+</context>
+<context>
+    <name>DiallerFiles</name>
+    <message>
+        <source>Save wvdial config data failed!</source>
+        <translation>تعذّر حفظ بيانات إعداد wvdial.</translation>
+    </message>
+    <message>
+        <source>Read default wvdial config data failed!</source>
+        <translation>تعذّرت قراءة بيانات إعداد wvdial الافتراضية.</translation>
+    </message>
+    <message>
+        <source>open file operation error!</source>
+        <translation>حدث خطأ عند فتح الملف.</translation>
+    </message>
+    <message>
+        <source>Recover wvdial config data failed!</source>
+        <translation>تعذّرت استعادة بيانات إعداد wvdial.</translation>
+    </message>
+    <message>
+        <source>The DNS is invalid !</source>
+        <translation>خادم DNS غير صالح.</translation>
+    </message>
+</context>
+<context>
+    <name>EndSentence</name>
+    <message>
+        <source>The network refused the user name and the password.</source>
+        <translation>رفضت الشبكة اسم المستخدم وكلمة المرور.</translation>
+    </message>
+    <message>
+        <source>The network did not take the call.</source>
+        <translation>لم تقبل الشبكة الاتصال.</translation>
+    </message>
+    <message>
+        <source>The line is busy. Please try again later.</source>
+        <translation>الخط مشغول. يُرجى المحاولة لاحقًا.</translation>
+    </message>
+    <message>
+        <source>The network did not answer in time.</source>
+        <translation>لم تُجب الشبكة في الوقت المناسب.</translation>
+    </message>
+    <message>
+        <source>The dialler ended before it was done.</source>
+        <translation>انتهى برنامج الطلب قبل أن يكتمل.</translation>
+    </message>
+    <message>
+        <source>The files for the dialler could not be written.</source>
+        <translation>تعذّرت كتابة ملفات برنامج الطلب.</translation>
+    </message>
+    <message>
+        <source>The right to connect was not given.</source>
+        <translation>لم يُمنح إذن الاتصال.</translation>
+    </message>
+    <message>
+        <source>The network ended the connection.</source>
+        <translation>أنهت الشبكة الاتصال.</translation>
+    </message>
+    <message>
+        <source>The network does not answer any more.</source>
+        <translation>لم تعد الشبكة تجيب.</translation>
+    </message>
+    <message>
+        <source>The card was pulled out.</source>
+        <translation>أُخرجت البطاقة.</translation>
+    </message>
+    <message>
+        <source>The connection was ended because nothing was carried.</source>
+        <translation>أُنهي الاتصال لأنه لم تُنقل أي بيانات.</translation>
+    </message>
+    <message>
+        <source>The connection was ended because the volume is used up.</source>
+        <translation>أُنهي الاتصال لأن حجم البيانات استُهلك.</translation>
+    </message>
+</context>
+<context>
     <name>FrmDisclaimer</name>
     <message>
         <source>Before you begin</source>
@@ -113,6 +353,49 @@
     <message>
         <source>&amp;Decline and quit</source>
         <translation>&amp;رفض وخروج</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryEnd</name>
+    <message>
+        <source>By you</source>
+        <translation>بأمر منك</translation>
+    </message>
+    <message>
+        <source>By the network</source>
+        <translation>من الشبكة</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>لا استجابة</translation>
+    </message>
+    <message>
+        <source>Dialler stopped</source>
+        <translation>توقف برنامج الطلب</translation>
+    </message>
+    <message>
+        <source>Card removed</source>
+        <translation>أُخرجت البطاقة</translation>
+    </message>
+    <message>
+        <source>Nothing carried</source>
+        <translation>لم تُنقل بيانات</translation>
+    </message>
+    <message>
+        <source>Volume used up</source>
+        <translation>نفدت الحصة</translation>
+    </message>
+    <message>
+        <source>Program closed</source>
+        <translation>أُغلق البرنامج</translation>
+    </message>
+    <message>
+        <source>Unexpectedly</source>
+        <translation>انتهى فجأة</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>غير معروف</translation>
     </message>
 </context>
 <context>
@@ -514,6 +797,38 @@
         <source>&amp;Ask again</source>
         <translation>إعادة الاست&amp;علام</translation>
     </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>ا&amp;تصال</translation>
+    </message>
+    <message>
+        <source>&amp;Choose profile</source>
+        <translation>ا&amp;ختيار ملف تعريف</translation>
+    </message>
+    <message>
+        <source>&amp;Edit profile</source>
+        <translation>تح&amp;رير ملف التعريف</translation>
+    </message>
+    <message>
+        <source>The settings name a port</source>
+        <translation>تحدّد الإعدادات منفذًا</translation>
+    </message>
+    <message>
+        <source>The port does not exist</source>
+        <translation>المنفذ غير موجود</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which does not exist. Plug the card in; if it is plugged in, correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>تحدّد الإعدادات المنفذ ‪%1‬ وهو غير موجود. أدخل البطاقة؛ وإن كانت موصولة فصحّح ‪&quot;at_port&quot;‬ في الملف ‪Data/common-config.xml‬ ثم شغّل البرنامج من جديد.</translation>
+    </message>
+    <message>
+        <source>The port is no serial port</source>
+        <translation>المنفذ ليس منفذًا تسلسليًا</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which is no serial port. Correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>تحدّد الإعدادات المنفذ ‪%1‬ وهو ليس منفذًا تسلسليًا. صحّح ‪&quot;at_port&quot;‬ في الملف ‪Data/common-config.xml‬ ثم شغّل البرنامج من جديد.</translation>
+    </message>
 </context>
 <context>
     <name>PortAccess</name>
@@ -554,6 +869,167 @@
     </message>
 </context>
 <context>
+    <name>PppErrors</name>
+    <message>
+        <source>Pppd  has  detached,  or  otherwise  the  connection was successfully established and terminated at the peer&apos;s request.</source>
+        <translation>انفصل pppd ليعمل في الخلفية، أو أُنشئ الاتصال بنجاح ثم أُنهي بطلب من الطرف الآخر.</translation>
+    </message>
+    <message>
+        <source>An immediately fatal error of some kind occurred, such as an essential system call failing, or running out  of virtual memory.</source>
+        <translation>وقع خطأ فادح، مثل فشل استدعاء أساسي للنظام أو نفاد الذاكرة الظاهرية.</translation>
+    </message>
+    <message>
+        <source>An error was detected in processing the options given, such as two mutually exclusive options being used.</source>
+        <translation>اكتُشف خطأ عند معالجة الخيارات المعطاة، مثل استخدام خيارين متعارضين.</translation>
+    </message>
+    <message>
+        <source>Pppd is not setuid-root and the invoking user is not root.</source>
+        <translation>برنامج pppd ليس setuid-root، والمستخدم الذي شغّله ليس root.</translation>
+    </message>
+    <message>
+        <source>The kernel does not support PPP, for example, the PPP kernel driver is not included or cannot be loaded.</source>
+        <translation>لا تدعم النواة PPP؛ مثلًا لأن برنامج تشغيل PPP غير مضمَّن في النواة أو لا يمكن تحميله.</translation>
+    </message>
+    <message>
+        <source>Pppd terminated because it was sent a SIGINT, SIGTERM or SIGHUP signal.</source>
+        <translation>انتهى pppd لأنه تلقّى إشارة SIGINT أو SIGTERM أو SIGHUP.</translation>
+    </message>
+    <message>
+        <source>The serial port could not be locked.</source>
+        <translation>تعذّر قفل المنفذ التسلسلي.</translation>
+    </message>
+    <message>
+        <source>The serial port could not be opened.</source>
+        <translation>تعذّر فتح المنفذ التسلسلي.</translation>
+    </message>
+    <message>
+        <source>The connect script failed (returned a non-zero exit status).</source>
+        <translation>فشل نص الاتصال البرمجي (أعاد حالة خروج غير الصفر).</translation>
+    </message>
+    <message>
+        <source>The command specified as the argument to the pty option could not be run.</source>
+        <translation>تعذّر تنفيذ الأمر المحدد في الخيار pty.</translation>
+    </message>
+    <message>
+        <source>The  PPP  negotiation failed, that is, it didn&apos;t reach the point where at least one network protocol (e.g. IP) was running.</source>
+        <translation>فشل تفاوض PPP، أي أنه لم يصل إلى تشغيل بروتوكول شبكة واحد على الأقل (مثل IP).</translation>
+    </message>
+    <message>
+        <source>The peer system failed (or refused) to authenticate itself.</source>
+        <translation>فشل الطرف الآخر في إثبات هويته (أو رفض ذلك).</translation>
+    </message>
+    <message>
+        <source>The link was established successfully and terminated because it was idle.</source>
+        <translation>أُنشئ الارتباط بنجاح، ثم أُنهي لأنه كان خاملًا.</translation>
+    </message>
+    <message>
+        <source>The link was established successfully and terminated because the connect time limit was reached.</source>
+        <translation>أُنشئ الارتباط بنجاح، ثم أُنهي لبلوغ الحد الزمني للاتصال.</translation>
+    </message>
+    <message>
+        <source>Callback was negotiated and an incoming call should arrive shortly.</source>
+        <translation>تم التفاوض على معاودة الاتصال، ويُتوقع ورود مكالمة قريبًا.</translation>
+    </message>
+    <message>
+        <source>The link was terminated because the peer is not responding to echo requests.</source>
+        <translation>أُنهي الارتباط لأن الطرف الآخر لا يستجيب لطلبات الصدى.</translation>
+    </message>
+    <message>
+        <source>The link was terminated by the modem hanging up.</source>
+        <translation>أُنهي الارتباط لأن المودم أنهى المكالمة.</translation>
+    </message>
+    <message>
+        <source>The PPP negotiation failed because serial loopback was detected.</source>
+        <translation>فشل تفاوض PPP لاكتشاف حلقة راجعة على المنفذ التسلسلي.</translation>
+    </message>
+    <message>
+        <source>The init script failed (returned a non-zero exit status).</source>
+        <translation>فشل نص التهيئة البرمجي (أعاد حالة خروج غير الصفر).</translation>
+    </message>
+    <message>
+        <source>We failed to authenticate ourselves to the peer.</source>
+        <translation>فشل إثبات هويتنا للطرف الآخر.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileChecks</name>
+    <message>
+        <source>The dial number may hold letters, digits and * # + , . - ( ), 80 at most.</source>
+        <translation>لا يُسمح في رقم الطلب إلا بالحروف والأرقام والرموز ‪* # + , . - ( )‬، وبحد أقصى 80.</translation>
+    </message>
+    <message>
+        <source>The user name must not hold quotes, backslashes, a brace at its beginning or blanks at its ends, not be a single asterisk, and be 255 bytes long at most.</source>
+        <translation>لا يُسمح في اسم المستخدم بعلامات اقتباس أو شرطات مائلة عكسية أو قوس معقوص في أوله أو فراغات في طرفيه، ولا أن يكون نجمة واحدة فقط، وطوله 255 بايت على الأكثر.</translation>
+    </message>
+    <message>
+        <source>The password must not hold quotes, backslashes, a brace or &quot;@/&quot; at its beginning or blanks at its ends, and be 255 bytes long at most.</source>
+        <translation>لا يُسمح في كلمة المرور بعلامات اقتباس أو شرطات مائلة عكسية أو قوس معقوص أو ‪&quot;@/&quot;‬ في أولها أو فراغات في طرفيها، وطولها 255 بايت على الأكثر.</translation>
+    </message>
+    <message>
+        <source>The name of the profile is too long.</source>
+        <translation>اسم ملف التعريف طويل جدًا.</translation>
+    </message>
+    <message>
+        <source>The APN may hold letters, digits and . - _ @ : /, 100 at most.</source>
+        <translation>لا يُسمح في APN إلا بالحروف والأرقام والرموز ‪. - _ @ : /‬، وبحد أقصى 100.</translation>
+    </message>
+    <message>
+        <source>The address mode may hold letters and digits only.</source>
+        <translation>لا يُسمح في وضع العنوان إلا بالحروف والأرقام.</translation>
+    </message>
+    <message>
+        <source>The beginning of the IMSI may hold 15 digits at most.</source>
+        <translation>لا يُسمح في بداية رقم IMSI بأكثر من 15 رقمًا.</translation>
+    </message>
+    <message>
+        <source>The page to open must be an address of the web.</source>
+        <translation>يجب أن تكون الصفحة المطلوب فتحها عنوان ويب.</translation>
+    </message>
+    <message>
+        <source>A value holds a line break or another control character, or the text &quot;-|-&quot;.</source>
+        <translation>تحتوي إحدى القيم على فاصل أسطر أو محرف تحكم آخر، أو على النص ‪&quot;-|-&quot;‬.</translation>
+    </message>
+    <message>
+        <source>The Config Filename must be filled.</source>
+        <translation>يجب إدخال اسم ملف التعريف.</translation>
+    </message>
+    <message>
+        <source>The Dial Number is empty!</source>
+        <translation>رقم الطلب فارغ.</translation>
+    </message>
+    <message>
+        <source>The APN is empty!</source>
+        <translation>حقل APN فارغ.</translation>
+    </message>
+    <message>
+        <source>Invalid PDP!Please check it!</source>
+        <translation>قيمة PDP غير صالحة. تحقّق منها.</translation>
+    </message>
+    <message>
+        <source>Invalid Preferred DNS!Please check it!</source>
+        <translation>خادم DNS المفضّل غير صالح. تحقّق منه.</translation>
+    </message>
+    <message>
+        <source>Invalid Alternative DNS!Please check it!</source>
+        <translation>خادم DNS البديل غير صالح. تحقّق منه.</translation>
+    </message>
+    <message>
+        <source>The card&apos;s data port has a name that cannot be used.</source>
+        <translation>اسم منفذ البيانات في البطاقة غير صالح للاستخدام.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileStore</name>
+    <message>
+        <source>The profiles in %1 cannot be read.</source>
+        <translation>تعذّرت قراءة ملفات التعريف في %1.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read, and cannot be kept beside.</source>
+        <translation>تعذّرت قراءة %1، ولا يمكن الاحتفاظ به.</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -591,12 +1067,97 @@
         <source>%1 is a ring of links</source>
         <translation>%1 حلقة من الروابط</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>لا يمكن الاحتفاظ بملف الإعدادات التالف</translation>
+    </message>
+    <message>
+        <source>The rights of %1 cannot be set</source>
+        <translation>تعذّر تعيين أذونات %1</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>تعذّرت قراءة الإعدادات، فبدأ البرنامج دون أي إعداد. حُفظ الملف غير المقروء باسم:
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>لا يمكن حفظ الإعدادات: %1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
         <translation>تعذّرت قراءة الألوان في ‪&quot;%1&quot;‬.</translation>
+    </message>
+</context>
+<context>
+    <name>Traffic</name>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/ث</translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>A day without its year, as QDate::toString takes it</extracomment>
+        <translation>d MMMM</translation>
+    </message>
+    <message>
+        <source>MMMM yyyy</source>
+        <extracomment>A month with its year, as QDate::toString takes it</extracomment>
+        <translation>MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>Yesterday, %1</source>
+        <translation>أمس، %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1، %2</translation>
+    </message>
+</context>
+<context>
+    <name>TrafficSentences</name>
+    <message>
+        <source>%1 received, %2 sent</source>
+        <translation>استُقبل %1، وأُرسل %2</translation>
+    </message>
+    <message>
+        <source>%1; %2 of it roaming</source>
+        <translation>%1؛ منها %2 أثناء التجوال</translation>
+    </message>
+    <message>
+        <source>%1 of %2 used (%3&#xa0;%)</source>
+        <translation>استُهلك %1 من %2 (%3%)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 roaming (%3&#xa0;%)</source>
+        <translation>استُهلك %1 من %2 أثناء التجوال (%3%)</translation>
+    </message>
+    <message>
+        <source>Too few days are known to say what it will be by %1.</source>
+        <translation>لم تُسجَّل أيام كافية لتقدير الحجم حتى %1.</translation>
+    </message>
+    <message>
+        <source>The volume is used up. A new one begins on %1.</source>
+        <translation>نفدت الحصة. تبدأ حصة جديدة في %1.</translation>
+    </message>
+    <message>
+        <source>As it goes, it will be about %1 by %2.</source>
+        <translation>بهذا المعدل سيبلغ الحجم نحو %1 حتى %2.</translation>
+    </message>
+    <message>
+        <source>As it goes, the volume will be used up on %1; by %2 it would be about %3.</source>
+        <translation>بهذا المعدل ستنفد الحصة في %1، وسيبلغ الحجم نحو %3 حتى %2.</translation>
+    </message>
+    <message>
+        <source>As it goes, it will be about %1 by %2: the volume is enough.</source>
+        <translation>بهذا المعدل سيبلغ الحجم نحو %1 حتى %2: الحصة كافية.</translation>
     </message>
 </context>
 <context>
@@ -630,12 +1191,43 @@
         <translation>&amp;حول %1</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
+        <source>&amp;Quit</source>
+        <translation>&amp;خروج</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;اتصال</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
         <translation>إ&amp;غلاق</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;خروج</translation>
+        <source>&amp;Disconnect</source>
+        <translation>&amp;قطع الاتصال</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel connecting</source>
+        <translation>إلغاء محا&amp;ولة الاتصال</translation>
+    </message>
+    <message>
+        <source>Disconnect and quit?</source>
+        <translation>أتريد قطع الاتصال والخروج؟</translation>
+    </message>
+    <message>
+        <source>Disconnect and &amp;quit</source>
+        <translation>قطع الاتصال والخ&amp;روج</translation>
+    </message>
+</context>
+<context>
+    <name>WvdialProcess</name>
+    <message>
+        <source>The dialler is running already.</source>
+        <translation>برنامج الطلب قيد العمل بالفعل.</translation>
+    </message>
+    <message>
+        <source>The program wvdial is missing. Please install it.</source>
+        <translation>البرنامج wvdial غير موجود. يرجى تثبيته.</translation>
     </message>
 </context>
 <context>
@@ -928,8 +1520,526 @@
         <translation>تتعذر قراءة شريحة SIM. أخرجها ثم أعدها.</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>لم تستجب البطاقة. لم يتغيّر شيء؛ حاول مرة أخرى.</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>لم تستجب البطاقة في الوقت المناسب. لا يُعرف هل قبلت ما أُدخل؛ تُعرض المحاولات المتبقية إن كانت البطاقة تذكرها.</translation>
+    </message>
+    <message>
+        <source>The SIM card is still starting. Try again in a moment.</source>
+        <translation>لا تزال شريحة SIM قيد بدء التشغيل. أعد المحاولة بعد قليل.</translation>
+    </message>
+    <message>
+        <source>The card refused the entry, without saying that it is wrong.</source>
+        <translation>رفضت البطاقة ما أُدخل دون أن تذكر أنه خاطئ.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ChoiceDialog</name>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation>%1  ·  %2</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Config</name>
+    <message>
+        <source>New profile</source>
+        <translation>ملف تعريف جديد</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>ملف التعريف</translation>
+    </message>
+    <message>
+        <source>Edit profile</source>
+        <translation>تحرير ملف التعريف</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>إ&amp;غلاق</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>إ&amp;لغاء</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;حفظ</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>عام</translation>
+    </message>
+    <message>
+        <source>Profile &amp;name</source>
+        <translation>ا&amp;سم ملف التعريف</translation>
+    </message>
+    <message>
+        <source>&amp;Dial number</source>
+        <translation>&amp;رقم الطلب</translation>
+    </message>
+    <message>
+        <source>Connect as a &amp;modem or a network card</source>
+        <translation>الاتصال ك&amp;مودم أو كبطاقة شبكة</translation>
+    </message>
+    <message>
+        <source>As the card can</source>
+        <translation>حسب إمكانات البطاقة</translation>
+    </message>
+    <message>
+        <source>Modem (dial-up)</source>
+        <translation>مودم (طلب هاتفي)</translation>
+    </message>
+    <message>
+        <source>Network card</source>
+        <translation>بطاقة شبكة</translation>
+    </message>
+    <message>
+        <source>For S&amp;IMs whose IMSI begins with</source>
+        <translation>لشرائح SIM التي ي&amp;بدأ رقم IMSI لها بـ</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>أي رقم</translation>
+    </message>
+    <message>
+        <source>Access point (APN)</source>
+        <translation>نقطة الوصول (APN)</translation>
+    </message>
+    <message>
+        <source>Access point</source>
+        <translation>نقطة الوصول</translation>
+    </message>
+    <message>
+        <source>&amp;This one</source>
+        <translation>&amp;هذه</translation>
+    </message>
+    <message>
+        <source>&amp;By the network</source>
+        <translation>تحدّدها ال&amp;شبكة</translation>
+    </message>
+    <message>
+        <source>Name of the access &amp;point</source>
+        <translation>اسم &amp;نقطة الوصول</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>المصادقة</translation>
+    </message>
+    <message>
+        <source>P&amp;AP</source>
+        <translation>P&amp;AP</translation>
+    </message>
+    <message>
+        <source>C&amp;HAP</source>
+        <translation>C&amp;HAP</translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation>ب&amp;دون</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>اسم المست&amp;خدم</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>&amp;كلمة المرور</translation>
+    </message>
+    <message>
+        <source>As&amp;k for them when connecting</source>
+        <translation>طلبهما عند الات&amp;صال</translation>
+    </message>
+    <message>
+        <source>Keep them in the profi&amp;le</source>
+        <translation>حفظهما في ملف الت&amp;عريف</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>عنوان IP</translation>
+    </message>
+    <message>
+        <source>From the network (d&amp;ynamic)</source>
+        <translation>من الشبكة (ديناميك&amp;ي)</translation>
+    </message>
+    <message>
+        <source>Fi&amp;xed</source>
+        <translation>&amp;ثابت</translation>
+    </message>
+    <message>
+        <source>Fixed add&amp;ress</source>
+        <translation>العن&amp;وان الثابت</translation>
+    </message>
+    <message>
+        <source>Name servers (DNS)</source>
+        <translation>خوادم الأسماء (DNS)</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>خوادم الأسماء</translation>
+    </message>
+    <message>
+        <source>&amp;From the network</source>
+        <translation>&amp;تقدّمها الشبكة</translation>
+    </message>
+    <message>
+        <source>Th&amp;ese</source>
+        <translation>الآتي&amp;ة</translation>
+    </message>
+    <message>
+        <source>Preferred (&amp;1)</source>
+        <translation>المفضّل (&amp;1)</translation>
+    </message>
+    <message>
+        <source>Alternative (&amp;2)</source>
+        <translation>البديل (&amp;2)</translation>
+    </message>
+    <message>
+        <source>Once connected</source>
+        <translation>بعد الاتصال</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge to open in the browser</source>
+        <translation>الصفحة التي ت&amp;فتح في المتصفح</translation>
+    </message>
+    <message>
+        <source>This profile came with the program and stays as it is.</source>
+        <translation>يأتي ملف التعريف هذا مع البرنامج ولا يمكن تغييره.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionFacts</name>
+    <message>
+        <source>This connection</source>
+        <translation>هذا الاتصال</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>حركة البيانات</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>ملف التعريف</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>المدة</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>عنوان IP</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>البوابة</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>خوادم الأسماء</translation>
+    </message>
+    <message>
+        <source>Receiving</source>
+        <translation>سرعة الاستقبال</translation>
+    </message>
+    <message>
+        <source>Sending</source>
+        <translation>سرعة الإرسال</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>المستقبَل</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>المرسَل</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionHead</name>
+    <message>
+        <source>&amp;Why am I offline?</source>
+        <translation>&amp;لماذا لا يوجد اتصال؟</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>&amp;قطع الاتصال</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>ا&amp;تصال</translation>
+    </message>
+    <message>
+        <source>Initializing</source>
+        <translation>جارٍ التهيئة</translation>
+    </message>
+    <message>
+        <source>Disconnecting</source>
+        <translation>جارٍ قطع الاتصال</translation>
+    </message>
+    <message>
+        <source>Status: Connected</source>
+        <translation>الحالة: متصل</translation>
+    </message>
+    <message>
+        <source>Status: Disconnected</source>
+        <translation>الحالة: غير متصل</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionService</name>
+    <message>
+        <source>Only UMTS network can connect while calling!</source>
+        <translation>لا يمكن الاتصال بالإنترنت أثناء المكالمة إلا عبر شبكة UMTS!</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>فُصل الجهاز أو أنه غير متاح.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t open deault config file!</source>
+        <translation>تعذّر فتح ملف الإعدادات الافتراضي!</translation>
+    </message>
+    <message>
+        <source>This card has no network interface. Please choose dial-up in the profile.</source>
+        <translation>ليس لهذه البطاقة واجهة شبكة. يُرجى اختيار الطلب الهاتفي في ملف التعريف.</translation>
+    </message>
+    <message>
+        <source>The card has no data port that could be dialled on.</source>
+        <translation>ليس للبطاقة منفذ بيانات يمكن الطلب عبره.</translation>
+    </message>
+    <message>
+        <source>There is no data transported recently. Auto Disconnect will close your internet link.</source>
+        <translation>لم تُنقل بيانات مؤخرًا. سيُغلق الفصل التلقائي اتصالك بالإنترنت.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionSettings</name>
+    <message>
+        <source>Automatic connection</source>
+        <translation>الاتصال التلقائي</translation>
+    </message>
+    <message>
+        <source>&amp;Connect by itself when the card is ready</source>
+        <translation>الا&amp;تصال تلقائيًا عند جاهزية البطاقة</translation>
+    </message>
+    <message>
+        <source>&amp;Attempts</source>
+        <translation>عدد ال&amp;محاولات</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <comment>seconds</comment>
+        <translation> ث</translation>
+    </message>
+    <message>
+        <source>When a connection breaks off</source>
+        <translation>عند انقطاع الاتصال</translation>
+    </message>
+    <message>
+        <source>&amp;Dial again</source>
+        <translation>إ&amp;عادة الطلب</translation>
+    </message>
+    <message>
+        <source>A&amp;ttempts</source>
+        <translation>عدد المحا&amp;ولات</translation>
+    </message>
+    <message>
+        <source>&amp;First one after</source>
+        <translation>المحاولة الأو&amp;لى بعد</translation>
+    </message>
+    <message>
+        <source>Each f&amp;urther one after</source>
+        <translation>&amp;كل محاولة تالية بعد</translation>
+    </message>
+    <message>
+        <source>When nothing is carried</source>
+        <translation>عند عدم نقل أي بيانات</translation>
+    </message>
+    <message>
+        <source>D&amp;isconnect</source>
+        <translation>&amp;قطع الاتصال</translation>
+    </message>
+    <message>
+        <source>Aft&amp;er</source>
+        <translation>&amp;بعد</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <comment>minutes</comment>
+        <translation> د</translation>
+    </message>
+    <message>
+        <source>Dialling</source>
+        <translation>الطلب</translation>
+    </message>
+    <message>
+        <source>&amp;Longest wait for a link</source>
+        <translation>أقصى ا&amp;نتظار للارتباط</translation>
+    </message>
+    <message>
+        <source>E&amp;xplain a failure by the exit status of pppd</source>
+        <translation>&amp;شرح الفشل وفق حالة خروج pppd</translation>
+    </message>
+    <message>
+        <source>&amp;Open the profile&apos;s page once connected</source>
+        <translation>&amp;فتح صفحة ملف التعريف بعد الاتصال</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>الاتصال</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Connector</name>
+    <message>
+        <source>Only UMTS network can connect while calling!</source>
+        <translation>لا يمكن الاتصال بالإنترنت أثناء المكالمة إلا في شبكة UMTS.</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>انقطع الاتصال بالجهاز أو أنه غير متاح.</translation>
+    </message>
+    <message>
+        <source>You are connecting to a roaming network. Would you like to continue?</source>
+        <translation>أنت على وشك الاتصال بشبكة تجوال. هل تريد المتابعة؟</translation>
+    </message>
+    <message>
+        <source>Which access is yours?</source>
+        <translation>أيّ نقطة وصول لك؟</translation>
+    </message>
+    <message>
+        <source>Whose SIM card is it?</source>
+        <translation>من مشغّل شريحة SIM؟</translation>
+    </message>
+    <message>
+        <source>%1 has several. Choose yours; the choice is kept as a profile.</source>
+        <translation>لدى %1 عدة نقاط وصول. اختر نقطتك؛ يُحفظ الاختيار كملف تعريف.</translation>
+    </message>
+    <message>
+        <source>Several operators share this network. Choose yours; the choice is kept as a profile.</source>
+        <translation>يتشارك عدة مشغّلين هذه الشبكة. اختر مشغّلك؛ يُحفظ الاختيار كملف تعريف.</translation>
+    </message>
+    <message>
+        <source>C&amp;onnect</source>
+        <translation>ا&amp;تصال</translation>
+    </message>
+    <message>
+        <source>Which profile?</source>
+        <translation>أيّ ملف تعريف؟</translation>
+    </message>
+    <message>
+        <source>It is taken from now on.</source>
+        <translation>سيُستخدم من الآن فصاعدًا.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::CredentialsDialog</name>
+    <message>
+        <source>&amp;User name</source>
+        <translation>اسم المست&amp;خدم</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;كلمة المرور</translation>
+    </message>
+    <message>
+        <source>&amp;Keep them and do not ask again</source>
+        <translation>ح&amp;فظهما وعدم السؤال مجددًا</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>اتصال</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+    <message>
+        <source>C&amp;onnect</source>
+        <translation>ا&amp;تصال</translation>
+    </message>
+    <message>
+        <source>The profile &quot;%1&quot; asks for them at each connection.</source>
+        <translation>يطلبهما ملف التعريف &quot;%1&quot; عند كل اتصال.</translation>
+    </message>
+    <message>
+        <source>User name and password</source>
+        <translation>اسم المستخدم وكلمة المرور</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DataLink</name>
+    <message>
+        <source>Fail to connect! Link ppp0 wasn&apos;t built !</source>
+        <translation>فشل الاتصال! لم تُنشأ الوصلة ppp0!</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>فُصل الجهاز أو أنه غير متاح.</translation>
+    </message>
+    <message>
+        <source>The card did not accept the access point &quot;%1&quot;. Please check the APN of the profile.</source>
+        <translation>لم تقبل البطاقة نقطة الوصول &quot;%1&quot;. يُرجى التحقق من APN في ملف التعريف.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DaysChart</name>
+    <message>
+        <source>Volume of each day</source>
+        <translation>حجم البيانات في كل يوم</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DaysTab</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Earlier period</source>
+        <translation>الفترة السابقة</translation>
+    </message>
+    <message>
+        <source>Later period</source>
+        <translation>الفترة التالية</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing was carried in this period.</source>
+        <translation>لم تُنقل أي بيانات في هذه الفترة.</translation>
+    </message>
+    <message>
+        <source>In all: %1</source>
+        <translation>الإجمالي: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DhcpClient</name>
+    <message>
+        <source>There is no such network interface.</source>
+        <translation>لا توجد واجهة شبكة كهذه.</translation>
+    </message>
+    <message>
+        <source>There is no DHCP client. Please install isc-dhcp-client.</source>
+        <translation>لا يوجد عميل DHCP. يرجى تثبيت isc-dhcp-client.</translation>
+    </message>
+    <message>
+        <source>The network gave no address.</source>
+        <translation>لم تمنح الشبكة عنوانًا.</translation>
     </message>
 </context>
 <context>
@@ -956,10 +2066,67 @@
     </message>
 </context>
 <context>
+    <name>corva::DialUpLink</name>
+    <message>
+        <source>Connection is failed!</source>
+        <translation>فشل الاتصال!</translation>
+    </message>
+    <message>
+        <source>Fail to connect! exit code is</source>
+        <translation>فشل الاتصال! رمز الخروج هو</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DialWork</name>
+    <message>
+        <source>You may not use this card&apos;s data port.</source>
+        <translation>لا يُسمح لك باستخدام منفذ البيانات في هذه البطاقة.</translation>
+    </message>
+    <message>
+        <source>The network interface does not belong to the card.</source>
+        <translation>واجهة الشبكة لا تخص البطاقة.</translation>
+    </message>
+    <message>
+        <source>The network interface has no address from here.</source>
+        <translation>لم تحصل واجهة الشبكة على عنوانها من هنا.</translation>
+    </message>
+    <message>
+        <source>The DNS is invalid !</source>
+        <translation>خادم DNS غير صالح.</translation>
+    </message>
+    <message>
+        <source>The dialler could not be started.</source>
+        <translation>تعذّر بدء برنامج الطلب.</translation>
+    </message>
+    <message>
+        <source>The dialler is running already.</source>
+        <translation>برنامج الطلب قيد العمل بالفعل.</translation>
+    </message>
+    <message>
+        <source>The connection was cancelled.</source>
+        <translation>أُلغي الاتصال.</translation>
+    </message>
+    <message>
+        <source>The route helper is not run: others may write it.</source>
+        <translation>لن يُشغَّل مساعد المسار: يمكن لآخرين الكتابة فيه.</translation>
+    </message>
+</context>
+<context>
     <name>corva::FactRow</name>
     <message>
         <source>Copy %1</source>
         <translation>نسخ %1</translation>
+    </message>
+</context>
+<context>
+    <name>corva::FormField</name>
+    <message>
+        <source>Show the password</source>
+        <translation>إظهار كلمة المرور</translation>
+    </message>
+    <message>
+        <source>Hide the password</source>
+        <translation>إخفاء كلمة المرور</translation>
     </message>
 </context>
 <context>
@@ -1011,6 +2178,131 @@
     <message>
         <source>General</source>
         <translation>عام</translation>
+    </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>البحث عن الت&amp;حديثات</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HelperBackend</name>
+    <message>
+        <source>Connecting needs an administrator&apos;s rights, and the program &quot;pkexec&quot;, which asks for them, is missing. Please install it.</source>
+        <translation>يتطلب الاتصال صلاحيات المدير، والبرنامج ‪&quot;pkexec&quot;‬ الذي يطلبها غير موجود. يرجى تثبيته.</translation>
+    </message>
+    <message>
+        <source>The program that dials has ended unexpectedly. Please try again.</source>
+        <translation>انتهى برنامج الاتصال المساعد فجأة. حاول من جديد.</translation>
+    </message>
+    <message>
+        <source>The right to connect was not given. Please connect again and enter the password.</source>
+        <translation>لم تُمنح صلاحية الاتصال. اتصل من جديد وأدخل كلمة المرور.</translation>
+    </message>
+    <message>
+        <source>The right to connect could not be asked for. Ask an administrator to run &quot;tools/install-dialhelper&quot;, or start Corva in a desktop session.</source>
+        <translation>تعذّر طلب صلاحية الاتصال. اطلب من المدير تشغيل ‪&quot;tools/install-dialhelper&quot;‬، أو شغّل Corva في جلسة سطح مكتب.</translation>
+    </message>
+    <message>
+        <source>The program that dials could not be started. Ask an administrator to run &quot;tools/install-dialhelper&quot;.</source>
+        <translation>تعذّر بدء برنامج الاتصال المساعد. اطلب من المدير تشغيل ‪&quot;tools/install-dialhelper&quot;‬.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HistoryModel</name>
+    <message>
+        <source>Yes</source>
+        <translation>نعم</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>البداية</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>المدة</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>ملف التعريف</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>المستقبَل</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>المرسَل</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>التجوال</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>سبب الانتهاء</translation>
+    </message>
+    <message>
+        <source>From %1
+to %2</source>
+        <translation>من %1
+إلى %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HistoryTab</name>
+    <message>
+        <source>Delete &amp;all</source>
+        <translation>حذف ال&amp;كل</translation>
+    </message>
+    <message>
+        <source>Search the history</source>
+        <translation>البحث في السجل</translation>
+    </message>
+    <message>
+        <source>Search (%1)</source>
+        <translation>بحث (%1)</translation>
+    </message>
+    <message>
+        <source>Connections that are over</source>
+        <translation>الاتصالات المنتهية</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Delete %n entries</source>
+        <translation>
+            <numerusform>&amp;حذف المدخلات</numerusform>
+            <numerusform>&amp;حذف مدخل واحد</numerusform>
+            <numerusform>&amp;حذف مدخلين</numerusform>
+            <numerusform>&amp;حذف %n مدخلات</numerusform>
+            <numerusform>&amp;حذف %n مدخلًا</numerusform>
+            <numerusform>&amp;حذف %n مدخل</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Delete entry</source>
+        <translation>&amp;حذف المدخل</translation>
+    </message>
+    <message>
+        <source>No connection was made yet. Each one is listed here once it is over.</source>
+        <translation>لم يُجرَ أي اتصال بعد. يُدرج كل اتصال هنا بعد انتهائه.</translation>
+    </message>
+    <message>
+        <source>No entry has all of these words.</source>
+        <translation>لا يوجد مدخل يحوي كل هذه الكلمات.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries were deleted.</source>
+        <translation>
+            <numerusform>لم يُحذف أي مدخل.</numerusform>
+            <numerusform>حُذف مدخل واحد.</numerusform>
+            <numerusform>حُذف مدخلان.</numerusform>
+            <numerusform>حُذفت %n مدخلات.</numerusform>
+            <numerusform>حُذف %n مدخلًا.</numerusform>
+            <numerusform>حُذف %n مدخل.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;تراجع</translation>
     </message>
 </context>
 <context>
@@ -1067,6 +2359,29 @@
     </message>
 </context>
 <context>
+    <name>corva::MonthsModel</name>
+    <message>
+        <source>Month</source>
+        <translation>الشهر</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>المستقبَل</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>المرسَل</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>التجوال</translation>
+    </message>
+    <message>
+        <source>In all</source>
+        <translation>الإجمالي</translation>
+    </message>
+</context>
+<context>
     <name>corva::Navigation</name>
     <message>
         <source>Pages</source>
@@ -1082,6 +2397,13 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::NetworkCardLink</name>
+    <message>
+        <source>Connection is failed!</source>
+        <translation>فشل الاتصال!</translation>
     </message>
 </context>
 <context>
@@ -1103,16 +2425,183 @@
         <translation>لماذا لا يوجد اتصال؟</translation>
     </message>
     <message>
-        <source>Everything from the socket to the network is in order.</source>
-        <translation>كل شيء سليم، من المقبس إلى الشبكة.</translation>
-    </message>
-    <message>
         <source>Nothing is wrong so far; the card is at it.</source>
         <translation>لا مشكلة حتى الآن؛ البطاقة ماضية في عملها.</translation>
     </message>
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>إحدى الخطوات غير سليمة. بعد إصلاحها تتبعها الخطوات التالية تلقائيًا.</translation>
+    </message>
+    <message>
+        <source>Everything from the socket to the internet is in order.</source>
+        <translation>كل شيء سليم، من المقبس إلى الإنترنت.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::OverviewTab</name>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>What the graph shows</source>
+        <translation>ما يعرضه الرسم البياني</translation>
+    </message>
+    <message>
+        <source>The last minute</source>
+        <translation>الدقيقة الأخيرة</translation>
+    </message>
+    <message>
+        <source>The last 10 minutes</source>
+        <translation>آخر 10 دقائق</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>This connection, %1</source>
+        <translation>هذا الاتصال، %1</translation>
+    </message>
+    <message>
+        <source>Last connection, %1</source>
+        <translation>الاتصال الأخير، %1</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>الاتصال</translation>
+    </message>
+    <message>
+        <source>None was made yet.</source>
+        <translation>لم يُجرَ أي اتصال بعد.</translation>
+    </message>
+    <message>
+        <source>Days and months are not counted: the configuration turns it off.</source>
+        <translation>لا تُحسب الأيام والأشهر: أُوقف ذلك في ملف الإعداد.</translation>
+    </message>
+    <message>
+        <source>%1 Say in the settings, Traffic, what volume you have, to be warned in time.</source>
+        <translation>%1 حدّد حصتك في الإعدادات ضمن &quot;حركة البيانات&quot; لتُحذَّر في الوقت المناسب.</translation>
+    </message>
+    <message>
+        <source>Down %1 (filled), up %2 (dashed)</source>
+        <translation>تنزيل %1 (مملوء)، رفع %2 (متقطع)</translation>
+    </message>
+    <message>
+        <source>The graph runs while a connection is up.</source>
+        <translation>يعمل الرسم البياني أثناء قيام الاتصال.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ProfileList</name>
+    <message>
+        <source>access point from the network</source>
+        <translation>نقطة الوصول من الشبكة</translation>
+    </message>
+    <message>
+        <source>%1, connects with it</source>
+        <translation>%1، يُستخدم للاتصال</translation>
+    </message>
+    <message>
+        <source>No profile yet</source>
+        <translation>لا يوجد ملف تعريف بعد</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>إ&amp;ضافة</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>ت&amp;حرير</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>ح&amp;ذف</translation>
+    </message>
+    <message>
+        <source>Make de&amp;fault</source>
+        <translation>جعله الا&amp;فتراضي</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>ملفات التعريف</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Add a profile</source>
+        <translation>إضافة ملف تعريف</translation>
+    </message>
+    <message>
+        <source>Connect with this profile from now on</source>
+        <translation>استخدام ملف التعريف هذا للاتصال من الآن فصاعدًا</translation>
+    </message>
+    <message>
+        <source>Vi&amp;ew</source>
+        <translation>&amp;عرض</translation>
+    </message>
+    <message>
+        <source>Delete the profile &quot;%1&quot;?</source>
+        <translation>أتريد حذف ملف التعريف &quot;%1&quot;؟</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>ح&amp;ذف</translation>
+    </message>
+    <message>
+        <source>Connects with &quot;%1&quot; from now on.</source>
+        <translation>سيُستخدم &quot;%1&quot; للاتصال من الآن فصاعدًا.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ProfileStore</name>
+    <message>
+        <source>There is a profile with this name already.</source>
+        <translation>يوجد ملف تعريف بهذا الاسم من قبل.</translation>
+    </message>
+    <message>
+        <source>There is no profile with this name.</source>
+        <translation>لا يوجد ملف تعريف بهذا الاسم.</translation>
+    </message>
+    <message>
+        <source>This profile may not be changed.</source>
+        <translation>لا يُسمح بتغيير ملف التعريف هذا.</translation>
+    </message>
+    <message>
+        <source>This profile may not be deleted.</source>
+        <translation>لا يُسمح بحذف ملف التعريف هذا.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::RateGraph</name>
+    <message>
+        <source>Graph of the rates</source>
+        <translation>رسم بياني للسرعات</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 ث</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 د</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>الآن</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/ث</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>تعذّر حفظ الإعداد: %1</translation>
     </message>
 </context>
 <context>
@@ -1155,6 +2644,21 @@
         <source>  ·  </source>
         <comment>between facts</comment>
         <translation>  ·  </translation>
+    </message>
+</context>
+<context>
+    <name>corva::StatisticsStore</name>
+    <message>
+        <source>%1 could not be read in full.</source>
+        <translation>تعذّرت قراءة %1 بالكامل.</translation>
+    </message>
+    <message>
+        <source>%1 could not be read in full. What stood in it is kept as %2.</source>
+        <translation>تعذّرت قراءة %1 بالكامل. حُفظ ما كان فيه باسم %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be removed: %2</source>
+        <translation>تعذّرت إزالة %1: %2</translation>
     </message>
 </context>
 <context>
@@ -1249,6 +2753,151 @@
     </message>
 </context>
 <context>
+    <name>corva::TrafficPage</name>
+    <message>
+        <source>E&amp;xport as CSV…</source>
+        <translation>ت&amp;صدير بصيغة CSV…</translation>
+    </message>
+    <message>
+        <source>Writes the history to a file that spreadsheets read</source>
+        <translation>يكتب السجل في ملف تقرؤه برامج الجداول</translation>
+    </message>
+    <message>
+        <source>Writes days and months to a file that spreadsheets read</source>
+        <translation>يكتب الأيام والأشهر في ملف تقرؤه برامج الجداول</translation>
+    </message>
+    <message>
+        <source>&amp;Overview</source>
+        <translation>&amp;نظرة عامة</translation>
+    </message>
+    <message>
+        <source>Da&amp;ys</source>
+        <translation>الأ&amp;يام</translation>
+    </message>
+    <message>
+        <source>&amp;Months</source>
+        <translation>الأ&amp;شهر</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>ال&amp;سجل</translation>
+    </message>
+    <message>
+        <source>Volume of each month</source>
+        <translation>حجم البيانات في كل شهر</translation>
+    </message>
+    <message>
+        <source>Export the history</source>
+        <translation>تصدير السجل</translation>
+    </message>
+    <message>
+        <source>Export days and months</source>
+        <translation>تصدير الأيام والأشهر</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>جداول CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>كُتب في %1.</translation>
+    </message>
+    <message>
+        <source>The table could not be written: %1</source>
+        <translation>تعذّرت كتابة الجدول: %1</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>حركة البيانات</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TrafficService</name>
+    <message>
+        <source>%1 The connection is ended, as you set it in the settings, Traffic.</source>
+        <translation>%1 أُنهي الاتصال كما حدّدت في الإعدادات ضمن &quot;حركة البيانات&quot;.</translation>
+    </message>
+    <message>
+        <source>Your volume of %1 until %2 is used up.</source>
+        <translation>نفدت حصتك البالغة %1 حتى %2.</translation>
+    </message>
+    <message>
+        <source>Your volume of %1 for roaming until %2 is used up.</source>
+        <translation>نفدت حصة التجوال البالغة %1 حتى %2.</translation>
+    </message>
+    <message>
+        <source>%1 % of your volume of %2 until %3 are used up.</source>
+        <translation>استُهلك %1% من حصتك البالغة %2 حتى %3.</translation>
+    </message>
+    <message>
+        <source>%1 % of your volume of %2 for roaming until %3 are used up.</source>
+        <translation>استُهلك %1% من حصة التجوال البالغة %2 حتى %3.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TrafficSettingsPage</name>
+    <message>
+        <source>Your volume</source>
+        <translation>حصتك من البيانات</translation>
+    </message>
+    <message>
+        <source>&amp;Volume of a month</source>
+        <translation>&amp;حصة الشهر</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>بلا حد</translation>
+    </message>
+    <message>
+        <source>While &amp;roaming</source>
+        <translation>أثناء ال&amp;تجوال</translation>
+    </message>
+    <message>
+        <source>Counts with it</source>
+        <translation>ضمن حصة الشهر</translation>
+    </message>
+    <message>
+        <source>It begins anew on &amp;day</source>
+        <translation>تبدأ من جديد في ال&amp;يوم</translation>
+    </message>
+    <message>
+        <source>When it runs out</source>
+        <translation>عند نفاد الحصة</translation>
+    </message>
+    <message>
+        <source>&amp;Warn at</source>
+        <translation>التحذير &amp;عند</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation>الوحدة: %1</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>م.ب</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>غ.ب</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>أبدًا</translation>
+    </message>
+    <message>
+        <source>&amp;End the connection when the volume is used up</source>
+        <translation>إ&amp;نهاء الاتصال عند نفاد الحصة</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>حركة البيانات</translation>
+    </message>
+</context>
+<context>
     <name>corva::TrayIcon</name>
     <message>
         <source>&amp;Why am I offline?</source>
@@ -1269,6 +2918,45 @@
     <message>
         <source>&amp;Show the window</source>
         <translation>إ&amp;ظهار النافذة</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>&amp;قطع الاتصال</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel connecting</source>
+        <translation>إلغاء محا&amp;ولة الاتصال</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>ا&amp;تصال</translation>
+    </message>
+</context>
+<context>
+    <name>corva::WirelessWindow</name>
+    <message>
+        <source>Plug the card in to connect.</source>
+        <translation>أدخل البطاقة للاتصال.</translation>
+    </message>
+    <message>
+        <source>Connect goes by the profile &quot;%1&quot;.</source>
+        <translation>يستخدم الاتصال ملف التعريف &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>The settings of %1 are known: just connect.</source>
+        <translation>إعدادات %1 معروفة: اضغط &quot;اتصال&quot; فقط.</translation>
+    </message>
+    <message>
+        <source>The settings for this SIM card are known: connect, and say whose it is.</source>
+        <translation>إعدادات شريحة SIM هذه معروفة: اضغط &quot;اتصال&quot; وحدّد مشغّلها.</translation>
+    </message>
+    <message>
+        <source>Add a profile with the access point that your operator has told you.</source>
+        <translation>أضف ملف تعريف بنقطة الوصول التي أخبرك بها المشغّل.</translation>
+    </message>
+    <message>
+        <source>Internet</source>
+        <translation>الإنترنت</translation>
     </message>
 </context>
 </TS>

@@ -11,4 +11,21 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>corva::HistoryTab</name>
+    <message numerus="yes">
+        <source>&amp;Delete %n entries</source>
+        <translation>
+            <numerusform>&amp;Delete %n entry</numerusform>
+            <numerusform>&amp;Delete %n entries</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries were deleted.</source>
+        <translation>
+            <numerusform>%n entry was deleted.</numerusform>
+            <numerusform>%n entries were deleted.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -89,6 +89,246 @@
     </message>
 </context>
 <context>
+    <name>ConnectionDiagnosis</name>
+    <message>
+        <source>No profile is chosen</source>
+        <translation>No se ha elegido ningún perfil</translation>
+    </message>
+    <message>
+        <source>A profile says how to reach the internet through your operator. Those of most operators are known; choose one, or add your own.</source>
+        <translation>Un perfil indica cómo llegar a internet a través de su operador. Los de la mayoría de los operadores ya se conocen; elija uno o añada el suyo.</translation>
+    </message>
+    <message>
+        <source>The network chooses it</source>
+        <translation>Lo elige la red</translation>
+    </message>
+    <message>
+        <source>The profile names no access point</source>
+        <translation>El perfil no indica ningún punto de acceso</translation>
+    </message>
+    <message>
+        <source>Your operator can tell you its name (APN). Enter it in the profile.</source>
+        <translation>Su operador puede decirle el nombre (APN). Introdúzcalo en el perfil.</translation>
+    </message>
+    <message>
+        <source>User name or password refused</source>
+        <translation>Nombre de usuario o contraseña rechazados</translation>
+    </message>
+    <message>
+        <source>The call was not taken</source>
+        <translation>La llamada no fue atendida</translation>
+    </message>
+    <message>
+        <source>The line was busy</source>
+        <translation>La línea estaba ocupada</translation>
+    </message>
+    <message>
+        <source>No link within the time</source>
+        <translation>No hubo enlace dentro del plazo</translation>
+    </message>
+    <message>
+        <source>The dialler failed</source>
+        <translation>El marcador falló</translation>
+    </message>
+    <message>
+        <source>System files cannot be changed</source>
+        <translation>No se pueden modificar los archivos del sistema</translation>
+    </message>
+    <message>
+        <source>No right to dial</source>
+        <translation>Sin permiso para marcar</translation>
+    </message>
+    <message>
+        <source>The network ended the connection</source>
+        <translation>La red finalizó la conexión</translation>
+    </message>
+    <message>
+        <source>The connection broke off</source>
+        <translation>La conexión se cortó</translation>
+    </message>
+    <message>
+        <source>The card was taken out</source>
+        <translation>Se retiró la tarjeta</translation>
+    </message>
+    <message>
+        <source>Ended because nothing was carried</source>
+        <translation>Finalizada por falta de tráfico</translation>
+    </message>
+    <message>
+        <source>The month&apos;s volume is used up</source>
+        <translation>El volumen del mes está agotado</translation>
+    </message>
+    <message>
+        <source>The connection is up</source>
+        <translation>La conexión está establecida</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Conectando</translation>
+    </message>
+    <message>
+        <source>This takes a few seconds.</source>
+        <translation>Tarda unos segundos.</translation>
+    </message>
+    <message>
+        <source>Disconnecting</source>
+        <translation>Desconectando</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>No conectado</translation>
+    </message>
+    <message>
+        <source>The card is in the network, and everything is there to connect.</source>
+        <translation>La tarjeta está en la red y todo está listo para conectar.</translation>
+    </message>
+    <message>
+        <source>The network gave no address</source>
+        <translation>La red no dio ninguna dirección</translation>
+    </message>
+    <message>
+        <source>Disconnect and connect again. If that does not help, the access point of the profile may be the wrong one.</source>
+        <translation>Desconecte y vuelva a conectar. Si no sirve, puede que el punto de acceso del perfil no sea el correcto.</translation>
+    </message>
+    <message>
+        <source>No name servers</source>
+        <translation>Sin servidores de nombres</translation>
+    </message>
+    <message>
+        <source>Without them names of web sites cannot be found. Enter some in the profile, then disconnect and connect again.</source>
+        <translation>Sin ellos no se encuentran los nombres de los sitios web. Introduzca algunos en el perfil, desconecte y vuelva a conectar.</translation>
+    </message>
+    <message>
+        <source>Another connection carries the traffic</source>
+        <translation>Otra conexión lleva el tráfico</translation>
+    </message>
+    <message>
+        <source>This computer goes through a cable, Wi-Fi or another way first. Switch that off, then disconnect and connect again here.</source>
+        <translation>Este equipo usa antes un cable, una red Wi-Fi u otra vía. Desactívela, desconecte aquí y vuelva a conectar.</translation>
+    </message>
+    <message>
+        <source>The traffic goes through the card</source>
+        <translation>El tráfico pasa por la tarjeta</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>Access point</source>
+        <translation>Punto de acceso</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Conexión</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>Dirección IP</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>Servidores de nombres</translation>
+    </message>
+    <message>
+        <source>Route</source>
+        <translation>Ruta</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionTexts</name>
+    <message>
+        <source>With &quot;%1&quot;, since %2.</source>
+        <translation>Con «%1», inicio: %2.</translation>
+    </message>
+    <message>
+        <source>With &quot;%1&quot;, attempt %2 of %3.</source>
+        <translation>Con «%1», intento %2 de %3.</translation>
+    </message>
+    <message>
+        <source>With &quot;%1&quot;.</source>
+        <translation>Con «%1».</translation>
+    </message>
+    <message>
+        <source>%1 Attempt %2 of %3 follows.</source>
+        <translation>%1 Sigue el intento %2 de %3.</translation>
+    </message>
+</context>
+<context>
+    <name>DiallerFiles</name>
+    <message>
+        <source>Save wvdial config data failed!</source>
+        <translation>No se pudo guardar la configuración de wvdial.</translation>
+    </message>
+    <message>
+        <source>Read default wvdial config data failed!</source>
+        <translation>No se pudo leer la configuración predeterminada de wvdial.</translation>
+    </message>
+    <message>
+        <source>open file operation error!</source>
+        <translation>No se pudo abrir el archivo.</translation>
+    </message>
+    <message>
+        <source>Recover wvdial config data failed!</source>
+        <translation>No se pudo restaurar la configuración de wvdial.</translation>
+    </message>
+    <message>
+        <source>The DNS is invalid !</source>
+        <translation>El DNS no es válido.</translation>
+    </message>
+</context>
+<context>
+    <name>EndSentence</name>
+    <message>
+        <source>The network refused the user name and the password.</source>
+        <translation>La red rechazó el nombre de usuario y la contraseña.</translation>
+    </message>
+    <message>
+        <source>The network did not take the call.</source>
+        <translation>La red no aceptó la llamada.</translation>
+    </message>
+    <message>
+        <source>The line is busy. Please try again later.</source>
+        <translation>La línea está ocupada. Inténtelo más tarde.</translation>
+    </message>
+    <message>
+        <source>The network did not answer in time.</source>
+        <translation>La red no respondió a tiempo.</translation>
+    </message>
+    <message>
+        <source>The dialler ended before it was done.</source>
+        <translation>El marcador terminó antes de completar la conexión.</translation>
+    </message>
+    <message>
+        <source>The files for the dialler could not be written.</source>
+        <translation>No se pudieron escribir los archivos del marcador.</translation>
+    </message>
+    <message>
+        <source>The right to connect was not given.</source>
+        <translation>No se concedió el permiso para conectar.</translation>
+    </message>
+    <message>
+        <source>The network ended the connection.</source>
+        <translation>La red terminó la conexión.</translation>
+    </message>
+    <message>
+        <source>The network does not answer any more.</source>
+        <translation>La red ya no responde.</translation>
+    </message>
+    <message>
+        <source>The card was pulled out.</source>
+        <translation>Se retiró la tarjeta.</translation>
+    </message>
+    <message>
+        <source>The connection was ended because nothing was carried.</source>
+        <translation>La conexión terminó porque no se transmitía nada.</translation>
+    </message>
+    <message>
+        <source>The connection was ended because the volume is used up.</source>
+        <translation>La conexión terminó porque se agotó el volumen de datos.</translation>
+    </message>
+</context>
+<context>
     <name>FrmDisclaimer</name>
     <message>
         <source>Before you begin</source>
@@ -113,6 +353,49 @@
     <message>
         <source>&amp;Decline and quit</source>
         <translation>&amp;Rechazar y salir</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryEnd</name>
+    <message>
+        <source>By you</source>
+        <translation>Por usted</translation>
+    </message>
+    <message>
+        <source>By the network</source>
+        <translation>Por la red</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Sin respuesta</translation>
+    </message>
+    <message>
+        <source>Dialler stopped</source>
+        <translation>Marcador detenido</translation>
+    </message>
+    <message>
+        <source>Card removed</source>
+        <translation>Tarjeta retirada</translation>
+    </message>
+    <message>
+        <source>Nothing carried</source>
+        <translation>Sin tráfico</translation>
+    </message>
+    <message>
+        <source>Volume used up</source>
+        <translation>Volumen agotado</translation>
+    </message>
+    <message>
+        <source>Program closed</source>
+        <translation>Programa cerrado</translation>
+    </message>
+    <message>
+        <source>Unexpectedly</source>
+        <translation>Inesperadamente</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>No se sabe</translation>
     </message>
 </context>
 <context>
@@ -514,6 +797,38 @@
         <source>&amp;Ask again</source>
         <translation>&amp;Consultar de nuevo</translation>
     </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>Co&amp;nectar</translation>
+    </message>
+    <message>
+        <source>&amp;Choose profile</source>
+        <translation>E&amp;legir perfil</translation>
+    </message>
+    <message>
+        <source>&amp;Edit profile</source>
+        <translation>&amp;Editar perfil</translation>
+    </message>
+    <message>
+        <source>The settings name a port</source>
+        <translation>La configuración indica un puerto</translation>
+    </message>
+    <message>
+        <source>The port does not exist</source>
+        <translation>El puerto no existe</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which does not exist. Plug the card in; if it is plugged in, correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>La configuración indica el puerto %1, que no existe. Conecte la tarjeta; si ya está conectada, corrija «at_port» en el archivo Data/common-config.xml y vuelva a iniciar el programa.</translation>
+    </message>
+    <message>
+        <source>The port is no serial port</source>
+        <translation>El puerto no es un puerto serie</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which is no serial port. Correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>La configuración indica el puerto %1, que no es un puerto serie. Corrija «at_port» en el archivo Data/common-config.xml y vuelva a iniciar el programa.</translation>
+    </message>
 </context>
 <context>
     <name>PortAccess</name>
@@ -554,6 +869,167 @@
     </message>
 </context>
 <context>
+    <name>PppErrors</name>
+    <message>
+        <source>Pppd  has  detached,  or  otherwise  the  connection was successfully established and terminated at the peer&apos;s request.</source>
+        <translation>Pppd se ha separado de la terminal, o bien la conexión se estableció correctamente y terminó a petición del otro extremo.</translation>
+    </message>
+    <message>
+        <source>An immediately fatal error of some kind occurred, such as an essential system call failing, or running out  of virtual memory.</source>
+        <translation>Se produjo un error grave inmediato, como el fallo de una llamada esencial al sistema o la falta de memoria virtual.</translation>
+    </message>
+    <message>
+        <source>An error was detected in processing the options given, such as two mutually exclusive options being used.</source>
+        <translation>Se detectó un error al procesar las opciones indicadas, como el uso de dos opciones incompatibles entre sí.</translation>
+    </message>
+    <message>
+        <source>Pppd is not setuid-root and the invoking user is not root.</source>
+        <translation>Pppd no tiene setuid-root y el usuario que lo ejecuta no es root.</translation>
+    </message>
+    <message>
+        <source>The kernel does not support PPP, for example, the PPP kernel driver is not included or cannot be loaded.</source>
+        <translation>El núcleo no admite PPP; por ejemplo, el controlador PPP del núcleo no está incluido o no se puede cargar.</translation>
+    </message>
+    <message>
+        <source>Pppd terminated because it was sent a SIGINT, SIGTERM or SIGHUP signal.</source>
+        <translation>Pppd terminó porque recibió una señal SIGINT, SIGTERM o SIGHUP.</translation>
+    </message>
+    <message>
+        <source>The serial port could not be locked.</source>
+        <translation>No se pudo bloquear el puerto serie.</translation>
+    </message>
+    <message>
+        <source>The serial port could not be opened.</source>
+        <translation>No se pudo abrir el puerto serie.</translation>
+    </message>
+    <message>
+        <source>The connect script failed (returned a non-zero exit status).</source>
+        <translation>El script de conexión falló (devolvió un estado de salida distinto de cero).</translation>
+    </message>
+    <message>
+        <source>The command specified as the argument to the pty option could not be run.</source>
+        <translation>No se pudo ejecutar el comando indicado como argumento de la opción pty.</translation>
+    </message>
+    <message>
+        <source>The  PPP  negotiation failed, that is, it didn&apos;t reach the point where at least one network protocol (e.g. IP) was running.</source>
+        <translation>La negociación PPP falló, es decir, no llegó al punto en que funcionara al menos un protocolo de red (p. ej., IP).</translation>
+    </message>
+    <message>
+        <source>The peer system failed (or refused) to authenticate itself.</source>
+        <translation>El otro extremo no pudo autenticarse (o se negó a hacerlo).</translation>
+    </message>
+    <message>
+        <source>The link was established successfully and terminated because it was idle.</source>
+        <translation>El enlace se estableció correctamente y terminó por inactividad.</translation>
+    </message>
+    <message>
+        <source>The link was established successfully and terminated because the connect time limit was reached.</source>
+        <translation>El enlace se estableció correctamente y terminó porque se alcanzó el límite de tiempo de conexión.</translation>
+    </message>
+    <message>
+        <source>Callback was negotiated and an incoming call should arrive shortly.</source>
+        <translation>Se negoció la devolución de llamada; en breve debería llegar una llamada entrante.</translation>
+    </message>
+    <message>
+        <source>The link was terminated because the peer is not responding to echo requests.</source>
+        <translation>El enlace terminó porque el otro extremo no responde a las solicitudes de eco.</translation>
+    </message>
+    <message>
+        <source>The link was terminated by the modem hanging up.</source>
+        <translation>El enlace terminó porque el módem colgó.</translation>
+    </message>
+    <message>
+        <source>The PPP negotiation failed because serial loopback was detected.</source>
+        <translation>La negociación PPP falló porque se detectó un bucle en la línea serie.</translation>
+    </message>
+    <message>
+        <source>The init script failed (returned a non-zero exit status).</source>
+        <translation>El script de inicio falló (devolvió un estado de salida distinto de cero).</translation>
+    </message>
+    <message>
+        <source>We failed to authenticate ourselves to the peer.</source>
+        <translation>No pudimos autenticarnos ante el otro extremo.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileChecks</name>
+    <message>
+        <source>The dial number may hold letters, digits and * # + , . - ( ), 80 at most.</source>
+        <translation>El número de marcación puede contener letras, dígitos y * # + , . - ( ), 80 como máximo.</translation>
+    </message>
+    <message>
+        <source>The user name must not hold quotes, backslashes, a brace at its beginning or blanks at its ends, not be a single asterisk, and be 255 bytes long at most.</source>
+        <translation>El nombre de usuario no debe contener comillas ni barras inversas, empezar por una llave, tener espacios en los extremos ni ser un solo asterisco, y puede tener 255 bytes como máximo.</translation>
+    </message>
+    <message>
+        <source>The password must not hold quotes, backslashes, a brace or &quot;@/&quot; at its beginning or blanks at its ends, and be 255 bytes long at most.</source>
+        <translation>La contraseña no debe contener comillas ni barras inversas, empezar por una llave o por «@/» ni tener espacios en los extremos, y puede tener 255 bytes como máximo.</translation>
+    </message>
+    <message>
+        <source>The name of the profile is too long.</source>
+        <translation>El nombre del perfil es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>The APN may hold letters, digits and . - _ @ : /, 100 at most.</source>
+        <translation>El APN puede contener letras, dígitos y . - _ @ : /, 100 como máximo.</translation>
+    </message>
+    <message>
+        <source>The address mode may hold letters and digits only.</source>
+        <translation>El modo de dirección solo puede contener letras y dígitos.</translation>
+    </message>
+    <message>
+        <source>The beginning of the IMSI may hold 15 digits at most.</source>
+        <translation>El comienzo del IMSI puede tener 15 dígitos como máximo.</translation>
+    </message>
+    <message>
+        <source>The page to open must be an address of the web.</source>
+        <translation>La página que se abre debe ser una dirección web.</translation>
+    </message>
+    <message>
+        <source>A value holds a line break or another control character, or the text &quot;-|-&quot;.</source>
+        <translation>Un valor contiene un salto de línea u otro carácter de control, o el texto «-|-».</translation>
+    </message>
+    <message>
+        <source>The Config Filename must be filled.</source>
+        <translation>Debe indicar el nombre del perfil.</translation>
+    </message>
+    <message>
+        <source>The Dial Number is empty!</source>
+        <translation>Falta el número de marcación.</translation>
+    </message>
+    <message>
+        <source>The APN is empty!</source>
+        <translation>Falta el APN.</translation>
+    </message>
+    <message>
+        <source>Invalid PDP!Please check it!</source>
+        <translation>El PDP no es válido. Compruébelo.</translation>
+    </message>
+    <message>
+        <source>Invalid Preferred DNS!Please check it!</source>
+        <translation>El DNS preferido no es válido. Compruébelo.</translation>
+    </message>
+    <message>
+        <source>Invalid Alternative DNS!Please check it!</source>
+        <translation>El DNS alternativo no es válido. Compruébelo.</translation>
+    </message>
+    <message>
+        <source>The card&apos;s data port has a name that cannot be used.</source>
+        <translation>El puerto de datos de la tarjeta tiene un nombre que no se puede usar.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileStore</name>
+    <message>
+        <source>The profiles in %1 cannot be read.</source>
+        <translation>No se pueden leer los perfiles de %1.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read, and cannot be kept beside.</source>
+        <translation>No se puede leer %1, ni conservarlo aparte.</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -591,12 +1067,97 @@
         <source>%1 is a ring of links</source>
         <translation>%1 es un bucle de enlaces</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>No se puede conservar el archivo de configuración dañado</translation>
+    </message>
+    <message>
+        <source>The rights of %1 cannot be set</source>
+        <translation>No se pueden establecer los permisos de %1</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>No se pudo leer la configuración, así que el programa empezó sin nada configurado. El archivo ilegible se conservó como:
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>No se puede guardar la configuración: %1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
         <translation>No se pueden leer los colores de «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>Traffic</name>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>A day without its year, as QDate::toString takes it</extracomment>
+        <translation>d &apos;de&apos; MMMM</translation>
+    </message>
+    <message>
+        <source>MMMM yyyy</source>
+        <extracomment>A month with its year, as QDate::toString takes it</extracomment>
+        <translation>MMMM &apos;de&apos; yyyy</translation>
+    </message>
+    <message>
+        <source>Yesterday, %1</source>
+        <translation>Ayer, %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>TrafficSentences</name>
+    <message>
+        <source>%1 received, %2 sent</source>
+        <translation>%1 recibidos, %2 enviados</translation>
+    </message>
+    <message>
+        <source>%1; %2 of it roaming</source>
+        <translation>%1; de ello, %2 en itinerancia</translation>
+    </message>
+    <message>
+        <source>%1 of %2 used (%3&#xa0;%)</source>
+        <translation>%1 de %2 consumidos (%3 %)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 roaming (%3&#xa0;%)</source>
+        <translation>%1 de %2 en itinerancia (%3 %)</translation>
+    </message>
+    <message>
+        <source>Too few days are known to say what it will be by %1.</source>
+        <translation>Se conocen muy pocos días para calcular cuánto será hasta el %1.</translation>
+    </message>
+    <message>
+        <source>The volume is used up. A new one begins on %1.</source>
+        <translation>El volumen está agotado. El %1 empieza uno nuevo.</translation>
+    </message>
+    <message>
+        <source>As it goes, it will be about %1 by %2.</source>
+        <translation>A este ritmo, serán unos %1 hasta el %2.</translation>
+    </message>
+    <message>
+        <source>As it goes, the volume will be used up on %1; by %2 it would be about %3.</source>
+        <translation>A este ritmo, el volumen se agotará el %1; hasta el %2 serían unos %3.</translation>
+    </message>
+    <message>
+        <source>As it goes, it will be about %1 by %2: the volume is enough.</source>
+        <translation>A este ritmo, serán unos %1 hasta el %2: el volumen es suficiente.</translation>
     </message>
 </context>
 <context>
@@ -630,12 +1191,43 @@
         <translation>Acerca &amp;de %1</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Cerrar</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>C&amp;onectar</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>Ce&amp;rrar</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>D&amp;esconectar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel connecting</source>
+        <translation>Cance&amp;lar la conexión</translation>
+    </message>
+    <message>
+        <source>Disconnect and quit?</source>
+        <translation>¿Desconectar y salir?</translation>
+    </message>
+    <message>
+        <source>Disconnect and &amp;quit</source>
+        <translation>Desconectar y sal&amp;ir</translation>
+    </message>
+</context>
+<context>
+    <name>WvdialProcess</name>
+    <message>
+        <source>The dialler is running already.</source>
+        <translation>El marcador ya está en marcha.</translation>
+    </message>
+    <message>
+        <source>The program wvdial is missing. Please install it.</source>
+        <translation>Falta el programa wvdial. Instálelo.</translation>
     </message>
 </context>
 <context>
@@ -924,8 +1516,526 @@
         <translation>No se puede leer la tarjeta SIM. Sáquela y vuelva a insertarla.</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>La tarjeta no respondió. Nada ha cambiado; inténtelo de nuevo.</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>La módem no respondió a tiempo. No se sabe si aceptó lo introducido; los intentos restantes se muestran si la tarjeta los indica.</translation>
+    </message>
+    <message>
+        <source>The SIM card is still starting. Try again in a moment.</source>
+        <translation>La tarjeta SIM todavía se está iniciando. Inténtelo de nuevo en un momento.</translation>
+    </message>
+    <message>
+        <source>The card refused the entry, without saying that it is wrong.</source>
+        <translation>La tarjeta rechazó lo introducido, sin decir que sea incorrecto.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ChoiceDialog</name>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation>%1  ·  %2</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Config</name>
+    <message>
+        <source>New profile</source>
+        <translation>Perfil nuevo</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>Edit profile</source>
+        <translation>Editar perfil</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Profile &amp;name</source>
+        <translation>&amp;Nombre del perfil</translation>
+    </message>
+    <message>
+        <source>&amp;Dial number</source>
+        <translation>Número de &amp;marcación</translation>
+    </message>
+    <message>
+        <source>Connect as a &amp;modem or a network card</source>
+        <translation>Conectar como mó&amp;dem o tarjeta de red</translation>
+    </message>
+    <message>
+        <source>As the card can</source>
+        <translation>Según la tarjeta</translation>
+    </message>
+    <message>
+        <source>Modem (dial-up)</source>
+        <translation>Módem (marcación)</translation>
+    </message>
+    <message>
+        <source>Network card</source>
+        <translation>Tarjeta de red</translation>
+    </message>
+    <message>
+        <source>For S&amp;IMs whose IMSI begins with</source>
+        <translation>Para SIM cuyo IMSI empie&amp;za por</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>cualquiera</translation>
+    </message>
+    <message>
+        <source>Access point (APN)</source>
+        <translation>Punto de acceso (APN)</translation>
+    </message>
+    <message>
+        <source>Access point</source>
+        <translation>Punto de acceso</translation>
+    </message>
+    <message>
+        <source>&amp;This one</source>
+        <translation>&amp;Este</translation>
+    </message>
+    <message>
+        <source>&amp;By the network</source>
+        <translation>El de la &amp;red</translation>
+    </message>
+    <message>
+        <source>Name of the access &amp;point</source>
+        <translation>Nombre del &amp;punto de acceso</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>Autenticación</translation>
+    </message>
+    <message>
+        <source>P&amp;AP</source>
+        <translation>P&amp;AP</translation>
+    </message>
+    <message>
+        <source>C&amp;HAP</source>
+        <translation>C&amp;HAP</translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation>Ningún métod&amp;o</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>Nombre de &amp;usuario</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>Contra&amp;seña</translation>
+    </message>
+    <message>
+        <source>As&amp;k for them when connecting</source>
+        <translation>Pedirlos al conec&amp;tar</translation>
+    </message>
+    <message>
+        <source>Keep them in the profi&amp;le</source>
+        <translation>Guardar&amp;los en el perfil</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>Dirección IP</translation>
+    </message>
+    <message>
+        <source>From the network (d&amp;ynamic)</source>
+        <translation>O&amp;btenida de la red (dinámica)</translation>
+    </message>
+    <message>
+        <source>Fi&amp;xed</source>
+        <translation>&amp;Fija</translation>
+    </message>
+    <message>
+        <source>Fixed add&amp;ress</source>
+        <translation>Dirección fi&amp;ja</translation>
+    </message>
+    <message>
+        <source>Name servers (DNS)</source>
+        <translation>Servidores de nombres (DNS)</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>Servidores de nombres</translation>
+    </message>
+    <message>
+        <source>&amp;From the network</source>
+        <translation>En&amp;viados por la red</translation>
+    </message>
+    <message>
+        <source>Th&amp;ese</source>
+        <translation>Los &amp;que siguen</translation>
+    </message>
+    <message>
+        <source>Preferred (&amp;1)</source>
+        <translation>Preferido (&amp;1)</translation>
+    </message>
+    <message>
+        <source>Alternative (&amp;2)</source>
+        <translation>Alternativo (&amp;2)</translation>
+    </message>
+    <message>
+        <source>Once connected</source>
+        <translation>Una vez conectado</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge to open in the browser</source>
+        <translation>Pág&amp;ina que se abre en el navegador</translation>
+    </message>
+    <message>
+        <source>This profile came with the program and stays as it is.</source>
+        <translation>Este perfil viene con el programa y no se puede modificar.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionFacts</name>
+    <message>
+        <source>This connection</source>
+        <translation>Esta conexión</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Tráfico</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>Dirección IP</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>Puerta de enlace</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>Servidores de nombres</translation>
+    </message>
+    <message>
+        <source>Receiving</source>
+        <translation>Recepción</translation>
+    </message>
+    <message>
+        <source>Sending</source>
+        <translation>Envío</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recibido</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionHead</name>
+    <message>
+        <source>&amp;Why am I offline?</source>
+        <translation>¿&amp;Por qué estoy sin conexión?</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>&amp;Desconectar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>C&amp;onectar</translation>
+    </message>
+    <message>
+        <source>Initializing</source>
+        <translation>Iniciando</translation>
+    </message>
+    <message>
+        <source>Disconnecting</source>
+        <translation>Desconectando</translation>
+    </message>
+    <message>
+        <source>Status: Connected</source>
+        <translation>Estado: conectado</translation>
+    </message>
+    <message>
+        <source>Status: Disconnected</source>
+        <translation>Estado: desconectado</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionService</name>
+    <message>
+        <source>Only UMTS network can connect while calling!</source>
+        <translation>¡Solo una red UMTS permite conectar durante una llamada!</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>El dispositivo se ha desconectado o no está disponible.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t open deault config file!</source>
+        <translation>¡No se puede abrir el archivo del perfil predeterminado!</translation>
+    </message>
+    <message>
+        <source>This card has no network interface. Please choose dial-up in the profile.</source>
+        <translation>Esta tarjeta no tiene interfaz de red. Elija el acceso telefónico en el perfil.</translation>
+    </message>
+    <message>
+        <source>The card has no data port that could be dialled on.</source>
+        <translation>La tarjeta no tiene un puerto de datos por el que marcar.</translation>
+    </message>
+    <message>
+        <source>There is no data transported recently. Auto Disconnect will close your internet link.</source>
+        <translation>No se han transmitido datos recientemente. La desconexión automática cerrará su conexión a internet.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionSettings</name>
+    <message>
+        <source>Automatic connection</source>
+        <translation>Conexión automática</translation>
+    </message>
+    <message>
+        <source>&amp;Connect by itself when the card is ready</source>
+        <translation>&amp;Conectar automáticamente cuando la tarjeta esté lista</translation>
+    </message>
+    <message>
+        <source>&amp;Attempts</source>
+        <translation>&amp;Intentos</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <comment>seconds</comment>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>When a connection breaks off</source>
+        <translation>Cuando se corta una conexión</translation>
+    </message>
+    <message>
+        <source>&amp;Dial again</source>
+        <translation>&amp;Volver a marcar</translation>
+    </message>
+    <message>
+        <source>A&amp;ttempts</source>
+        <translation>In&amp;tentos</translation>
+    </message>
+    <message>
+        <source>&amp;First one after</source>
+        <translation>&amp;Primero tras</translation>
+    </message>
+    <message>
+        <source>Each f&amp;urther one after</source>
+        <translation>Los &amp;siguientes tras</translation>
+    </message>
+    <message>
+        <source>When nothing is carried</source>
+        <translation>Cuando no hay tráfico</translation>
+    </message>
+    <message>
+        <source>D&amp;isconnect</source>
+        <translation>&amp;Desconectar</translation>
+    </message>
+    <message>
+        <source>Aft&amp;er</source>
+        <translation>T&amp;ras</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <comment>minutes</comment>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source>Dialling</source>
+        <translation>Marcación</translation>
+    </message>
+    <message>
+        <source>&amp;Longest wait for a link</source>
+        <translation>&amp;Espera máxima del enlace</translation>
+    </message>
+    <message>
+        <source>E&amp;xplain a failure by the exit status of pppd</source>
+        <translation>Explicar los &amp;fallos con el estado de salida de pppd</translation>
+    </message>
+    <message>
+        <source>&amp;Open the profile&apos;s page once connected</source>
+        <translation>A&amp;brir la página del perfil una vez conectado</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Conexión</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Connector</name>
+    <message>
+        <source>Only UMTS network can connect while calling!</source>
+        <translation>Durante una llamada solo se puede conectar en una red UMTS.</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>El dispositivo se ha desconectado o no está disponible.</translation>
+    </message>
+    <message>
+        <source>You are connecting to a roaming network. Would you like to continue?</source>
+        <translation>Va a conectarse a una red en itinerancia. ¿Desea continuar?</translation>
+    </message>
+    <message>
+        <source>Which access is yours?</source>
+        <translation>¿Cuál es su acceso?</translation>
+    </message>
+    <message>
+        <source>Whose SIM card is it?</source>
+        <translation>¿De quién es la tarjeta SIM?</translation>
+    </message>
+    <message>
+        <source>%1 has several. Choose yours; the choice is kept as a profile.</source>
+        <translation>%1 tiene varios. Elija el suyo; la elección se guarda como perfil.</translation>
+    </message>
+    <message>
+        <source>Several operators share this network. Choose yours; the choice is kept as a profile.</source>
+        <translation>Varios operadores comparten esta red. Elija el suyo; la elección se guarda como perfil.</translation>
+    </message>
+    <message>
+        <source>C&amp;onnect</source>
+        <translation>C&amp;onectar</translation>
+    </message>
+    <message>
+        <source>Which profile?</source>
+        <translation>¿Qué perfil?</translation>
+    </message>
+    <message>
+        <source>It is taken from now on.</source>
+        <translation>Se usará de ahora en adelante.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::CredentialsDialog</name>
+    <message>
+        <source>&amp;User name</source>
+        <translation>Nombre de &amp;usuario</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>Contra&amp;seña</translation>
+    </message>
+    <message>
+        <source>&amp;Keep them and do not ask again</source>
+        <translation>&amp;Guardarlos y no volver a preguntar</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Conectar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>C&amp;onnect</source>
+        <translation>C&amp;onectar</translation>
+    </message>
+    <message>
+        <source>The profile &quot;%1&quot; asks for them at each connection.</source>
+        <translation>El perfil «%1» los pide en cada conexión.</translation>
+    </message>
+    <message>
+        <source>User name and password</source>
+        <translation>Nombre de usuario y contraseña</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DataLink</name>
+    <message>
+        <source>Fail to connect! Link ppp0 wasn&apos;t built !</source>
+        <translation>¡Error al conectar! No se estableció el enlace ppp0.</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>El dispositivo se ha desconectado o no está disponible.</translation>
+    </message>
+    <message>
+        <source>The card did not accept the access point &quot;%1&quot;. Please check the APN of the profile.</source>
+        <translation>La tarjeta no aceptó el punto de acceso «%1». Compruebe el APN del perfil.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DaysChart</name>
+    <message>
+        <source>Volume of each day</source>
+        <translation>Volumen de cada día</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DaysTab</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Earlier period</source>
+        <translation>Periodo anterior</translation>
+    </message>
+    <message>
+        <source>Later period</source>
+        <translation>Periodo siguiente</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing was carried in this period.</source>
+        <translation>No hubo tráfico en este periodo.</translation>
+    </message>
+    <message>
+        <source>In all: %1</source>
+        <translation>En total: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DhcpClient</name>
+    <message>
+        <source>There is no such network interface.</source>
+        <translation>No existe esa interfaz de red.</translation>
+    </message>
+    <message>
+        <source>There is no DHCP client. Please install isc-dhcp-client.</source>
+        <translation>No hay ningún cliente DHCP. Instale isc-dhcp-client.</translation>
+    </message>
+    <message>
+        <source>The network gave no address.</source>
+        <translation>La red no dio ninguna dirección.</translation>
     </message>
 </context>
 <context>
@@ -952,10 +2062,67 @@
     </message>
 </context>
 <context>
+    <name>corva::DialUpLink</name>
+    <message>
+        <source>Connection is failed!</source>
+        <translation>¡La conexión ha fallado!</translation>
+    </message>
+    <message>
+        <source>Fail to connect! exit code is</source>
+        <translation>¡Error al conectar! El código de salida es</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DialWork</name>
+    <message>
+        <source>You may not use this card&apos;s data port.</source>
+        <translation>No tiene permiso para usar el puerto de datos de esta tarjeta.</translation>
+    </message>
+    <message>
+        <source>The network interface does not belong to the card.</source>
+        <translation>La interfaz de red no pertenece a la tarjeta.</translation>
+    </message>
+    <message>
+        <source>The network interface has no address from here.</source>
+        <translation>La interfaz de red no recibió su dirección desde aquí.</translation>
+    </message>
+    <message>
+        <source>The DNS is invalid !</source>
+        <translation>El DNS no es válido.</translation>
+    </message>
+    <message>
+        <source>The dialler could not be started.</source>
+        <translation>No se pudo iniciar el marcador.</translation>
+    </message>
+    <message>
+        <source>The dialler is running already.</source>
+        <translation>El marcador ya está en marcha.</translation>
+    </message>
+    <message>
+        <source>The connection was cancelled.</source>
+        <translation>La conexión se canceló.</translation>
+    </message>
+    <message>
+        <source>The route helper is not run: others may write it.</source>
+        <translation>No se ejecuta el auxiliar de rutas: otros pueden escribir en él.</translation>
+    </message>
+</context>
+<context>
     <name>corva::FactRow</name>
     <message>
         <source>Copy %1</source>
         <translation>Copiar «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>corva::FormField</name>
+    <message>
+        <source>Show the password</source>
+        <translation>Mostrar la contraseña</translation>
+    </message>
+    <message>
+        <source>Hide the password</source>
+        <translation>Ocultar la contraseña</translation>
     </message>
 </context>
 <context>
@@ -1007,6 +2174,123 @@
     <message>
         <source>General</source>
         <translation>General</translation>
+    </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>B&amp;uscar actualizaciones</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HelperBackend</name>
+    <message>
+        <source>Connecting needs an administrator&apos;s rights, and the program &quot;pkexec&quot;, which asks for them, is missing. Please install it.</source>
+        <translation>Para conectar se necesitan permisos de administrador, y falta el programa «pkexec», que los pide. Instálelo.</translation>
+    </message>
+    <message>
+        <source>The program that dials has ended unexpectedly. Please try again.</source>
+        <translation>El programa que marca terminó inesperadamente. Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The right to connect was not given. Please connect again and enter the password.</source>
+        <translation>No se concedió el permiso para conectar. Vuelva a conectar e introduzca la contraseña.</translation>
+    </message>
+    <message>
+        <source>The right to connect could not be asked for. Ask an administrator to run &quot;tools/install-dialhelper&quot;, or start Corva in a desktop session.</source>
+        <translation>No se pudo pedir el permiso para conectar. Pida a un administrador que ejecute «tools/install-dialhelper», o inicie Corva en una sesión de escritorio.</translation>
+    </message>
+    <message>
+        <source>The program that dials could not be started. Ask an administrator to run &quot;tools/install-dialhelper&quot;.</source>
+        <translation>No se pudo iniciar el programa que marca. Pida a un administrador que ejecute «tools/install-dialhelper».</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HistoryModel</name>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recibido</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>Itinerancia</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Final</translation>
+    </message>
+    <message>
+        <source>From %1
+to %2</source>
+        <translation>De %1
+a %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HistoryTab</name>
+    <message>
+        <source>Delete &amp;all</source>
+        <translation>Eliminar &amp;todo</translation>
+    </message>
+    <message>
+        <source>Search the history</source>
+        <translation>Buscar en el historial</translation>
+    </message>
+    <message>
+        <source>Search (%1)</source>
+        <translation>Buscar (%1)</translation>
+    </message>
+    <message>
+        <source>Connections that are over</source>
+        <translation>Conexiones finalizadas</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Delete %n entries</source>
+        <translation>
+            <numerusform>E&amp;liminar %n entrada</numerusform>
+            <numerusform>E&amp;liminar %n entradas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Delete entry</source>
+        <translation>E&amp;liminar entrada</translation>
+    </message>
+    <message>
+        <source>No connection was made yet. Each one is listed here once it is over.</source>
+        <translation>Aún no se ha hecho ninguna conexión. Cada una aparecerá aquí cuando haya finalizado.</translation>
+    </message>
+    <message>
+        <source>No entry has all of these words.</source>
+        <translation>Ninguna entrada contiene todas estas palabras.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries were deleted.</source>
+        <translation>
+            <numerusform>Se eliminó %n entrada.</numerusform>
+            <numerusform>Se eliminaron %n entradas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>Deshac&amp;er</translation>
     </message>
 </context>
 <context>
@@ -1063,6 +2347,29 @@
     </message>
 </context>
 <context>
+    <name>corva::MonthsModel</name>
+    <message>
+        <source>Month</source>
+        <translation>Mes</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recibido</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>Itinerancia</translation>
+    </message>
+    <message>
+        <source>In all</source>
+        <translation>En total</translation>
+    </message>
+</context>
+<context>
     <name>corva::Navigation</name>
     <message>
         <source>Pages</source>
@@ -1078,6 +2385,13 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::NetworkCardLink</name>
+    <message>
+        <source>Connection is failed!</source>
+        <translation>¡La conexión ha fallado!</translation>
     </message>
 </context>
 <context>
@@ -1099,16 +2413,183 @@
         <translation>¿Por qué estoy sin conexión?</translation>
     </message>
     <message>
-        <source>Everything from the socket to the network is in order.</source>
-        <translation>Todo está en orden, desde el puerto USB hasta la red.</translation>
-    </message>
-    <message>
         <source>Nothing is wrong so far; the card is at it.</source>
         <translation>Todo va bien por ahora; la tarjeta está en ello.</translation>
     </message>
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>Un paso presenta un problema. Los siguientes se harán por sí solos.</translation>
+    </message>
+    <message>
+        <source>Everything from the socket to the internet is in order.</source>
+        <translation>Todo está en orden, desde el puerto USB hasta internet.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::OverviewTab</name>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>What the graph shows</source>
+        <translation>Qué muestra el gráfico</translation>
+    </message>
+    <message>
+        <source>The last minute</source>
+        <translation>El último minuto</translation>
+    </message>
+    <message>
+        <source>The last 10 minutes</source>
+        <translation>Los últimos 10 minutos</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Hoy</translation>
+    </message>
+    <message>
+        <source>This connection, %1</source>
+        <translation>Esta conexión, %1</translation>
+    </message>
+    <message>
+        <source>Last connection, %1</source>
+        <translation>Última conexión, %1</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Conexión</translation>
+    </message>
+    <message>
+        <source>None was made yet.</source>
+        <translation>Aún no se ha hecho ninguna.</translation>
+    </message>
+    <message>
+        <source>Days and months are not counted: the configuration turns it off.</source>
+        <translation>Los días y los meses no se cuentan: la configuración lo desactiva.</translation>
+    </message>
+    <message>
+        <source>%1 Say in the settings, Traffic, what volume you have, to be warned in time.</source>
+        <translation>%1 Indique en los ajustes, en Tráfico, qué volumen tiene, para que se le avise a tiempo.</translation>
+    </message>
+    <message>
+        <source>Down %1 (filled), up %2 (dashed)</source>
+        <translation>Bajada %1 (relleno), subida %2 (trazos)</translation>
+    </message>
+    <message>
+        <source>The graph runs while a connection is up.</source>
+        <translation>El gráfico avanza mientras hay una conexión.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ProfileList</name>
+    <message>
+        <source>access point from the network</source>
+        <translation>punto de acceso de la red</translation>
+    </message>
+    <message>
+        <source>%1, connects with it</source>
+        <translation>%1, se conecta con él</translation>
+    </message>
+    <message>
+        <source>No profile yet</source>
+        <translation>Aún no hay perfiles</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Añadir</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>Make de&amp;fault</source>
+        <translation>Usar por de&amp;fecto</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Perfiles</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Add a profile</source>
+        <translation>Añadir un perfil</translation>
+    </message>
+    <message>
+        <source>Connect with this profile from now on</source>
+        <translation>Conectar con este perfil de ahora en adelante</translation>
+    </message>
+    <message>
+        <source>Vi&amp;ew</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>Delete the profile &quot;%1&quot;?</source>
+        <translation>¿Eliminar el perfil «%1»?</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>Eli&amp;minar</translation>
+    </message>
+    <message>
+        <source>Connects with &quot;%1&quot; from now on.</source>
+        <translation>De ahora en adelante se conecta con «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ProfileStore</name>
+    <message>
+        <source>There is a profile with this name already.</source>
+        <translation>Ya existe un perfil con este nombre.</translation>
+    </message>
+    <message>
+        <source>There is no profile with this name.</source>
+        <translation>No existe ningún perfil con este nombre.</translation>
+    </message>
+    <message>
+        <source>This profile may not be changed.</source>
+        <translation>Este perfil no se puede modificar.</translation>
+    </message>
+    <message>
+        <source>This profile may not be deleted.</source>
+        <translation>Este perfil no se puede eliminar.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::RateGraph</name>
+    <message>
+        <source>Graph of the rates</source>
+        <translation>Gráfico de velocidades</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>ahora</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>No se pudo guardar el ajuste: %1</translation>
     </message>
 </context>
 <context>
@@ -1151,6 +2632,21 @@
         <source>  ·  </source>
         <comment>between facts</comment>
         <translation>  ·  </translation>
+    </message>
+</context>
+<context>
+    <name>corva::StatisticsStore</name>
+    <message>
+        <source>%1 could not be read in full.</source>
+        <translation>No se pudo leer %1 por completo.</translation>
+    </message>
+    <message>
+        <source>%1 could not be read in full. What stood in it is kept as %2.</source>
+        <translation>No se pudo leer %1 por completo. Lo que contenía se conserva como %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be removed: %2</source>
+        <translation>No se puede eliminar %1: %2</translation>
     </message>
 </context>
 <context>
@@ -1245,6 +2741,151 @@
     </message>
 </context>
 <context>
+    <name>corva::TrafficPage</name>
+    <message>
+        <source>E&amp;xport as CSV…</source>
+        <translation>E&amp;xportar como CSV…</translation>
+    </message>
+    <message>
+        <source>Writes the history to a file that spreadsheets read</source>
+        <translation>Escribe el historial en un archivo que leen las hojas de cálculo</translation>
+    </message>
+    <message>
+        <source>Writes days and months to a file that spreadsheets read</source>
+        <translation>Escribe los días y los meses en un archivo que leen las hojas de cálculo</translation>
+    </message>
+    <message>
+        <source>&amp;Overview</source>
+        <translation>&amp;Resumen</translation>
+    </message>
+    <message>
+        <source>Da&amp;ys</source>
+        <translation>&amp;Días</translation>
+    </message>
+    <message>
+        <source>&amp;Months</source>
+        <translation>&amp;Meses</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Historial</translation>
+    </message>
+    <message>
+        <source>Volume of each month</source>
+        <translation>Volumen de cada mes</translation>
+    </message>
+    <message>
+        <source>Export the history</source>
+        <translation>Exportar el historial</translation>
+    </message>
+    <message>
+        <source>Export days and months</source>
+        <translation>Exportar días y meses</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>Tablas CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>Guardado en %1.</translation>
+    </message>
+    <message>
+        <source>The table could not be written: %1</source>
+        <translation>No se pudo escribir la tabla: %1</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Tráfico</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TrafficService</name>
+    <message>
+        <source>%1 The connection is ended, as you set it in the settings, Traffic.</source>
+        <translation>%1 La conexión se finaliza, como lo indicó en los ajustes, en Tráfico.</translation>
+    </message>
+    <message>
+        <source>Your volume of %1 until %2 is used up.</source>
+        <translation>Su volumen de %1 hasta el %2 está agotado.</translation>
+    </message>
+    <message>
+        <source>Your volume of %1 for roaming until %2 is used up.</source>
+        <translation>Su volumen de %1 para itinerancia hasta el %2 está agotado.</translation>
+    </message>
+    <message>
+        <source>%1 % of your volume of %2 until %3 are used up.</source>
+        <translation>Se ha consumido el %1 % de su volumen de %2 hasta el %3.</translation>
+    </message>
+    <message>
+        <source>%1 % of your volume of %2 for roaming until %3 are used up.</source>
+        <translation>Se ha consumido el %1 % de su volumen de %2 para itinerancia hasta el %3.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TrafficSettingsPage</name>
+    <message>
+        <source>Your volume</source>
+        <translation>Su volumen</translation>
+    </message>
+    <message>
+        <source>&amp;Volume of a month</source>
+        <translation>&amp;Volumen mensual</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>While &amp;roaming</source>
+        <translation>En &amp;itinerancia</translation>
+    </message>
+    <message>
+        <source>Counts with it</source>
+        <translation>Incluido en él</translation>
+    </message>
+    <message>
+        <source>It begins anew on &amp;day</source>
+        <translation>Se &amp;renueva el día</translation>
+    </message>
+    <message>
+        <source>When it runs out</source>
+        <translation>Cuando se agota</translation>
+    </message>
+    <message>
+        <source>&amp;Warn at</source>
+        <translation>&amp;Avisar al</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation>Unidad: %1</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nunca</translation>
+    </message>
+    <message>
+        <source>&amp;End the connection when the volume is used up</source>
+        <translation>&amp;Finalizar la conexión cuando se agote el volumen</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Tráfico</translation>
+    </message>
+</context>
+<context>
     <name>corva::TrayIcon</name>
     <message>
         <source>&amp;Why am I offline?</source>
@@ -1265,6 +2906,45 @@
     <message>
         <source>&amp;Show the window</source>
         <translation>&amp;Mostrar la ventana</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>D&amp;esconectar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel connecting</source>
+        <translation>&amp;Cancelar la conexión</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>Co&amp;nectar</translation>
+    </message>
+</context>
+<context>
+    <name>corva::WirelessWindow</name>
+    <message>
+        <source>Plug the card in to connect.</source>
+        <translation>Conecte la tarjeta al equipo para poder conectar.</translation>
+    </message>
+    <message>
+        <source>Connect goes by the profile &quot;%1&quot;.</source>
+        <translation>Se conecta con el perfil «%1».</translation>
+    </message>
+    <message>
+        <source>The settings of %1 are known: just connect.</source>
+        <translation>Los ajustes de %1 ya se conocen: solo tiene que conectar.</translation>
+    </message>
+    <message>
+        <source>The settings for this SIM card are known: connect, and say whose it is.</source>
+        <translation>Los ajustes para esta tarjeta SIM ya se conocen: conecte e indique de quién es.</translation>
+    </message>
+    <message>
+        <source>Add a profile with the access point that your operator has told you.</source>
+        <translation>Añada un perfil con el punto de acceso que le haya indicado su operador.</translation>
+    </message>
+    <message>
+        <source>Internet</source>
+        <translation>Internet</translation>
     </message>
 </context>
 </TS>

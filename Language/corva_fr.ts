@@ -89,6 +89,246 @@
     </message>
 </context>
 <context>
+    <name>ConnectionDiagnosis</name>
+    <message>
+        <source>No profile is chosen</source>
+        <translation>Aucun profil n’est choisi</translation>
+    </message>
+    <message>
+        <source>A profile says how to reach the internet through your operator. Those of most operators are known; choose one, or add your own.</source>
+        <translation>Un profil indique comment accéder à internet chez votre opérateur. Ceux de la plupart des opérateurs sont connus&#xa0;; choisissez-en un, ou ajoutez le vôtre.</translation>
+    </message>
+    <message>
+        <source>The network chooses it</source>
+        <translation>Le réseau le choisit</translation>
+    </message>
+    <message>
+        <source>The profile names no access point</source>
+        <translation>Le profil n’indique aucun point d’accès</translation>
+    </message>
+    <message>
+        <source>Your operator can tell you its name (APN). Enter it in the profile.</source>
+        <translation>Votre opérateur peut vous en donner le nom (APN). Saisissez-le dans le profil.</translation>
+    </message>
+    <message>
+        <source>User name or password refused</source>
+        <translation>Nom d’utilisateur ou mot de passe refusé</translation>
+    </message>
+    <message>
+        <source>The call was not taken</source>
+        <translation>L’appel n’a pas été pris</translation>
+    </message>
+    <message>
+        <source>The line was busy</source>
+        <translation>La ligne était occupée</translation>
+    </message>
+    <message>
+        <source>No link within the time</source>
+        <translation>Pas de liaison dans le délai prévu</translation>
+    </message>
+    <message>
+        <source>The dialler failed</source>
+        <translation>Le composeur a échoué</translation>
+    </message>
+    <message>
+        <source>System files cannot be changed</source>
+        <translation>Impossible de modifier les fichiers système</translation>
+    </message>
+    <message>
+        <source>No right to dial</source>
+        <translation>Pas de droit de composer</translation>
+    </message>
+    <message>
+        <source>The network ended the connection</source>
+        <translation>Le réseau a mis fin à la connexion</translation>
+    </message>
+    <message>
+        <source>The connection broke off</source>
+        <translation>La connexion s’est interrompue</translation>
+    </message>
+    <message>
+        <source>The card was taken out</source>
+        <translation>La carte a été retirée</translation>
+    </message>
+    <message>
+        <source>Ended because nothing was carried</source>
+        <translation>Terminée faute de trafic</translation>
+    </message>
+    <message>
+        <source>The month&apos;s volume is used up</source>
+        <translation>Le forfait du mois est épuisé</translation>
+    </message>
+    <message>
+        <source>The connection is up</source>
+        <translation>La connexion est établie</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Connexion en cours</translation>
+    </message>
+    <message>
+        <source>This takes a few seconds.</source>
+        <translation>Cela prend quelques secondes.</translation>
+    </message>
+    <message>
+        <source>Disconnecting</source>
+        <translation>Déconnexion en cours</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Non connecté</translation>
+    </message>
+    <message>
+        <source>The card is in the network, and everything is there to connect.</source>
+        <translation>La carte est sur le réseau, et tout est prêt pour la connexion.</translation>
+    </message>
+    <message>
+        <source>The network gave no address</source>
+        <translation>Le réseau n’a pas donné d’adresse</translation>
+    </message>
+    <message>
+        <source>Disconnect and connect again. If that does not help, the access point of the profile may be the wrong one.</source>
+        <translation>Déconnectez-vous et reconnectez-vous. Si cela ne suffit pas, le point d’accès du profil n’est peut-être pas le bon.</translation>
+    </message>
+    <message>
+        <source>No name servers</source>
+        <translation>Pas de serveurs de noms</translation>
+    </message>
+    <message>
+        <source>Without them names of web sites cannot be found. Enter some in the profile, then disconnect and connect again.</source>
+        <translation>Sans eux, les noms des sites web sont introuvables. Saisissez-en dans le profil, puis déconnectez-vous et reconnectez-vous.</translation>
+    </message>
+    <message>
+        <source>Another connection carries the traffic</source>
+        <translation>Une autre connexion achemine le trafic</translation>
+    </message>
+    <message>
+        <source>This computer goes through a cable, Wi-Fi or another way first. Switch that off, then disconnect and connect again here.</source>
+        <translation>Cet ordinateur passe d’abord par un câble, le Wi-Fi ou une autre voie. Désactivez-la, puis déconnectez-vous et reconnectez-vous ici.</translation>
+    </message>
+    <message>
+        <source>The traffic goes through the card</source>
+        <translation>Le trafic passe par la carte</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Access point</source>
+        <translation>Point d’accès</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>Adresse IP</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>Serveurs de noms</translation>
+    </message>
+    <message>
+        <source>Route</source>
+        <translation>Route</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionTexts</name>
+    <message>
+        <source>With &quot;%1&quot;, since %2.</source>
+        <translation>Avec «&#xa0;%1&#xa0;», depuis %2.</translation>
+    </message>
+    <message>
+        <source>With &quot;%1&quot;, attempt %2 of %3.</source>
+        <translation>Avec «&#xa0;%1&#xa0;», tentative %2 sur %3.</translation>
+    </message>
+    <message>
+        <source>With &quot;%1&quot;.</source>
+        <translation>Avec «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>%1 Attempt %2 of %3 follows.</source>
+        <translation>%1 La tentative %2 sur %3 va suivre.</translation>
+    </message>
+</context>
+<context>
+    <name>DiallerFiles</name>
+    <message>
+        <source>Save wvdial config data failed!</source>
+        <translation>Échec de l’enregistrement de la configuration de wvdial&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Read default wvdial config data failed!</source>
+        <translation>Échec de la lecture de la configuration par défaut de wvdial&#xa0;!</translation>
+    </message>
+    <message>
+        <source>open file operation error!</source>
+        <translation>Erreur à l’ouverture du fichier&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Recover wvdial config data failed!</source>
+        <translation>Échec de la restauration de la configuration de wvdial&#xa0;!</translation>
+    </message>
+    <message>
+        <source>The DNS is invalid !</source>
+        <translation>Le DNS n’est pas valide&#xa0;!</translation>
+    </message>
+</context>
+<context>
+    <name>EndSentence</name>
+    <message>
+        <source>The network refused the user name and the password.</source>
+        <translation>Le réseau a refusé le nom d’utilisateur et le mot de passe.</translation>
+    </message>
+    <message>
+        <source>The network did not take the call.</source>
+        <translation>Le réseau n’a pas pris l’appel.</translation>
+    </message>
+    <message>
+        <source>The line is busy. Please try again later.</source>
+        <translation>La ligne est occupée. Veuillez réessayer plus tard.</translation>
+    </message>
+    <message>
+        <source>The network did not answer in time.</source>
+        <translation>Le réseau n’a pas répondu à temps.</translation>
+    </message>
+    <message>
+        <source>The dialler ended before it was done.</source>
+        <translation>Le numéroteur s’est arrêté avant d’avoir terminé.</translation>
+    </message>
+    <message>
+        <source>The files for the dialler could not be written.</source>
+        <translation>Les fichiers du numéroteur n’ont pas pu être écrits.</translation>
+    </message>
+    <message>
+        <source>The right to connect was not given.</source>
+        <translation>Le droit de se connecter n’a pas été accordé.</translation>
+    </message>
+    <message>
+        <source>The network ended the connection.</source>
+        <translation>Le réseau a mis fin à la connexion.</translation>
+    </message>
+    <message>
+        <source>The network does not answer any more.</source>
+        <translation>Le réseau ne répond plus.</translation>
+    </message>
+    <message>
+        <source>The card was pulled out.</source>
+        <translation>La carte a été retirée.</translation>
+    </message>
+    <message>
+        <source>The connection was ended because nothing was carried.</source>
+        <translation>La connexion a été terminée car rien n’était transmis.</translation>
+    </message>
+    <message>
+        <source>The connection was ended because the volume is used up.</source>
+        <translation>La connexion a été terminée car le forfait est épuisé.</translation>
+    </message>
+</context>
+<context>
     <name>FrmDisclaimer</name>
     <message>
         <source>Before you begin</source>
@@ -113,6 +353,49 @@
     <message>
         <source>&amp;Decline and quit</source>
         <translation>&amp;Refuser et quitter</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryEnd</name>
+    <message>
+        <source>By you</source>
+        <translation>Par vous</translation>
+    </message>
+    <message>
+        <source>By the network</source>
+        <translation>Par le réseau</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Pas de réponse</translation>
+    </message>
+    <message>
+        <source>Dialler stopped</source>
+        <translation>Composeur arrêté</translation>
+    </message>
+    <message>
+        <source>Card removed</source>
+        <translation>Carte retirée</translation>
+    </message>
+    <message>
+        <source>Nothing carried</source>
+        <translation>Aucun trafic</translation>
+    </message>
+    <message>
+        <source>Volume used up</source>
+        <translation>Forfait épuisé</translation>
+    </message>
+    <message>
+        <source>Program closed</source>
+        <translation>Programme fermé</translation>
+    </message>
+    <message>
+        <source>Unexpectedly</source>
+        <translation>De façon inattendue</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Inconnu</translation>
     </message>
 </context>
 <context>
@@ -514,6 +797,38 @@
         <source>&amp;Ask again</source>
         <translation>&amp;Interroger à nouveau</translation>
     </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>Co&amp;nnecter</translation>
+    </message>
+    <message>
+        <source>&amp;Choose profile</source>
+        <translation>Choisir un &amp;profil</translation>
+    </message>
+    <message>
+        <source>&amp;Edit profile</source>
+        <translation>Modi&amp;fier le profil</translation>
+    </message>
+    <message>
+        <source>The settings name a port</source>
+        <translation>Les paramètres indiquent un port</translation>
+    </message>
+    <message>
+        <source>The port does not exist</source>
+        <translation>Le port n’existe pas</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which does not exist. Plug the card in; if it is plugged in, correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>Les paramètres indiquent le port %1, qui n’existe pas. Branchez la carte&#xa0;; si elle est déjà branchée, corrigez «&#xa0;at_port&#xa0;» dans le fichier Data/common-config.xml et redémarrez le programme.</translation>
+    </message>
+    <message>
+        <source>The port is no serial port</source>
+        <translation>Le port n’est pas un port série</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which is no serial port. Correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>Les paramètres indiquent le port %1, qui n’est pas un port série. Corrigez «&#xa0;at_port&#xa0;» dans le fichier Data/common-config.xml et redémarrez le programme.</translation>
+    </message>
 </context>
 <context>
     <name>PortAccess</name>
@@ -554,6 +869,167 @@
     </message>
 </context>
 <context>
+    <name>PppErrors</name>
+    <message>
+        <source>Pppd  has  detached,  or  otherwise  the  connection was successfully established and terminated at the peer&apos;s request.</source>
+        <translation>Pppd s’est détaché, ou bien la connexion a été établie puis terminée à la demande du correspondant.</translation>
+    </message>
+    <message>
+        <source>An immediately fatal error of some kind occurred, such as an essential system call failing, or running out  of virtual memory.</source>
+        <translation>Une erreur immédiatement fatale s’est produite, par exemple l’échec d’un appel système essentiel ou un manque de mémoire virtuelle.</translation>
+    </message>
+    <message>
+        <source>An error was detected in processing the options given, such as two mutually exclusive options being used.</source>
+        <translation>Une erreur a été détectée dans les options données, par exemple deux options qui s’excluent mutuellement.</translation>
+    </message>
+    <message>
+        <source>Pppd is not setuid-root and the invoking user is not root.</source>
+        <translation>Pppd n’est pas setuid-root et l’utilisateur qui l’a lancé n’est pas root.</translation>
+    </message>
+    <message>
+        <source>The kernel does not support PPP, for example, the PPP kernel driver is not included or cannot be loaded.</source>
+        <translation>Le noyau ne prend pas PPP en charge, par exemple parce que le pilote PPP du noyau n’est pas inclus ou ne peut pas être chargé.</translation>
+    </message>
+    <message>
+        <source>Pppd terminated because it was sent a SIGINT, SIGTERM or SIGHUP signal.</source>
+        <translation>Pppd s’est terminé car il a reçu un signal SIGINT, SIGTERM ou SIGHUP.</translation>
+    </message>
+    <message>
+        <source>The serial port could not be locked.</source>
+        <translation>Le port série n’a pas pu être verrouillé.</translation>
+    </message>
+    <message>
+        <source>The serial port could not be opened.</source>
+        <translation>Le port série n’a pas pu être ouvert.</translation>
+    </message>
+    <message>
+        <source>The connect script failed (returned a non-zero exit status).</source>
+        <translation>Le script de connexion a échoué (code de sortie non nul).</translation>
+    </message>
+    <message>
+        <source>The command specified as the argument to the pty option could not be run.</source>
+        <translation>La commande donnée en argument de l’option pty n’a pas pu être exécutée.</translation>
+    </message>
+    <message>
+        <source>The  PPP  negotiation failed, that is, it didn&apos;t reach the point where at least one network protocol (e.g. IP) was running.</source>
+        <translation>La négociation PPP a échoué, c’est-à-dire qu’elle n’a pas atteint le point où au moins un protocole réseau (p. ex. IP) fonctionne.</translation>
+    </message>
+    <message>
+        <source>The peer system failed (or refused) to authenticate itself.</source>
+        <translation>Le système distant n’a pas réussi (ou a refusé) à s’authentifier.</translation>
+    </message>
+    <message>
+        <source>The link was established successfully and terminated because it was idle.</source>
+        <translation>La liaison a été établie puis terminée pour inactivité.</translation>
+    </message>
+    <message>
+        <source>The link was established successfully and terminated because the connect time limit was reached.</source>
+        <translation>La liaison a été établie puis terminée car la durée de connexion maximale a été atteinte.</translation>
+    </message>
+    <message>
+        <source>Callback was negotiated and an incoming call should arrive shortly.</source>
+        <translation>Un rappel a été négocié et un appel entrant devrait arriver sous peu.</translation>
+    </message>
+    <message>
+        <source>The link was terminated because the peer is not responding to echo requests.</source>
+        <translation>La liaison a été terminée car le correspondant ne répond pas aux demandes d’écho.</translation>
+    </message>
+    <message>
+        <source>The link was terminated by the modem hanging up.</source>
+        <translation>La liaison a été terminée car le modem a raccroché.</translation>
+    </message>
+    <message>
+        <source>The PPP negotiation failed because serial loopback was detected.</source>
+        <translation>La négociation PPP a échoué car un bouclage série a été détecté.</translation>
+    </message>
+    <message>
+        <source>The init script failed (returned a non-zero exit status).</source>
+        <translation>Le script d’initialisation a échoué (code de sortie non nul).</translation>
+    </message>
+    <message>
+        <source>We failed to authenticate ourselves to the peer.</source>
+        <translation>Nous n’avons pas réussi à nous authentifier auprès du correspondant.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileChecks</name>
+    <message>
+        <source>The dial number may hold letters, digits and * # + , . - ( ), 80 at most.</source>
+        <translation>Le numéro à composer peut contenir des lettres, des chiffres et * # + , . - ( ), 80 caractères au plus.</translation>
+    </message>
+    <message>
+        <source>The user name must not hold quotes, backslashes, a brace at its beginning or blanks at its ends, not be a single asterisk, and be 255 bytes long at most.</source>
+        <translation>Le nom d’utilisateur ne doit contenir ni guillemets ni barres obliques inverses, ni accolade au début ni espaces aux extrémités&#xa0;; il ne doit pas être un simple astérisque ni dépasser 255 octets.</translation>
+    </message>
+    <message>
+        <source>The password must not hold quotes, backslashes, a brace or &quot;@/&quot; at its beginning or blanks at its ends, and be 255 bytes long at most.</source>
+        <translation>Le mot de passe ne doit contenir ni guillemets ni barres obliques inverses, ni accolade ou «&#xa0;@/&#xa0;» au début ni espaces aux extrémités&#xa0;; il ne doit pas dépasser 255 octets.</translation>
+    </message>
+    <message>
+        <source>The name of the profile is too long.</source>
+        <translation>Le nom du profil est trop long.</translation>
+    </message>
+    <message>
+        <source>The APN may hold letters, digits and . - _ @ : /, 100 at most.</source>
+        <translation>L’APN peut contenir des lettres, des chiffres et . - _ @ : /, 100 caractères au plus.</translation>
+    </message>
+    <message>
+        <source>The address mode may hold letters and digits only.</source>
+        <translation>Le mode d’adresse ne peut contenir que des lettres et des chiffres.</translation>
+    </message>
+    <message>
+        <source>The beginning of the IMSI may hold 15 digits at most.</source>
+        <translation>Le début de l’IMSI peut contenir 15 chiffres au plus.</translation>
+    </message>
+    <message>
+        <source>The page to open must be an address of the web.</source>
+        <translation>La page à ouvrir doit être une adresse web.</translation>
+    </message>
+    <message>
+        <source>A value holds a line break or another control character, or the text &quot;-|-&quot;.</source>
+        <translation>Une valeur contient un saut de ligne ou un autre caractère de contrôle, ou le texte «&#xa0;-|-&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The Config Filename must be filled.</source>
+        <translation>Le nom de la configuration doit être renseigné.</translation>
+    </message>
+    <message>
+        <source>The Dial Number is empty!</source>
+        <translation>Le numéro à composer est vide&#xa0;!</translation>
+    </message>
+    <message>
+        <source>The APN is empty!</source>
+        <translation>L’APN est vide&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Invalid PDP!Please check it!</source>
+        <translation>PDP non valide&#xa0;! Vérifiez-le&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Invalid Preferred DNS!Please check it!</source>
+        <translation>DNS préféré non valide&#xa0;! Vérifiez-le&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Invalid Alternative DNS!Please check it!</source>
+        <translation>DNS auxiliaire non valide&#xa0;! Vérifiez-le&#xa0;!</translation>
+    </message>
+    <message>
+        <source>The card&apos;s data port has a name that cannot be used.</source>
+        <translation>Le port de données de la carte a un nom inutilisable.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileStore</name>
+    <message>
+        <source>The profiles in %1 cannot be read.</source>
+        <translation>Impossible de lire les profils de %1.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read, and cannot be kept beside.</source>
+        <translation>Impossible de lire %1, et ce fichier ne peut pas être conservé.</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -591,12 +1067,97 @@
         <source>%1 is a ring of links</source>
         <translation>%1 est une boucle de liens</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>Le fichier de paramètres endommagé ne peut pas être conservé</translation>
+    </message>
+    <message>
+        <source>The rights of %1 cannot be set</source>
+        <translation>Impossible de définir les droits de %1</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>Les paramètres n’ont pas pu être lus&#xa0;; le programme a démarré sans aucun réglage. Le fichier illisible a été conservé sous&#xa0;:
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>Les paramètres ne peuvent pas être enregistrés&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
         <translation>Impossible de lire les couleurs de «&#xa0;%1&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>Traffic</name>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>A day without its year, as QDate::toString takes it</extracomment>
+        <translation>d MMMM</translation>
+    </message>
+    <message>
+        <source>MMMM yyyy</source>
+        <extracomment>A month with its year, as QDate::toString takes it</extracomment>
+        <translation>MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>Yesterday, %1</source>
+        <translation>Hier, %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>TrafficSentences</name>
+    <message>
+        <source>%1 received, %2 sent</source>
+        <translation>%1 reçus, %2 envoyés</translation>
+    </message>
+    <message>
+        <source>%1; %2 of it roaming</source>
+        <translation>%1&#xa0;; dont %2 en itinérance</translation>
+    </message>
+    <message>
+        <source>%1 of %2 used (%3&#xa0;%)</source>
+        <translation>%1 utilisés sur %2 (%3&#xa0;%)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 roaming (%3&#xa0;%)</source>
+        <translation>%1 sur %2 en itinérance (%3&#xa0;%)</translation>
+    </message>
+    <message>
+        <source>Too few days are known to say what it will be by %1.</source>
+        <translation>Trop peu de jours sont connus pour prévoir le total au %1.</translation>
+    </message>
+    <message>
+        <source>The volume is used up. A new one begins on %1.</source>
+        <translation>Le forfait est épuisé. Un nouveau commence le %1.</translation>
+    </message>
+    <message>
+        <source>As it goes, it will be about %1 by %2.</source>
+        <translation>À ce rythme, le total sera d’environ %1 au %2.</translation>
+    </message>
+    <message>
+        <source>As it goes, the volume will be used up on %1; by %2 it would be about %3.</source>
+        <translation>À ce rythme, le forfait sera épuisé le %1&#xa0;; au %2, le total serait d’environ %3.</translation>
+    </message>
+    <message>
+        <source>As it goes, it will be about %1 by %2: the volume is enough.</source>
+        <translation>À ce rythme, le total sera d’environ %1 au %2&#xa0;: le forfait suffit.</translation>
     </message>
 </context>
 <context>
@@ -630,12 +1191,43 @@
         <translation>À &amp;propos de %1</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;Connecter</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
         <translation>&amp;Fermer</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Quitter</translation>
+        <source>&amp;Disconnect</source>
+        <translation>Déco&amp;nnecter</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel connecting</source>
+        <translation>Annu&amp;ler la connexion</translation>
+    </message>
+    <message>
+        <source>Disconnect and quit?</source>
+        <translation>Déconnecter et quitter&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Disconnect and &amp;quit</source>
+        <translation>Déconnecter et qui&amp;tter</translation>
+    </message>
+</context>
+<context>
+    <name>WvdialProcess</name>
+    <message>
+        <source>The dialler is running already.</source>
+        <translation>Le composeur est déjà en cours d’exécution.</translation>
+    </message>
+    <message>
+        <source>The program wvdial is missing. Please install it.</source>
+        <translation>Le programme wvdial manque. Veuillez l’installer.</translation>
     </message>
 </context>
 <context>
@@ -924,8 +1516,526 @@
         <translation>La carte SIM est illisible. Retirez-la et remettez-la.</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>La carte n’a pas répondu. Rien n’a changé&#xa0;; réessayez.</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>La carte n’a pas répondu à temps. On ne sait pas si elle a accepté la saisie&#xa0;; les essais restants sont affichés si la carte les indique.</translation>
+    </message>
+    <message>
+        <source>The SIM card is still starting. Try again in a moment.</source>
+        <translation>La carte SIM est encore en cours de démarrage. Réessayez dans un instant.</translation>
+    </message>
+    <message>
+        <source>The card refused the entry, without saying that it is wrong.</source>
+        <translation>La carte a refusé la saisie, sans dire qu’elle est erronée.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ChoiceDialog</name>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation>%1  ·  %2</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Config</name>
+    <message>
+        <source>New profile</source>
+        <translation>Nouveau profil</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Edit profile</source>
+        <translation>Modifier le profil</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>Ferme&amp;r</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>Annule&amp;r</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Profile &amp;name</source>
+        <translation>Nom du pr&amp;ofil</translation>
+    </message>
+    <message>
+        <source>&amp;Dial number</source>
+        <translation>Numéro à &amp;composer</translation>
+    </message>
+    <message>
+        <source>Connect as a &amp;modem or a network card</source>
+        <translation>Connecter comme &amp;modem ou carte réseau</translation>
+    </message>
+    <message>
+        <source>As the card can</source>
+        <translation>Selon la carte</translation>
+    </message>
+    <message>
+        <source>Modem (dial-up)</source>
+        <translation>Modem (par numérotation)</translation>
+    </message>
+    <message>
+        <source>Network card</source>
+        <translation>Carte réseau</translation>
+    </message>
+    <message>
+        <source>For S&amp;IMs whose IMSI begins with</source>
+        <translation>Po&amp;ur les cartes SIM dont l’IMSI commence par</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>indifférent</translation>
+    </message>
+    <message>
+        <source>Access point (APN)</source>
+        <translation>Point d’accès (APN)</translation>
+    </message>
+    <message>
+        <source>Access point</source>
+        <translation>Point d’accès</translation>
+    </message>
+    <message>
+        <source>&amp;This one</source>
+        <translation>Ce&amp;lui-ci</translation>
+    </message>
+    <message>
+        <source>&amp;By the network</source>
+        <translation>Choi&amp;si par le réseau</translation>
+    </message>
+    <message>
+        <source>Name of the access &amp;point</source>
+        <translation>Nom du &amp;point d’accès</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>Authentification</translation>
+    </message>
+    <message>
+        <source>P&amp;AP</source>
+        <translation>P&amp;AP</translation>
+    </message>
+    <message>
+        <source>C&amp;HAP</source>
+        <translation>C&amp;HAP</translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation>Aucu&amp;ne</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>Nom d’u&amp;tilisateur</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>Mot &amp;de passe</translation>
+    </message>
+    <message>
+        <source>As&amp;k for them when connecting</source>
+        <translation>Les demander à cha&amp;que connexion</translation>
+    </message>
+    <message>
+        <source>Keep them in the profi&amp;le</source>
+        <translation>Les &amp;garder dans le profil</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>Adresse IP</translation>
+    </message>
+    <message>
+        <source>From the network (d&amp;ynamic)</source>
+        <translation>Attribuée par le réseau (d&amp;ynamique)</translation>
+    </message>
+    <message>
+        <source>Fi&amp;xed</source>
+        <translation>&amp;Fixe</translation>
+    </message>
+    <message>
+        <source>Fixed add&amp;ress</source>
+        <translation>Adresse f&amp;ixe</translation>
+    </message>
+    <message>
+        <source>Name servers (DNS)</source>
+        <translation>Serveurs de noms (DNS)</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>Serveurs de noms</translation>
+    </message>
+    <message>
+        <source>&amp;From the network</source>
+        <translation>Attri&amp;bués par le réseau</translation>
+    </message>
+    <message>
+        <source>Th&amp;ese</source>
+        <translation>Ceu&amp;x-ci</translation>
+    </message>
+    <message>
+        <source>Preferred (&amp;1)</source>
+        <translation>Préféré (&amp;1)</translation>
+    </message>
+    <message>
+        <source>Alternative (&amp;2)</source>
+        <translation>Auxiliaire (&amp;2)</translation>
+    </message>
+    <message>
+        <source>Once connected</source>
+        <translation>Une fois connecté</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge to open in the browser</source>
+        <translation>Page à ou&amp;vrir dans le navigateur</translation>
+    </message>
+    <message>
+        <source>This profile came with the program and stays as it is.</source>
+        <translation>Ce profil est fourni avec le programme et ne se modifie pas.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionFacts</name>
+    <message>
+        <source>This connection</source>
+        <translation>Cette connexion</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Trafic</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>Adresse IP</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>Passerelle</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>Serveurs de noms</translation>
+    </message>
+    <message>
+        <source>Receiving</source>
+        <translation>Réception</translation>
+    </message>
+    <message>
+        <source>Sending</source>
+        <translation>Envoi</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Reçu</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Envoyé</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionHead</name>
+    <message>
+        <source>&amp;Why am I offline?</source>
+        <translation>Pourquoi suis-je &amp;hors ligne&#xa0;?</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>&amp;Déconnecter</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;Connecter</translation>
+    </message>
+    <message>
+        <source>Initializing</source>
+        <translation>Initialisation</translation>
+    </message>
+    <message>
+        <source>Disconnecting</source>
+        <translation>Déconnexion en cours</translation>
+    </message>
+    <message>
+        <source>Status: Connected</source>
+        <translation>État&#xa0;: connecté</translation>
+    </message>
+    <message>
+        <source>Status: Disconnected</source>
+        <translation>État&#xa0;: déconnecté</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionService</name>
+    <message>
+        <source>Only UMTS network can connect while calling!</source>
+        <translation>Seul un réseau UMTS permet de se connecter pendant un appel !</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>L’appareil a été débranché ou n’est pas disponible.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t open deault config file!</source>
+        <translation>Impossible d’ouvrir le fichier du profil par défaut !</translation>
+    </message>
+    <message>
+        <source>This card has no network interface. Please choose dial-up in the profile.</source>
+        <translation>Cette carte n’a pas d’interface réseau. Choisissez l’accès commuté dans le profil.</translation>
+    </message>
+    <message>
+        <source>The card has no data port that could be dialled on.</source>
+        <translation>La carte n’a pas de port de données sur lequel numéroter.</translation>
+    </message>
+    <message>
+        <source>There is no data transported recently. Auto Disconnect will close your internet link.</source>
+        <translation>Aucune donnée n’a été transmise récemment. La déconnexion automatique va fermer votre liaison internet.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionSettings</name>
+    <message>
+        <source>Automatic connection</source>
+        <translation>Connexion automatique</translation>
+    </message>
+    <message>
+        <source>&amp;Connect by itself when the card is ready</source>
+        <translation>Se &amp;connecter automatiquement quand la carte est prête</translation>
+    </message>
+    <message>
+        <source>&amp;Attempts</source>
+        <translation>&amp;Tentatives</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <comment>seconds</comment>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>When a connection breaks off</source>
+        <translation>Quand une connexion s’interrompt</translation>
+    </message>
+    <message>
+        <source>&amp;Dial again</source>
+        <translation>&amp;Recomposer</translation>
+    </message>
+    <message>
+        <source>A&amp;ttempts</source>
+        <translation>Te&amp;ntatives</translation>
+    </message>
+    <message>
+        <source>&amp;First one after</source>
+        <translation>&amp;Première après</translation>
+    </message>
+    <message>
+        <source>Each f&amp;urther one after</source>
+        <translation>Cha&amp;que suivante après</translation>
+    </message>
+    <message>
+        <source>When nothing is carried</source>
+        <translation>En l’absence de trafic</translation>
+    </message>
+    <message>
+        <source>D&amp;isconnect</source>
+        <translation>Se &amp;déconnecter</translation>
+    </message>
+    <message>
+        <source>Aft&amp;er</source>
+        <translation>&amp;Après</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <comment>minutes</comment>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source>Dialling</source>
+        <translation>Numérotation</translation>
+    </message>
+    <message>
+        <source>&amp;Longest wait for a link</source>
+        <translation>Délai &amp;maximal pour établir la liaison</translation>
+    </message>
+    <message>
+        <source>E&amp;xplain a failure by the exit status of pppd</source>
+        <translation>&amp;Expliquer un échec par le code de sortie de pppd</translation>
+    </message>
+    <message>
+        <source>&amp;Open the profile&apos;s page once connected</source>
+        <translation>&amp;Ouvrir la page du profil une fois connecté</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Connector</name>
+    <message>
+        <source>Only UMTS network can connect while calling!</source>
+        <translation>Pendant un appel, la connexion n’est possible que sur un réseau UMTS&#xa0;!</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>L’appareil a été débranché ou n’est pas disponible.</translation>
+    </message>
+    <message>
+        <source>You are connecting to a roaming network. Would you like to continue?</source>
+        <translation>Vous vous connectez à un réseau en itinérance. Voulez-vous continuer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Which access is yours?</source>
+        <translation>Quel est votre accès&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Whose SIM card is it?</source>
+        <translation>De quel opérateur est la carte SIM&#xa0;?</translation>
+    </message>
+    <message>
+        <source>%1 has several. Choose yours; the choice is kept as a profile.</source>
+        <translation>%1 en propose plusieurs. Choisissez le vôtre&#xa0;; ce choix est conservé comme profil.</translation>
+    </message>
+    <message>
+        <source>Several operators share this network. Choose yours; the choice is kept as a profile.</source>
+        <translation>Plusieurs opérateurs partagent ce réseau. Choisissez le vôtre&#xa0;; ce choix est conservé comme profil.</translation>
+    </message>
+    <message>
+        <source>C&amp;onnect</source>
+        <translation>C&amp;onnecter</translation>
+    </message>
+    <message>
+        <source>Which profile?</source>
+        <translation>Quel profil&#xa0;?</translation>
+    </message>
+    <message>
+        <source>It is taken from now on.</source>
+        <translation>Il sera utilisé à partir de maintenant.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::CredentialsDialog</name>
+    <message>
+        <source>&amp;User name</source>
+        <translation>Nom d’&amp;utilisateur</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>Mot de &amp;passe</translation>
+    </message>
+    <message>
+        <source>&amp;Keep them and do not ask again</source>
+        <translation>Les &amp;garder et ne plus les demander</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>C&amp;onnect</source>
+        <translation>C&amp;onnecter</translation>
+    </message>
+    <message>
+        <source>The profile &quot;%1&quot; asks for them at each connection.</source>
+        <translation>Le profil «&#xa0;%1&#xa0;» les demande à chaque connexion.</translation>
+    </message>
+    <message>
+        <source>User name and password</source>
+        <translation>Nom d’utilisateur et mot de passe</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DataLink</name>
+    <message>
+        <source>Fail to connect! Link ppp0 wasn&apos;t built !</source>
+        <translation>Échec de la connexion ! La liaison ppp0 n’a pas été établie !</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>L’appareil a été débranché ou n’est pas disponible.</translation>
+    </message>
+    <message>
+        <source>The card did not accept the access point &quot;%1&quot;. Please check the APN of the profile.</source>
+        <translation>La carte n’a pas accepté le point d’accès « %1 ». Veuillez vérifier l’APN du profil.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DaysChart</name>
+    <message>
+        <source>Volume of each day</source>
+        <translation>Volume de chaque jour</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DaysTab</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Earlier period</source>
+        <translation>Période précédente</translation>
+    </message>
+    <message>
+        <source>Later period</source>
+        <translation>Période suivante</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Nothing was carried in this period.</source>
+        <translation>Aucun trafic durant cette période.</translation>
+    </message>
+    <message>
+        <source>In all: %1</source>
+        <translation>Au total&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DhcpClient</name>
+    <message>
+        <source>There is no such network interface.</source>
+        <translation>Cette interface réseau n’existe pas.</translation>
+    </message>
+    <message>
+        <source>There is no DHCP client. Please install isc-dhcp-client.</source>
+        <translation>Il n’y a pas de client DHCP. Veuillez installer isc-dhcp-client.</translation>
+    </message>
+    <message>
+        <source>The network gave no address.</source>
+        <translation>Le réseau n’a pas donné d’adresse.</translation>
     </message>
 </context>
 <context>
@@ -952,10 +2062,67 @@
     </message>
 </context>
 <context>
+    <name>corva::DialUpLink</name>
+    <message>
+        <source>Connection is failed!</source>
+        <translation>La connexion a échoué !</translation>
+    </message>
+    <message>
+        <source>Fail to connect! exit code is</source>
+        <translation>Échec de la connexion ! Le code de sortie est</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DialWork</name>
+    <message>
+        <source>You may not use this card&apos;s data port.</source>
+        <translation>Vous n’avez pas accès au port de données de cette carte.</translation>
+    </message>
+    <message>
+        <source>The network interface does not belong to the card.</source>
+        <translation>L’interface réseau n’appartient pas à la carte.</translation>
+    </message>
+    <message>
+        <source>The network interface has no address from here.</source>
+        <translation>L’interface réseau n’a pas d’adresse attribuée d’ici.</translation>
+    </message>
+    <message>
+        <source>The DNS is invalid !</source>
+        <translation>Le DNS n’est pas valide&#xa0;!</translation>
+    </message>
+    <message>
+        <source>The dialler could not be started.</source>
+        <translation>Le composeur n’a pas pu être lancé.</translation>
+    </message>
+    <message>
+        <source>The dialler is running already.</source>
+        <translation>Le composeur est déjà en cours d’exécution.</translation>
+    </message>
+    <message>
+        <source>The connection was cancelled.</source>
+        <translation>La connexion a été annulée.</translation>
+    </message>
+    <message>
+        <source>The route helper is not run: others may write it.</source>
+        <translation>L’assistant de routage n’est pas exécuté&#xa0;: d’autres peuvent le modifier.</translation>
+    </message>
+</context>
+<context>
     <name>corva::FactRow</name>
     <message>
         <source>Copy %1</source>
         <translation>Copier «&#xa0;%1&#xa0;»</translation>
+    </message>
+</context>
+<context>
+    <name>corva::FormField</name>
+    <message>
+        <source>Show the password</source>
+        <translation>Afficher le mot de passe</translation>
+    </message>
+    <message>
+        <source>Hide the password</source>
+        <translation>Masquer le mot de passe</translation>
     </message>
 </context>
 <context>
@@ -1007,6 +2174,123 @@
     <message>
         <source>General</source>
         <translation>Général</translation>
+    </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>Rechercher les mises à jo&amp;ur</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HelperBackend</name>
+    <message>
+        <source>Connecting needs an administrator&apos;s rights, and the program &quot;pkexec&quot;, which asks for them, is missing. Please install it.</source>
+        <translation>La connexion exige les droits d’administrateur, et le programme «&#xa0;pkexec&#xa0;», qui les demande, manque. Veuillez l’installer.</translation>
+    </message>
+    <message>
+        <source>The program that dials has ended unexpectedly. Please try again.</source>
+        <translation>Le programme qui compose s’est arrêté de façon inattendue. Veuillez réessayer.</translation>
+    </message>
+    <message>
+        <source>The right to connect was not given. Please connect again and enter the password.</source>
+        <translation>Le droit de se connecter n’a pas été accordé. Reconnectez-vous et saisissez le mot de passe.</translation>
+    </message>
+    <message>
+        <source>The right to connect could not be asked for. Ask an administrator to run &quot;tools/install-dialhelper&quot;, or start Corva in a desktop session.</source>
+        <translation>Le droit de se connecter n’a pas pu être demandé. Demandez à un administrateur d’exécuter «&#xa0;tools/install-dialhelper&#xa0;», ou lancez Corva dans une session de bureau.</translation>
+    </message>
+    <message>
+        <source>The program that dials could not be started. Ask an administrator to run &quot;tools/install-dialhelper&quot;.</source>
+        <translation>Le programme qui compose n’a pas pu être lancé. Demandez à un administrateur d’exécuter «&#xa0;tools/install-dialhelper&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HistoryModel</name>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Reçu</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Envoyé</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>Itinérance</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>From %1
+to %2</source>
+        <translation>Du %1
+au %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HistoryTab</name>
+    <message>
+        <source>Delete &amp;all</source>
+        <translation>&amp;Tout supprimer</translation>
+    </message>
+    <message>
+        <source>Search the history</source>
+        <translation>Rechercher dans l’historique</translation>
+    </message>
+    <message>
+        <source>Search (%1)</source>
+        <translation>Rechercher (%1)</translation>
+    </message>
+    <message>
+        <source>Connections that are over</source>
+        <translation>Connexions terminées</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Delete %n entries</source>
+        <translation>
+            <numerusform>&amp;Supprimer %n entrée</numerusform>
+            <numerusform>&amp;Supprimer %n entrées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Delete entry</source>
+        <translation>&amp;Supprimer l’entrée</translation>
+    </message>
+    <message>
+        <source>No connection was made yet. Each one is listed here once it is over.</source>
+        <translation>Aucune connexion n’a encore été établie. Chacune figurera ici une fois terminée.</translation>
+    </message>
+    <message>
+        <source>No entry has all of these words.</source>
+        <translation>Aucune entrée ne contient tous ces mots.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries were deleted.</source>
+        <translation>
+            <numerusform>%n entrée a été supprimée.</numerusform>
+            <numerusform>%n entrées ont été supprimées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
     </message>
 </context>
 <context>
@@ -1063,6 +2347,29 @@
     </message>
 </context>
 <context>
+    <name>corva::MonthsModel</name>
+    <message>
+        <source>Month</source>
+        <translation>Mois</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Reçu</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Envoyé</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>Itinérance</translation>
+    </message>
+    <message>
+        <source>In all</source>
+        <translation>Au total</translation>
+    </message>
+</context>
+<context>
     <name>corva::Navigation</name>
     <message>
         <source>Pages</source>
@@ -1078,6 +2385,13 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::NetworkCardLink</name>
+    <message>
+        <source>Connection is failed!</source>
+        <translation>La connexion a échoué !</translation>
     </message>
 </context>
 <context>
@@ -1099,16 +2413,183 @@
         <translation>Pourquoi suis-je hors ligne&#xa0;?</translation>
     </message>
     <message>
-        <source>Everything from the socket to the network is in order.</source>
-        <translation>Tout est en ordre, de la prise USB au réseau.</translation>
-    </message>
-    <message>
         <source>Nothing is wrong so far; the card is at it.</source>
         <translation>Tout va bien jusqu’ici&#xa0;; la carte y travaille.</translation>
     </message>
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>Une étape pose problème. Les suivantes se feront d’elles-mêmes.</translation>
+    </message>
+    <message>
+        <source>Everything from the socket to the internet is in order.</source>
+        <translation>Tout est en ordre, de la prise USB à internet.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::OverviewTab</name>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>What the graph shows</source>
+        <translation>Ce que montre le graphique</translation>
+    </message>
+    <message>
+        <source>The last minute</source>
+        <translation>La dernière minute</translation>
+    </message>
+    <message>
+        <source>The last 10 minutes</source>
+        <translation>Les 10 dernières minutes</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message>
+        <source>This connection, %1</source>
+        <translation>Cette connexion, %1</translation>
+    </message>
+    <message>
+        <source>Last connection, %1</source>
+        <translation>Dernière connexion, %1</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>None was made yet.</source>
+        <translation>Aucune n’a encore été établie.</translation>
+    </message>
+    <message>
+        <source>Days and months are not counted: the configuration turns it off.</source>
+        <translation>Les jours et les mois ne sont pas comptés&#xa0;: la configuration le désactive.</translation>
+    </message>
+    <message>
+        <source>%1 Say in the settings, Traffic, what volume you have, to be warned in time.</source>
+        <translation>%1 Indiquez votre forfait dans les paramètres, Trafic, pour être averti à temps.</translation>
+    </message>
+    <message>
+        <source>Down %1 (filled), up %2 (dashed)</source>
+        <translation>Descendant %1 (plein), montant %2 (tirets)</translation>
+    </message>
+    <message>
+        <source>The graph runs while a connection is up.</source>
+        <translation>Le graphique défile tant qu’une connexion est établie.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ProfileList</name>
+    <message>
+        <source>access point from the network</source>
+        <translation>point d’accès donné par le réseau</translation>
+    </message>
+    <message>
+        <source>%1, connects with it</source>
+        <translation>%1, utilisé pour la connexion</translation>
+    </message>
+    <message>
+        <source>No profile yet</source>
+        <translation>Pas encore de profil</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Ajouter</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifier</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>S&amp;upprimer</translation>
+    </message>
+    <message>
+        <source>Make de&amp;fault</source>
+        <translation>Définir par &amp;défaut</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profils</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Add a profile</source>
+        <translation>Ajouter un profil</translation>
+    </message>
+    <message>
+        <source>Connect with this profile from now on</source>
+        <translation>Se connecter désormais avec ce profil</translation>
+    </message>
+    <message>
+        <source>Vi&amp;ew</source>
+        <translation>A&amp;fficher</translation>
+    </message>
+    <message>
+        <source>Delete the profile &quot;%1&quot;?</source>
+        <translation>Supprimer le profil «&#xa0;%1&#xa0;»&#xa0;?</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Connects with &quot;%1&quot; from now on.</source>
+        <translation>La connexion se fera désormais avec «&#xa0;%1&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ProfileStore</name>
+    <message>
+        <source>There is a profile with this name already.</source>
+        <translation>Il existe déjà un profil de ce nom.</translation>
+    </message>
+    <message>
+        <source>There is no profile with this name.</source>
+        <translation>Il n’existe pas de profil de ce nom.</translation>
+    </message>
+    <message>
+        <source>This profile may not be changed.</source>
+        <translation>Ce profil ne peut pas être modifié.</translation>
+    </message>
+    <message>
+        <source>This profile may not be deleted.</source>
+        <translation>Ce profil ne peut pas être supprimé.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::RateGraph</name>
+    <message>
+        <source>Graph of the rates</source>
+        <translation>Graphique des débits</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1&#xa0;s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1&#xa0;min</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>maintenant</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>Le réglage n’a pas pu être enregistré&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1151,6 +2632,21 @@
         <source>  ·  </source>
         <comment>between facts</comment>
         <translation>  ·  </translation>
+    </message>
+</context>
+<context>
+    <name>corva::StatisticsStore</name>
+    <message>
+        <source>%1 could not be read in full.</source>
+        <translation>%1 n’a pas pu être lu en entier.</translation>
+    </message>
+    <message>
+        <source>%1 could not be read in full. What stood in it is kept as %2.</source>
+        <translation>%1 n’a pas pu être lu en entier. Son contenu est conservé sous %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be removed: %2</source>
+        <translation>Impossible de supprimer %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1245,6 +2741,151 @@
     </message>
 </context>
 <context>
+    <name>corva::TrafficPage</name>
+    <message>
+        <source>E&amp;xport as CSV…</source>
+        <translation>&amp;Exporter en CSV…</translation>
+    </message>
+    <message>
+        <source>Writes the history to a file that spreadsheets read</source>
+        <translation>Écrit l’historique dans un fichier lisible par les tableurs</translation>
+    </message>
+    <message>
+        <source>Writes days and months to a file that spreadsheets read</source>
+        <translation>Écrit les jours et les mois dans un fichier lisible par les tableurs</translation>
+    </message>
+    <message>
+        <source>&amp;Overview</source>
+        <translation>&amp;Vue d’ensemble</translation>
+    </message>
+    <message>
+        <source>Da&amp;ys</source>
+        <translation>&amp;Jours</translation>
+    </message>
+    <message>
+        <source>&amp;Months</source>
+        <translation>&amp;Mois</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Historique</translation>
+    </message>
+    <message>
+        <source>Volume of each month</source>
+        <translation>Volume de chaque mois</translation>
+    </message>
+    <message>
+        <source>Export the history</source>
+        <translation>Exporter l’historique</translation>
+    </message>
+    <message>
+        <source>Export days and months</source>
+        <translation>Exporter les jours et les mois</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>Tableaux CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>Enregistré dans %1.</translation>
+    </message>
+    <message>
+        <source>The table could not be written: %1</source>
+        <translation>Impossible d’écrire le tableau&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Trafic</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TrafficService</name>
+    <message>
+        <source>%1 The connection is ended, as you set it in the settings, Traffic.</source>
+        <translation>%1 La connexion est coupée, comme vous l’avez défini dans les paramètres, Trafic.</translation>
+    </message>
+    <message>
+        <source>Your volume of %1 until %2 is used up.</source>
+        <translation>Votre forfait de %1 jusqu’au %2 est épuisé.</translation>
+    </message>
+    <message>
+        <source>Your volume of %1 for roaming until %2 is used up.</source>
+        <translation>Votre forfait de %1 en itinérance jusqu’au %2 est épuisé.</translation>
+    </message>
+    <message>
+        <source>%1 % of your volume of %2 until %3 are used up.</source>
+        <translation>%1&#xa0;% de votre forfait de %2 jusqu’au %3 sont utilisés.</translation>
+    </message>
+    <message>
+        <source>%1 % of your volume of %2 for roaming until %3 are used up.</source>
+        <translation>%1&#xa0;% de votre forfait de %2 en itinérance jusqu’au %3 sont utilisés.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TrafficSettingsPage</name>
+    <message>
+        <source>Your volume</source>
+        <translation>Votre forfait</translation>
+    </message>
+    <message>
+        <source>&amp;Volume of a month</source>
+        <translation>Forfait men&amp;suel</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>While &amp;roaming</source>
+        <translation>En &amp;itinérance</translation>
+    </message>
+    <message>
+        <source>Counts with it</source>
+        <translation>Inclus</translation>
+    </message>
+    <message>
+        <source>It begins anew on &amp;day</source>
+        <translation>Recommence le &amp;jour</translation>
+    </message>
+    <message>
+        <source>When it runs out</source>
+        <translation>Quand il s’épuise</translation>
+    </message>
+    <message>
+        <source>&amp;Warn at</source>
+        <translation>&amp;Avertir à</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation>Unité&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>Mo</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>Go</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Jamais</translation>
+    </message>
+    <message>
+        <source>&amp;End the connection when the volume is used up</source>
+        <translation>&amp;Mettre fin à la connexion quand le forfait est épuisé</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Trafic</translation>
+    </message>
+</context>
+<context>
     <name>corva::TrayIcon</name>
     <message>
         <source>&amp;Why am I offline?</source>
@@ -1265,6 +2906,45 @@
     <message>
         <source>&amp;Show the window</source>
         <translation>&amp;Afficher la fenêtre</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>&amp;Déconnecter</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel connecting</source>
+        <translation>A&amp;nnuler la connexion</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;Connecter</translation>
+    </message>
+</context>
+<context>
+    <name>corva::WirelessWindow</name>
+    <message>
+        <source>Plug the card in to connect.</source>
+        <translation>Branchez la carte pour vous connecter.</translation>
+    </message>
+    <message>
+        <source>Connect goes by the profile &quot;%1&quot;.</source>
+        <translation>La connexion se fait avec le profil «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The settings of %1 are known: just connect.</source>
+        <translation>Les réglages de %1 sont connus&#xa0;: il suffit de vous connecter.</translation>
+    </message>
+    <message>
+        <source>The settings for this SIM card are known: connect, and say whose it is.</source>
+        <translation>Les réglages de cette carte SIM sont connus&#xa0;: connectez-vous et indiquez son opérateur.</translation>
+    </message>
+    <message>
+        <source>Add a profile with the access point that your operator has told you.</source>
+        <translation>Ajoutez un profil avec le point d’accès que votre opérateur vous a indiqué.</translation>
+    </message>
+    <message>
+        <source>Internet</source>
+        <translation>Internet</translation>
     </message>
 </context>
 </TS>

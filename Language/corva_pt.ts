@@ -89,6 +89,246 @@
     </message>
 </context>
 <context>
+    <name>ConnectionDiagnosis</name>
+    <message>
+        <source>No profile is chosen</source>
+        <translation>Nenhum perfil escolhido</translation>
+    </message>
+    <message>
+        <source>A profile says how to reach the internet through your operator. Those of most operators are known; choose one, or add your own.</source>
+        <translation>Um perfil indica como chegar à internet através do seu operador. Os da maioria dos operadores já são conhecidos; escolha um ou adicione o seu.</translation>
+    </message>
+    <message>
+        <source>The network chooses it</source>
+        <translation>É a rede que o escolhe</translation>
+    </message>
+    <message>
+        <source>The profile names no access point</source>
+        <translation>O perfil não indica nenhum ponto de acesso</translation>
+    </message>
+    <message>
+        <source>Your operator can tell you its name (APN). Enter it in the profile.</source>
+        <translation>O seu operador pode dizer-lhe o nome (APN). Introduza-o no perfil.</translation>
+    </message>
+    <message>
+        <source>User name or password refused</source>
+        <translation>Nome de utilizador ou palavra-passe recusados</translation>
+    </message>
+    <message>
+        <source>The call was not taken</source>
+        <translation>A chamada não foi atendida</translation>
+    </message>
+    <message>
+        <source>The line was busy</source>
+        <translation>A linha estava ocupada</translation>
+    </message>
+    <message>
+        <source>No link within the time</source>
+        <translation>Sem ligação dentro do tempo previsto</translation>
+    </message>
+    <message>
+        <source>The dialler failed</source>
+        <translation>O marcador falhou</translation>
+    </message>
+    <message>
+        <source>System files cannot be changed</source>
+        <translation>Não é possível alterar os ficheiros do sistema</translation>
+    </message>
+    <message>
+        <source>No right to dial</source>
+        <translation>Sem permissão para marcar</translation>
+    </message>
+    <message>
+        <source>The network ended the connection</source>
+        <translation>A rede terminou a ligação</translation>
+    </message>
+    <message>
+        <source>The connection broke off</source>
+        <translation>A ligação foi interrompida</translation>
+    </message>
+    <message>
+        <source>The card was taken out</source>
+        <translation>A placa foi retirada</translation>
+    </message>
+    <message>
+        <source>Ended because nothing was carried</source>
+        <translation>Terminada por falta de tráfego</translation>
+    </message>
+    <message>
+        <source>The month&apos;s volume is used up</source>
+        <translation>O volume do mês está esgotado</translation>
+    </message>
+    <message>
+        <source>The connection is up</source>
+        <translation>A ligação está estabelecida</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>A ligar</translation>
+    </message>
+    <message>
+        <source>This takes a few seconds.</source>
+        <translation>Demora alguns segundos.</translation>
+    </message>
+    <message>
+        <source>Disconnecting</source>
+        <translation>A desligar</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Não ligado</translation>
+    </message>
+    <message>
+        <source>The card is in the network, and everything is there to connect.</source>
+        <translation>A placa está registada na rede e está tudo pronto para ligar.</translation>
+    </message>
+    <message>
+        <source>The network gave no address</source>
+        <translation>A rede não deu nenhum endereço</translation>
+    </message>
+    <message>
+        <source>Disconnect and connect again. If that does not help, the access point of the profile may be the wrong one.</source>
+        <translation>Desligue e volte a ligar. Se não resultar, o ponto de acesso do perfil pode não ser o correto.</translation>
+    </message>
+    <message>
+        <source>No name servers</source>
+        <translation>Sem servidores de nomes</translation>
+    </message>
+    <message>
+        <source>Without them names of web sites cannot be found. Enter some in the profile, then disconnect and connect again.</source>
+        <translation>Sem eles não é possível encontrar os nomes dos sítios web. Introduza alguns no perfil, desligue e volte a ligar.</translation>
+    </message>
+    <message>
+        <source>Another connection carries the traffic</source>
+        <translation>O tráfego passa por outra ligação</translation>
+    </message>
+    <message>
+        <source>This computer goes through a cable, Wi-Fi or another way first. Switch that off, then disconnect and connect again here.</source>
+        <translation>Este computador usa primeiro um cabo, uma rede Wi-Fi ou outra via. Desative-a, desligue aqui e volte a ligar.</translation>
+    </message>
+    <message>
+        <source>The traffic goes through the card</source>
+        <translation>O tráfego passa pela placa</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>Access point</source>
+        <translation>Ponto de acesso</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Ligação</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>Endereço IP</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>Servidores de nomes</translation>
+    </message>
+    <message>
+        <source>Route</source>
+        <translation>Rota</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionTexts</name>
+    <message>
+        <source>With &quot;%1&quot;, since %2.</source>
+        <translation>Com «%1», início: %2.</translation>
+    </message>
+    <message>
+        <source>With &quot;%1&quot;, attempt %2 of %3.</source>
+        <translation>Com «%1», tentativa %2 de %3.</translation>
+    </message>
+    <message>
+        <source>With &quot;%1&quot;.</source>
+        <translation>Com «%1».</translation>
+    </message>
+    <message>
+        <source>%1 Attempt %2 of %3 follows.</source>
+        <translation>%1 Segue-se a tentativa %2 de %3.</translation>
+    </message>
+</context>
+<context>
+    <name>DiallerFiles</name>
+    <message>
+        <source>Save wvdial config data failed!</source>
+        <translation>Não foi possível guardar a configuração do wvdial.</translation>
+    </message>
+    <message>
+        <source>Read default wvdial config data failed!</source>
+        <translation>Não foi possível ler a configuração predefinida do wvdial.</translation>
+    </message>
+    <message>
+        <source>open file operation error!</source>
+        <translation>Não foi possível abrir o ficheiro.</translation>
+    </message>
+    <message>
+        <source>Recover wvdial config data failed!</source>
+        <translation>Não foi possível repor a configuração do wvdial.</translation>
+    </message>
+    <message>
+        <source>The DNS is invalid !</source>
+        <translation>O DNS não é válido.</translation>
+    </message>
+</context>
+<context>
+    <name>EndSentence</name>
+    <message>
+        <source>The network refused the user name and the password.</source>
+        <translation>A rede recusou o nome de utilizador e a palavra-passe.</translation>
+    </message>
+    <message>
+        <source>The network did not take the call.</source>
+        <translation>A rede não aceitou a chamada.</translation>
+    </message>
+    <message>
+        <source>The line is busy. Please try again later.</source>
+        <translation>A linha está ocupada. Tente mais tarde.</translation>
+    </message>
+    <message>
+        <source>The network did not answer in time.</source>
+        <translation>A rede não respondeu a tempo.</translation>
+    </message>
+    <message>
+        <source>The dialler ended before it was done.</source>
+        <translation>O marcador terminou antes de concluir.</translation>
+    </message>
+    <message>
+        <source>The files for the dialler could not be written.</source>
+        <translation>Não foi possível escrever os ficheiros do marcador.</translation>
+    </message>
+    <message>
+        <source>The right to connect was not given.</source>
+        <translation>A autorização para ligar não foi dada.</translation>
+    </message>
+    <message>
+        <source>The network ended the connection.</source>
+        <translation>A rede terminou a ligação.</translation>
+    </message>
+    <message>
+        <source>The network does not answer any more.</source>
+        <translation>A rede deixou de responder.</translation>
+    </message>
+    <message>
+        <source>The card was pulled out.</source>
+        <translation>A placa foi retirada.</translation>
+    </message>
+    <message>
+        <source>The connection was ended because nothing was carried.</source>
+        <translation>A ligação terminou porque nada era transmitido.</translation>
+    </message>
+    <message>
+        <source>The connection was ended because the volume is used up.</source>
+        <translation>A ligação terminou porque o volume se esgotou.</translation>
+    </message>
+</context>
+<context>
     <name>FrmDisclaimer</name>
     <message>
         <source>Before you begin</source>
@@ -113,6 +353,49 @@
     <message>
         <source>&amp;Decline and quit</source>
         <translation>&amp;Recusar e sair</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryEnd</name>
+    <message>
+        <source>By you</source>
+        <translation>Por si</translation>
+    </message>
+    <message>
+        <source>By the network</source>
+        <translation>Pela rede</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Sem resposta</translation>
+    </message>
+    <message>
+        <source>Dialler stopped</source>
+        <translation>Marcador parado</translation>
+    </message>
+    <message>
+        <source>Card removed</source>
+        <translation>Placa retirada</translation>
+    </message>
+    <message>
+        <source>Nothing carried</source>
+        <translation>Sem tráfego</translation>
+    </message>
+    <message>
+        <source>Volume used up</source>
+        <translation>Volume esgotado</translation>
+    </message>
+    <message>
+        <source>Program closed</source>
+        <translation>Programa fechado</translation>
+    </message>
+    <message>
+        <source>Unexpectedly</source>
+        <translation>Inesperadamente</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Desconhecido</translation>
     </message>
 </context>
 <context>
@@ -514,6 +797,38 @@
         <source>&amp;Ask again</source>
         <translation>&amp;Consultar de novo</translation>
     </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>Li&amp;gar</translation>
+    </message>
+    <message>
+        <source>&amp;Choose profile</source>
+        <translation>&amp;Escolher perfil</translation>
+    </message>
+    <message>
+        <source>&amp;Edit profile</source>
+        <translation>E&amp;ditar perfil</translation>
+    </message>
+    <message>
+        <source>The settings name a port</source>
+        <translation>As definições indicam uma porta</translation>
+    </message>
+    <message>
+        <source>The port does not exist</source>
+        <translation>A porta não existe</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which does not exist. Plug the card in; if it is plugged in, correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>As definições indicam a porta %1, que não existe. Ligue a placa; se já estiver ligada, corrija «at_port» no ficheiro Data/common-config.xml e inicie o programa de novo.</translation>
+    </message>
+    <message>
+        <source>The port is no serial port</source>
+        <translation>A porta não é uma porta série</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which is no serial port. Correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>As definições indicam a porta %1, que não é uma porta série. Corrija «at_port» no ficheiro Data/common-config.xml e inicie o programa de novo.</translation>
+    </message>
 </context>
 <context>
     <name>PortAccess</name>
@@ -554,6 +869,167 @@
     </message>
 </context>
 <context>
+    <name>PppErrors</name>
+    <message>
+        <source>Pppd  has  detached,  or  otherwise  the  connection was successfully established and terminated at the peer&apos;s request.</source>
+        <translation>O pppd separou-se do terminal, ou a ligação foi estabelecida com êxito e terminada a pedido do outro extremo.</translation>
+    </message>
+    <message>
+        <source>An immediately fatal error of some kind occurred, such as an essential system call failing, or running out  of virtual memory.</source>
+        <translation>Ocorreu um erro fatal imediato, como a falha de uma chamada essencial ao sistema ou a falta de memória virtual.</translation>
+    </message>
+    <message>
+        <source>An error was detected in processing the options given, such as two mutually exclusive options being used.</source>
+        <translation>Foi detetado um erro ao processar as opções indicadas, como o uso de duas opções incompatíveis entre si.</translation>
+    </message>
+    <message>
+        <source>Pppd is not setuid-root and the invoking user is not root.</source>
+        <translation>O pppd não tem setuid-root e o utilizador que o executa não é root.</translation>
+    </message>
+    <message>
+        <source>The kernel does not support PPP, for example, the PPP kernel driver is not included or cannot be loaded.</source>
+        <translation>O núcleo não suporta PPP; por exemplo, o controlador PPP do núcleo não está incluído ou não pode ser carregado.</translation>
+    </message>
+    <message>
+        <source>Pppd terminated because it was sent a SIGINT, SIGTERM or SIGHUP signal.</source>
+        <translation>O pppd terminou porque recebeu um sinal SIGINT, SIGTERM ou SIGHUP.</translation>
+    </message>
+    <message>
+        <source>The serial port could not be locked.</source>
+        <translation>Não foi possível bloquear a porta série.</translation>
+    </message>
+    <message>
+        <source>The serial port could not be opened.</source>
+        <translation>Não foi possível abrir a porta série.</translation>
+    </message>
+    <message>
+        <source>The connect script failed (returned a non-zero exit status).</source>
+        <translation>O script de ligação falhou (devolveu um estado de saída diferente de zero).</translation>
+    </message>
+    <message>
+        <source>The command specified as the argument to the pty option could not be run.</source>
+        <translation>Não foi possível executar o comando indicado como argumento da opção pty.</translation>
+    </message>
+    <message>
+        <source>The  PPP  negotiation failed, that is, it didn&apos;t reach the point where at least one network protocol (e.g. IP) was running.</source>
+        <translation>A negociação PPP falhou, ou seja, não chegou ao ponto em que pelo menos um protocolo de rede (p. ex., IP) estivesse a funcionar.</translation>
+    </message>
+    <message>
+        <source>The peer system failed (or refused) to authenticate itself.</source>
+        <translation>O outro extremo não conseguiu autenticar-se (ou recusou fazê-lo).</translation>
+    </message>
+    <message>
+        <source>The link was established successfully and terminated because it was idle.</source>
+        <translation>A ligação foi estabelecida com êxito e terminou por inatividade.</translation>
+    </message>
+    <message>
+        <source>The link was established successfully and terminated because the connect time limit was reached.</source>
+        <translation>A ligação foi estabelecida com êxito e terminou porque foi atingido o limite de tempo de ligação.</translation>
+    </message>
+    <message>
+        <source>Callback was negotiated and an incoming call should arrive shortly.</source>
+        <translation>Foi negociada a devolução de chamada; em breve deverá chegar uma chamada.</translation>
+    </message>
+    <message>
+        <source>The link was terminated because the peer is not responding to echo requests.</source>
+        <translation>A ligação terminou porque o outro extremo não responde aos pedidos de eco.</translation>
+    </message>
+    <message>
+        <source>The link was terminated by the modem hanging up.</source>
+        <translation>A ligação terminou porque o modem desligou a chamada.</translation>
+    </message>
+    <message>
+        <source>The PPP negotiation failed because serial loopback was detected.</source>
+        <translation>A negociação PPP falhou porque foi detetado um retorno na linha série.</translation>
+    </message>
+    <message>
+        <source>The init script failed (returned a non-zero exit status).</source>
+        <translation>O script de inicialização falhou (devolveu um estado de saída diferente de zero).</translation>
+    </message>
+    <message>
+        <source>We failed to authenticate ourselves to the peer.</source>
+        <translation>Não conseguimos autenticar-nos perante o outro extremo.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileChecks</name>
+    <message>
+        <source>The dial number may hold letters, digits and * # + , . - ( ), 80 at most.</source>
+        <translation>O número a marcar pode conter letras, algarismos e * # + , . - ( ), 80 no máximo.</translation>
+    </message>
+    <message>
+        <source>The user name must not hold quotes, backslashes, a brace at its beginning or blanks at its ends, not be a single asterisk, and be 255 bytes long at most.</source>
+        <translation>O nome de utilizador não pode conter aspas nem barras invertidas, começar por uma chaveta, ter espaços nas pontas nem ser um único asterisco, e pode ter 255 bytes no máximo.</translation>
+    </message>
+    <message>
+        <source>The password must not hold quotes, backslashes, a brace or &quot;@/&quot; at its beginning or blanks at its ends, and be 255 bytes long at most.</source>
+        <translation>A palavra-passe não pode conter aspas nem barras invertidas, começar por uma chaveta ou por «@/» nem ter espaços nas pontas, e pode ter 255 bytes no máximo.</translation>
+    </message>
+    <message>
+        <source>The name of the profile is too long.</source>
+        <translation>O nome do perfil é demasiado longo.</translation>
+    </message>
+    <message>
+        <source>The APN may hold letters, digits and . - _ @ : /, 100 at most.</source>
+        <translation>O APN pode conter letras, algarismos e . - _ @ : /, 100 no máximo.</translation>
+    </message>
+    <message>
+        <source>The address mode may hold letters and digits only.</source>
+        <translation>O modo de endereço só pode conter letras e algarismos.</translation>
+    </message>
+    <message>
+        <source>The beginning of the IMSI may hold 15 digits at most.</source>
+        <translation>O início do IMSI pode ter 15 algarismos no máximo.</translation>
+    </message>
+    <message>
+        <source>The page to open must be an address of the web.</source>
+        <translation>A página a abrir tem de ser um endereço web.</translation>
+    </message>
+    <message>
+        <source>A value holds a line break or another control character, or the text &quot;-|-&quot;.</source>
+        <translation>Um valor contém uma quebra de linha ou outro carácter de controlo, ou o texto «-|-».</translation>
+    </message>
+    <message>
+        <source>The Config Filename must be filled.</source>
+        <translation>É necessário indicar o nome do perfil.</translation>
+    </message>
+    <message>
+        <source>The Dial Number is empty!</source>
+        <translation>Falta o número a marcar.</translation>
+    </message>
+    <message>
+        <source>The APN is empty!</source>
+        <translation>Falta o APN.</translation>
+    </message>
+    <message>
+        <source>Invalid PDP!Please check it!</source>
+        <translation>O PDP não é válido. Verifique-o.</translation>
+    </message>
+    <message>
+        <source>Invalid Preferred DNS!Please check it!</source>
+        <translation>O DNS preferido não é válido. Verifique-o.</translation>
+    </message>
+    <message>
+        <source>Invalid Alternative DNS!Please check it!</source>
+        <translation>O DNS alternativo não é válido. Verifique-o.</translation>
+    </message>
+    <message>
+        <source>The card&apos;s data port has a name that cannot be used.</source>
+        <translation>A porta de dados da placa tem um nome que não pode ser usado.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileStore</name>
+    <message>
+        <source>The profiles in %1 cannot be read.</source>
+        <translation>Não é possível ler os perfis em %1.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read, and cannot be kept beside.</source>
+        <translation>Não é possível ler %1, nem conservá-lo à parte.</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -591,12 +1067,97 @@
         <source>%1 is a ring of links</source>
         <translation>%1 é um ciclo de ligações</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>Não é possível conservar o ficheiro de definições danificado</translation>
+    </message>
+    <message>
+        <source>The rights of %1 cannot be set</source>
+        <translation>Não é possível definir as permissões de %1</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>Não foi possível ler as definições, por isso o programa começou sem nada definido. O ficheiro ilegível foi guardado como:
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>Não é possível guardar as definições: %1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
         <translation>Não é possível ler as cores em «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>Traffic</name>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>A day without its year, as QDate::toString takes it</extracomment>
+        <translation>d &apos;de&apos; MMMM</translation>
+    </message>
+    <message>
+        <source>MMMM yyyy</source>
+        <extracomment>A month with its year, as QDate::toString takes it</extracomment>
+        <translation>MMMM &apos;de&apos; yyyy</translation>
+    </message>
+    <message>
+        <source>Yesterday, %1</source>
+        <translation>Ontem, %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>TrafficSentences</name>
+    <message>
+        <source>%1 received, %2 sent</source>
+        <translation>%1 recebidos, %2 enviados</translation>
+    </message>
+    <message>
+        <source>%1; %2 of it roaming</source>
+        <translation>%1; dos quais %2 em roaming</translation>
+    </message>
+    <message>
+        <source>%1 of %2 used (%3&#xa0;%)</source>
+        <translation>%1 de %2 usados (%3 %)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 roaming (%3&#xa0;%)</source>
+        <translation>%1 de %2 em roaming (%3 %)</translation>
+    </message>
+    <message>
+        <source>Too few days are known to say what it will be by %1.</source>
+        <translation>São conhecidos poucos dias para calcular quanto será até %1.</translation>
+    </message>
+    <message>
+        <source>The volume is used up. A new one begins on %1.</source>
+        <translation>O volume está esgotado. Um novo começa a %1.</translation>
+    </message>
+    <message>
+        <source>As it goes, it will be about %1 by %2.</source>
+        <translation>A este ritmo, serão cerca de %1 até %2.</translation>
+    </message>
+    <message>
+        <source>As it goes, the volume will be used up on %1; by %2 it would be about %3.</source>
+        <translation>A este ritmo, o volume esgota-se a %1; até %2 seriam cerca de %3.</translation>
+    </message>
+    <message>
+        <source>As it goes, it will be about %1 by %2: the volume is enough.</source>
+        <translation>A este ritmo, serão cerca de %1 até %2: o volume é suficiente.</translation>
     </message>
 </context>
 <context>
@@ -630,12 +1191,43 @@
         <translation>A&amp;cerca de %1</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Fechar</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Sair</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;Ligar</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>Fec&amp;har</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>&amp;Desligar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel connecting</source>
+        <translation>Cancelar a li&amp;gação</translation>
+    </message>
+    <message>
+        <source>Disconnect and quit?</source>
+        <translation>Desligar e sair?</translation>
+    </message>
+    <message>
+        <source>Disconnect and &amp;quit</source>
+        <translation>Desligar e sa&amp;ir</translation>
+    </message>
+</context>
+<context>
+    <name>WvdialProcess</name>
+    <message>
+        <source>The dialler is running already.</source>
+        <translation>O marcador já está em execução.</translation>
+    </message>
+    <message>
+        <source>The program wvdial is missing. Please install it.</source>
+        <translation>Falta o programa wvdial. Instale-o.</translation>
     </message>
 </context>
 <context>
@@ -924,8 +1516,526 @@
         <translation>Não é possível ler o cartão SIM. Retire-o e volte a inseri-lo.</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>A placa não respondeu. Nada mudou; tente de novo.</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>A placa não respondeu a tempo. Não se sabe se aceitou o que foi introduzido; as tentativas restantes são mostradas se a placa as indicar.</translation>
+    </message>
+    <message>
+        <source>The SIM card is still starting. Try again in a moment.</source>
+        <translation>O cartão SIM ainda está a iniciar. Tente de novo dentro de momentos.</translation>
+    </message>
+    <message>
+        <source>The card refused the entry, without saying that it is wrong.</source>
+        <translation>A placa recusou o que foi introduzido, sem dizer que está errado.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ChoiceDialog</name>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation>%1  ·  %2</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Config</name>
+    <message>
+        <source>New profile</source>
+        <translation>Novo perfil</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>Edit profile</source>
+        <translation>Editar perfil</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>Fe&amp;char</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>Profile &amp;name</source>
+        <translation>&amp;Nome do perfil</translation>
+    </message>
+    <message>
+        <source>&amp;Dial number</source>
+        <translation>Número a &amp;marcar</translation>
+    </message>
+    <message>
+        <source>Connect as a &amp;modem or a network card</source>
+        <translation>Ligar como mo&amp;dem ou placa de rede</translation>
+    </message>
+    <message>
+        <source>As the card can</source>
+        <translation>Conforme a placa</translation>
+    </message>
+    <message>
+        <source>Modem (dial-up)</source>
+        <translation>Modem (marcação)</translation>
+    </message>
+    <message>
+        <source>Network card</source>
+        <translation>Placa de rede</translation>
+    </message>
+    <message>
+        <source>For S&amp;IMs whose IMSI begins with</source>
+        <translation>Para SIM cu&amp;jo IMSI começa por</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>qualquer</translation>
+    </message>
+    <message>
+        <source>Access point (APN)</source>
+        <translation>Ponto de acesso (APN)</translation>
+    </message>
+    <message>
+        <source>Access point</source>
+        <translation>Ponto de acesso</translation>
+    </message>
+    <message>
+        <source>&amp;This one</source>
+        <translation>&amp;Este</translation>
+    </message>
+    <message>
+        <source>&amp;By the network</source>
+        <translation>O da &amp;rede</translation>
+    </message>
+    <message>
+        <source>Name of the access &amp;point</source>
+        <translation>Nome do &amp;ponto de acesso</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>Autenticação</translation>
+    </message>
+    <message>
+        <source>P&amp;AP</source>
+        <translation>P&amp;AP</translation>
+    </message>
+    <message>
+        <source>C&amp;HAP</source>
+        <translation>C&amp;HAP</translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation>Nenh&amp;uma</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>Nome de utili&amp;zador</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>Pala&amp;vra-passe</translation>
+    </message>
+    <message>
+        <source>As&amp;k for them when connecting</source>
+        <translation>Pedi-los ao &amp;ligar</translation>
+    </message>
+    <message>
+        <source>Keep them in the profi&amp;le</source>
+        <translation>Guardá-l&amp;os no perfil</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>Endereço IP</translation>
+    </message>
+    <message>
+        <source>From the network (d&amp;ynamic)</source>
+        <translation>Da rede (d&amp;inâmico)</translation>
+    </message>
+    <message>
+        <source>Fi&amp;xed</source>
+        <translation>Fi&amp;xo</translation>
+    </message>
+    <message>
+        <source>Fixed add&amp;ress</source>
+        <translation>Endereço &amp;fixo</translation>
+    </message>
+    <message>
+        <source>Name servers (DNS)</source>
+        <translation>Servidores de nomes (DNS)</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>Servidores de nomes</translation>
+    </message>
+    <message>
+        <source>&amp;From the network</source>
+        <translation>Rece&amp;bidos da rede</translation>
+    </message>
+    <message>
+        <source>Th&amp;ese</source>
+        <translation>E&amp;stes</translation>
+    </message>
+    <message>
+        <source>Preferred (&amp;1)</source>
+        <translation>Preferido (&amp;1)</translation>
+    </message>
+    <message>
+        <source>Alternative (&amp;2)</source>
+        <translation>Alternativo (&amp;2)</translation>
+    </message>
+    <message>
+        <source>Once connected</source>
+        <translation>Depois de ligar</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge to open in the browser</source>
+        <translation>Página &amp;que se abre no navegador</translation>
+    </message>
+    <message>
+        <source>This profile came with the program and stays as it is.</source>
+        <translation>Este perfil vem com o programa e não pode ser alterado.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionFacts</name>
+    <message>
+        <source>This connection</source>
+        <translation>Esta ligação</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Tráfego</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>Endereço IP</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>Gateway</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>Servidores de nomes</translation>
+    </message>
+    <message>
+        <source>Receiving</source>
+        <translation>Receção</translation>
+    </message>
+    <message>
+        <source>Sending</source>
+        <translation>Envio</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recebido</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionHead</name>
+    <message>
+        <source>&amp;Why am I offline?</source>
+        <translation>&amp;Porque estou sem ligação?</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>&amp;Desligar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;Ligar</translation>
+    </message>
+    <message>
+        <source>Initializing</source>
+        <translation>A iniciar</translation>
+    </message>
+    <message>
+        <source>Disconnecting</source>
+        <translation>A desligar</translation>
+    </message>
+    <message>
+        <source>Status: Connected</source>
+        <translation>Estado: ligado</translation>
+    </message>
+    <message>
+        <source>Status: Disconnected</source>
+        <translation>Estado: desligado</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionService</name>
+    <message>
+        <source>Only UMTS network can connect while calling!</source>
+        <translation>Só uma rede UMTS permite ligar durante uma chamada!</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>O dispositivo foi desligado ou não está disponível.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t open deault config file!</source>
+        <translation>Não é possível abrir o ficheiro do perfil predefinido!</translation>
+    </message>
+    <message>
+        <source>This card has no network interface. Please choose dial-up in the profile.</source>
+        <translation>Esta placa não tem interface de rede. Escolha o acesso telefónico no perfil.</translation>
+    </message>
+    <message>
+        <source>The card has no data port that could be dialled on.</source>
+        <translation>A placa não tem uma porta de dados para marcar.</translation>
+    </message>
+    <message>
+        <source>There is no data transported recently. Auto Disconnect will close your internet link.</source>
+        <translation>Não houve dados transmitidos recentemente. A desconexão automática vai fechar a sua ligação à internet.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionSettings</name>
+    <message>
+        <source>Automatic connection</source>
+        <translation>Ligação automática</translation>
+    </message>
+    <message>
+        <source>&amp;Connect by itself when the card is ready</source>
+        <translation>&amp;Ligar automaticamente quando a placa estiver pronta</translation>
+    </message>
+    <message>
+        <source>&amp;Attempts</source>
+        <translation>Te&amp;ntativas</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <comment>seconds</comment>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>When a connection breaks off</source>
+        <translation>Quando uma ligação é interrompida</translation>
+    </message>
+    <message>
+        <source>&amp;Dial again</source>
+        <translation>&amp;Marcar de novo</translation>
+    </message>
+    <message>
+        <source>A&amp;ttempts</source>
+        <translation>&amp;Tentativas</translation>
+    </message>
+    <message>
+        <source>&amp;First one after</source>
+        <translation>&amp;Primeira após</translation>
+    </message>
+    <message>
+        <source>Each f&amp;urther one after</source>
+        <translation>As &amp;seguintes após</translation>
+    </message>
+    <message>
+        <source>When nothing is carried</source>
+        <translation>Quando não há tráfego</translation>
+    </message>
+    <message>
+        <source>D&amp;isconnect</source>
+        <translation>&amp;Desligar</translation>
+    </message>
+    <message>
+        <source>Aft&amp;er</source>
+        <translation>&amp;Após</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <comment>minutes</comment>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source>Dialling</source>
+        <translation>Marcação</translation>
+    </message>
+    <message>
+        <source>&amp;Longest wait for a link</source>
+        <translation>&amp;Espera máxima pela ligação</translation>
+    </message>
+    <message>
+        <source>E&amp;xplain a failure by the exit status of pppd</source>
+        <translation>E&amp;xplicar uma falha pelo estado de saída do pppd</translation>
+    </message>
+    <message>
+        <source>&amp;Open the profile&apos;s page once connected</source>
+        <translation>A&amp;brir a página do perfil depois de ligar</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Ligação</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Connector</name>
+    <message>
+        <source>Only UMTS network can connect while calling!</source>
+        <translation>Durante uma chamada só é possível ligar numa rede UMTS.</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>O dispositivo foi desligado ou não está disponível.</translation>
+    </message>
+    <message>
+        <source>You are connecting to a roaming network. Would you like to continue?</source>
+        <translation>Vai ligar-se a uma rede em roaming. Deseja continuar?</translation>
+    </message>
+    <message>
+        <source>Which access is yours?</source>
+        <translation>Qual é o seu acesso?</translation>
+    </message>
+    <message>
+        <source>Whose SIM card is it?</source>
+        <translation>De quem é o cartão SIM?</translation>
+    </message>
+    <message>
+        <source>%1 has several. Choose yours; the choice is kept as a profile.</source>
+        <translation>%1 tem vários. Escolha o seu; a escolha é guardada como perfil.</translation>
+    </message>
+    <message>
+        <source>Several operators share this network. Choose yours; the choice is kept as a profile.</source>
+        <translation>Vários operadores partilham esta rede. Escolha o seu; a escolha é guardada como perfil.</translation>
+    </message>
+    <message>
+        <source>C&amp;onnect</source>
+        <translation>&amp;Ligar</translation>
+    </message>
+    <message>
+        <source>Which profile?</source>
+        <translation>Que perfil?</translation>
+    </message>
+    <message>
+        <source>It is taken from now on.</source>
+        <translation>Será usado a partir de agora.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::CredentialsDialog</name>
+    <message>
+        <source>&amp;User name</source>
+        <translation>Nome de &amp;utilizador</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Palavra-passe</translation>
+    </message>
+    <message>
+        <source>&amp;Keep them and do not ask again</source>
+        <translation>&amp;Guardá-los e não voltar a perguntar</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Ligar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>C&amp;onnect</source>
+        <translation>&amp;Ligar</translation>
+    </message>
+    <message>
+        <source>The profile &quot;%1&quot; asks for them at each connection.</source>
+        <translation>O perfil «%1» pede-os em cada ligação.</translation>
+    </message>
+    <message>
+        <source>User name and password</source>
+        <translation>Nome de utilizador e palavra-passe</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DataLink</name>
+    <message>
+        <source>Fail to connect! Link ppp0 wasn&apos;t built !</source>
+        <translation>Falha ao ligar! A ligação ppp0 não foi estabelecida!</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>O dispositivo foi desligado ou não está disponível.</translation>
+    </message>
+    <message>
+        <source>The card did not accept the access point &quot;%1&quot;. Please check the APN of the profile.</source>
+        <translation>A placa não aceitou o ponto de acesso «%1». Verifique o APN do perfil.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DaysChart</name>
+    <message>
+        <source>Volume of each day</source>
+        <translation>Volume de cada dia</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DaysTab</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Earlier period</source>
+        <translation>Período anterior</translation>
+    </message>
+    <message>
+        <source>Later period</source>
+        <translation>Período seguinte</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing was carried in this period.</source>
+        <translation>Não houve tráfego neste período.</translation>
+    </message>
+    <message>
+        <source>In all: %1</source>
+        <translation>No total: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DhcpClient</name>
+    <message>
+        <source>There is no such network interface.</source>
+        <translation>Essa interface de rede não existe.</translation>
+    </message>
+    <message>
+        <source>There is no DHCP client. Please install isc-dhcp-client.</source>
+        <translation>Não há nenhum cliente DHCP. Instale o isc-dhcp-client.</translation>
+    </message>
+    <message>
+        <source>The network gave no address.</source>
+        <translation>A rede não deu nenhum endereço.</translation>
     </message>
 </context>
 <context>
@@ -952,10 +2062,67 @@
     </message>
 </context>
 <context>
+    <name>corva::DialUpLink</name>
+    <message>
+        <source>Connection is failed!</source>
+        <translation>A ligação falhou!</translation>
+    </message>
+    <message>
+        <source>Fail to connect! exit code is</source>
+        <translation>Falha ao ligar! O código de saída é</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DialWork</name>
+    <message>
+        <source>You may not use this card&apos;s data port.</source>
+        <translation>Não tem permissão para usar a porta de dados desta placa.</translation>
+    </message>
+    <message>
+        <source>The network interface does not belong to the card.</source>
+        <translation>A interface de rede não pertence à placa.</translation>
+    </message>
+    <message>
+        <source>The network interface has no address from here.</source>
+        <translation>A interface de rede não recebeu daqui o seu endereço.</translation>
+    </message>
+    <message>
+        <source>The DNS is invalid !</source>
+        <translation>O DNS não é válido.</translation>
+    </message>
+    <message>
+        <source>The dialler could not be started.</source>
+        <translation>Não foi possível iniciar o marcador.</translation>
+    </message>
+    <message>
+        <source>The dialler is running already.</source>
+        <translation>O marcador já está em execução.</translation>
+    </message>
+    <message>
+        <source>The connection was cancelled.</source>
+        <translation>A ligação foi cancelada.</translation>
+    </message>
+    <message>
+        <source>The route helper is not run: others may write it.</source>
+        <translation>O auxiliar de rotas não é executado: outros podem escrever nele.</translation>
+    </message>
+</context>
+<context>
     <name>corva::FactRow</name>
     <message>
         <source>Copy %1</source>
         <translation>Copiar %1</translation>
+    </message>
+</context>
+<context>
+    <name>corva::FormField</name>
+    <message>
+        <source>Show the password</source>
+        <translation>Mostrar a palavra-passe</translation>
+    </message>
+    <message>
+        <source>Hide the password</source>
+        <translation>Ocultar a palavra-passe</translation>
     </message>
 </context>
 <context>
@@ -1007,6 +2174,123 @@
     <message>
         <source>General</source>
         <translation>Geral</translation>
+    </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>Proc&amp;urar atualizações</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HelperBackend</name>
+    <message>
+        <source>Connecting needs an administrator&apos;s rights, and the program &quot;pkexec&quot;, which asks for them, is missing. Please install it.</source>
+        <translation>Para ligar são necessárias permissões de administrador, e falta o programa «pkexec», que as pede. Instale-o.</translation>
+    </message>
+    <message>
+        <source>The program that dials has ended unexpectedly. Please try again.</source>
+        <translation>O programa que faz a marcação terminou inesperadamente. Tente de novo.</translation>
+    </message>
+    <message>
+        <source>The right to connect was not given. Please connect again and enter the password.</source>
+        <translation>Não foi dada permissão para ligar. Volte a ligar e introduza a palavra-passe.</translation>
+    </message>
+    <message>
+        <source>The right to connect could not be asked for. Ask an administrator to run &quot;tools/install-dialhelper&quot;, or start Corva in a desktop session.</source>
+        <translation>Não foi possível pedir permissão para ligar. Peça a um administrador que execute «tools/install-dialhelper», ou inicie o Corva numa sessão de ambiente de trabalho.</translation>
+    </message>
+    <message>
+        <source>The program that dials could not be started. Ask an administrator to run &quot;tools/install-dialhelper&quot;.</source>
+        <translation>Não foi possível iniciar o programa que faz a marcação. Peça a um administrador que execute «tools/install-dialhelper».</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HistoryModel</name>
+    <message>
+        <source>Yes</source>
+        <translation>Sim</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>Início</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recebido</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>Roaming</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Fim</translation>
+    </message>
+    <message>
+        <source>From %1
+to %2</source>
+        <translation>De %1
+a %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HistoryTab</name>
+    <message>
+        <source>Delete &amp;all</source>
+        <translation>Eliminar &amp;tudo</translation>
+    </message>
+    <message>
+        <source>Search the history</source>
+        <translation>Procurar no histórico</translation>
+    </message>
+    <message>
+        <source>Search (%1)</source>
+        <translation>Procurar (%1)</translation>
+    </message>
+    <message>
+        <source>Connections that are over</source>
+        <translation>Ligações terminadas</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Delete %n entries</source>
+        <translation>
+            <numerusform>E&amp;liminar %n entrada</numerusform>
+            <numerusform>E&amp;liminar %n entradas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Delete entry</source>
+        <translation>E&amp;liminar entrada</translation>
+    </message>
+    <message>
+        <source>No connection was made yet. Each one is listed here once it is over.</source>
+        <translation>Ainda não foi feita nenhuma ligação. Cada uma aparece aqui depois de terminar.</translation>
+    </message>
+    <message>
+        <source>No entry has all of these words.</source>
+        <translation>Nenhuma entrada contém todas estas palavras.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries were deleted.</source>
+        <translation>
+            <numerusform>Foi eliminada %n entrada.</numerusform>
+            <numerusform>Foram eliminadas %n entradas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>A&amp;nular</translation>
     </message>
 </context>
 <context>
@@ -1063,6 +2347,29 @@
     </message>
 </context>
 <context>
+    <name>corva::MonthsModel</name>
+    <message>
+        <source>Month</source>
+        <translation>Mês</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recebido</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>Roaming</translation>
+    </message>
+    <message>
+        <source>In all</source>
+        <translation>No total</translation>
+    </message>
+</context>
+<context>
     <name>corva::Navigation</name>
     <message>
         <source>Pages</source>
@@ -1078,6 +2385,13 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::NetworkCardLink</name>
+    <message>
+        <source>Connection is failed!</source>
+        <translation>A ligação falhou!</translation>
     </message>
 </context>
 <context>
@@ -1099,16 +2413,183 @@
         <translation>Porque estou sem ligação?</translation>
     </message>
     <message>
-        <source>Everything from the socket to the network is in order.</source>
-        <translation>Da entrada USB à rede, está tudo em ordem.</translation>
-    </message>
-    <message>
         <source>Nothing is wrong so far; the card is at it.</source>
         <translation>Até agora está tudo bem; a placa está a tratar disso.</translation>
     </message>
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>Um passo não está em ordem. Os passos seguintes vêm por si.</translation>
+    </message>
+    <message>
+        <source>Everything from the socket to the internet is in order.</source>
+        <translation>Da entrada USB à internet, está tudo em ordem.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::OverviewTab</name>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>What the graph shows</source>
+        <translation>O que o gráfico mostra</translation>
+    </message>
+    <message>
+        <source>The last minute</source>
+        <translation>O último minuto</translation>
+    </message>
+    <message>
+        <source>The last 10 minutes</source>
+        <translation>Os últimos 10 minutos</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Hoje</translation>
+    </message>
+    <message>
+        <source>This connection, %1</source>
+        <translation>Esta ligação, %1</translation>
+    </message>
+    <message>
+        <source>Last connection, %1</source>
+        <translation>Última ligação, %1</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Ligação</translation>
+    </message>
+    <message>
+        <source>None was made yet.</source>
+        <translation>Ainda não foi feita nenhuma.</translation>
+    </message>
+    <message>
+        <source>Days and months are not counted: the configuration turns it off.</source>
+        <translation>Os dias e os meses não são contados: a configuração desativa-o.</translation>
+    </message>
+    <message>
+        <source>%1 Say in the settings, Traffic, what volume you have, to be warned in time.</source>
+        <translation>%1 Indique nas definições, em Tráfego, que volume tem, para ser avisado a tempo.</translation>
+    </message>
+    <message>
+        <source>Down %1 (filled), up %2 (dashed)</source>
+        <translation>Receção %1 (preenchido), envio %2 (tracejado)</translation>
+    </message>
+    <message>
+        <source>The graph runs while a connection is up.</source>
+        <translation>O gráfico avança enquanto houver uma ligação.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ProfileList</name>
+    <message>
+        <source>access point from the network</source>
+        <translation>ponto de acesso da rede</translation>
+    </message>
+    <message>
+        <source>%1, connects with it</source>
+        <translation>%1, liga com ele</translation>
+    </message>
+    <message>
+        <source>No profile yet</source>
+        <translation>Ainda não há perfis</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Adicionar</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>Make de&amp;fault</source>
+        <translation>Usar por prede&amp;finição</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Perfis</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Add a profile</source>
+        <translation>Adicionar um perfil</translation>
+    </message>
+    <message>
+        <source>Connect with this profile from now on</source>
+        <translation>Ligar com este perfil a partir de agora</translation>
+    </message>
+    <message>
+        <source>Vi&amp;ew</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>Delete the profile &quot;%1&quot;?</source>
+        <translation>Eliminar o perfil «%1»?</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>Eli&amp;minar</translation>
+    </message>
+    <message>
+        <source>Connects with &quot;%1&quot; from now on.</source>
+        <translation>A partir de agora, liga com «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ProfileStore</name>
+    <message>
+        <source>There is a profile with this name already.</source>
+        <translation>Já existe um perfil com este nome.</translation>
+    </message>
+    <message>
+        <source>There is no profile with this name.</source>
+        <translation>Não existe nenhum perfil com este nome.</translation>
+    </message>
+    <message>
+        <source>This profile may not be changed.</source>
+        <translation>Este perfil não pode ser alterado.</translation>
+    </message>
+    <message>
+        <source>This profile may not be deleted.</source>
+        <translation>Este perfil não pode ser eliminado.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::RateGraph</name>
+    <message>
+        <source>Graph of the rates</source>
+        <translation>Gráfico das velocidades</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>agora</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>Não foi possível guardar a definição: %1</translation>
     </message>
 </context>
 <context>
@@ -1151,6 +2632,21 @@
         <source>  ·  </source>
         <comment>between facts</comment>
         <translation>  ·  </translation>
+    </message>
+</context>
+<context>
+    <name>corva::StatisticsStore</name>
+    <message>
+        <source>%1 could not be read in full.</source>
+        <translation>Não foi possível ler %1 por completo.</translation>
+    </message>
+    <message>
+        <source>%1 could not be read in full. What stood in it is kept as %2.</source>
+        <translation>Não foi possível ler %1 por completo. O que continha foi guardado como %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be removed: %2</source>
+        <translation>Não é possível eliminar %1: %2</translation>
     </message>
 </context>
 <context>
@@ -1245,6 +2741,151 @@
     </message>
 </context>
 <context>
+    <name>corva::TrafficPage</name>
+    <message>
+        <source>E&amp;xport as CSV…</source>
+        <translation>E&amp;xportar como CSV…</translation>
+    </message>
+    <message>
+        <source>Writes the history to a file that spreadsheets read</source>
+        <translation>Escreve o histórico num ficheiro que as folhas de cálculo leem</translation>
+    </message>
+    <message>
+        <source>Writes days and months to a file that spreadsheets read</source>
+        <translation>Escreve os dias e os meses num ficheiro que as folhas de cálculo leem</translation>
+    </message>
+    <message>
+        <source>&amp;Overview</source>
+        <translation>&amp;Resumo</translation>
+    </message>
+    <message>
+        <source>Da&amp;ys</source>
+        <translation>&amp;Dias</translation>
+    </message>
+    <message>
+        <source>&amp;Months</source>
+        <translation>&amp;Meses</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Histórico</translation>
+    </message>
+    <message>
+        <source>Volume of each month</source>
+        <translation>Volume de cada mês</translation>
+    </message>
+    <message>
+        <source>Export the history</source>
+        <translation>Exportar o histórico</translation>
+    </message>
+    <message>
+        <source>Export days and months</source>
+        <translation>Exportar dias e meses</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>Tabelas CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>Guardado em %1.</translation>
+    </message>
+    <message>
+        <source>The table could not be written: %1</source>
+        <translation>Não foi possível escrever a tabela: %1</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Tráfego</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TrafficService</name>
+    <message>
+        <source>%1 The connection is ended, as you set it in the settings, Traffic.</source>
+        <translation>%1 A ligação é terminada, como indicou nas definições, em Tráfego.</translation>
+    </message>
+    <message>
+        <source>Your volume of %1 until %2 is used up.</source>
+        <translation>O seu volume de %1 até %2 está esgotado.</translation>
+    </message>
+    <message>
+        <source>Your volume of %1 for roaming until %2 is used up.</source>
+        <translation>O seu volume de %1 para roaming até %2 está esgotado.</translation>
+    </message>
+    <message>
+        <source>%1 % of your volume of %2 until %3 are used up.</source>
+        <translation>Já usou %1 % do seu volume de %2 até %3.</translation>
+    </message>
+    <message>
+        <source>%1 % of your volume of %2 for roaming until %3 are used up.</source>
+        <translation>Já usou %1 % do seu volume de %2 para roaming até %3.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TrafficSettingsPage</name>
+    <message>
+        <source>Your volume</source>
+        <translation>O seu volume</translation>
+    </message>
+    <message>
+        <source>&amp;Volume of a month</source>
+        <translation>&amp;Volume mensal</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nenhum</translation>
+    </message>
+    <message>
+        <source>While &amp;roaming</source>
+        <translation>Em &amp;roaming</translation>
+    </message>
+    <message>
+        <source>Counts with it</source>
+        <translation>Incluído nele</translation>
+    </message>
+    <message>
+        <source>It begins anew on &amp;day</source>
+        <translation>Recomeça no &amp;dia</translation>
+    </message>
+    <message>
+        <source>When it runs out</source>
+        <translation>Quando se esgota</translation>
+    </message>
+    <message>
+        <source>&amp;Warn at</source>
+        <translation>&amp;Avisar aos</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation>Unidade: %1</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nunca</translation>
+    </message>
+    <message>
+        <source>&amp;End the connection when the volume is used up</source>
+        <translation>&amp;Terminar a ligação quando o volume se esgotar</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Tráfego</translation>
+    </message>
+</context>
+<context>
     <name>corva::TrayIcon</name>
     <message>
         <source>&amp;Why am I offline?</source>
@@ -1265,6 +2906,45 @@
     <message>
         <source>&amp;Show the window</source>
         <translation>&amp;Mostrar a janela</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>&amp;Desligar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel connecting</source>
+        <translation>Ca&amp;ncelar a ligação</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;Ligar</translation>
+    </message>
+</context>
+<context>
+    <name>corva::WirelessWindow</name>
+    <message>
+        <source>Plug the card in to connect.</source>
+        <translation>Ligue a placa ao computador para poder estabelecer a ligação.</translation>
+    </message>
+    <message>
+        <source>Connect goes by the profile &quot;%1&quot;.</source>
+        <translation>A ligação é feita com o perfil «%1».</translation>
+    </message>
+    <message>
+        <source>The settings of %1 are known: just connect.</source>
+        <translation>As definições de %1 são conhecidas: basta ligar.</translation>
+    </message>
+    <message>
+        <source>The settings for this SIM card are known: connect, and say whose it is.</source>
+        <translation>As definições para este cartão SIM são conhecidas: ligue e indique de quem é.</translation>
+    </message>
+    <message>
+        <source>Add a profile with the access point that your operator has told you.</source>
+        <translation>Adicione um perfil com o ponto de acesso que o seu operador lhe indicou.</translation>
+    </message>
+    <message>
+        <source>Internet</source>
+        <translation>Internet</translation>
     </message>
 </context>
 </TS>

@@ -89,6 +89,246 @@
     </message>
 </context>
 <context>
+    <name>ConnectionDiagnosis</name>
+    <message>
+        <source>No profile is chosen</source>
+        <translation>Profil seçilmedi</translation>
+    </message>
+    <message>
+        <source>A profile says how to reach the internet through your operator. Those of most operators are known; choose one, or add your own.</source>
+        <translation>Profil, operatörünüz üzerinden internete nasıl ulaşılacağını belirtir. Çoğu operatörünki bilinir; birini seçin ya da kendinizinkini ekleyin.</translation>
+    </message>
+    <message>
+        <source>The network chooses it</source>
+        <translation>Ağ seçer</translation>
+    </message>
+    <message>
+        <source>The profile names no access point</source>
+        <translation>Profilde erişim noktası belirtilmemiş</translation>
+    </message>
+    <message>
+        <source>Your operator can tell you its name (APN). Enter it in the profile.</source>
+        <translation>Adını (APN) operatörünüz söyleyebilir. Profile girin.</translation>
+    </message>
+    <message>
+        <source>User name or password refused</source>
+        <translation>Kullanıcı adı ya da parola reddedildi</translation>
+    </message>
+    <message>
+        <source>The call was not taken</source>
+        <translation>Arama yanıtlanmadı</translation>
+    </message>
+    <message>
+        <source>The line was busy</source>
+        <translation>Hat meşguldü</translation>
+    </message>
+    <message>
+        <source>No link within the time</source>
+        <translation>Bağlantı zamanında kurulamadı</translation>
+    </message>
+    <message>
+        <source>The dialler failed</source>
+        <translation>Çevirici başarısız oldu</translation>
+    </message>
+    <message>
+        <source>System files cannot be changed</source>
+        <translation>Sistem dosyaları değiştirilemiyor</translation>
+    </message>
+    <message>
+        <source>No right to dial</source>
+        <translation>Çevirme izni yok</translation>
+    </message>
+    <message>
+        <source>The network ended the connection</source>
+        <translation>Ağ bağlantıyı sonlandırdı</translation>
+    </message>
+    <message>
+        <source>The connection broke off</source>
+        <translation>Bağlantı koptu</translation>
+    </message>
+    <message>
+        <source>The card was taken out</source>
+        <translation>Kart çıkarıldı</translation>
+    </message>
+    <message>
+        <source>Ended because nothing was carried</source>
+        <translation>Veri aktarılmadığı için sonlandı</translation>
+    </message>
+    <message>
+        <source>The month&apos;s volume is used up</source>
+        <translation>Aylık kota doldu</translation>
+    </message>
+    <message>
+        <source>The connection is up</source>
+        <translation>Bağlantı kuruldu</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Bağlanıyor</translation>
+    </message>
+    <message>
+        <source>This takes a few seconds.</source>
+        <translation>Bu birkaç saniye sürer.</translation>
+    </message>
+    <message>
+        <source>Disconnecting</source>
+        <translation>Bağlantı kesiliyor</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Bağlı değil</translation>
+    </message>
+    <message>
+        <source>The card is in the network, and everything is there to connect.</source>
+        <translation>Kart ağa kayıtlı ve bağlanmak için her şey hazır.</translation>
+    </message>
+    <message>
+        <source>The network gave no address</source>
+        <translation>Ağ adres vermedi</translation>
+    </message>
+    <message>
+        <source>Disconnect and connect again. If that does not help, the access point of the profile may be the wrong one.</source>
+        <translation>Bağlantıyı kesip yeniden bağlanın. İşe yaramazsa profildeki erişim noktası yanlış olabilir.</translation>
+    </message>
+    <message>
+        <source>No name servers</source>
+        <translation>Ad sunucusu yok</translation>
+    </message>
+    <message>
+        <source>Without them names of web sites cannot be found. Enter some in the profile, then disconnect and connect again.</source>
+        <translation>Bunlar olmadan web sitelerinin adları bulunamaz. Profile birkaçını girin, sonra bağlantıyı kesip yeniden bağlanın.</translation>
+    </message>
+    <message>
+        <source>Another connection carries the traffic</source>
+        <translation>Trafiği başka bir bağlantı taşıyor</translation>
+    </message>
+    <message>
+        <source>This computer goes through a cable, Wi-Fi or another way first. Switch that off, then disconnect and connect again here.</source>
+        <translation>Bu bilgisayar önce kabloyu, Wi-Fi&apos;yi ya da başka bir yolu kullanıyor. Onu kapatın, sonra buradan bağlantıyı kesip yeniden bağlanın.</translation>
+    </message>
+    <message>
+        <source>The traffic goes through the card</source>
+        <translation>Trafik karttan geçiyor</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Access point</source>
+        <translation>Erişim noktası</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Bağlantı</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP adresi</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>Ad sunucuları</translation>
+    </message>
+    <message>
+        <source>Route</source>
+        <translation>Yönlendirme</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionTexts</name>
+    <message>
+        <source>With &quot;%1&quot;, since %2.</source>
+        <translation>&quot;%1&quot; ile, başlangıç: %2.</translation>
+    </message>
+    <message>
+        <source>With &quot;%1&quot;, attempt %2 of %3.</source>
+        <translation>&quot;%1&quot; ile, deneme %2/%3.</translation>
+    </message>
+    <message>
+        <source>With &quot;%1&quot;.</source>
+        <translation>&quot;%1&quot; ile.</translation>
+    </message>
+    <message>
+        <source>%1 Attempt %2 of %3 follows.</source>
+        <translation>%1 Sırada deneme %2/%3 var.</translation>
+    </message>
+</context>
+<context>
+    <name>DiallerFiles</name>
+    <message>
+        <source>Save wvdial config data failed!</source>
+        <translation>wvdial yapılandırması kaydedilemedi!</translation>
+    </message>
+    <message>
+        <source>Read default wvdial config data failed!</source>
+        <translation>Varsayılan wvdial yapılandırması okunamadı!</translation>
+    </message>
+    <message>
+        <source>open file operation error!</source>
+        <translation>Dosya açılamadı!</translation>
+    </message>
+    <message>
+        <source>Recover wvdial config data failed!</source>
+        <translation>wvdial yapılandırması geri yüklenemedi!</translation>
+    </message>
+    <message>
+        <source>The DNS is invalid !</source>
+        <translation>DNS geçersiz!</translation>
+    </message>
+</context>
+<context>
+    <name>EndSentence</name>
+    <message>
+        <source>The network refused the user name and the password.</source>
+        <translation>Ağ, kullanıcı adını ve parolayı kabul etmedi.</translation>
+    </message>
+    <message>
+        <source>The network did not take the call.</source>
+        <translation>Ağ çağrıyı kabul etmedi.</translation>
+    </message>
+    <message>
+        <source>The line is busy. Please try again later.</source>
+        <translation>Hat meşgul. Lütfen daha sonra yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The network did not answer in time.</source>
+        <translation>Ağ zamanında yanıt vermedi.</translation>
+    </message>
+    <message>
+        <source>The dialler ended before it was done.</source>
+        <translation>Çevirici işini bitirmeden sona erdi.</translation>
+    </message>
+    <message>
+        <source>The files for the dialler could not be written.</source>
+        <translation>Çeviricinin dosyaları yazılamadı.</translation>
+    </message>
+    <message>
+        <source>The right to connect was not given.</source>
+        <translation>Bağlanma izni verilmedi.</translation>
+    </message>
+    <message>
+        <source>The network ended the connection.</source>
+        <translation>Ağ bağlantıyı sonlandırdı.</translation>
+    </message>
+    <message>
+        <source>The network does not answer any more.</source>
+        <translation>Ağ artık yanıt vermiyor.</translation>
+    </message>
+    <message>
+        <source>The card was pulled out.</source>
+        <translation>Kart çıkarıldı.</translation>
+    </message>
+    <message>
+        <source>The connection was ended because nothing was carried.</source>
+        <translation>Hiç veri aktarılmadığı için bağlantı sonlandırıldı.</translation>
+    </message>
+    <message>
+        <source>The connection was ended because the volume is used up.</source>
+        <translation>Kota dolduğu için bağlantı sonlandırıldı.</translation>
+    </message>
+</context>
+<context>
     <name>FrmDisclaimer</name>
     <message>
         <source>Before you begin</source>
@@ -113,6 +353,49 @@
     <message>
         <source>&amp;Decline and quit</source>
         <translation>&amp;Reddet ve çık</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryEnd</name>
+    <message>
+        <source>By you</source>
+        <translation>Siz kestiniz</translation>
+    </message>
+    <message>
+        <source>By the network</source>
+        <translation>Ağ kesti</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Yanıt yok</translation>
+    </message>
+    <message>
+        <source>Dialler stopped</source>
+        <translation>Çevirici durdu</translation>
+    </message>
+    <message>
+        <source>Card removed</source>
+        <translation>Kart çıkarıldı</translation>
+    </message>
+    <message>
+        <source>Nothing carried</source>
+        <translation>Veri aktarılmadı</translation>
+    </message>
+    <message>
+        <source>Volume used up</source>
+        <translation>Kota doldu</translation>
+    </message>
+    <message>
+        <source>Program closed</source>
+        <translation>Program kapatıldı</translation>
+    </message>
+    <message>
+        <source>Unexpectedly</source>
+        <translation>Beklenmedik biçimde</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Bilinmiyor</translation>
     </message>
 </context>
 <context>
@@ -514,6 +797,38 @@
         <source>&amp;Ask again</source>
         <translation>Yeniden &amp;sor</translation>
     </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;Bağlan</translation>
+    </message>
+    <message>
+        <source>&amp;Choose profile</source>
+        <translation>Profil s&amp;eç</translation>
+    </message>
+    <message>
+        <source>&amp;Edit profile</source>
+        <translation>Profili &amp;düzenle</translation>
+    </message>
+    <message>
+        <source>The settings name a port</source>
+        <translation>Ayarlar bir port belirtiyor</translation>
+    </message>
+    <message>
+        <source>The port does not exist</source>
+        <translation>Port yok</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which does not exist. Plug the card in; if it is plugged in, correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>Ayarlar %1 portunu belirtiyor, ama böyle bir port yok. Kartı takın; takılıysa Data/common-config.xml dosyasındaki &quot;at_port&quot; değerini düzeltip programı yeniden başlatın.</translation>
+    </message>
+    <message>
+        <source>The port is no serial port</source>
+        <translation>Port, seri port değil</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which is no serial port. Correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>Ayarlar %1 portunu belirtiyor, ama bu bir seri port değil. Data/common-config.xml dosyasındaki &quot;at_port&quot; değerini düzeltip programı yeniden başlatın.</translation>
+    </message>
 </context>
 <context>
     <name>PortAccess</name>
@@ -554,6 +869,167 @@
     </message>
 </context>
 <context>
+    <name>PppErrors</name>
+    <message>
+        <source>Pppd  has  detached,  or  otherwise  the  connection was successfully established and terminated at the peer&apos;s request.</source>
+        <translation>Pppd arka plana geçti ya da bağlantı başarıyla kuruldu ve karşı tarafın isteğiyle sonlandırıldı.</translation>
+    </message>
+    <message>
+        <source>An immediately fatal error of some kind occurred, such as an essential system call failing, or running out  of virtual memory.</source>
+        <translation>Hemen sonlandıran bir hata oluştu; örneğin temel bir sistem çağrısı başarısız oldu ya da sanal bellek tükendi.</translation>
+    </message>
+    <message>
+        <source>An error was detected in processing the options given, such as two mutually exclusive options being used.</source>
+        <translation>Verilen seçenekler işlenirken bir hata bulundu; örneğin birbirini dışlayan iki seçenek kullanıldı.</translation>
+    </message>
+    <message>
+        <source>Pppd is not setuid-root and the invoking user is not root.</source>
+        <translation>Pppd setuid-root değil ve çalıştıran kullanıcı root değil.</translation>
+    </message>
+    <message>
+        <source>The kernel does not support PPP, for example, the PPP kernel driver is not included or cannot be loaded.</source>
+        <translation>Çekirdek PPP desteklemiyor; örneğin PPP çekirdek sürücüsü yok ya da yüklenemiyor.</translation>
+    </message>
+    <message>
+        <source>Pppd terminated because it was sent a SIGINT, SIGTERM or SIGHUP signal.</source>
+        <translation>Pppd, SIGINT, SIGTERM ya da SIGHUP sinyali aldığı için sonlandı.</translation>
+    </message>
+    <message>
+        <source>The serial port could not be locked.</source>
+        <translation>Seri port kilitlenemedi.</translation>
+    </message>
+    <message>
+        <source>The serial port could not be opened.</source>
+        <translation>Seri port açılamadı.</translation>
+    </message>
+    <message>
+        <source>The connect script failed (returned a non-zero exit status).</source>
+        <translation>Bağlantı betiği başarısız oldu (sıfırdan farklı bir çıkış durumu döndürdü).</translation>
+    </message>
+    <message>
+        <source>The command specified as the argument to the pty option could not be run.</source>
+        <translation>pty seçeneğine verilen komut çalıştırılamadı.</translation>
+    </message>
+    <message>
+        <source>The  PPP  negotiation failed, that is, it didn&apos;t reach the point where at least one network protocol (e.g. IP) was running.</source>
+        <translation>PPP görüşmesi başarısız oldu; yani en az bir ağ protokolünün (ör. IP) çalıştığı noktaya ulaşılamadı.</translation>
+    </message>
+    <message>
+        <source>The peer system failed (or refused) to authenticate itself.</source>
+        <translation>Karşı sistem kimliğini doğrulayamadı (ya da doğrulamayı reddetti).</translation>
+    </message>
+    <message>
+        <source>The link was established successfully and terminated because it was idle.</source>
+        <translation>Bağlantı başarıyla kuruldu ve boşta kaldığı için sonlandırıldı.</translation>
+    </message>
+    <message>
+        <source>The link was established successfully and terminated because the connect time limit was reached.</source>
+        <translation>Bağlantı başarıyla kuruldu ve bağlantı süresi sınırına ulaşıldığı için sonlandırıldı.</translation>
+    </message>
+    <message>
+        <source>Callback was negotiated and an incoming call should arrive shortly.</source>
+        <translation>Geri arama kararlaştırıldı; kısa süre içinde bir arama gelmeli.</translation>
+    </message>
+    <message>
+        <source>The link was terminated because the peer is not responding to echo requests.</source>
+        <translation>Karşı taraf yankı isteklerine yanıt vermediği için bağlantı sonlandırıldı.</translation>
+    </message>
+    <message>
+        <source>The link was terminated by the modem hanging up.</source>
+        <translation>Modem hattı kapattığı için bağlantı sonlandırıldı.</translation>
+    </message>
+    <message>
+        <source>The PPP negotiation failed because serial loopback was detected.</source>
+        <translation>Seri geri döngü algılandığı için PPP görüşmesi başarısız oldu.</translation>
+    </message>
+    <message>
+        <source>The init script failed (returned a non-zero exit status).</source>
+        <translation>Başlatma betiği başarısız oldu (sıfırdan farklı bir çıkış durumu döndürdü).</translation>
+    </message>
+    <message>
+        <source>We failed to authenticate ourselves to the peer.</source>
+        <translation>Karşı tarafa kimliğimizi doğrulayamadık.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileChecks</name>
+    <message>
+        <source>The dial number may hold letters, digits and * # + , . - ( ), 80 at most.</source>
+        <translation>Aranacak numara harf, rakam ve * # + , . - ( ) içerebilir; en fazla 80 karakter.</translation>
+    </message>
+    <message>
+        <source>The user name must not hold quotes, backslashes, a brace at its beginning or blanks at its ends, not be a single asterisk, and be 255 bytes long at most.</source>
+        <translation>Kullanıcı adı tırnak işareti ya da ters eğik çizgi içeremez, süslü ayraçla başlayamaz, boşlukla başlayıp bitemez, tek bir yıldız işareti olamaz ve en fazla 255 bayt olabilir.</translation>
+    </message>
+    <message>
+        <source>The password must not hold quotes, backslashes, a brace or &quot;@/&quot; at its beginning or blanks at its ends, and be 255 bytes long at most.</source>
+        <translation>Parola tırnak işareti ya da ters eğik çizgi içeremez, süslü ayraçla ya da &quot;@/&quot; ile başlayamaz, boşlukla başlayıp bitemez ve en fazla 255 bayt olabilir.</translation>
+    </message>
+    <message>
+        <source>The name of the profile is too long.</source>
+        <translation>Profilin adı çok uzun.</translation>
+    </message>
+    <message>
+        <source>The APN may hold letters, digits and . - _ @ : /, 100 at most.</source>
+        <translation>APN harf, rakam ve . - _ @ : / içerebilir; en fazla 100 karakter.</translation>
+    </message>
+    <message>
+        <source>The address mode may hold letters and digits only.</source>
+        <translation>Adres kipi yalnızca harf ve rakam içerebilir.</translation>
+    </message>
+    <message>
+        <source>The beginning of the IMSI may hold 15 digits at most.</source>
+        <translation>IMSI başlangıcı en fazla 15 rakam içerebilir.</translation>
+    </message>
+    <message>
+        <source>The page to open must be an address of the web.</source>
+        <translation>Açılacak sayfa bir web adresi olmalı.</translation>
+    </message>
+    <message>
+        <source>A value holds a line break or another control character, or the text &quot;-|-&quot;.</source>
+        <translation>Bir değer satır sonu ya da başka bir denetim karakteri veya &quot;-|-&quot; metnini içeriyor.</translation>
+    </message>
+    <message>
+        <source>The Config Filename must be filled.</source>
+        <translation>Yapılandırma adı doldurulmalı.</translation>
+    </message>
+    <message>
+        <source>The Dial Number is empty!</source>
+        <translation>Aranacak numara boş!</translation>
+    </message>
+    <message>
+        <source>The APN is empty!</source>
+        <translation>APN boş!</translation>
+    </message>
+    <message>
+        <source>Invalid PDP!Please check it!</source>
+        <translation>PDP geçersiz! Lütfen denetleyin!</translation>
+    </message>
+    <message>
+        <source>Invalid Preferred DNS!Please check it!</source>
+        <translation>Tercih edilen DNS geçersiz! Lütfen denetleyin!</translation>
+    </message>
+    <message>
+        <source>Invalid Alternative DNS!Please check it!</source>
+        <translation>Alternatif DNS geçersiz! Lütfen denetleyin!</translation>
+    </message>
+    <message>
+        <source>The card&apos;s data port has a name that cannot be used.</source>
+        <translation>Kartın veri portunun adı kullanılamaz.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileStore</name>
+    <message>
+        <source>The profiles in %1 cannot be read.</source>
+        <translation>%1 içindeki profiller okunamıyor.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read, and cannot be kept beside.</source>
+        <translation>%1 okunamıyor ve saklanamıyor.</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -591,12 +1067,97 @@
         <source>%1 is a ring of links</source>
         <translation>%1 kendine dönen bir bağlantı</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>Bozuk ayar dosyası saklanamıyor</translation>
+    </message>
+    <message>
+        <source>The rights of %1 cannot be set</source>
+        <translation>%1 izinleri ayarlanamıyor</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>Ayarlar okunamadı; program hiçbir ayar olmadan başladı. Okunamayan dosya şu adla saklandı:
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>Ayarlar kaydedilemiyor: %1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
         <translation>&quot;%1&quot; içindeki renkler okunamıyor.</translation>
+    </message>
+</context>
+<context>
+    <name>Traffic</name>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/sn</translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>A day without its year, as QDate::toString takes it</extracomment>
+        <translation>d MMMM</translation>
+    </message>
+    <message>
+        <source>MMMM yyyy</source>
+        <extracomment>A month with its year, as QDate::toString takes it</extracomment>
+        <translation>MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>Yesterday, %1</source>
+        <translation>Dün, %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>TrafficSentences</name>
+    <message>
+        <source>%1 received, %2 sent</source>
+        <translation>%1 alındı, %2 gönderildi</translation>
+    </message>
+    <message>
+        <source>%1; %2 of it roaming</source>
+        <translation>%1; bunun %2 kadarı dolaşımda</translation>
+    </message>
+    <message>
+        <source>%1 of %2 used (%3&#xa0;%)</source>
+        <translation>%1 / %2 kullanıldı (%%3)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 roaming (%3&#xa0;%)</source>
+        <translation>%1 / %2 dolaşımda (%%3)</translation>
+    </message>
+    <message>
+        <source>Too few days are known to say what it will be by %1.</source>
+        <translation>%1 tarihine kadar ne olacağını söylemek için bilinen gün sayısı çok az.</translation>
+    </message>
+    <message>
+        <source>The volume is used up. A new one begins on %1.</source>
+        <translation>Kota doldu. Yenisi %1 tarihinde başlar.</translation>
+    </message>
+    <message>
+        <source>As it goes, it will be about %1 by %2.</source>
+        <translation>Bu gidişle %2 tarihine kadar yaklaşık %1 olur.</translation>
+    </message>
+    <message>
+        <source>As it goes, the volume will be used up on %1; by %2 it would be about %3.</source>
+        <translation>Bu gidişle kota %1 tarihinde dolar; %2 tarihine kadar yaklaşık %3 olur.</translation>
+    </message>
+    <message>
+        <source>As it goes, it will be about %1 by %2: the volume is enough.</source>
+        <translation>Bu gidişle %2 tarihine kadar yaklaşık %1 olur: kota yeterli.</translation>
     </message>
 </context>
 <context>
@@ -630,12 +1191,43 @@
         <translation>%1 &amp;hakkında</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
+        <source>&amp;Quit</source>
+        <translation>Çı&amp;k</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>B&amp;ağlan</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
         <translation>Ka&amp;pat</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>Çı&amp;k</translation>
+        <source>&amp;Disconnect</source>
+        <translation>Bağlantıyı ke&amp;s</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel connecting</source>
+        <translation>Bağlan&amp;mayı iptal et</translation>
+    </message>
+    <message>
+        <source>Disconnect and quit?</source>
+        <translation>Bağlantı kesilip çıkılsın mı?</translation>
+    </message>
+    <message>
+        <source>Disconnect and &amp;quit</source>
+        <translation>Bağlantıyı kes &amp;ve çık</translation>
+    </message>
+</context>
+<context>
+    <name>WvdialProcess</name>
+    <message>
+        <source>The dialler is running already.</source>
+        <translation>Çevirici zaten çalışıyor.</translation>
+    </message>
+    <message>
+        <source>The program wvdial is missing. Please install it.</source>
+        <translation>wvdial programı eksik. Lütfen kurun.</translation>
     </message>
 </context>
 <context>
@@ -923,8 +1515,526 @@
         <translation>SIM kart okunamıyor. Çıkarıp yeniden takın.</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>Kart yanıt vermedi. Hiçbir şey değişmedi; yeniden deneyin.</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>Kart zamanında yanıt vermedi. Girileni kabul edip etmediği bilinmiyor; kart bildiriyorsa kalan deneme sayısı gösterilir.</translation>
+    </message>
+    <message>
+        <source>The SIM card is still starting. Try again in a moment.</source>
+        <translation>SIM kart hâlâ başlatılıyor. Biraz sonra yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The card refused the entry, without saying that it is wrong.</source>
+        <translation>Kart girileni reddetti, ama yanlış olduğunu bildirmedi.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ChoiceDialog</name>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation>%1  ·  %2</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>İ&amp;ptal</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Config</name>
+    <message>
+        <source>New profile</source>
+        <translation>Yeni profil</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Edit profile</source>
+        <translation>Profili düzenle</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>Ka&amp;pat</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>İ&amp;ptal</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Kaydet</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Genel</translation>
+    </message>
+    <message>
+        <source>Profile &amp;name</source>
+        <translation>Profil a&amp;dı</translation>
+    </message>
+    <message>
+        <source>&amp;Dial number</source>
+        <translation>A&amp;ranacak numara</translation>
+    </message>
+    <message>
+        <source>Connect as a &amp;modem or a network card</source>
+        <translation>&amp;Modem ya da ağ kartı olarak bağlan</translation>
+    </message>
+    <message>
+        <source>As the card can</source>
+        <translation>Kartın desteklediği gibi</translation>
+    </message>
+    <message>
+        <source>Modem (dial-up)</source>
+        <translation>Modem (çevirmeli)</translation>
+    </message>
+    <message>
+        <source>Network card</source>
+        <translation>Ağ kartı</translation>
+    </message>
+    <message>
+        <source>For S&amp;IMs whose IMSI begins with</source>
+        <translation>IMSI&apos;si şununla başlayan &amp;SIM&apos;ler için</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>tümü</translation>
+    </message>
+    <message>
+        <source>Access point (APN)</source>
+        <translation>Erişim noktası (APN)</translation>
+    </message>
+    <message>
+        <source>Access point</source>
+        <translation>Erişim noktası</translation>
+    </message>
+    <message>
+        <source>&amp;This one</source>
+        <translation>B&amp;u</translation>
+    </message>
+    <message>
+        <source>&amp;By the network</source>
+        <translation>Ağ s&amp;eçer</translation>
+    </message>
+    <message>
+        <source>Name of the access &amp;point</source>
+        <translation>Er&amp;işim noktasının adı</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>Kimlik doğrulama</translation>
+    </message>
+    <message>
+        <source>P&amp;AP</source>
+        <translation>P&amp;AP</translation>
+    </message>
+    <message>
+        <source>C&amp;HAP</source>
+        <translation>C&amp;HAP</translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation>&amp;Yok</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>Kullanı&amp;cı adı</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>Paro&amp;la</translation>
+    </message>
+    <message>
+        <source>As&amp;k for them when connecting</source>
+        <translation>Bağlanırken s&amp;or</translation>
+    </message>
+    <message>
+        <source>Keep them in the profi&amp;le</source>
+        <translation>Pro&amp;filde sakla</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP adresi</translation>
+    </message>
+    <message>
+        <source>From the network (d&amp;ynamic)</source>
+        <translation>Ağın &amp;verdiği (dinamik)</translation>
+    </message>
+    <message>
+        <source>Fi&amp;xed</source>
+        <translation>Sabi&amp;t</translation>
+    </message>
+    <message>
+        <source>Fixed add&amp;ress</source>
+        <translation>Sa&amp;bit adres</translation>
+    </message>
+    <message>
+        <source>Name servers (DNS)</source>
+        <translation>Ad sunucuları (DNS)</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>Ad sunucuları</translation>
+    </message>
+    <message>
+        <source>&amp;From the network</source>
+        <translation>Ağdan &amp;gelenler</translation>
+    </message>
+    <message>
+        <source>Th&amp;ese</source>
+        <translation>Bu&amp;nlar</translation>
+    </message>
+    <message>
+        <source>Preferred (&amp;1)</source>
+        <translation>Tercih edilen (&amp;1)</translation>
+    </message>
+    <message>
+        <source>Alternative (&amp;2)</source>
+        <translation>Alternatif (&amp;2)</translation>
+    </message>
+    <message>
+        <source>Once connected</source>
+        <translation>Bağlanınca</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge to open in the browser</source>
+        <translation>Tarayıcıda açılacak &amp;web sayfası</translation>
+    </message>
+    <message>
+        <source>This profile came with the program and stays as it is.</source>
+        <translation>Bu profil programla birlikte geldi ve değiştirilemez.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionFacts</name>
+    <message>
+        <source>This connection</source>
+        <translation>Bu bağlantı</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Trafik</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Süre</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP adresi</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>Ağ geçidi</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>Ad sunucuları</translation>
+    </message>
+    <message>
+        <source>Receiving</source>
+        <translation>Alma hızı</translation>
+    </message>
+    <message>
+        <source>Sending</source>
+        <translation>Gönderme hızı</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Alınan</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gönderilen</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionHead</name>
+    <message>
+        <source>&amp;Why am I offline?</source>
+        <translation>&amp;Neden çevrimdışıyım?</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>Bağlantıyı &amp;kes</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>İ&amp;ptal</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;Bağlan</translation>
+    </message>
+    <message>
+        <source>Initializing</source>
+        <translation>Başlatılıyor</translation>
+    </message>
+    <message>
+        <source>Disconnecting</source>
+        <translation>Bağlantı kesiliyor</translation>
+    </message>
+    <message>
+        <source>Status: Connected</source>
+        <translation>Durum: Bağlı</translation>
+    </message>
+    <message>
+        <source>Status: Disconnected</source>
+        <translation>Durum: Bağlı değil</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionService</name>
+    <message>
+        <source>Only UMTS network can connect while calling!</source>
+        <translation>Arama sırasında yalnızca UMTS ağında bağlanılabilir!</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>Aygıtın bağlantısı kesilmiş ya da aygıt kullanılamıyor.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t open deault config file!</source>
+        <translation>Varsayılan profil dosyası açılamıyor!</translation>
+    </message>
+    <message>
+        <source>This card has no network interface. Please choose dial-up in the profile.</source>
+        <translation>Bu kartın ağ arayüzü yok. Lütfen profilde çevirmeli bağlantıyı seçin.</translation>
+    </message>
+    <message>
+        <source>The card has no data port that could be dialled on.</source>
+        <translation>Kartın çevirme yapılabilecek bir veri bağlantı noktası yok.</translation>
+    </message>
+    <message>
+        <source>There is no data transported recently. Auto Disconnect will close your internet link.</source>
+        <translation>Son zamanlarda veri aktarılmadı. Otomatik kesme internet bağlantınızı kapatacak.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionSettings</name>
+    <message>
+        <source>Automatic connection</source>
+        <translation>Otomatik bağlantı</translation>
+    </message>
+    <message>
+        <source>&amp;Connect by itself when the card is ready</source>
+        <translation>Kart hazır olunca kendiliğinden &amp;bağlan</translation>
+    </message>
+    <message>
+        <source>&amp;Attempts</source>
+        <translation>&amp;Deneme sayısı</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <comment>seconds</comment>
+        <translation> sn</translation>
+    </message>
+    <message>
+        <source>When a connection breaks off</source>
+        <translation>Bağlantı kopunca</translation>
+    </message>
+    <message>
+        <source>&amp;Dial again</source>
+        <translation>&amp;Yeniden çevir</translation>
+    </message>
+    <message>
+        <source>A&amp;ttempts</source>
+        <translation>D&amp;eneme sayısı</translation>
+    </message>
+    <message>
+        <source>&amp;First one after</source>
+        <translation>İ&amp;lk denemeden önce</translation>
+    </message>
+    <message>
+        <source>Each f&amp;urther one after</source>
+        <translation>&amp;Sonraki denemelerden önce</translation>
+    </message>
+    <message>
+        <source>When nothing is carried</source>
+        <translation>Veri aktarılmayınca</translation>
+    </message>
+    <message>
+        <source>D&amp;isconnect</source>
+        <translation>Bağlantıyı &amp;kes</translation>
+    </message>
+    <message>
+        <source>Aft&amp;er</source>
+        <translation>Bekleme sü&amp;resi</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <comment>minutes</comment>
+        <translation> dk</translation>
+    </message>
+    <message>
+        <source>Dialling</source>
+        <translation>Çevirme</translation>
+    </message>
+    <message>
+        <source>&amp;Longest wait for a link</source>
+        <translation>Bağlantı için en uzun bekle&amp;me</translation>
+    </message>
+    <message>
+        <source>E&amp;xplain a failure by the exit status of pppd</source>
+        <translation>Başarısızlığı &amp;pppd çıkış durumuyla açıkla</translation>
+    </message>
+    <message>
+        <source>&amp;Open the profile&apos;s page once connected</source>
+        <translation>Bağlanınca profilin sayfasını &amp;aç</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Bağlantı</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Connector</name>
+    <message>
+        <source>Only UMTS network can connect while calling!</source>
+        <translation>Arama sırasında yalnızca UMTS ağında bağlanılabilir!</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>Aygıtın bağlantısı kesildi ya da aygıt kullanılamıyor.</translation>
+    </message>
+    <message>
+        <source>You are connecting to a roaming network. Would you like to continue?</source>
+        <translation>Dolaşımdaki bir ağa bağlanıyorsunuz. Devam edilsin mi?</translation>
+    </message>
+    <message>
+        <source>Which access is yours?</source>
+        <translation>Hangi erişim sizin?</translation>
+    </message>
+    <message>
+        <source>Whose SIM card is it?</source>
+        <translation>SIM kart hangi operatörün?</translation>
+    </message>
+    <message>
+        <source>%1 has several. Choose yours; the choice is kept as a profile.</source>
+        <translation>%1 birden çok erişim sunuyor. Sizinkini seçin; seçim profil olarak saklanır.</translation>
+    </message>
+    <message>
+        <source>Several operators share this network. Choose yours; the choice is kept as a profile.</source>
+        <translation>Bu ağı birden çok operatör paylaşıyor. Sizinkini seçin; seçim profil olarak saklanır.</translation>
+    </message>
+    <message>
+        <source>C&amp;onnect</source>
+        <translation>&amp;Bağlan</translation>
+    </message>
+    <message>
+        <source>Which profile?</source>
+        <translation>Hangi profil?</translation>
+    </message>
+    <message>
+        <source>It is taken from now on.</source>
+        <translation>Bundan sonra bu kullanılır.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::CredentialsDialog</name>
+    <message>
+        <source>&amp;User name</source>
+        <translation>&amp;Kullanıcı adı</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Parola</translation>
+    </message>
+    <message>
+        <source>&amp;Keep them and do not ask again</source>
+        <translation>Sakla ve bir daha &amp;sorma</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Bağlan</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>İp&amp;tal</translation>
+    </message>
+    <message>
+        <source>C&amp;onnect</source>
+        <translation>&amp;Bağlan</translation>
+    </message>
+    <message>
+        <source>The profile &quot;%1&quot; asks for them at each connection.</source>
+        <translation>&quot;%1&quot; profili bunları her bağlantıda sorar.</translation>
+    </message>
+    <message>
+        <source>User name and password</source>
+        <translation>Kullanıcı adı ve parola</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DataLink</name>
+    <message>
+        <source>Fail to connect! Link ppp0 wasn&apos;t built !</source>
+        <translation>Bağlanılamadı! ppp0 bağlantısı kurulamadı!</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>Aygıtın bağlantısı kesilmiş ya da aygıt kullanılamıyor.</translation>
+    </message>
+    <message>
+        <source>The card did not accept the access point &quot;%1&quot;. Please check the APN of the profile.</source>
+        <translation>Kart &quot;%1&quot; erişim noktasını kabul etmedi. Lütfen profilin APN değerini denetleyin.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DaysChart</name>
+    <message>
+        <source>Volume of each day</source>
+        <translation>Günlük veri hacmi</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DaysTab</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Earlier period</source>
+        <translation>Önceki dönem</translation>
+    </message>
+    <message>
+        <source>Later period</source>
+        <translation>Sonraki dönem</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing was carried in this period.</source>
+        <translation>Bu dönemde veri aktarılmadı.</translation>
+    </message>
+    <message>
+        <source>In all: %1</source>
+        <translation>Toplam: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DhcpClient</name>
+    <message>
+        <source>There is no such network interface.</source>
+        <translation>Böyle bir ağ arayüzü yok.</translation>
+    </message>
+    <message>
+        <source>There is no DHCP client. Please install isc-dhcp-client.</source>
+        <translation>DHCP istemcisi yok. Lütfen isc-dhcp-client paketini kurun.</translation>
+    </message>
+    <message>
+        <source>The network gave no address.</source>
+        <translation>Ağ adres vermedi.</translation>
     </message>
 </context>
 <context>
@@ -951,10 +2061,67 @@
     </message>
 </context>
 <context>
+    <name>corva::DialUpLink</name>
+    <message>
+        <source>Connection is failed!</source>
+        <translation>Bağlantı başarısız oldu!</translation>
+    </message>
+    <message>
+        <source>Fail to connect! exit code is</source>
+        <translation>Bağlanılamadı! Çıkış kodu</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DialWork</name>
+    <message>
+        <source>You may not use this card&apos;s data port.</source>
+        <translation>Bu kartın veri portunu kullanma izniniz yok.</translation>
+    </message>
+    <message>
+        <source>The network interface does not belong to the card.</source>
+        <translation>Ağ arayüzü bu karta ait değil.</translation>
+    </message>
+    <message>
+        <source>The network interface has no address from here.</source>
+        <translation>Ağ arayüzünün buradan verilmiş adresi yok.</translation>
+    </message>
+    <message>
+        <source>The DNS is invalid !</source>
+        <translation>DNS geçersiz!</translation>
+    </message>
+    <message>
+        <source>The dialler could not be started.</source>
+        <translation>Çevirici başlatılamadı.</translation>
+    </message>
+    <message>
+        <source>The dialler is running already.</source>
+        <translation>Çevirici zaten çalışıyor.</translation>
+    </message>
+    <message>
+        <source>The connection was cancelled.</source>
+        <translation>Bağlanma iptal edildi.</translation>
+    </message>
+    <message>
+        <source>The route helper is not run: others may write it.</source>
+        <translation>Yönlendirme yardımcısı çalıştırılmıyor: başkaları değiştirebilir.</translation>
+    </message>
+</context>
+<context>
     <name>corva::FactRow</name>
     <message>
         <source>Copy %1</source>
         <translation>Kopyala: %1</translation>
+    </message>
+</context>
+<context>
+    <name>corva::FormField</name>
+    <message>
+        <source>Show the password</source>
+        <translation>Parolayı göster</translation>
+    </message>
+    <message>
+        <source>Hide the password</source>
+        <translation>Parolayı gizle</translation>
     </message>
 </context>
 <context>
@@ -1006,6 +2173,121 @@
     <message>
         <source>General</source>
         <translation>Genel</translation>
+    </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>&amp;Güncellemeleri ara</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HelperBackend</name>
+    <message>
+        <source>Connecting needs an administrator&apos;s rights, and the program &quot;pkexec&quot;, which asks for them, is missing. Please install it.</source>
+        <translation>Bağlanmak için yönetici izni gerekir, ama bu izni isteyen &quot;pkexec&quot; programı eksik. Lütfen kurun.</translation>
+    </message>
+    <message>
+        <source>The program that dials has ended unexpectedly. Please try again.</source>
+        <translation>Çeviren program beklenmedik biçimde sonlandı. Lütfen yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The right to connect was not given. Please connect again and enter the password.</source>
+        <translation>Bağlanma izni verilmedi. Lütfen yeniden bağlanıp parolayı girin.</translation>
+    </message>
+    <message>
+        <source>The right to connect could not be asked for. Ask an administrator to run &quot;tools/install-dialhelper&quot;, or start Corva in a desktop session.</source>
+        <translation>Bağlanma izni istenemedi. Bir yöneticiden &quot;tools/install-dialhelper&quot; çalıştırmasını isteyin ya da Corva&apos;yı bir masaüstü oturumunda başlatın.</translation>
+    </message>
+    <message>
+        <source>The program that dials could not be started. Ask an administrator to run &quot;tools/install-dialhelper&quot;.</source>
+        <translation>Çeviren program başlatılamadı. Bir yöneticiden &quot;tools/install-dialhelper&quot; çalıştırmasını isteyin.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HistoryModel</name>
+    <message>
+        <source>Yes</source>
+        <translation>Evet</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>Başlangıç</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Süre</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Alınan</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gönderilen</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>Dolaşım</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Bitiş</translation>
+    </message>
+    <message>
+        <source>From %1
+to %2</source>
+        <translation>Başlangıç: %1
+Bitiş: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HistoryTab</name>
+    <message>
+        <source>Delete &amp;all</source>
+        <translation>&amp;Tümünü sil</translation>
+    </message>
+    <message>
+        <source>Search the history</source>
+        <translation>Geçmişte ara</translation>
+    </message>
+    <message>
+        <source>Search (%1)</source>
+        <translation>Ara (%1)</translation>
+    </message>
+    <message>
+        <source>Connections that are over</source>
+        <translation>Biten bağlantılar</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Delete %n entries</source>
+        <translation>
+            <numerusform>%n kaydı &amp;sil</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Delete entry</source>
+        <translation>Kaydı &amp;sil</translation>
+    </message>
+    <message>
+        <source>No connection was made yet. Each one is listed here once it is over.</source>
+        <translation>Henüz bağlantı kurulmadı. Her bağlantı bitince burada listelenir.</translation>
+    </message>
+    <message>
+        <source>No entry has all of these words.</source>
+        <translation>Bu sözcüklerin tümünü içeren kayıt yok.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries were deleted.</source>
+        <translation>
+            <numerusform>%n kayıt silindi.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Geri al</translation>
     </message>
 </context>
 <context>
@@ -1062,6 +2344,29 @@
     </message>
 </context>
 <context>
+    <name>corva::MonthsModel</name>
+    <message>
+        <source>Month</source>
+        <translation>Ay</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Alınan</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gönderilen</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>Dolaşım</translation>
+    </message>
+    <message>
+        <source>In all</source>
+        <translation>Toplam</translation>
+    </message>
+</context>
+<context>
     <name>corva::Navigation</name>
     <message>
         <source>Pages</source>
@@ -1077,6 +2382,13 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::NetworkCardLink</name>
+    <message>
+        <source>Connection is failed!</source>
+        <translation>Bağlantı başarısız oldu!</translation>
     </message>
 </context>
 <context>
@@ -1098,16 +2410,183 @@
         <translation>Neden çevrimdışıyım?</translation>
     </message>
     <message>
-        <source>Everything from the socket to the network is in order.</source>
-        <translation>USB girişinden ağa kadar her şey yolunda.</translation>
-    </message>
-    <message>
         <source>Nothing is wrong so far; the card is at it.</source>
         <translation>Şimdilik sorun yok; kart işini yapıyor.</translation>
     </message>
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>Bir adım yolunda değil. Sonraki adımlar kendiliğinden gelir.</translation>
+    </message>
+    <message>
+        <source>Everything from the socket to the internet is in order.</source>
+        <translation>USB girişinden internete kadar her şey yolunda.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::OverviewTab</name>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>What the graph shows</source>
+        <translation>Grafiğin gösterdiği</translation>
+    </message>
+    <message>
+        <source>The last minute</source>
+        <translation>Son dakika</translation>
+    </message>
+    <message>
+        <source>The last 10 minutes</source>
+        <translation>Son 10 dakika</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Bugün</translation>
+    </message>
+    <message>
+        <source>This connection, %1</source>
+        <translation>Bu bağlantı, %1</translation>
+    </message>
+    <message>
+        <source>Last connection, %1</source>
+        <translation>Son bağlantı, %1</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Bağlantı</translation>
+    </message>
+    <message>
+        <source>None was made yet.</source>
+        <translation>Henüz kurulmadı.</translation>
+    </message>
+    <message>
+        <source>Days and months are not counted: the configuration turns it off.</source>
+        <translation>Günler ve aylar sayılmıyor: yapılandırmada kapatılmış.</translation>
+    </message>
+    <message>
+        <source>%1 Say in the settings, Traffic, what volume you have, to be warned in time.</source>
+        <translation>%1 Zamanında uyarılmak için Ayarlar, Trafik sayfasında kotanızı belirtin.</translation>
+    </message>
+    <message>
+        <source>Down %1 (filled), up %2 (dashed)</source>
+        <translation>İndirme %1 (dolu), yükleme %2 (kesik çizgi)</translation>
+    </message>
+    <message>
+        <source>The graph runs while a connection is up.</source>
+        <translation>Grafik, bağlantı varken ilerler.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ProfileList</name>
+    <message>
+        <source>access point from the network</source>
+        <translation>erişim noktası ağdan</translation>
+    </message>
+    <message>
+        <source>%1, connects with it</source>
+        <translation>%1, bununla bağlanılır</translation>
+    </message>
+    <message>
+        <source>No profile yet</source>
+        <translation>Henüz profil yok</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Ekle</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Düzenle</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>Si&amp;l</translation>
+    </message>
+    <message>
+        <source>Make de&amp;fault</source>
+        <translation>&amp;Varsayılan yap</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profiller</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Add a profile</source>
+        <translation>Profil ekle</translation>
+    </message>
+    <message>
+        <source>Connect with this profile from now on</source>
+        <translation>Bundan sonra bu profille bağlan</translation>
+    </message>
+    <message>
+        <source>Vi&amp;ew</source>
+        <translation>&amp;Görüntüle</translation>
+    </message>
+    <message>
+        <source>Delete the profile &quot;%1&quot;?</source>
+        <translation>&quot;%1&quot; profili silinsin mi?</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Sil</translation>
+    </message>
+    <message>
+        <source>Connects with &quot;%1&quot; from now on.</source>
+        <translation>Bundan sonra &quot;%1&quot; ile bağlanılır.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ProfileStore</name>
+    <message>
+        <source>There is a profile with this name already.</source>
+        <translation>Bu adda bir profil zaten var.</translation>
+    </message>
+    <message>
+        <source>There is no profile with this name.</source>
+        <translation>Bu adda bir profil yok.</translation>
+    </message>
+    <message>
+        <source>This profile may not be changed.</source>
+        <translation>Bu profil değiştirilemez.</translation>
+    </message>
+    <message>
+        <source>This profile may not be deleted.</source>
+        <translation>Bu profil silinemez.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::RateGraph</name>
+    <message>
+        <source>Graph of the rates</source>
+        <translation>Hız grafiği</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 sn</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 dk</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>şimdi</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/sn</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>Ayar kaydedilemedi: %1</translation>
     </message>
 </context>
 <context>
@@ -1150,6 +2629,21 @@
         <source>  ·  </source>
         <comment>between facts</comment>
         <translation>  ·  </translation>
+    </message>
+</context>
+<context>
+    <name>corva::StatisticsStore</name>
+    <message>
+        <source>%1 could not be read in full.</source>
+        <translation>%1 tam olarak okunamadı.</translation>
+    </message>
+    <message>
+        <source>%1 could not be read in full. What stood in it is kept as %2.</source>
+        <translation>%1 tam olarak okunamadı. İçindekiler %2 adıyla saklandı.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be removed: %2</source>
+        <translation>%1 kaldırılamıyor: %2</translation>
     </message>
 </context>
 <context>
@@ -1244,6 +2738,151 @@
     </message>
 </context>
 <context>
+    <name>corva::TrafficPage</name>
+    <message>
+        <source>E&amp;xport as CSV…</source>
+        <translation>CSV olarak &amp;dışa aktar…</translation>
+    </message>
+    <message>
+        <source>Writes the history to a file that spreadsheets read</source>
+        <translation>Geçmişi hesap tablolarının okuduğu bir dosyaya yazar</translation>
+    </message>
+    <message>
+        <source>Writes days and months to a file that spreadsheets read</source>
+        <translation>Günleri ve ayları hesap tablolarının okuduğu bir dosyaya yazar</translation>
+    </message>
+    <message>
+        <source>&amp;Overview</source>
+        <translation>&amp;Genel bakış</translation>
+    </message>
+    <message>
+        <source>Da&amp;ys</source>
+        <translation>Gü&amp;nler</translation>
+    </message>
+    <message>
+        <source>&amp;Months</source>
+        <translation>&amp;Aylar</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>Geç&amp;miş</translation>
+    </message>
+    <message>
+        <source>Volume of each month</source>
+        <translation>Aylık veri hacmi</translation>
+    </message>
+    <message>
+        <source>Export the history</source>
+        <translation>Geçmişi dışa aktar</translation>
+    </message>
+    <message>
+        <source>Export days and months</source>
+        <translation>Günleri ve ayları dışa aktar</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>CSV tabloları (*.csv)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>%1 dosyasına yazıldı.</translation>
+    </message>
+    <message>
+        <source>The table could not be written: %1</source>
+        <translation>Tablo yazılamadı: %1</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Trafik</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TrafficService</name>
+    <message>
+        <source>%1 The connection is ended, as you set it in the settings, Traffic.</source>
+        <translation>%1 Bağlantı, Ayarlar, Trafik sayfasında belirttiğiniz gibi kesiliyor.</translation>
+    </message>
+    <message>
+        <source>Your volume of %1 until %2 is used up.</source>
+        <translation>%2 tarihine kadarki %1 kotanız doldu.</translation>
+    </message>
+    <message>
+        <source>Your volume of %1 for roaming until %2 is used up.</source>
+        <translation>%2 tarihine kadarki %1 dolaşım kotanız doldu.</translation>
+    </message>
+    <message>
+        <source>%1 % of your volume of %2 until %3 are used up.</source>
+        <translation>%3 tarihine kadarki %2 kotanızın kullanım oranı: %%1.</translation>
+    </message>
+    <message>
+        <source>%1 % of your volume of %2 for roaming until %3 are used up.</source>
+        <translation>%3 tarihine kadarki %2 dolaşım kotanızın kullanım oranı: %%1.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TrafficSettingsPage</name>
+    <message>
+        <source>Your volume</source>
+        <translation>Kotanız</translation>
+    </message>
+    <message>
+        <source>&amp;Volume of a month</source>
+        <translation>Aylık &amp;kota</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Yok</translation>
+    </message>
+    <message>
+        <source>While &amp;roaming</source>
+        <translation>&amp;Dolaşımda</translation>
+    </message>
+    <message>
+        <source>Counts with it</source>
+        <translation>Kotaya dahil</translation>
+    </message>
+    <message>
+        <source>It begins anew on &amp;day</source>
+        <translation>Yenilenme &amp;günü</translation>
+    </message>
+    <message>
+        <source>When it runs out</source>
+        <translation>Kota dolunca</translation>
+    </message>
+    <message>
+        <source>&amp;Warn at</source>
+        <translation>&amp;Uyarı eşiği</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation>Birim: %1</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Hiçbir zaman</translation>
+    </message>
+    <message>
+        <source>&amp;End the connection when the volume is used up</source>
+        <translation>Kota dolunca &amp;bağlantıyı kes</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Trafik</translation>
+    </message>
+</context>
+<context>
     <name>corva::TrayIcon</name>
     <message>
         <source>&amp;Why am I offline?</source>
@@ -1264,6 +2903,45 @@
     <message>
         <source>&amp;Show the window</source>
         <translation>Pencereyi &amp;göster</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>Bağlantıyı ke&amp;s</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel connecting</source>
+        <translation>Bağlan&amp;mayı iptal et</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;Bağlan</translation>
+    </message>
+</context>
+<context>
+    <name>corva::WirelessWindow</name>
+    <message>
+        <source>Plug the card in to connect.</source>
+        <translation>Bağlanmak için kartı takın.</translation>
+    </message>
+    <message>
+        <source>Connect goes by the profile &quot;%1&quot;.</source>
+        <translation>Bağlantı &quot;%1&quot; profiliyle kurulur.</translation>
+    </message>
+    <message>
+        <source>The settings of %1 are known: just connect.</source>
+        <translation>%1 ayarları biliniyor: bağlanmanız yeterli.</translation>
+    </message>
+    <message>
+        <source>The settings for this SIM card are known: connect, and say whose it is.</source>
+        <translation>Bu SIM kartın ayarları biliniyor: bağlanın ve hangi operatörün olduğunu belirtin.</translation>
+    </message>
+    <message>
+        <source>Add a profile with the access point that your operator has told you.</source>
+        <translation>Operatörünüzün bildirdiği erişim noktasıyla bir profil ekleyin.</translation>
+    </message>
+    <message>
+        <source>Internet</source>
+        <translation>İnternet</translation>
     </message>
 </context>
 </TS>

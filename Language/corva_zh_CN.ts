@@ -89,6 +89,246 @@
     </message>
 </context>
 <context>
+    <name>ConnectionDiagnosis</name>
+    <message>
+        <source>No profile is chosen</source>
+        <translation>未选择配置文件</translation>
+    </message>
+    <message>
+        <source>A profile says how to reach the internet through your operator. Those of most operators are known; choose one, or add your own.</source>
+        <translation>配置文件说明如何通过运营商接入互联网。大多数运营商的配置已内置；请选择一个，或自行添加。</translation>
+    </message>
+    <message>
+        <source>The network chooses it</source>
+        <translation>由网络选择</translation>
+    </message>
+    <message>
+        <source>The profile names no access point</source>
+        <translation>配置文件未指定接入点</translation>
+    </message>
+    <message>
+        <source>Your operator can tell you its name (APN). Enter it in the profile.</source>
+        <translation>运营商可告知接入点名称 (APN)。请在配置文件中填写。</translation>
+    </message>
+    <message>
+        <source>User name or password refused</source>
+        <translation>用户名或密码被拒绝</translation>
+    </message>
+    <message>
+        <source>The call was not taken</source>
+        <translation>呼叫未被接受</translation>
+    </message>
+    <message>
+        <source>The line was busy</source>
+        <translation>线路忙</translation>
+    </message>
+    <message>
+        <source>No link within the time</source>
+        <translation>未在规定时间内建立链路</translation>
+    </message>
+    <message>
+        <source>The dialler failed</source>
+        <translation>拨号程序失败</translation>
+    </message>
+    <message>
+        <source>System files cannot be changed</source>
+        <translation>无法更改系统文件</translation>
+    </message>
+    <message>
+        <source>No right to dial</source>
+        <translation>无权拨号</translation>
+    </message>
+    <message>
+        <source>The network ended the connection</source>
+        <translation>网络结束了连接</translation>
+    </message>
+    <message>
+        <source>The connection broke off</source>
+        <translation>连接中断</translation>
+    </message>
+    <message>
+        <source>The card was taken out</source>
+        <translation>上网卡已拔出</translation>
+    </message>
+    <message>
+        <source>Ended because nothing was carried</source>
+        <translation>因无数据传输而结束</translation>
+    </message>
+    <message>
+        <source>The month&apos;s volume is used up</source>
+        <translation>本月流量已用完</translation>
+    </message>
+    <message>
+        <source>The connection is up</source>
+        <translation>连接已建立</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>正在连接</translation>
+    </message>
+    <message>
+        <source>This takes a few seconds.</source>
+        <translation>这需要几秒钟。</translation>
+    </message>
+    <message>
+        <source>Disconnecting</source>
+        <translation>正在断开</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>未连接</translation>
+    </message>
+    <message>
+        <source>The card is in the network, and everything is there to connect.</source>
+        <translation>上网卡已接入网络，连接所需的条件均已具备。</translation>
+    </message>
+    <message>
+        <source>The network gave no address</source>
+        <translation>网络未分配地址</translation>
+    </message>
+    <message>
+        <source>Disconnect and connect again. If that does not help, the access point of the profile may be the wrong one.</source>
+        <translation>请断开后重新连接。如仍无效，可能是配置文件中的接入点不正确。</translation>
+    </message>
+    <message>
+        <source>No name servers</source>
+        <translation>没有域名服务器</translation>
+    </message>
+    <message>
+        <source>Without them names of web sites cannot be found. Enter some in the profile, then disconnect and connect again.</source>
+        <translation>没有域名服务器就无法查找网站名称。请在配置文件中填写，然后断开并重新连接。</translation>
+    </message>
+    <message>
+        <source>Another connection carries the traffic</source>
+        <translation>流量经由其他连接</translation>
+    </message>
+    <message>
+        <source>This computer goes through a cable, Wi-Fi or another way first. Switch that off, then disconnect and connect again here.</source>
+        <translation>此计算机优先使用网线、Wi-Fi 或其他方式上网。请将其关闭，然后在此处断开并重新连接。</translation>
+    </message>
+    <message>
+        <source>The traffic goes through the card</source>
+        <translation>流量经由上网卡</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>配置文件</translation>
+    </message>
+    <message>
+        <source>Access point</source>
+        <translation>接入点</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP 地址</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>域名服务器</translation>
+    </message>
+    <message>
+        <source>Route</source>
+        <translation>路由</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionTexts</name>
+    <message>
+        <source>With &quot;%1&quot;, since %2.</source>
+        <translation>使用“%1”，自 %2 起。</translation>
+    </message>
+    <message>
+        <source>With &quot;%1&quot;, attempt %2 of %3.</source>
+        <translation>使用“%1”，第 %2 次尝试，共 %3 次。</translation>
+    </message>
+    <message>
+        <source>With &quot;%1&quot;.</source>
+        <translation>使用“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 Attempt %2 of %3 follows.</source>
+        <translation>%1 即将进行第 %2 次尝试，共 %3 次。</translation>
+    </message>
+</context>
+<context>
+    <name>DiallerFiles</name>
+    <message>
+        <source>Save wvdial config data failed!</source>
+        <translation>保存 wvdial 配置数据失败！</translation>
+    </message>
+    <message>
+        <source>Read default wvdial config data failed!</source>
+        <translation>读取默认 wvdial 配置数据失败！</translation>
+    </message>
+    <message>
+        <source>open file operation error!</source>
+        <translation>打开文件出错！</translation>
+    </message>
+    <message>
+        <source>Recover wvdial config data failed!</source>
+        <translation>恢复 wvdial 配置数据失败！</translation>
+    </message>
+    <message>
+        <source>The DNS is invalid !</source>
+        <translation>DNS 无效！</translation>
+    </message>
+</context>
+<context>
+    <name>EndSentence</name>
+    <message>
+        <source>The network refused the user name and the password.</source>
+        <translation>网络拒绝了用户名和密码。</translation>
+    </message>
+    <message>
+        <source>The network did not take the call.</source>
+        <translation>网络未接受呼叫。</translation>
+    </message>
+    <message>
+        <source>The line is busy. Please try again later.</source>
+        <translation>线路忙。请稍后再试。</translation>
+    </message>
+    <message>
+        <source>The network did not answer in time.</source>
+        <translation>网络未及时应答。</translation>
+    </message>
+    <message>
+        <source>The dialler ended before it was done.</source>
+        <translation>拨号程序在完成前已结束。</translation>
+    </message>
+    <message>
+        <source>The files for the dialler could not be written.</source>
+        <translation>无法写入拨号程序的文件。</translation>
+    </message>
+    <message>
+        <source>The right to connect was not given.</source>
+        <translation>未获得连接权限。</translation>
+    </message>
+    <message>
+        <source>The network ended the connection.</source>
+        <translation>网络结束了连接。</translation>
+    </message>
+    <message>
+        <source>The network does not answer any more.</source>
+        <translation>网络不再应答。</translation>
+    </message>
+    <message>
+        <source>The card was pulled out.</source>
+        <translation>网卡已被拔出。</translation>
+    </message>
+    <message>
+        <source>The connection was ended because nothing was carried.</source>
+        <translation>由于没有数据传输，连接已结束。</translation>
+    </message>
+    <message>
+        <source>The connection was ended because the volume is used up.</source>
+        <translation>由于流量已用完，连接已结束。</translation>
+    </message>
+</context>
+<context>
     <name>FrmDisclaimer</name>
     <message>
         <source>Before you begin</source>
@@ -113,6 +353,49 @@
     <message>
         <source>&amp;Decline and quit</source>
         <translation>拒绝并退出(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryEnd</name>
+    <message>
+        <source>By you</source>
+        <translation>由您结束</translation>
+    </message>
+    <message>
+        <source>By the network</source>
+        <translation>由网络结束</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>无响应</translation>
+    </message>
+    <message>
+        <source>Dialler stopped</source>
+        <translation>拨号程序已停止</translation>
+    </message>
+    <message>
+        <source>Card removed</source>
+        <translation>上网卡已拔出</translation>
+    </message>
+    <message>
+        <source>Nothing carried</source>
+        <translation>无数据传输</translation>
+    </message>
+    <message>
+        <source>Volume used up</source>
+        <translation>流量已用完</translation>
+    </message>
+    <message>
+        <source>Program closed</source>
+        <translation>程序已关闭</translation>
+    </message>
+    <message>
+        <source>Unexpectedly</source>
+        <translation>意外结束</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>未知</translation>
     </message>
 </context>
 <context>
@@ -514,6 +797,38 @@
         <source>&amp;Ask again</source>
         <translation>重新查询(&amp;A)</translation>
     </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>连接(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Choose profile</source>
+        <translation>选择配置文件(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit profile</source>
+        <translation>编辑配置文件(&amp;E)</translation>
+    </message>
+    <message>
+        <source>The settings name a port</source>
+        <translation>设置中指定了端口</translation>
+    </message>
+    <message>
+        <source>The port does not exist</source>
+        <translation>端口不存在</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which does not exist. Plug the card in; if it is plugged in, correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>设置中指定的端口 %1 不存在。请插入上网卡；如已插入，请更正文件 Data/common-config.xml 中的“at_port”，然后重新启动程序。</translation>
+    </message>
+    <message>
+        <source>The port is no serial port</source>
+        <translation>该端口不是串口</translation>
+    </message>
+    <message>
+        <source>The settings name the port %1, which is no serial port. Correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
+        <translation>设置中指定的端口 %1 不是串口。请更正文件 Data/common-config.xml 中的“at_port”，然后重新启动程序。</translation>
+    </message>
 </context>
 <context>
     <name>PortAccess</name>
@@ -554,6 +869,167 @@
     </message>
 </context>
 <context>
+    <name>PppErrors</name>
+    <message>
+        <source>Pppd  has  detached,  or  otherwise  the  connection was successfully established and terminated at the peer&apos;s request.</source>
+        <translation>pppd 已转入后台运行，或连接已成功建立并应对方请求终止。</translation>
+    </message>
+    <message>
+        <source>An immediately fatal error of some kind occurred, such as an essential system call failing, or running out  of virtual memory.</source>
+        <translation>发生了立即致命的错误，例如关键的系统调用失败或虚拟内存耗尽。</translation>
+    </message>
+    <message>
+        <source>An error was detected in processing the options given, such as two mutually exclusive options being used.</source>
+        <translation>处理所给选项时检测到错误，例如使用了两个互斥的选项。</translation>
+    </message>
+    <message>
+        <source>Pppd is not setuid-root and the invoking user is not root.</source>
+        <translation>pppd 未设置 setuid-root，且调用它的用户不是 root。</translation>
+    </message>
+    <message>
+        <source>The kernel does not support PPP, for example, the PPP kernel driver is not included or cannot be loaded.</source>
+        <translation>内核不支持 PPP，例如内核未包含 PPP 驱动或无法加载该驱动。</translation>
+    </message>
+    <message>
+        <source>Pppd terminated because it was sent a SIGINT, SIGTERM or SIGHUP signal.</source>
+        <translation>pppd 收到 SIGINT、SIGTERM 或 SIGHUP 信号而终止。</translation>
+    </message>
+    <message>
+        <source>The serial port could not be locked.</source>
+        <translation>无法锁定串口。</translation>
+    </message>
+    <message>
+        <source>The serial port could not be opened.</source>
+        <translation>无法打开串口。</translation>
+    </message>
+    <message>
+        <source>The connect script failed (returned a non-zero exit status).</source>
+        <translation>连接脚本失败（返回了非零退出状态）。</translation>
+    </message>
+    <message>
+        <source>The command specified as the argument to the pty option could not be run.</source>
+        <translation>无法运行 pty 选项所指定的命令。</translation>
+    </message>
+    <message>
+        <source>The  PPP  negotiation failed, that is, it didn&apos;t reach the point where at least one network protocol (e.g. IP) was running.</source>
+        <translation>PPP 协商失败，即未能使至少一种网络协议（如 IP）运行。</translation>
+    </message>
+    <message>
+        <source>The peer system failed (or refused) to authenticate itself.</source>
+        <translation>对方系统未能通过（或拒绝）身份验证。</translation>
+    </message>
+    <message>
+        <source>The link was established successfully and terminated because it was idle.</source>
+        <translation>链路已成功建立，因空闲而终止。</translation>
+    </message>
+    <message>
+        <source>The link was established successfully and terminated because the connect time limit was reached.</source>
+        <translation>链路已成功建立，因达到连接时间上限而终止。</translation>
+    </message>
+    <message>
+        <source>Callback was negotiated and an incoming call should arrive shortly.</source>
+        <translation>已协商回拨，稍后应有来电。</translation>
+    </message>
+    <message>
+        <source>The link was terminated because the peer is not responding to echo requests.</source>
+        <translation>对方未响应回显请求，链路已终止。</translation>
+    </message>
+    <message>
+        <source>The link was terminated by the modem hanging up.</source>
+        <translation>调制解调器挂断，链路已终止。</translation>
+    </message>
+    <message>
+        <source>The PPP negotiation failed because serial loopback was detected.</source>
+        <translation>检测到串口回环，PPP 协商失败。</translation>
+    </message>
+    <message>
+        <source>The init script failed (returned a non-zero exit status).</source>
+        <translation>初始化脚本失败（返回了非零退出状态）。</translation>
+    </message>
+    <message>
+        <source>We failed to authenticate ourselves to the peer.</source>
+        <translation>我方未能通过对方的身份验证。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileChecks</name>
+    <message>
+        <source>The dial number may hold letters, digits and * # + , . - ( ), 80 at most.</source>
+        <translation>拨号号码只能包含字母、数字和 * # + , . - ( )，最多 80 个字符。</translation>
+    </message>
+    <message>
+        <source>The user name must not hold quotes, backslashes, a brace at its beginning or blanks at its ends, not be a single asterisk, and be 255 bytes long at most.</source>
+        <translation>用户名不能包含引号或反斜杠，不能以花括号开头，首尾不能有空格，不能仅为一个星号，且最长 255 字节。</translation>
+    </message>
+    <message>
+        <source>The password must not hold quotes, backslashes, a brace or &quot;@/&quot; at its beginning or blanks at its ends, and be 255 bytes long at most.</source>
+        <translation>密码不能包含引号或反斜杠，不能以花括号或“@/”开头，首尾不能有空格，且最长 255 字节。</translation>
+    </message>
+    <message>
+        <source>The name of the profile is too long.</source>
+        <translation>配置文件名称太长。</translation>
+    </message>
+    <message>
+        <source>The APN may hold letters, digits and . - _ @ : /, 100 at most.</source>
+        <translation>APN 只能包含字母、数字和 . - _ @ : /，最多 100 个字符。</translation>
+    </message>
+    <message>
+        <source>The address mode may hold letters and digits only.</source>
+        <translation>地址模式只能包含字母和数字。</translation>
+    </message>
+    <message>
+        <source>The beginning of the IMSI may hold 15 digits at most.</source>
+        <translation>IMSI 开头最多 15 位数字。</translation>
+    </message>
+    <message>
+        <source>The page to open must be an address of the web.</source>
+        <translation>要打开的页面必须是网址。</translation>
+    </message>
+    <message>
+        <source>A value holds a line break or another control character, or the text &quot;-|-&quot;.</source>
+        <translation>某个值含有换行符或其他控制字符，或含有文本“-|-”。</translation>
+    </message>
+    <message>
+        <source>The Config Filename must be filled.</source>
+        <translation>必须填写配置文件名称。</translation>
+    </message>
+    <message>
+        <source>The Dial Number is empty!</source>
+        <translation>拨号号码为空！</translation>
+    </message>
+    <message>
+        <source>The APN is empty!</source>
+        <translation>APN 为空！</translation>
+    </message>
+    <message>
+        <source>Invalid PDP!Please check it!</source>
+        <translation>PDP 无效！请检查！</translation>
+    </message>
+    <message>
+        <source>Invalid Preferred DNS!Please check it!</source>
+        <translation>首选 DNS 无效！请检查！</translation>
+    </message>
+    <message>
+        <source>Invalid Alternative DNS!Please check it!</source>
+        <translation>备用 DNS 无效！请检查！</translation>
+    </message>
+    <message>
+        <source>The card&apos;s data port has a name that cannot be used.</source>
+        <translation>上网卡数据端口的名称无法使用。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileStore</name>
+    <message>
+        <source>The profiles in %1 cannot be read.</source>
+        <translation>无法读取 %1 中的配置文件。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read, and cannot be kept beside.</source>
+        <translation>无法读取 %1，也无法保留其备份。</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -591,12 +1067,97 @@
         <source>%1 is a ring of links</source>
         <translation>%1 是循环链接</translation>
     </message>
+    <message>
+        <source>The broken settings file cannot be kept beside</source>
+        <translation>无法保留损坏的设置文件</translation>
+    </message>
+    <message>
+        <source>The rights of %1 cannot be set</source>
+        <translation>无法设置 %1 的权限</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotice</name>
+    <message>
+        <source>The settings could not be read, so the program started with nothing set. The unreadable file was kept as:
+%1</source>
+        <translation>无法读取设置，程序以未设置的状态启动。无法读取的文件已保留为：
+%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored: %1</source>
+        <translation>无法保存设置：%1</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
         <translation>无法读取“%1”中的颜色。</translation>
+    </message>
+</context>
+<context>
+    <name>Traffic</name>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>A day without its year, as QDate::toString takes it</extracomment>
+        <translation>M月d日</translation>
+    </message>
+    <message>
+        <source>MMMM yyyy</source>
+        <extracomment>A month with its year, as QDate::toString takes it</extracomment>
+        <translation>yyyy年M月</translation>
+    </message>
+    <message>
+        <source>Yesterday, %1</source>
+        <translation>昨天 %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>TrafficSentences</name>
+    <message>
+        <source>%1 received, %2 sent</source>
+        <translation>已接收 %1，已发送 %2</translation>
+    </message>
+    <message>
+        <source>%1; %2 of it roaming</source>
+        <translation>%1；其中漫游 %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 used (%3&#xa0;%)</source>
+        <translation>已用 %1，共 %2（%3%）</translation>
+    </message>
+    <message>
+        <source>%1 of %2 roaming (%3&#xa0;%)</source>
+        <translation>漫游已用 %1，共 %2（%3%）</translation>
+    </message>
+    <message>
+        <source>Too few days are known to say what it will be by %1.</source>
+        <translation>记录的天数太少，无法预计截至 %1的用量。</translation>
+    </message>
+    <message>
+        <source>The volume is used up. A new one begins on %1.</source>
+        <translation>流量已用完。新的流量从 %1开始。</translation>
+    </message>
+    <message>
+        <source>As it goes, it will be about %1 by %2.</source>
+        <translation>照此速度，到 %2约为 %1。</translation>
+    </message>
+    <message>
+        <source>As it goes, the volume will be used up on %1; by %2 it would be about %3.</source>
+        <translation>照此速度，流量将于 %1用完；到 %2约为 %3。</translation>
+    </message>
+    <message>
+        <source>As it goes, it will be about %1 by %2: the volume is enough.</source>
+        <translation>照此速度，到 %2约为 %1：流量够用。</translation>
     </message>
 </context>
 <context>
@@ -630,12 +1191,43 @@
         <translation>关于 %1(&amp;A)</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation>关闭(&amp;C)</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>连接(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>关闭(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>断开(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel connecting</source>
+        <translation>取消连接(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Disconnect and quit?</source>
+        <translation>断开连接并退出？</translation>
+    </message>
+    <message>
+        <source>Disconnect and &amp;quit</source>
+        <translation>断开并退出(&amp;Q)</translation>
+    </message>
+</context>
+<context>
+    <name>WvdialProcess</name>
+    <message>
+        <source>The dialler is running already.</source>
+        <translation>拨号程序已在运行。</translation>
+    </message>
+    <message>
+        <source>The program wvdial is missing. Please install it.</source>
+        <translation>缺少程序 wvdial。请安装它。</translation>
     </message>
 </context>
 <context>
@@ -923,8 +1515,526 @@
         <translation>无法读取 SIM 卡。请取出后重新装入。</translation>
     </message>
     <message>
-        <source>The card did not answer. Nothing has changed; try again.</source>
-        <translation>上网卡未响应。未作任何更改，请重试。</translation>
+        <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
+        <translation>上网卡未及时响应，无法确定是否已接受输入；若上网卡提供剩余次数，会显示出来。</translation>
+    </message>
+    <message>
+        <source>The SIM card is still starting. Try again in a moment.</source>
+        <translation>SIM 卡仍在启动，请稍后重试。</translation>
+    </message>
+    <message>
+        <source>The card refused the entry, without saying that it is wrong.</source>
+        <translation>上网卡拒绝了输入，但未说明输入有误。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ChoiceDialog</name>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation>%1  ·  %2</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Config</name>
+    <message>
+        <source>New profile</source>
+        <translation>新建配置文件</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>配置文件</translation>
+    </message>
+    <message>
+        <source>Edit profile</source>
+        <translation>编辑配置文件</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Profile &amp;name</source>
+        <translation>配置文件名称(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Dial number</source>
+        <translation>拨号号码(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Connect as a &amp;modem or a network card</source>
+        <translation>作为调制解调器或网卡连接(&amp;M)</translation>
+    </message>
+    <message>
+        <source>As the card can</source>
+        <translation>视上网卡能力而定</translation>
+    </message>
+    <message>
+        <source>Modem (dial-up)</source>
+        <translation>调制解调器（拨号）</translation>
+    </message>
+    <message>
+        <source>Network card</source>
+        <translation>网卡</translation>
+    </message>
+    <message>
+        <source>For S&amp;IMs whose IMSI begins with</source>
+        <translation>适用于 IMSI 以此开头的 SIM 卡(&amp;I)</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>任意</translation>
+    </message>
+    <message>
+        <source>Access point (APN)</source>
+        <translation>接入点 (APN)</translation>
+    </message>
+    <message>
+        <source>Access point</source>
+        <translation>接入点</translation>
+    </message>
+    <message>
+        <source>&amp;This one</source>
+        <translation>指定(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;By the network</source>
+        <translation>由网络决定(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Name of the access &amp;point</source>
+        <translation>接入点名称(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Authentication</source>
+        <translation>身份验证</translation>
+    </message>
+    <message>
+        <source>P&amp;AP</source>
+        <translation>PAP(&amp;A)</translation>
+    </message>
+    <message>
+        <source>C&amp;HAP</source>
+        <translation>CHAP(&amp;H)</translation>
+    </message>
+    <message>
+        <source>N&amp;one</source>
+        <translation>无(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;User name</source>
+        <translation>用户名(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>密码(&amp;W)</translation>
+    </message>
+    <message>
+        <source>As&amp;k for them when connecting</source>
+        <translation>连接时询问(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Keep them in the profi&amp;le</source>
+        <translation>保存在配置文件中(&amp;L)</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP 地址</translation>
+    </message>
+    <message>
+        <source>From the network (d&amp;ynamic)</source>
+        <translation>由网络分配（动态）(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Fi&amp;xed</source>
+        <translation>固定(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Fixed add&amp;ress</source>
+        <translation>固定地址(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Name servers (DNS)</source>
+        <translation>域名服务器 (DNS)</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>域名服务器</translation>
+    </message>
+    <message>
+        <source>&amp;From the network</source>
+        <translation>由网络提供(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Th&amp;ese</source>
+        <translation>指定(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Preferred (&amp;1)</source>
+        <translation>首选(&amp;1)</translation>
+    </message>
+    <message>
+        <source>Alternative (&amp;2)</source>
+        <translation>备用(&amp;2)</translation>
+    </message>
+    <message>
+        <source>Once connected</source>
+        <translation>连接后</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge to open in the browser</source>
+        <translation>在浏览器中打开的页面(&amp;G)</translation>
+    </message>
+    <message>
+        <source>This profile came with the program and stays as it is.</source>
+        <translation>此配置文件随程序提供，不可更改。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionFacts</name>
+    <message>
+        <source>This connection</source>
+        <translation>本次连接</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>流量</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>配置文件</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>时长</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP 地址</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>网关</translation>
+    </message>
+    <message>
+        <source>Name servers</source>
+        <translation>域名服务器</translation>
+    </message>
+    <message>
+        <source>Receiving</source>
+        <translation>接收速率</translation>
+    </message>
+    <message>
+        <source>Sending</source>
+        <translation>发送速率</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>已接收</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>已发送</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionHead</name>
+    <message>
+        <source>&amp;Why am I offline?</source>
+        <translation>为什么离线(&amp;W)？</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>断开(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>连接(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Initializing</source>
+        <translation>正在初始化</translation>
+    </message>
+    <message>
+        <source>Disconnecting</source>
+        <translation>正在断开</translation>
+    </message>
+    <message>
+        <source>Status: Connected</source>
+        <translation>状态：已连接</translation>
+    </message>
+    <message>
+        <source>Status: Disconnected</source>
+        <translation>状态：未连接</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionService</name>
+    <message>
+        <source>Only UMTS network can connect while calling!</source>
+        <translation>通话时只有 UMTS 网络可以连接！</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>设备已断开或不可用。</translation>
+    </message>
+    <message>
+        <source>Can&apos;t open deault config file!</source>
+        <translation>无法打开默认配置文件！</translation>
+    </message>
+    <message>
+        <source>This card has no network interface. Please choose dial-up in the profile.</source>
+        <translation>此网卡没有网络接口。请在配置中选择拨号。</translation>
+    </message>
+    <message>
+        <source>The card has no data port that could be dialled on.</source>
+        <translation>网卡没有可用于拨号的数据端口。</translation>
+    </message>
+    <message>
+        <source>There is no data transported recently. Auto Disconnect will close your internet link.</source>
+        <translation>最近没有数据传输。自动断开将关闭您的互联网连接。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConnectionSettings</name>
+    <message>
+        <source>Automatic connection</source>
+        <translation>自动连接</translation>
+    </message>
+    <message>
+        <source>&amp;Connect by itself when the card is ready</source>
+        <translation>上网卡就绪时自动连接(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Attempts</source>
+        <translation>尝试次数(&amp;A)</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <comment>seconds</comment>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source>When a connection breaks off</source>
+        <translation>连接中断时</translation>
+    </message>
+    <message>
+        <source>&amp;Dial again</source>
+        <translation>重新拨号(&amp;D)</translation>
+    </message>
+    <message>
+        <source>A&amp;ttempts</source>
+        <translation>尝试次数(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;First one after</source>
+        <translation>首次重拨间隔(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Each f&amp;urther one after</source>
+        <translation>后续每次间隔(&amp;U)</translation>
+    </message>
+    <message>
+        <source>When nothing is carried</source>
+        <translation>无数据传输时</translation>
+    </message>
+    <message>
+        <source>D&amp;isconnect</source>
+        <translation>断开(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Aft&amp;er</source>
+        <translation>等待时间(&amp;E)</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <comment>minutes</comment>
+        <translation> 分钟</translation>
+    </message>
+    <message>
+        <source>Dialling</source>
+        <translation>拨号</translation>
+    </message>
+    <message>
+        <source>&amp;Longest wait for a link</source>
+        <translation>等待链路的最长时间(&amp;L)</translation>
+    </message>
+    <message>
+        <source>E&amp;xplain a failure by the exit status of pppd</source>
+        <translation>根据 pppd 的退出状态解释失败原因(&amp;X)</translation>
+    </message>
+    <message>
+        <source>&amp;Open the profile&apos;s page once connected</source>
+        <translation>连接后打开配置文件中的页面(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>连接</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Connector</name>
+    <message>
+        <source>Only UMTS network can connect while calling!</source>
+        <translation>通话期间只有 UMTS 网络可以连接！</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>设备已断开或不可用。</translation>
+    </message>
+    <message>
+        <source>You are connecting to a roaming network. Would you like to continue?</source>
+        <translation>您正在连接漫游网络。要继续吗？</translation>
+    </message>
+    <message>
+        <source>Which access is yours?</source>
+        <translation>您使用哪个接入点？</translation>
+    </message>
+    <message>
+        <source>Whose SIM card is it?</source>
+        <translation>这是哪家运营商的 SIM 卡？</translation>
+    </message>
+    <message>
+        <source>%1 has several. Choose yours; the choice is kept as a profile.</source>
+        <translation>%1 有多个接入点。请选择您的接入点；所选内容将保存为配置文件。</translation>
+    </message>
+    <message>
+        <source>Several operators share this network. Choose yours; the choice is kept as a profile.</source>
+        <translation>多家运营商共用此网络。请选择您的运营商；所选内容将保存为配置文件。</translation>
+    </message>
+    <message>
+        <source>C&amp;onnect</source>
+        <translation>连接(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Which profile?</source>
+        <translation>使用哪个配置文件？</translation>
+    </message>
+    <message>
+        <source>It is taken from now on.</source>
+        <translation>从现在起将使用它。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::CredentialsDialog</name>
+    <message>
+        <source>&amp;User name</source>
+        <translation>用户名(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>密码(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep them and do not ask again</source>
+        <translation>保存且不再询问(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;onnect</source>
+        <translation>连接(&amp;O)</translation>
+    </message>
+    <message>
+        <source>The profile &quot;%1&quot; asks for them at each connection.</source>
+        <translation>配置文件“%1”每次连接时都会询问。</translation>
+    </message>
+    <message>
+        <source>User name and password</source>
+        <translation>用户名和密码</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DataLink</name>
+    <message>
+        <source>Fail to connect! Link ppp0 wasn&apos;t built !</source>
+        <translation>连接失败！未建立 ppp0 链路！</translation>
+    </message>
+    <message>
+        <source>The device has been disconnected or is unavailable.</source>
+        <translation>设备已断开或不可用。</translation>
+    </message>
+    <message>
+        <source>The card did not accept the access point &quot;%1&quot;. Please check the APN of the profile.</source>
+        <translation>网卡未接受接入点“%1”。请检查配置中的 APN。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DaysChart</name>
+    <message>
+        <source>Volume of each day</source>
+        <translation>每日流量</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DaysTab</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Earlier period</source>
+        <translation>上一周期</translation>
+    </message>
+    <message>
+        <source>Later period</source>
+        <translation>下一周期</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Nothing was carried in this period.</source>
+        <translation>此周期内无数据传输。</translation>
+    </message>
+    <message>
+        <source>In all: %1</source>
+        <translation>总计：%1</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DhcpClient</name>
+    <message>
+        <source>There is no such network interface.</source>
+        <translation>没有这个网络接口。</translation>
+    </message>
+    <message>
+        <source>There is no DHCP client. Please install isc-dhcp-client.</source>
+        <translation>没有 DHCP 客户端。请安装 isc-dhcp-client。</translation>
+    </message>
+    <message>
+        <source>The network gave no address.</source>
+        <translation>网络未分配地址。</translation>
     </message>
 </context>
 <context>
@@ -951,10 +2061,67 @@
     </message>
 </context>
 <context>
+    <name>corva::DialUpLink</name>
+    <message>
+        <source>Connection is failed!</source>
+        <translation>连接失败！</translation>
+    </message>
+    <message>
+        <source>Fail to connect! exit code is</source>
+        <translation>连接失败！退出代码为</translation>
+    </message>
+</context>
+<context>
+    <name>corva::DialWork</name>
+    <message>
+        <source>You may not use this card&apos;s data port.</source>
+        <translation>您无权使用此上网卡的数据端口。</translation>
+    </message>
+    <message>
+        <source>The network interface does not belong to the card.</source>
+        <translation>该网络接口不属于此上网卡。</translation>
+    </message>
+    <message>
+        <source>The network interface has no address from here.</source>
+        <translation>该网络接口的地址不是由本程序获取的。</translation>
+    </message>
+    <message>
+        <source>The DNS is invalid !</source>
+        <translation>DNS 无效！</translation>
+    </message>
+    <message>
+        <source>The dialler could not be started.</source>
+        <translation>无法启动拨号程序。</translation>
+    </message>
+    <message>
+        <source>The dialler is running already.</source>
+        <translation>拨号程序已在运行。</translation>
+    </message>
+    <message>
+        <source>The connection was cancelled.</source>
+        <translation>连接已取消。</translation>
+    </message>
+    <message>
+        <source>The route helper is not run: others may write it.</source>
+        <translation>未运行路由辅助程序：其他人可以写入它。</translation>
+    </message>
+</context>
+<context>
     <name>corva::FactRow</name>
     <message>
         <source>Copy %1</source>
         <translation>复制“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>corva::FormField</name>
+    <message>
+        <source>Show the password</source>
+        <translation>显示密码</translation>
+    </message>
+    <message>
+        <source>Hide the password</source>
+        <translation>隐藏密码</translation>
     </message>
 </context>
 <context>
@@ -1006,6 +2173,121 @@
     <message>
         <source>General</source>
         <translation>常规</translation>
+    </message>
+    <message>
+        <source>Look for &amp;updates</source>
+        <translation>检查更新(&amp;U)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HelperBackend</name>
+    <message>
+        <source>Connecting needs an administrator&apos;s rights, and the program &quot;pkexec&quot;, which asks for them, is missing. Please install it.</source>
+        <translation>连接需要管理员权限，但缺少用于请求权限的程序“pkexec”。请安装它。</translation>
+    </message>
+    <message>
+        <source>The program that dials has ended unexpectedly. Please try again.</source>
+        <translation>执行拨号的程序意外结束。请重试。</translation>
+    </message>
+    <message>
+        <source>The right to connect was not given. Please connect again and enter the password.</source>
+        <translation>未获得连接权限。请重新连接并输入密码。</translation>
+    </message>
+    <message>
+        <source>The right to connect could not be asked for. Ask an administrator to run &quot;tools/install-dialhelper&quot;, or start Corva in a desktop session.</source>
+        <translation>无法请求连接权限。请让管理员运行“tools/install-dialhelper”，或在桌面会话中启动 Corva。</translation>
+    </message>
+    <message>
+        <source>The program that dials could not be started. Ask an administrator to run &quot;tools/install-dialhelper&quot;.</source>
+        <translation>无法启动执行拨号的程序。请让管理员运行“tools/install-dialhelper”。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HistoryModel</name>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>开始时间</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>时长</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>配置文件</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>已接收</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>已发送</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>漫游</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>结束原因</translation>
+    </message>
+    <message>
+        <source>From %1
+to %2</source>
+        <translation>从 %1
+到 %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::HistoryTab</name>
+    <message>
+        <source>Delete &amp;all</source>
+        <translation>全部删除(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Search the history</source>
+        <translation>搜索历史记录</translation>
+    </message>
+    <message>
+        <source>Search (%1)</source>
+        <translation>搜索 (%1)</translation>
+    </message>
+    <message>
+        <source>Connections that are over</source>
+        <translation>已结束的连接</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Delete %n entries</source>
+        <translation>
+            <numerusform>删除 %n 条记录(&amp;D)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Delete entry</source>
+        <translation>删除记录(&amp;D)</translation>
+    </message>
+    <message>
+        <source>No connection was made yet. Each one is listed here once it is over.</source>
+        <translation>尚未建立过连接。每次连接结束后会列在此处。</translation>
+    </message>
+    <message>
+        <source>No entry has all of these words.</source>
+        <translation>没有包含所有这些词的记录。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries were deleted.</source>
+        <translation>
+            <numerusform>已删除 %n 条记录。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -1062,6 +2344,29 @@
     </message>
 </context>
 <context>
+    <name>corva::MonthsModel</name>
+    <message>
+        <source>Month</source>
+        <translation>月份</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>已接收</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>已发送</translation>
+    </message>
+    <message>
+        <source>Roaming</source>
+        <translation>漫游</translation>
+    </message>
+    <message>
+        <source>In all</source>
+        <translation>总计</translation>
+    </message>
+</context>
+<context>
     <name>corva::Navigation</name>
     <message>
         <source>Pages</source>
@@ -1077,6 +2382,13 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::NetworkCardLink</name>
+    <message>
+        <source>Connection is failed!</source>
+        <translation>连接失败！</translation>
     </message>
 </context>
 <context>
@@ -1098,16 +2410,183 @@
         <translation>为什么离线？</translation>
     </message>
     <message>
-        <source>Everything from the socket to the network is in order.</source>
-        <translation>从接口到网络一切正常。</translation>
-    </message>
-    <message>
         <source>Nothing is wrong so far; the card is at it.</source>
         <translation>目前一切正常，上网卡正在处理。</translation>
     </message>
     <message>
         <source>One step is not in order. The steps after it follow by themselves.</source>
         <translation>有一个步骤不正常。解决后，其后的步骤会自动继续。</translation>
+    </message>
+    <message>
+        <source>Everything from the socket to the internet is in order.</source>
+        <translation>从接口到互联网一切正常。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::OverviewTab</name>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>What the graph shows</source>
+        <translation>图表显示内容</translation>
+    </message>
+    <message>
+        <source>The last minute</source>
+        <translation>最近 1 分钟</translation>
+    </message>
+    <message>
+        <source>The last 10 minutes</source>
+        <translation>最近 10 分钟</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>今天</translation>
+    </message>
+    <message>
+        <source>This connection, %1</source>
+        <translation>本次连接，%1</translation>
+    </message>
+    <message>
+        <source>Last connection, %1</source>
+        <translation>上次连接，%1</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>None was made yet.</source>
+        <translation>尚未建立过连接。</translation>
+    </message>
+    <message>
+        <source>Days and months are not counted: the configuration turns it off.</source>
+        <translation>未统计每日和每月流量：配置中已关闭。</translation>
+    </message>
+    <message>
+        <source>%1 Say in the settings, Traffic, what volume you have, to be warned in time.</source>
+        <translation>%1 请在设置的“流量”页中填写您的流量额度，以便及时提醒。</translation>
+    </message>
+    <message>
+        <source>Down %1 (filled), up %2 (dashed)</source>
+        <translation>下行 %1（填充），上行 %2（虚线）</translation>
+    </message>
+    <message>
+        <source>The graph runs while a connection is up.</source>
+        <translation>连接期间图表会持续更新。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ProfileList</name>
+    <message>
+        <source>access point from the network</source>
+        <translation>由网络提供接入点</translation>
+    </message>
+    <message>
+        <source>%1, connects with it</source>
+        <translation>%1，用于连接</translation>
+    </message>
+    <message>
+        <source>No profile yet</source>
+        <translation>尚无配置文件</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>添加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>删除(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Make de&amp;fault</source>
+        <translation>设为默认(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>配置文件</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Add a profile</source>
+        <translation>添加配置文件</translation>
+    </message>
+    <message>
+        <source>Connect with this profile from now on</source>
+        <translation>从现在起使用此配置文件连接</translation>
+    </message>
+    <message>
+        <source>Vi&amp;ew</source>
+        <translation>查看(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Delete the profile &quot;%1&quot;?</source>
+        <translation>删除配置文件“%1”？</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Connects with &quot;%1&quot; from now on.</source>
+        <translation>从现在起使用“%1”连接。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ProfileStore</name>
+    <message>
+        <source>There is a profile with this name already.</source>
+        <translation>已有同名的配置文件。</translation>
+    </message>
+    <message>
+        <source>There is no profile with this name.</source>
+        <translation>没有此名称的配置文件。</translation>
+    </message>
+    <message>
+        <source>This profile may not be changed.</source>
+        <translation>此配置文件不可更改。</translation>
+    </message>
+    <message>
+        <source>This profile may not be deleted.</source>
+        <translation>此配置文件不可删除。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::RateGraph</name>
+    <message>
+        <source>Graph of the rates</source>
+        <translation>速率图表</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分钟</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>现在</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SettingsPage</name>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <translation>无法保存该设置：%1</translation>
     </message>
 </context>
 <context>
@@ -1150,6 +2629,21 @@
         <source>  ·  </source>
         <comment>between facts</comment>
         <translation>  ·  </translation>
+    </message>
+</context>
+<context>
+    <name>corva::StatisticsStore</name>
+    <message>
+        <source>%1 could not be read in full.</source>
+        <translation>无法完整读取 %1。</translation>
+    </message>
+    <message>
+        <source>%1 could not be read in full. What stood in it is kept as %2.</source>
+        <translation>无法完整读取 %1。其内容已保留为 %2。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be removed: %2</source>
+        <translation>无法删除 %1：%2</translation>
     </message>
 </context>
 <context>
@@ -1244,6 +2738,151 @@
     </message>
 </context>
 <context>
+    <name>corva::TrafficPage</name>
+    <message>
+        <source>E&amp;xport as CSV…</source>
+        <translation>导出为 CSV(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>Writes the history to a file that spreadsheets read</source>
+        <translation>将历史记录写入电子表格程序可读取的文件</translation>
+    </message>
+    <message>
+        <source>Writes days and months to a file that spreadsheets read</source>
+        <translation>将每日和每月流量写入电子表格程序可读取的文件</translation>
+    </message>
+    <message>
+        <source>&amp;Overview</source>
+        <translation>概览(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Da&amp;ys</source>
+        <translation>每日(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;Months</source>
+        <translation>每月(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>历史记录(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Volume of each month</source>
+        <translation>每月流量</translation>
+    </message>
+    <message>
+        <source>Export the history</source>
+        <translation>导出历史记录</translation>
+    </message>
+    <message>
+        <source>Export days and months</source>
+        <translation>导出每日和每月流量</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>CSV 表格 (*.csv)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>已写入 %1。</translation>
+    </message>
+    <message>
+        <source>The table could not be written: %1</source>
+        <translation>无法写入表格：%1</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>流量</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TrafficService</name>
+    <message>
+        <source>%1 The connection is ended, as you set it in the settings, Traffic.</source>
+        <translation>%1 已按您在设置的“流量”页中的设定结束连接。</translation>
+    </message>
+    <message>
+        <source>Your volume of %1 until %2 is used up.</source>
+        <translation>您截至 %2的 %1 流量已用完。</translation>
+    </message>
+    <message>
+        <source>Your volume of %1 for roaming until %2 is used up.</source>
+        <translation>您截至 %2的 %1 漫游流量已用完。</translation>
+    </message>
+    <message>
+        <source>%1 % of your volume of %2 until %3 are used up.</source>
+        <translation>您截至 %3的 %2 流量已用 %1%。</translation>
+    </message>
+    <message>
+        <source>%1 % of your volume of %2 for roaming until %3 are used up.</source>
+        <translation>您截至 %3的 %2 漫游流量已用 %1%。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TrafficSettingsPage</name>
+    <message>
+        <source>Your volume</source>
+        <translation>您的流量额度</translation>
+    </message>
+    <message>
+        <source>&amp;Volume of a month</source>
+        <translation>每月流量(&amp;V)</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>While &amp;roaming</source>
+        <translation>漫游时(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Counts with it</source>
+        <translation>计入每月流量</translation>
+    </message>
+    <message>
+        <source>It begins anew on &amp;day</source>
+        <translation>每月重新计算日(&amp;D)</translation>
+    </message>
+    <message>
+        <source>When it runs out</source>
+        <translation>流量用完时</translation>
+    </message>
+    <message>
+        <source>&amp;Warn at</source>
+        <translation>提醒阈值(&amp;W)</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation>单位：%1</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>从不</translation>
+    </message>
+    <message>
+        <source>&amp;End the connection when the volume is used up</source>
+        <translation>流量用完时结束连接(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>流量</translation>
+    </message>
+</context>
+<context>
     <name>corva::TrayIcon</name>
     <message>
         <source>&amp;Why am I offline?</source>
@@ -1264,6 +2903,45 @@
     <message>
         <source>&amp;Show the window</source>
         <translation>显示窗口(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>断开(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel connecting</source>
+        <translation>取消连接(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>连接(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::WirelessWindow</name>
+    <message>
+        <source>Plug the card in to connect.</source>
+        <translation>插入上网卡即可连接。</translation>
+    </message>
+    <message>
+        <source>Connect goes by the profile &quot;%1&quot;.</source>
+        <translation>将使用配置文件“%1”连接。</translation>
+    </message>
+    <message>
+        <source>The settings of %1 are known: just connect.</source>
+        <translation>%1 的设置已内置：直接连接即可。</translation>
+    </message>
+    <message>
+        <source>The settings for this SIM card are known: connect, and say whose it is.</source>
+        <translation>此 SIM 卡的设置已内置：请连接并选择其运营商。</translation>
+    </message>
+    <message>
+        <source>Add a profile with the access point that your operator has told you.</source>
+        <translation>请用运营商告知的接入点添加配置文件。</translation>
+    </message>
+    <message>
+        <source>Internet</source>
+        <translation>互联网</translation>
     </message>
 </context>
 </TS>

@@ -33,3 +33,13 @@ function(corva_add_test name)
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 300)
 endfunction()
+
+# corva_run_under_tsan(TESTS...): tests in which several threads meet; "./check tsan" builds and runs these alone.
+function(corva_run_under_tsan)
+    if(NOT TARGET tests-threads)
+        add_custom_target(tests-threads)
+    endif()
+    add_dependencies(tests-threads ${ARGV})
+    set_tests_properties(${ARGV} PROPERTIES LABELS threads ENVIRONMENT_MODIFICATION
+        "TSAN_OPTIONS=set:ignore_noninstrumented_modules=1 suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp")
+endfunction()

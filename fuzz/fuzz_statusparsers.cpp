@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every status parser: a value in its documented range or an error with a reason, and no change by a line
 // that has nothing to do with it.
+#include "link/simprovider.h"
 #include "link/statusparsers.h"
 #include "require.h"
 
@@ -52,6 +53,10 @@ bool isSound(const QString &text)
 {
     return std::none_of(text.begin(), text.end(), [](QChar c) { return c < u' '; });
 }
+bool isSound(const SimProvider &provider)
+{
+    return isSound(provider.name);
+}
 bool isSound(int number)
 {
     return isWithin(number, 0, 65535);
@@ -88,6 +93,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     check([](const QByteArray &text) { return parseIdentity(text, "+CGMM:"); }, reply);
     check(&parseImsi, reply);
     check(&parseIccid, reply);
+    check(&parseProvider, reply);
     check(&parseOwnNumber, reply);
     check(&parsePhonebookCapacity, reply);
     decodeCardText(reply);

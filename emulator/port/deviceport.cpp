@@ -31,7 +31,7 @@ Complaint DevicePort::open(const QString &link)
     m_device = link;
     if (openDevice())
         return {};
-    const Complaint complaint = link + u": "_s + QString::fromLocal8Bit(std::strerror(errno));
+    Complaint complaint = link + u": "_s + QString::fromLocal8Bit(std::strerror(errno));
     close();
     return complaint;
 }

@@ -16,7 +16,7 @@ namespace corva
 namespace
 {
 
-constexpr qint64 largestDatabase = 16 * 1024 * 1024;
+constexpr qint64 largestDatabase = 16LL * 1024 * 1024;
 constexpr std::size_t mostProposals = 200;
 
 struct Found {

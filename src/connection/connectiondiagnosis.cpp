@@ -64,50 +64,51 @@ Finding checkProfile(const Facts &facts)
 
 Finding checkAccessPoint(const Facts &facts)
 {
-    const bool isSupplied = isUp(facts.connection) ? facts.connection.apn.isEmpty()
-                                                   : !facts.profile->isOn(ProfileField::UsesApn);
+    const bool isSupplied =
+        isUp(facts.connection) ? facts.connection.apn.isEmpty() : !facts.profile->isOn(ProfileField::UsesApn);
     if (isSupplied)
         return ok(text(QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The network chooses it")));
     const QString apn =
         isUp(facts.connection) ? facts.connection.apn : facts.profile->text(ProfileField::Apn);
     if (apn.trimmed().isEmpty())
-        return failed(QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The profile names no access point"),
-                      QT_TRANSLATE_NOOP("ConnectionDiagnosis",
-                                        "Your operator can tell you its name (APN). Enter it in the profile."),
-                      MendAction::EditProfile);
+        return failed(
+            QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The profile names no access point"),
+            QT_TRANSLATE_NOOP("ConnectionDiagnosis",
+                              "Your operator can tell you its name (APN). Enter it in the profile."),
+            MendAction::EditProfile);
     return ok(apn);
 }
 
 struct EndRow {
-    ConnectionEnd end;
     const char *headline;
+    ConnectionEnd end;
     MendAction action;
 };
 
 /// What is told in two words of an end; the rest is in the sentence that the end brings along.
 constexpr EndRow endRows[] = {
-    {ConnectionEnd::Refused, QT_TRANSLATE_NOOP("ConnectionDiagnosis", "User name or password refused"),
+    {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "User name or password refused"), ConnectionEnd::Refused,
      MendAction::EditProfile},
-    {ConnectionEnd::NoCarrier, QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The call was not taken"),
+    {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The call was not taken"), ConnectionEnd::NoCarrier,
      MendAction::Connect},
-    {ConnectionEnd::Busy, QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The line was busy"), MendAction::Connect},
-    {ConnectionEnd::TimeOut, QT_TRANSLATE_NOOP("ConnectionDiagnosis", "No link within the time"),
+    {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The line was busy"), ConnectionEnd::Busy, MendAction::Connect},
+    {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "No link within the time"), ConnectionEnd::TimeOut,
      MendAction::Connect},
-    {ConnectionEnd::DiallerFailed, QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The dialler failed"),
+    {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The dialler failed"), ConnectionEnd::DiallerFailed,
      MendAction::Connect},
-    {ConnectionEnd::FilesFailed, QT_TRANSLATE_NOOP("ConnectionDiagnosis", "System files cannot be changed"),
+    {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "System files cannot be changed"), ConnectionEnd::FilesFailed,
      MendAction::Connect},
-    {ConnectionEnd::NoRights, QT_TRANSLATE_NOOP("ConnectionDiagnosis", "No right to dial"),
+    {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "No right to dial"), ConnectionEnd::NoRights,
      MendAction::Connect},
-    {ConnectionEnd::ByPeer, QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The network ended the connection"),
+    {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The network ended the connection"), ConnectionEnd::ByPeer,
      MendAction::Connect},
-    {ConnectionEnd::LinkLost, QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The connection broke off"),
+    {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The connection broke off"), ConnectionEnd::LinkLost,
      MendAction::Connect},
-    {ConnectionEnd::CardGone, QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The card was taken out"),
+    {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The card was taken out"), ConnectionEnd::CardGone,
      MendAction::Connect},
-    {ConnectionEnd::Idle, QT_TRANSLATE_NOOP("ConnectionDiagnosis", "Ended because nothing was carried"),
+    {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "Ended because nothing was carried"), ConnectionEnd::Idle,
      MendAction::Connect},
-    {ConnectionEnd::Quota, QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The month's volume is used up"),
+    {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The month's volume is used up"), ConnectionEnd::Quota,
      MendAction::Connect},
 };
 

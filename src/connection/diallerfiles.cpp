@@ -5,6 +5,7 @@
 #include "connection/filelock.h"
 #include "connection/keptfile.h"
 #include "connection/profilechecks.h"
+#include "connection/secretslines.h"
 #include "shell/logging.h"
 #include "shell/safefile.h"
 
@@ -37,7 +38,7 @@ constexpr const char *openFailed = QT_TRANSLATE_NOOP("DiallerFiles", "open file 
 constexpr const char *recoverFailed = QT_TRANSLATE_NOOP("DiallerFiles", "Recover wvdial config data failed!");
 constexpr const char *dnsInvalid = QT_TRANSLATE_NOOP("DiallerFiles", "The DNS is invalid !");
 
-constexpr qint64 longestResolver = 64 * 1024;
+constexpr qint64 longestResolver = 64LL * 1024;
 
 bool removeFile(const QString &path)
 {
@@ -62,10 +63,14 @@ class DiallerFiles::Private
 public:
     explicit Private(const SystemFiles &systemFiles)
         : files(systemFiles), lock(systemFiles.lock),
-          kept{KeptFile(u"wvdial.conf"_s, files.wvdialConf, files.savedWvdialConf, KeptFile::PutBack::Always),
-               KeptFile(u"options"_s, files.pppOptions, files.savedPppOptions, KeptFile::PutBack::Always),
-               KeptFile(u"peer"_s, files.peer, files.savedPeer, KeptFile::PutBack::Always),
-               KeptFile(u"resolver"_s, files.resolver(), files.savedResolvConf, KeptFile::PutBack::IfOurs)}
+          kept{
+              KeptFile(u"wvdial.conf"_s, files.wvdialConf, files.savedWvdialConf, KeptFile::PutBack::Always),
+              KeptFile(u"options"_s, files.pppOptions, files.savedPppOptions, KeptFile::PutBack::Always),
+              KeptFile(u"peer"_s, files.peer, files.savedPeer, KeptFile::PutBack::Always),
+              KeptFile(u"pap-secrets"_s, files.papSecrets, files.savedPapSecrets, KeptFile::PutBack::Secrets),
+              KeptFile(u"chap-secrets"_s, files.chapSecrets, files.savedChapSecrets,
+                       KeptFile::PutBack::Secrets),
+              KeptFile(u"resolver"_s, files.resolver(), files.savedResolvConf, KeptFile::PutBack::IfOurs)}
     {
     }
 
@@ -82,7 +87,7 @@ public:
     SystemFiles files;
     FileLock lock;
     DiallerJournal journal;
-    std::array<KeptFile, 4> kept;
+    std::array<KeptFile, 6> kept;
     QString detail;
 };
 
@@ -104,7 +109,7 @@ bool DiallerFiles::Private::takeInHand()
         detail = u"another program has the dialler's files in hand"_s;
         return false;
     }
-    constexpr qint64 longestJournal = 1024 * 1024;
+    constexpr qint64 longestJournal = 1024LL * 1024;
     removeUnfinishedFiles(files.journal);
     journal = DiallerJournal::fromJson(contentOf(files.journal, longestJournal));
     return true;
@@ -228,6 +233,10 @@ bool DiallerFiles::readDeafaultConfigData(const ConnectionProfile &profile, cons
         return d->fail(readFailed, {}, error);
     if (d->journal.phase != Phase::Saved)
         return d->fail(readFailed, u"the system's files are not saved"_s, error);
+    // wvdial writes there itself, once the card is connected.
+    const QByteArray secret = secretHash(dialledUser(profile), dialledPassword(profile));
+    for (const QString &name : {u"pap-secrets"_s, u"chap-secrets"_s})
+        d->journal.files[name].written += secret;
     const QByteArray contents[] = {wvdialConfText(profile, modemPort), pppOptionsText(profile, options),
                                    peerText(isSuse())};
     for (std::size_t i = 0; i < std::size(contents); ++i) {
@@ -339,7 +348,7 @@ bool DiallerFiles::makeConnectInfo(QString *error)
 
 QByteArray DiallerFiles::connectInfo() const
 {
-    constexpr qint64 most = 1024 * 1024;
+    constexpr qint64 most = 1024LL * 1024;
     const int descriptor = ::open(QFile::encodeName(d->files.connectInfo).constData(),
                                   O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0)
@@ -357,7 +366,7 @@ QByteArray DiallerFiles::connectInfo() const
 
 bool DiallerFiles::isOSDistro(const QString &name) const
 {
-    constexpr qint64 longestIssue = 64 * 1024;
+    constexpr qint64 longestIssue = 64LL * 1024;
     return QString::fromUtf8(contentOf(d->files.issue, longestIssue)).contains(name, Qt::CaseInsensitive);
 }
 

@@ -21,7 +21,7 @@ struct DiallerJournal {
     struct File {
         bool existed = false;     ///< before the saving
         QByteArray original;      ///< hash of its content then
-        QSet<QByteArray> written; ///< hashes of what the program wrote in its place
+        QSet<QByteArray> written; ///< hashes of what the program wrote in its place; see `secretHash` as well
 
         bool operator==(const File &) const = default;
     };

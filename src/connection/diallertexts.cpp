@@ -20,6 +20,7 @@ QByteArray withLineEnds(const QStringList &lines)
     return (lines.join("\r\n"_L1) + "\r\n"_L1).toUtf8();
 }
 
+/// wvdial does not dial without a user name and a password.
 QString orNull(const QString &text)
 {
     return text.isEmpty() ? u"null"_s : text;
@@ -63,7 +64,6 @@ QStringList authenticationLines(const ConnectionProfile &profile)
 
 QByteArray wvdialConfText(const ConnectionProfile &profile, const QString &modemPort)
 {
-    // wvdial does not dial without a user name and a password.
     return withLineEnds({u"[Dialer Defaults]"_s, "Phone = "_L1 + profile.text(F::Phone),
                          "Username = "_L1 + orNull(profile.text(F::UserName)),
                          "Password = "_L1 + orNull(profile.text(F::Password)), u"Stupid Mode = 1"_s,
@@ -97,6 +97,16 @@ QByteArray peerText(bool isSuse)
     if (isSuse)
         lines += u"plugin passwordfd.so"_s;
     return withLineEnds(lines);
+}
+
+QByteArray dialledUser(const ConnectionProfile &profile)
+{
+    return orNull(profile.text(F::UserName)).toUtf8();
+}
+
+QByteArray dialledPassword(const ConnectionProfile &profile)
+{
+    return orNull(profile.text(F::Password)).toUtf8();
 }
 
 QByteArray resolverText(const QByteArray &old, const QStringList &nameServers)

@@ -16,6 +16,10 @@ QByteArray wvdialConfText(const ConnectionProfile &profile, const QString &modem
 QByteArray pppOptionsText(const ConnectionProfile &profile, const PppOptions &options);
 QByteArray peerText(bool isSuse);
 
+/// What wvdial logs in with, and leaves in pppd's secrets files.
+QByteArray dialledUser(const ConnectionProfile &profile);
+QByteArray dialledPassword(const ConnectionProfile &profile);
+
 /// The resolver file `old` with these name servers in place of its own. Source: resolv.conf(5).
 QByteArray resolverText(const QByteArray &old, const QStringList &nameServers);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/keptfile.h"
 
+#include "connection/secretslines.h"
 #include "shell/safefile.h"
 
 #include <QFile>
@@ -20,7 +21,7 @@ namespace
 {
 
 /// Files of settings have some kilobytes.
-constexpr qint64 largestFile = 16 * 1024 * 1024;
+constexpr qint64 largestFile = 16LL * 1024 * 1024;
 
 struct Reading {
     bool exists = false;
@@ -72,13 +73,17 @@ bool KeptFile::take(DiallerJournal::File *state, QString *detail) const
         *detail = m_path + u" cannot be read"_s;
         return false;
     }
-    if (!now.exists || state->written.contains(DiallerJournal::hashOf(*now.content))) {
+    const bool isWhole = m_putBack != PutBack::Secrets;
+    if (!now.exists || (isWhole && state->written.contains(DiallerJournal::hashOf(*now.content)))) {
         state->existed = false;
         return tidy();
     }
     state->existed = true;
     state->original = DiallerJournal::hashOf(*now.content);
-    return writeFileSafely(m_copy, *now.content, *rights, detail);
+    FileRights kept = *rights;
+    if (m_putBack == PutBack::Secrets)
+        kept.mode = S_IRUSR | S_IWUSR;
+    return writeFileSafely(m_copy, *now.content, kept, detail);
 }
 
 bool KeptFile::write(const QByteArray &content, QString *detail) const
@@ -113,8 +118,49 @@ bool KeptFile::removeOrKeep(bool isOurs, QString *detail) const
     return isGone;
 }
 
+/// The file has stayed in its place, with its owner and mode. What wvdial cut off, or somebody shortened, is
+/// kept beside.
+KeptFile::Result KeptFile::takeLinesOut(const DiallerJournal::File &state, bool isResumed,
+                                        QString *detail) const
+{
+    const Reading now = read(m_path);
+    const Reading copy = read(m_copy);
+    if (now.exists && !now.content) {
+        *detail = m_path + u" cannot be read"_s;
+        return Result::Failed;
+    }
+    if (!now.exists)
+        return (copy.content ? replace(detail) : tidy()) ? Result::Done : Result::Failed;
+
+    const bool isOriginal = state.existed && DiallerJournal::hashOf(*now.content) == state.original;
+    const bool isLost = state.existed && !copy.content && !isOriginal;
+    const bool isShort = copy.content && isCutOff(*now.content, *copy.content, state.written);
+    // Without the copy, nobody knows what else the dial replaced: only its own lines go.
+    const auto before = isLost ? std::optional(QByteArray()) : copy.content;
+    const auto after = isOriginal ? now.content
+                       : isShort  ? copy.content
+                                  : withoutDialled(*now.content, before, state.written);
+    FileRights rights = fileRights(m_path).value_or(FileRights());
+    if (const auto saved = fileRights(m_copy); saved && after == copy.content)
+        rights.modified = saved->modified;
+    else
+        rights.modified = {0, UTIME_NOW};
+    if (isShort)
+        keepFileBeside(m_path, u"changed"_s);
+    const bool isSame = after == now.content;
+    const bool isBack = isSame || (after ? writeFileSafely(m_path, *after, rights, detail)
+                                         : remove(QFileInfo(m_path).canonicalFilePath()));
+    if (!isBack || !tidy())
+        return Result::Failed;
+    if (isLost)
+        *detail = m_copy + u" is missing"_s;
+    return isLost && !(isResumed && isSame) ? Result::Lost : Result::Done;
+}
+
 KeptFile::Result KeptFile::putBack(const DiallerJournal::File &state, bool isResumed, QString *detail) const
 {
+    if (m_putBack == PutBack::Secrets)
+        return takeLinesOut(state, isResumed, detail);
     const Reading now = read(m_path);
     const QByteArray hash = now.content ? DiallerJournal::hashOf(*now.content) : QByteArray();
     const bool isOurs = state.written.contains(hash);
@@ -139,6 +185,8 @@ KeptFile::Result KeptFile::putBackUnknown(QString *detail) const
         *detail = m_copy + u" is missing"_s;
         return Result::Lost;
     }
+    if (m_putBack == PutBack::Secrets && read(m_path).content != read(m_copy).content)
+        keepFileBeside(m_path, u"changed"_s); // others may have written there since
     return replace(detail) ? Result::Done : Result::Failed;
 }
 

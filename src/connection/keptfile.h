@@ -12,8 +12,11 @@ namespace corva
 class KeptFile
 {
 public:
-    /// Whether the file goes back whatever stands in its place, or only if that is what the program wrote.
-    enum class PutBack { Always, IfOurs };
+    enum class PutBack {
+        Always,  ///< whatever stands in its place
+        IfOurs,  ///< only if that is what the program wrote
+        Secrets, ///< wvdial's lines are taken out, see secretslines.h; `written` holds their hashes
+    };
     enum class Result {
         Done,
         Lost,  ///< there is no copy, and what stands in the place is not the original
@@ -46,6 +49,7 @@ public:
 
 private:
     bool replace(QString *detail) const;
+    Result takeLinesOut(const DiallerJournal::File &state, bool isResumed, QString *detail) const;
     bool removeOrKeep(bool isOurs, QString *detail) const;
 
     QString m_name;

@@ -28,6 +28,14 @@ constexpr int reportedContext = 1;
 constexpr int accepted = 1;
 constexpr int refusedPlainly = 0;
 
+/// By the command that made the call. Of a call that is still being made that is not known: then by the one
+/// that would have come first, and by the other where the card does not know that.
+void endDataCall(SerialThread &link, bool isByContext, int cid)
+{
+    if (isByContext || link.setDataCall(cid, false) == refusedPlainly)
+        link.activatePdpContext(cid, false);
+}
+
 } // namespace
 
 /// The maker's command where the card knows it, the standard's otherwise.
@@ -59,6 +67,11 @@ void NetworkCardLink::activated(Activation by, int result)
         return;
     }
     look();
+}
+
+void NetworkCardLink::slotDelayMessageBox()
+{
+    fail(ConnectionEnd::TimeOut, tr("Connection is failed!"));
 }
 
 void NetworkCardLink::refused()
@@ -123,23 +136,23 @@ void NetworkCardLink::deactivate()
     }
     const auto future = m_monitor.worker().submit(
         [by = std::exchange(m_activation, Activation::None), cid = m_plan.contextId](SerialThread &link) {
-            return by == Activation::DataCall ? link.setDataCall(cid, false)
-                                              : link.activatePdpContext(cid, false);
+            endDataCall(link, by == Activation::Context, cid);
+            return true;
         });
-    whenDone(future, this, [this](const std::optional<int> &) { takenDown(); });
+    whenDone(future, this, [this](std::optional<bool>) { takenDown(); });
 }
 
 /// Asks the card to end the data call and does not wait for its answer longer than a person would.
 void NetworkCardLink::abandon()
 {
-    if (m_activation == Activation::None)
+    if (m_activation == Activation::None && !m_isActivating)
         return;
-    constexpr auto patience = 2s;
+    const auto patience = m_isActivating ? 5s : 2s; // first the card has to be done with making the call
     auto ended = std::make_shared<std::promise<void>>();
     std::future<void> end = ended->get_future();
     m_monitor.worker().submit([by = std::exchange(m_activation, Activation::None), cid = m_plan.contextId,
                                ended](SerialThread &link) {
-        by == Activation::DataCall ? link.setDataCall(cid, false) : link.activatePdpContext(cid, false);
+        endDataCall(link, by == Activation::Context, cid);
         ended->set_value();
     });
     end.wait_for(patience);

@@ -39,6 +39,7 @@ public:
     Place placeOf(const QString &name);
     bool isDefault(const QString &name) const;
     bool save(RecordFile &file, const ProfileRecords &records, QString *error);
+    void undo(RecordFile &file, const ProfileRecords &records);
     bool saveDefault(const ProfileRecords &records, QString *error) { return save(chosen, records, error); }
 
     RecordFile total;
@@ -83,6 +84,14 @@ bool ProfileStore::Private::save(RecordFile &file, const ProfileRecords &records
     return isSaved;
 }
 
+/// Writes the old records after another file failed; that failure stays the problem.
+void ProfileStore::Private::undo(RecordFile &file, const ProfileRecords &records)
+{
+    const QString problem = writeProblem;
+    save(file, records, nullptr);
+    writeProblem = problem;
+}
+
 ProfileStore::ProfileStore(const QString &folder, QObject *parent)
     : QObject(parent), d(std::make_unique<Private>(folder))
 {
@@ -122,7 +131,7 @@ QString ProfileStore::problem() const
 
 QString ProfileStore::refusal(const ConnectionProfile &profile, const QString &oldName) const
 {
-    const QString reason = profileRefusal(profile);
+    QString reason = profileRefusal(profile);
     if (reason.isEmpty() && profile.name() != oldName && find(profile.name()))
         return tr("There is a profile with this name already.");
     return reason;
@@ -160,12 +169,16 @@ bool ProfileStore::change(const QString &name, const ConnectionProfile &profile,
     if (!reason.isEmpty())
         return refuse(reason, error);
     const bool wasDefault = d->isDefault(name);
+    const ProfileRecords old = records;
     records.change(place.index, profile);
     if (!d->save(*place.file, records, error))
         return false;
-    const bool isSaved = !wasDefault || d->saveDefault(records.only(place.index), error);
+    if (wasDefault && !d->saveDefault(records.only(place.index), error)) {
+        d->undo(*place.file, old);
+        return false;
+    }
     Q_EMIT sigChanged();
-    return isSaved;
+    return true;
 }
 
 bool ProfileStore::remove(const QString &name, QString *error)
@@ -178,17 +191,26 @@ bool ProfileStore::remove(const QString &name, QString *error)
         return refuse(tr("This profile may not be deleted."), error);
     records.remove(place.index);
     // First: the file of the default profile never names one that is not there.
+    const ProfileRecords oldDefault = d->chosen.records();
     if (d->isDefault(name) && !d->saveDefault({}, error))
         return false;
-    const bool isSaved = d->save(*place.file, records, error);
+    if (!d->save(*place.file, records, error)) {
+        d->undo(d->chosen, oldDefault);
+        return false;
+    }
     Q_EMIT sigChanged();
-    return isSaved;
+    return true;
 }
 
 std::optional<ConnectionProfile> ProfileStore::defaultProfile() const
 {
     const ProfileRecords &records = d->chosen.records();
     return records.size() > 0 ? std::optional(records.at(0)) : std::nullopt;
+}
+
+bool ProfileStore::isDefaultBroken() const
+{
+    return !d->chosen.problem().isEmpty();
 }
 
 bool ProfileStore::setDefault(const QString &name, QString *error)

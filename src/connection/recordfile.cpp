@@ -14,7 +14,7 @@ namespace
 {
 
 /// Thousands of profiles; what is larger is no record file.
-constexpr qint64 largestFile = 4 * 1024 * 1024;
+constexpr qint64 largestFile = 4LL * 1024 * 1024;
 
 QString say(const char *sentence, const QString &path)
 {

@@ -12,6 +12,7 @@ SystemFiles SystemFiles::below(const QString &root)
     QString *const paths[] = {
         &files.wvdialConf,     &files.savedWvdialConf, &files.pppOptions,  &files.savedPppOptions,
         &files.peer,           &files.savedPeer,       &files.resolvConf,  &files.savedResolvConf,
+        &files.papSecrets,     &files.savedPapSecrets, &files.chapSecrets, &files.savedChapSecrets,
         &files.resolvconfFile, &files.pppResolvConf,   &files.routeHelper, &files.connectInfo,
         &files.issue,          &files.journal,         &files.lock};
     for (QString *path : paths)

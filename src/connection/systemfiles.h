@@ -21,6 +21,12 @@ struct SystemFiles {
     /// The resolver file where the layout of the package resolvconf exists.
     QString resolvconfFile = QStringLiteral("/etc/resolvconf/run/resolv.conf");
 
+    /// pppd's secrets, into which wvdial writes those of each dial.
+    QString papSecrets = QStringLiteral("/etc/ppp/pap-secrets");
+    QString savedPapSecrets = QStringLiteral("/etc/ppp/tmppap-secrets");
+    QString chapSecrets = QStringLiteral("/etc/ppp/chap-secrets");
+    QString savedChapSecrets = QStringLiteral("/etc/ppp/tmpchap-secrets");
+
     /// Where pppd leaves the network's name servers.
     QString pppResolvConf = QStringLiteral("/etc/ppp/resolv.conf");
     /// The files of which one says that the link is built.

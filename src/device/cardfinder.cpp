@@ -117,7 +117,15 @@ FoundCard CardFinder::findByFixedNames(const PortProbe &probe)
 FoundCard CardFinder::findConfigured(const PortProbe &probe)
 {
     const UsbStick stick = stickOfPort(m_settings.atPort);
-    FoundCard card = identified(probePort(m_settings.atPort, probe), stick, typeOf(stick));
+    int error = 0;
+    const auto noted = [&](const QString &port) {
+        const ProbeResult result = probe(port);
+        error = result.error;
+        return result;
+    };
+    FoundCard card = identified(probePort(m_settings.atPort, noted), stick, typeOf(stick));
+    if (card.presence == CardPresence::Absent)
+        card.fault = portFault(m_settings.atPort, error);
     card.ports.modem = m_settings.modemPort.isEmpty() ? card.ports.at : m_settings.modemPort;
     card.ports.voice = m_settings.voicePort;
     return card;

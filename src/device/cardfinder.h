@@ -47,11 +47,12 @@ struct FoundCard {
     CardPresence presence = CardPresence::Absent;
     QString deviceName; ///< from the types file, or as the stick calls itself
     CardPorts ports;
-    std::optional<CardFamily> family; ///< as the types file says; nullopt where it does not
-    QString port;                     ///< the port that `presence` speaks of
-    PortHolder holder;                ///< PortBusy
-    QString group;                    ///< NoRights: the group that owns the port
-    UsbIdentity usb;                  ///< null id for a port without a USB device
+    std::optional<CardFamily> family;  ///< as the types file says; nullopt where it does not
+    QString port;                      ///< the port that `presence` speaks of
+    PortHolder holder;                 ///< PortBusy
+    QString group;                     ///< NoRights: the group that owns the port
+    PortFault fault = PortFault::None; ///< Absent: the configuration names `port`, which can be none
+    UsbIdentity usb;                   ///< null id for a port without a USB device
     bool operator==(const FoundCard &) const = default;
 };
 

@@ -6,6 +6,7 @@
 #include "hotplugmonitor.h"
 #include "link/cardworker.h"
 #include "link/serialthread.h"
+#include "link/statusparsers.h"
 #include "modeswitch.h"
 #include "portclaim.h"
 #include "shell/commoncfg.h"
@@ -24,6 +25,8 @@ namespace corva
 namespace
 {
 
+const QString deviceSection = u"device"_s;
+const QString lastCardKey = u"last_card"_s;
 constexpr auto statusInterval = 4000ms;
 constexpr auto echoDelay = 2000ms;
 constexpr int silentRoundsUntilGivenUp = 3;
@@ -43,15 +46,33 @@ std::chrono::milliseconds statusPeriod(bool isThere)
                     statusInterval);
 }
 
-PinOutcome pinOutcome(int result)
+/// What a reply means that is none of the results of an entry.
+PinOutcome pinOutcome(const QByteArray &reply)
+{
+    const SimState sim = parseSimState(reply).valueOr(SimState::Unknown);
+    if (sim == SimState::Busy)
+        return PinOutcome::SimBusy;
+    if (sim == SimState::Failure)
+        return PinOutcome::SimFailure;
+    return refusal(reply) ? PinOutcome::Refused : PinOutcome::NoAnswer;
+}
+
+/// `result` is that of `SerialThread::enterPin`.
+PinOutcome pinOutcome(int result, const QByteArray &reply)
 {
     switch (result) {
     case 1: return PinOutcome::Accepted;
     case 0: return PinOutcome::Wrong;
     case 2: return PinOutcome::PukNeeded;
     case 3: return PinOutcome::SimFailure;
-    default: return PinOutcome::NoAnswer;
+    default: return pinOutcome(reply);
     }
+}
+
+/// Opens the port for this program alone. 0, or the error.
+int openClaimed(SerialThread &link, const QString &port)
+{
+    return link.openPort(port, claimPort) < 0 ? errno : 0;
 }
 
 } // namespace
@@ -73,6 +94,7 @@ public:
     void loseCard();
     void closePorts();
     void wokeUp();
+    void rememberCard();
     void publish();
     void publish(const CardState &state);
     void say(const QString &sentence);
@@ -101,6 +123,7 @@ CardMonitor::Private::Private(CardMonitor *monitor, LinkOwner *owner)
       finder(ModemTypes::load(basePath + u"/Data/modem_types.xml"_s), DeviceSettings::fromConfiguration()),
       reader(link)
 {
+    finder.preferCard(cmcfg.getValue(deviceSection, lastCardKey));
     if (cmcfg.getNumber(u"call"_s, u"enable"_s) == 1)
         voiceLink = std::make_unique<SerialThread>(owner);
     worker.setAfterEach([this](SerialThread &) { checkPort(); });
@@ -116,6 +139,7 @@ void CardMonitor::Private::search(bool byFixedNames)
     newWay = byFixedNames;
     const auto ask = [this](const QString &port) { return probe(port); };
     const FoundCard card = newWay ? finder.findByFixedNames(ask) : finder.find(ask);
+    rememberCard();
     if (card.presence == CardPresence::Ready)
         useCard(card);
     else
@@ -129,6 +153,7 @@ void CardMonitor::Private::search(bool byFixedNames)
     state.portHolder = card.holder.name;
     state.portHolderPid = card.holder.pid;
     state.portGroup = card.group;
+    state.portFault = card.fault;
     state.family = link.family();
     stick = card.usb;
     if (card.presence == CardPresence::Ready && !foundPortFlag)
@@ -143,13 +168,8 @@ void CardMonitor::Private::search(bool byFixedNames)
 ProbeResult CardMonitor::Private::probe(const QString &port)
 {
     closePorts();
-    const int fd = link.openPort(port);
-    if (fd < 0)
-        return {ProbeResult::Verdict::CannotOpen, errno};
-    if (const int error = claimPort(fd)) {
-        closePorts();
+    if (const int error = openClaimed(link, port))
         return {ProbeResult::Verdict::CannotOpen, error};
-    }
     openPort = port;
     if (link.sendNULL_ATCmd() == 1)
         return {ProbeResult::Verdict::Answered, 0};
@@ -161,16 +181,17 @@ void CardMonitor::Private::useCard(const FoundCard &card)
 {
     if (openPort != card.ports.at) {
         closePorts();
-        if (link.openPort(card.ports.at) < 0)
-            return;
-        claimPort(link.descriptor());
+        if (openClaimed(link, card.ports.at) != 0)
+            return; // the next search says why
         openPort = card.ports.at;
     }
     const CardFamily family = card.family.value_or(link.family());
     link.setFamily(family);
     if (voiceLink && !card.ports.voice.isEmpty()) {
         voiceLink->setFamily(family);
-        voiceLink->openPort(card.ports.voice);
+        if (const int error = openClaimed(*voiceLink, card.ports.voice))
+            qCWarning(lcDevice).noquote().nospace()
+                << logTime() << "the voice port " << card.ports.voice << ": " << qt_error_string(error);
     }
     silentRounds = 0;
     identityTries = mostIdentityTries;
@@ -198,7 +219,8 @@ void CardMonitor::Private::identify()
         SerialThread::writeUpdateHardwareCfg(&reader.state().identity);
 }
 
-/// CDMA cards keep their echo: some of their replies are told apart by it alone.
+/// By the card's family: a CDMA card keeps its echo, the others lose it. What a reply means does not hang on
+/// it, since replies are judged by the command that was sent.
 void CardMonitor::Private::setEcho()
 {
     echoIsDue = true;
@@ -269,6 +291,18 @@ void CardMonitor::Private::wokeUp()
     }
 }
 
+/// Keeps the card used last for the next start; settings are written on the GUI thread.
+void CardMonitor::Private::rememberCard()
+{
+    QMetaObject::invokeMethod(
+        q,
+        [key = finder.preferredCard()] {
+            if (cmcfg.getValue(deviceSection, lastCardKey) != key)
+                cmcfg.setValue(deviceSection, lastCardKey, key);
+        },
+        Qt::QueuedConnection);
+}
+
 void CardMonitor::Private::say(const QString &sentence)
 {
     QMetaObject::invokeMethod(
@@ -334,6 +368,8 @@ void CardMonitor::start()
 {
     const bool newWay = cmcfg.getNumber(u"function"_s, u"findAtAndModemNewWay"_s) != 0;
     d->hotplug.watchPorts(d->finder.portsToWatch(newWay));
+    // What an earlier run left there may be a card that is gone.
+    d->worker.submit([](SerialThread &) { SerialThread::writeUpdateHardwareCfg(nullptr); });
     d->worker.start();
     d->link.start();
     d->echoTimer.start(echoDelay);
@@ -391,7 +427,7 @@ void CardMonitor::refreshNow()
 QFuture<PinOutcome> CardMonitor::enterPin(const QString &pin)
 {
     return d->worker.submit([this, pin](SerialThread &link) {
-        const PinOutcome outcome = pinOutcome(link.enterPin(pin));
+        const PinOutcome outcome = pinOutcome(link.enterPin(pin), link.lastReply());
         d->poll();
         return outcome;
     });
@@ -400,7 +436,7 @@ QFuture<PinOutcome> CardMonitor::enterPin(const QString &pin)
 QFuture<PinOutcome> CardMonitor::enterPuk(const QString &puk, const QString &newPin)
 {
     return d->worker.submit([this, puk, newPin](SerialThread &link) {
-        const PinOutcome outcome = pinOutcome(link.enterPuk(puk, newPin));
+        const PinOutcome outcome = pinOutcome(link.enterPuk(puk, newPin), link.lastReply());
         d->poll();
         return outcome;
     });

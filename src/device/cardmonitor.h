@@ -17,7 +17,15 @@ namespace corva
 class CardWorker;
 
 /// How the card took a PIN or a PUK.
-enum class PinOutcome { Accepted, Wrong, PukNeeded, SimFailure, NoAnswer };
+enum class PinOutcome {
+    Accepted,
+    Wrong,
+    PukNeeded,
+    SimFailure,
+    SimBusy, ///< the SIM is still starting: the entry was not looked at
+    Refused, ///< an error that says nothing about the entry
+    NoAnswer
+};
 
 /// The life of one card: found, identified, polled, gone. Lives on the GUI thread; everything that touches
 /// the card runs on the card worker, and comes back as a new `CardState`.

@@ -2,6 +2,7 @@
 #include "cardreader.h"
 
 #include "link/serialthread.h"
+#include "link/simprovider.h"
 #include "link/statusparsers.h"
 #include "shell/commoncfg.h"
 
@@ -221,6 +222,8 @@ void CardReader::readIdentity()
     who.ownNumber = text(&SerialThread::getISDN);
     if (!m_isSilent && m_link.getICCID(m_buffer.data()) == 1)
         who.iccid = parseIccid(m_buffer.data()).valueOr({});
+    if (!m_isSilent && m_link.getSPN(m_buffer.data()) == 1)
+        who.provider = parseProvider(m_buffer.data()).valueOr({});
 }
 
 bool CardReader::isIdentified() const

@@ -30,7 +30,7 @@ public:
     /// SIM, signal, registration, operator, service. False when the card fell silent in between; what was
     /// read until then is kept.
     bool readStatus();
-    /// Model, IMEI, firmware, IMSI, ICCID, own number.
+    /// Model, IMEI, firmware, IMSI, ICCID, own number, provider.
     void readIdentity();
     /// False while the card has not said what it should know: a SIM may be busy for some seconds after its
     /// PIN.

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QXmlStreamReader>
 #include <algorithm>
 #include <array>
@@ -222,9 +223,12 @@ ModemTypes unusableFile(const QString &reason)
 ModemTypes readFile(const QString &path)
 {
     QFile file(path);
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile())
+        return unusableFile(QCoreApplication::translate("SafeFile", "%1 is not a plain file").arg(path));
     if (!file.open(QIODevice::ReadOnly))
         return unusableFile(Reader::tr("The file cannot be read: %1").arg(file.errorString()));
-    // One byte more than allowed: devices and pipes have no size to ask for.
+    // One byte more than allowed: the file may grow meanwhile.
     const QByteArray xml = file.read(maximumFileSize + 1);
     if (xml.size() > maximumFileSize)
         return unusableFile(Reader::tr("The file is larger than 1 MiB and is not read."));

@@ -47,6 +47,8 @@ Finding running(const char *headline, const char *sentence)
 
 Finding checkUsbMode(const CardState &state)
 {
+    if (state.portFault != PortFault::None)
+        return ok(QT_TRANSLATE_NOOP("OfflineDiagnosis", "The settings name a port"));
     if (state.presence == CardPresence::StorageMode)
         return failed(
             QT_TRANSLATE_NOOP("OfflineDiagnosis", "The card shows itself as a disk"),
@@ -66,6 +68,24 @@ Finding checkUsbMode(const CardState &state)
 
 Finding checkPort(const CardState &state)
 {
+    if (state.portFault == PortFault::Missing)
+        return failed(QT_TRANSLATE_NOOP("OfflineDiagnosis", "The port does not exist"),
+                      text(QT_TRANSLATE_NOOP(
+                               "OfflineDiagnosis",
+                               "The settings name the port %1, which does not exist. Plug the card in; if "
+                               "it is plugged in, correct \"at_port\" in the file "
+                               "Data/common-config.xml and start the program again."))
+                          .arg(state.portName),
+                      MendAction::SearchAgain);
+    if (state.portFault == PortFault::NotSerial)
+        return failed(
+            QT_TRANSLATE_NOOP("OfflineDiagnosis", "The port is no serial port"),
+            text(QT_TRANSLATE_NOOP("OfflineDiagnosis",
+                                   "The settings name the port %1, which is no serial port. Correct "
+                                   "\"at_port\" in the file Data/common-config.xml and start the program "
+                                   "again."))
+                .arg(state.portName),
+            MendAction::SearchAgain);
     if (state.presence == CardPresence::Absent)
         return failed(
             QT_TRANSLATE_NOOP("OfflineDiagnosis", "The card has no serial port"),

@@ -66,8 +66,8 @@ struct DiagnosisStep {
 /// The text of the button that does it.
 QString mendActionText(MendAction action);
 
-/// Walks the steps of the card, up to the network, for `state`. After the first step that is not in order the rest is not reached, so at most
-/// one step is `Failed` or `Running`.
+/// Walks the steps of the card, up to the network, for `state`. After the first step that is not in order the
+/// rest is not reached, so at most one step is `Failed` or `Running`.
 std::vector<DiagnosisStep> diagnose(const CardState &state);
 
 /// The step that is not in order; nullptr when all are. Points into `steps`.

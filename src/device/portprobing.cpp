@@ -9,6 +9,7 @@
 #include <array>
 #include <cerrno>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 using namespace Qt::StringLiterals;
 
@@ -18,10 +19,24 @@ namespace corva
 namespace
 {
 
-bool isCharacterDevice(const QString &port)
+/// The terminal of the process, the console and the maker of pseudo-terminals are everybody's; a card is
+/// behind none of them. Source: the kernel's list of devices, character major 5.
+bool isEverybodys(dev_t device)
+{
+    constexpr unsigned terminalMajor = 5;
+    constexpr unsigned lastMinor = 2;
+    return major(device) == terminalMajor && minor(device) <= lastMinor;
+}
+
+bool mayBeSerial(const struct stat &status)
+{
+    return S_ISCHR(status.st_mode) && !isEverybodys(status.st_rdev);
+}
+
+bool mayBeSerial(const QString &port)
 {
     struct stat status = {};
-    return stat(QFile::encodeName(port).constData(), &status) == 0 && S_ISCHR(status.st_mode);
+    return stat(QFile::encodeName(port).constData(), &status) == 0 && mayBeSerial(status);
 }
 
 struct ErrorRow {
@@ -61,7 +76,7 @@ FoundCard probePort(const QString &port, const PortProbe &probe)
 {
     FoundCard card;
     card.port = port;
-    if (!isCharacterDevice(port))
+    if (!mayBeSerial(port))
         return card;
     if (holderByLockFile(port).isKnown()) {
         card.presence = CardPresence::PortBusy;
@@ -71,6 +86,15 @@ FoundCard probePort(const QString &port, const PortProbe &probe)
     if (card.presence == CardPresence::Ready)
         card.ports.at = port;
     return card;
+}
+
+PortFault portFault(const QString &port, int openError)
+{
+    struct stat status = {};
+    if (stat(QFile::encodeName(port).constData(), &status) != 0)
+        return errno == EACCES ? PortFault::None : PortFault::Missing;
+    const bool isTerminal = mayBeSerial(status) && openError != ENOTTY && openError != EINVAL;
+    return isTerminal ? PortFault::None : PortFault::NotSerial;
 }
 
 FoundCard probePorts(const QStringList &ports, const PortProbe &probe)

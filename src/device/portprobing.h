@@ -6,9 +6,13 @@
 namespace corva
 {
 
-/// Probes one port, unless another program has it by lock file or it is no character device. The result has
+/// Probes one port, unless another program has it by lock file or it can be no serial port. The result has
 /// `presence`, `port` and, when it is ready, `ports.at`.
 FoundCard probePort(const QString &port, const PortProbe &probe);
+
+/// Why a port cannot be one, from its file and the errno of opening it. `None` where another reason is at
+/// work.
+PortFault portFault(const QString &port, int openError);
 
 /// Probes ports in order until two have answered: the first is then taken for data, the second for commands,
 /// as most cards have it, so that commands go on during a connection. One that answers alone serves for both.

@@ -24,6 +24,9 @@ enum class CardPresence {
     Ready        ///< the AT port answers
 };
 
+/// What is wrong with a port that the configuration names.
+enum class PortFault { None, Missing, NotSerial };
+
 /// The SIM's state. Source: 3GPP TS 27.007 8.3 "+CPIN", and the "^CPIN" form of CDMA cards.
 enum class SimState { Unknown, Ready, PinNeeded, PukNeeded, Busy, Failure, Absent };
 
@@ -60,6 +63,14 @@ enum class NetworkType {
     Lte
 };
 
+/// What the SIM says about the name of its provider. 3GPP TS 31.102 4.2.12.
+struct SimProvider {
+    QString name;                    ///< empty when the SIM holds none
+    bool wantsNetworkAtHome = false; ///< at home the network's own name belongs beside it
+    bool isSilentAbroad = false;     ///< abroad the network's name stands alone
+    bool operator==(const SimProvider &) const = default;
+};
+
 /// Who the card is. Read once after it was found; an empty text means "not known".
 struct CardIdentity {
     QString manufacturer;
@@ -70,6 +81,7 @@ struct CardIdentity {
     QString imsi;
     QString iccid;
     QString ownNumber;
+    SimProvider provider = {};
     bool operator==(const CardIdentity &) const = default;
 };
 
@@ -83,6 +95,8 @@ struct CardState {
     QString portHolder;    ///< PortBusy: the other program's name; may be empty when it cannot be told
     qint64 portHolderPid = 0;
     QString portGroup; ///< NoRights: the group that owns the port, e.g. "dialout"
+    PortFault portFault =
+        PortFault::None; ///< Absent: what is wrong with the port that the configuration names
     CardFamily family = CardFamily::Wcdma;
 
     CardIdentity identity;

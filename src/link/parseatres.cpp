@@ -64,48 +64,36 @@ constexpr auto facilityState = std::to_array<Outcome>({
     {"CME ERROR: SIM PUK required", PukRequired},
     {"CME ERROR: 12\r", PukRequired},
 });
-constexpr auto facilityLock = std::to_array<Outcome>({
-    {"OK\r\n", LockDone},
-    {"CME ERROR: SIM PUK required", PukRequired},
-    {"CME ERROR: 12\r", PukRequired},
-    {"CME ERROR: SIM failure", SimFailure},
-    {"CME ERROR: 13\r", SimFailure},
-    {"CME ERROR: incorrect password", LockRefused},
-    {"CME ERROR: 16\r", LockRefused},
-    {"CME ERROR", NotWritten},
-    {"ERROR", LockRefused},
-});
-constexpr auto facilityUnlock = std::to_array<Outcome>({
-    {"OK\r\n", UnlockDone},
-    {"CME ERROR: SIM PUK required", PukRequired},
-    {"CME ERROR: 12\r", PukRequired},
-    {"CME ERROR: SIM failure", SimFailure},
-    {"CME ERROR: 13\r", SimFailure},
-    {"CME ERROR: incorrect password", UnlockRefused},
-    {"CME ERROR: 16\r", UnlockRefused},
-    {"CME ERROR", NotWritten},
-    {"ERROR", UnlockRefused},
-});
-constexpr auto passwordChange = std::to_array<Outcome>({
-    {"OK\r\n", PasswordChanged},
-    {"CME ERROR: SIM PUK required", PasswordPukRequired},
-    {"CME ERROR: 12\r", PasswordPukRequired},
-    {"CME ERROR: incorrect password", PasswordRefused},
-    {"CME ERROR: 16\r", PasswordRefused},
-    {"CME ERROR", PasswordFailed},
-    {"ERROR", PasswordRefused},
-});
-constexpr auto pinEntry = std::to_array<Outcome>({
-    {"OK\r\n", UnknownOk},
-    {"CME ERROR: SIM PUK required", PukRequired},
-    {"CME ERROR: 12\r", PukRequired},
-    {"CME ERROR: SIM failure", SimFailure},
-    {"CME ERROR: 13\r", SimFailure},
-    {"CME ERROR: incorrect password", UnknownError},
-    {"CME ERROR: 16\r", UnknownError},
-    {"CME ERROR", NotWritten},
-    {"ERROR", UnknownError},
-});
+/// The codes in which the operations with a PIN, a PUK or a password differ.
+struct PasswordCodes {
+    int done;
+    int refused; ///< wrong, or "ERROR" without a reason
+    int pukRequired = PukRequired;
+    int simFailure = SimFailure;
+    int otherError = NotWritten;
+};
+constexpr auto passwordOutcomes(const PasswordCodes &code)
+{
+    return std::to_array<Outcome>({
+        {"OK\r\n", code.done},
+        {"CME ERROR: SIM PUK required", code.pukRequired},
+        {"CME ERROR: 12\r", code.pukRequired},
+        {"CME ERROR: SIM failure", code.simFailure},
+        {"CME ERROR: 13\r", code.simFailure},
+        {"CME ERROR: incorrect password", code.refused},
+        {"CME ERROR: 16\r", code.refused},
+        {"CME ERROR", code.otherError},
+        {"ERROR", code.refused},
+    });
+}
+constexpr auto pinEntry = passwordOutcomes({.done = UnknownOk, .refused = UnknownError});
+constexpr auto facilityLock = passwordOutcomes({.done = LockDone, .refused = LockRefused});
+constexpr auto facilityUnlock = passwordOutcomes({.done = UnlockDone, .refused = UnlockRefused});
+constexpr auto passwordChange = passwordOutcomes({.done = PasswordChanged,
+                                                  .refused = PasswordRefused,
+                                                  .pukRequired = PasswordPukRequired,
+                                                  .simFailure = PasswordFailed,
+                                                  .otherError = PasswordFailed});
 constexpr auto plain = std::to_array<Outcome>({{"OK\r\n", PlainOk}, {"ERROR", PlainError}});
 constexpr auto phonebookStore = std::to_array<Outcome>({{"OK", PlainOk}});
 constexpr auto firmware = std::to_array<Outcome>({{"\r\nOK", FirmwareRead}});

@@ -170,13 +170,6 @@ int SerialThread::resAtStr(int fd, char *reply, int seconds, int microseconds)
     return result;
 }
 
-int SerialThread::failReply(const char *line)
-{
-    logLine(QString::fromLatin1(line));
-    receive_flag = false;
-    return -1;
-}
-
 int SerialThread::collectReply(int fd, QByteArray &reply, seconds whole, microseconds rest)
 {
     reply.clear();
@@ -184,45 +177,68 @@ int SerialThread::collectReply(int fd, QByteArray &reply, seconds whole, microse
         return 0;
 
     corva::ReplyReader reader;
-    // A round is spent only when its 100 ms were silent to the end.
-    auto roundsLeft = std::max<qint64>((whole + rest) / round100ms, 0);
+    const std::chrono::microseconds timeout = whole + rest;
+    Budget budget{std::max<qint64>(timeout / round100ms, 0),
+                  steady_clock::now() +
+                      std::max<std::chrono::microseconds>(timeout * ceilingFactor, lowestCeiling)};
+    const QString failure = readReply(fd, reader, budget);
+    if (!failure.isEmpty()) {
+        logLine(failure);
+        receive_flag = false;
+        return -1;
+    }
+    reply = reader.reply();
+    findUpReportAtCmd(QString::fromLatin1(reply));
+    logLine(u"****** in resAtStr, timer_sec=%1, timer_usec=%2, con=%3"_s.arg(whole.count())
+                .arg(rest.count())
+                .arg(budget.rounds));
+    logLine(u"****** in resAtStr, pResStr = %1"_s.arg(readable(reply)));
+    receive_flag = false;
+    return 1;
+}
+
+/// Feeds the reader until its reply is complete. Returns why it is not; empty when it is.
+QString SerialThread::readReply(int fd, corva::ReplyReader &reader, Budget &budget)
+{
     std::size_t notesLogged = 0;
     for (;;) {
-        while (m_ahead.isEmpty()) {
-            Wait wait = waitFor(fd, POLLIN, int(firstPoll.count()));
-            if (wait == Wait::Silent && roundsLeft > 0)
-                wait = waitFor(fd, POLLIN, int(round100ms.count()));
-            else if (wait == Wait::Silent)
-                return failReply("****** select of SerialThread::resAtStr is timerout");
-            if (wait == Wait::Failed) {
-                const int error = errno;
-                return failReply(
-                    qPrintable(u"select of SerialThread::resAtStr is ko,errno = %1!"_s.arg(error)));
-            }
-            if (wait == Wait::Silent)
-                --roundsLeft;
-            else if (!fillBuffer(fd))
-                return failReply("SerialThread::resAtStr() ===> no data to read!");
-        }
+        QString failure = waitForBytes(fd, budget);
+        if (!failure.isEmpty())
+            return failure;
         const auto progress = reader.feed(m_ahead);
         m_ahead.remove(0, progress.consumed);
         for (; notesLogged < reader.notes().size(); ++notesLogged)
             logLine(QString::fromLatin1(reader.notes()[notesLogged]));
         if (progress.status == corva::ReplyReader::Status::TooLong) {
             m_ahead.clear();
-            return failReply("****** SerialThread::resAtStr: the reply is too long");
+            return u"****** SerialThread::resAtStr: the reply is too long"_s;
         }
         if (progress.status == corva::ReplyReader::Status::Complete)
-            break;
+            return {};
     }
-    reply = reader.reply();
-    findUpReportAtCmd(QString::fromLatin1(reply));
-    logLine(u"****** in resAtStr, timer_sec=%1, timer_usec=%2, con=%3"_s.arg(whole.count())
-                .arg(rest.count())
-                .arg(roundsLeft));
-    logLine(u"****** in resAtStr, pResStr = %1"_s.arg(readable(reply)));
-    receive_flag = false;
-    return 1;
+}
+
+/// Until bytes wait in the buffer. A round is spent only when its 100 ms were silent to the end. Returns why
+/// none came; empty when some did.
+QString SerialThread::waitForBytes(int fd, Budget &budget)
+{
+    while (m_ahead.isEmpty()) {
+        if (steady_clock::now() >= budget.end)
+            return u"****** SerialThread::resAtStr: the card goes on without an end of its reply"_s;
+        Wait wait = waitFor(fd, POLLIN, int(firstPoll.count()));
+        if (wait == Wait::Silent) {
+            if (budget.rounds == 0)
+                return u"****** select of SerialThread::resAtStr is timerout"_s;
+            wait = waitFor(fd, POLLIN, int(round100ms.count()));
+        }
+        if (wait == Wait::Failed)
+            return u"select of SerialThread::resAtStr is ko,errno = %1!"_s.arg(errno);
+        if (wait == Wait::Silent)
+            --budget.rounds;
+        else if (!fillBuffer(fd))
+            return u"SerialThread::resAtStr() ===> no data to read!"_s;
+    }
+    return {};
 }
 
 /// What the card sent since the last transaction, until it is silent for 2 ms. Half a line is waited for a

@@ -13,6 +13,11 @@
 
 class LinkOwner;
 
+namespace corva
+{
+class ReplyReader;
+}
+
 /// True once the search has found and confirmed the AT port. Cleared by whoever notices that the card has
 /// gone.
 extern std::atomic<bool> foundPortFlag;
@@ -66,6 +71,11 @@ public:
     /// Opens `name` as 115200 8N1 raw with RTS/CTS and XON/XOFF. Returns the descriptor, or -1 with `errno`
     /// of the failing step (ENOTTY for what is not a character device, which is not opened at all).
     int openPort(const QString &name);
+    /// Takes an open port for this program; 0, or errno. See `corva::claimPort`.
+    using Claim = int (*)(int fd);
+    /// As `openPort`, for this program alone: a port that `claim` is refused is closed as it was, neither its
+    /// settings nor the bytes that wait there touched.
+    int openPort(const QString &name, Claim claim);
     /// The same with the input flags left as the device had them.
     int openPortWithoutSoftFlowControl(const QString &name);
     /// False for a negative descriptor. Does not reset the stored one: see `forgetPort`.
@@ -96,12 +106,16 @@ public:
     bool atLocked() const { return m_locked; }
 
     // --- Transaction
+    static constexpr int ceilingFactor = 5;
+    static constexpr std::chrono::seconds lowestCeiling{10};
     // ---------------------------------------------------------------------------------------------
 
     /// Writes one command with its line end. False when a gate refused it or the write failed.
     bool excuteAtStr(const char *cmd);
     /// Collects one reply. 1 when it is complete, -1 on time-out or error, 0 (and no text) while another read
-    /// runs.
+    /// runs. Only silence spends the time-out: a reply may come as slowly as it likes. A card that goes on
+    /// sending and never ends its reply is given up after `ceilingFactor` times the time-out, and not before
+    /// `lowestCeiling`.
     int resAtStr(int fd, char *reply, int seconds, int microseconds);
     /// Drains what the card sent since the last transaction, and dispatches the reports in it.
     void purgeComData();
@@ -138,6 +152,8 @@ public:
     int getJvn(char *text);
     /// The raw reply of reading the SIM's ICCID file. 1 or 0.
     int getICCID(char *text);
+    /// The raw reply of reading the SIM's file with its provider's name. 1 or 0.
+    int getSPN(char *text);
     /// The subscriber's identity, digits. 3GPP TS 27.007 5.6.
     int getCIMI(char *text);
     /// The SIM's own number. 3GPP TS 27.007 7.1.
@@ -240,23 +256,30 @@ protected:
 
 private:
     enum class Wait { Ready, Silent, Failed };
+    /// The time that one reply may take.
+    struct Budget {
+        qint64 rounds; ///< silent ones of 100 ms that are left
+        std::chrono::steady_clock::time_point end;
+    };
 
     Wait waitFor(int fd, short events, int milliseconds);
     int readFrom(int fd, char *buf, int len);
     bool fillBuffer(int fd);
     int readSome(int fd, char *buf, int len);
-    int openWith(const QString &name, bool softFlowControl);
+    int openWith(const QString &name, bool softFlowControl, Claim claim = nullptr);
     bool mayWrite(const char *cmd);
     bool writeCommand(const char *cmd, bool isLogged);
     bool waitForLockAndWrite(const char *cmd);
     int collectReply(int fd, QByteArray &reply, std::chrono::seconds whole, std::chrono::microseconds rest);
-    int failReply(const char *line);
+    QString readReply(int fd, corva::ReplyReader &reader, Budget &budget);
+    QString waitForBytes(int fd, Budget &budget);
     std::optional<QByteArray> drain();
     void runStartJobs();
     bool sleepTwoSeconds();
     int rawText(const QByteArray &cmd, char *text, std::chrono::microseconds timeout, bool failsOnCmeError);
     int identityText(const QByteArray &cmd, const QByteArray &prefix, char *text,
                      std::chrono::microseconds timeout);
+    int simFile(const QByteArray &cmd, char *text);
     int phonebookCapacity(const char *store);
 
     LinkOwner *const m_owner;

@@ -49,12 +49,17 @@ int SerialThread::openPort(const QString &name)
     return openWith(name, true);
 }
 
+int SerialThread::openPort(const QString &name, Claim claim)
+{
+    return openWith(name, true, claim);
+}
+
 int SerialThread::openPortWithoutSoftFlowControl(const QString &name)
 {
     return openWith(name, false);
 }
 
-int SerialThread::openWith(const QString &name, bool softFlowControl)
+int SerialThread::openWith(const QString &name, bool softFlowControl, Claim claim)
 {
     const QByteArray path = name.toLocal8Bit();
     if (!isCharacterDevice(path)) // truncating would empty a file that a wrong setting names
@@ -62,6 +67,8 @@ int SerialThread::openWith(const QString &name, bool softFlowControl)
     const int fd = ::open(path.constData(), O_RDWR | O_NOCTTY | O_TRUNC | O_NONBLOCK | O_CLOEXEC);
     if (fd < 0)
         return closePortAbnormal(fd, "open", errno);
+    if (const int error = claim ? claim(fd) : 0)
+        return closePortAbnormal(fd, "claim", error);
     termios line{};
     if (tcgetattr(fd, &line) != 0)
         return closePortAbnormal(fd, "tcgetattr", errno);

@@ -52,6 +52,17 @@ int SerialThread::identityText(const QByteArray &cmd, const QByteArray &prefix, 
     return 1;
 }
 
+/// The reply to reading a SIM file, where the reading went well: 1 or 0.
+int SerialThread::simFile(const QByteArray &cmd, char *text)
+{
+    text[0] = '\0';
+    const auto reply = transact(cmd, 1s);
+    if (!reply || !reply->contains("+CRSM: 144,0,"))
+        return 0;
+    copyText(text, *reply);
+    return 1;
+}
+
 int SerialThread::getCGMI(char *text)
 {
     return identityText("AT+CGMI\r\n", "+CGMI:", text, 1s);
@@ -100,12 +111,12 @@ int SerialThread::getISDN(char *text)
 
 int SerialThread::getICCID(char *text)
 {
-    text[0] = '\0';
-    const auto reply = transact("AT+CRSM=176,12258,0,0,10\r\n", 1s);
-    if (!reply || !reply->contains("+CRSM: 144,0,"))
-        return 0;
-    copyText(text, *reply);
-    return 1;
+    return simFile("AT+CRSM=176,12258,0,0,10\r\n", text);
+}
+
+int SerialThread::getSPN(char *text)
+{
+    return simFile("AT+CRSM=176,28486,0,0,17\r\n", text);
 }
 
 int SerialThread::getSignalQuality()

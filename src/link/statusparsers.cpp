@@ -26,12 +26,19 @@ bool isDigits(const QByteArray &text)
     return !text.isEmpty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
 }
 
-/// What people can read: letters, digits, marks, punctuation; no controls, no private or unassigned
-/// characters.
-bool isReadable(const QString &text)
+/// What people can read of it: letters, digits, marks, punctuation; no controls or format characters, no
+/// private or unassigned ones, no half pairs.
+QString readablePart(const QString &text)
 {
-    return std::ranges::all_of(
-        text, [](QChar c) { return c.isPrint() && c.category() != QChar::Other_NotAssigned; });
+    QString part;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool isPair = i + 1 < text.size() && text[i].isHighSurrogate() && text[i + 1].isLowSurrogate();
+        const char32_t c = isPair ? QChar::surrogateToUcs4(text[i], text[i + 1]) : text[i].unicode();
+        if (QChar::isPrint(c) && QChar::category(c) != QChar::Other_NotAssigned)
+            part += QStringView(text).sliced(i, isPair ? 2 : 1);
+        i += isPair ? 1 : 0;
+    }
+    return part.trimmed();
 }
 
 /// <AcT> of 3GPP TS 27.007 7.3, in its order.
@@ -108,7 +115,9 @@ QString decodeCardText(const QByteArray &text)
     QString decoded;
     for (qsizetype i = 0; i < text.size(); i += 4)
         decoded.append(QChar(char16_t(text.sliced(i, 4).toUShort(nullptr, 16))));
-    return isReadable(decoded) ? decoded.trimmed() : plain;
+    const QString name = readablePart(decoded.remove(QChar::Null)); // some cards pad with it
+    // A name of the letters A to F decodes, too, but to little that makes sense.
+    return name.size() * 2 > decoded.size() ? name : plain;
 }
 
 ReplyResult<SignalQuality> parseSignalQuality(const QByteArray &reply)
@@ -159,8 +168,10 @@ ReplyResult<RegistrationState> parseRegistration(const QByteArray &reply, QByteA
     const auto fields = AtFields::find(reply, prefix);
     if (!fields)
         return fields.error();
-    // The report has no <n>: its second field, where there is one, is the quoted area code.
-    const qsizetype at = fields->count() > 1 && !fields->isQuoted(1) ? 1 : 0;
+    // The report has no <n>: its second field, where there is one, is the area code. Some cards leave out its
+    // quotes, but not one of its four digits.
+    const bool isReport = fields->count() == 1 || fields->isQuoted(1) || fields->text(1).size() == 4;
+    const qsizetype at = isReport ? 0 : 1;
     const auto stat = registrationOf(fields->number(at, 0, 10));
     if (!stat)
         return badField("stat");
@@ -185,8 +196,6 @@ ReplyResult<SystemInformation> parseSysInfo(const QByteArray &reply)
     if (const auto roaming = fields->number(2, 0, 1))
         information.roaming = *roaming == 1;
     information.networkType = networkTypeOfMode(fields->number(3, 0, 255), fields->number(6, 0, 255));
-    if (const auto sim = fields->number(4, 0, 255))
-        information.simPresent = *sim != 255;
     return information;
 }
 

@@ -54,7 +54,6 @@ struct SystemInformation {
     ServiceState service = ServiceState::Unknown;
     std::optional<bool> roaming;
     NetworkType networkType = NetworkType::Unknown;
-    std::optional<bool> simPresent;
     bool operator==(const SystemInformation &) const = default;
 };
 ReplyResult<SystemInformation> parseSysInfo(const QByteArray &reply);
@@ -90,8 +89,8 @@ ReplyResult<QString> parseOwnNumber(const QByteArray &reply);
 /// "+CPBR: (1-250),40,14": the upper bound. 3GPP TS 27.007 8.12.
 ReplyResult<int> parsePhonebookCapacity(const QByteArray &reply);
 
-/// A text that may be UCS2 in hexadecimal, four digits a character: decoded when it is, unchanged when it is
-/// not.
+/// A text that may be UCS2 in hexadecimal, four digits a character: decoded when it is, without the
+/// characters that nobody can see; unchanged when it is not.
 QString decodeCardText(const QByteArray &text);
 
 } // namespace corva

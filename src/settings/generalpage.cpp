@@ -2,9 +2,11 @@
 #include "settings/generalpage.h"
 
 #include "settings/languages.h"
-#include "settings/settingcontrols.h"
 #include "settings/skinchooser.h"
 #include "shell/commoncfg.h"
+#include "shell/commonconfig.h"
+#include "shell/globals.h"
+#include "shell/updatecfg.h"
 #include "widgets/factrow.h"
 #include "widgets/skin.h"
 
@@ -30,6 +32,21 @@ QString shownName(const Skin &skin)
     return skin.name.isEmpty() ? skin.file : skin.name;
 }
 
+/// An external updater is there when it has left its period, or somebody has switched it before.
+bool hasUpdater()
+{
+    return !UpdateCfg::value(UpdateKey::UpdateFrequence).isEmpty() ||
+           !UpdateCfg::value(UpdateKey::EnableUpdate).isEmpty();
+}
+
+/// Who this program is.
+void tellUpdater()
+{
+    UpdateCfg::setValues({{UpdateKey::CmName, comcfg.softwareName},
+                          {UpdateKey::LanguageType, cmcfg.getValue(u"function"_s, u"selected-language"_s)},
+                          {UpdateKey::SoftwareVersion, readVersionInfo()}});
+}
+
 } // namespace
 
 GeneralPage::GeneralPage(QWidget *parent) : SettingsPage(parent)
@@ -47,12 +64,15 @@ GeneralPage::GeneralPage(QWidget *parent) : SettingsPage(parent)
     layout->addSpacing(2 * metrics::Grid);
     layout->addWidget(new SectionHeader(tr("Beside other programs"), this));
     layout->addWidget(settingSwitch(tr("&Keep running in the tray when the window is closed"),
-                                    {u"window"_s, u"close_to_tray"_s}, this),
+                                    {u"window"_s, u"close_to_tray"_s}),
                       0, Qt::AlignLeading);
     layout->addWidget(settingSwitch(tr("&Notify about calls and messages on the desktop"),
-                                    {u"window"_s, u"notifications_enabled"_s}, this),
+                                    {u"window"_s, u"notifications_enabled"_s}),
                       0, Qt::AlignLeading);
+    if (hasUpdater())
+        layout->addWidget(buildUpdates(), 0, Qt::AlignLeading);
     layout->addStretch(1);
+    tellUpdater();
 }
 
 QWidget *GeneralPage::buildLanguage()
@@ -81,9 +101,24 @@ QWidget *GeneralPage::buildSkin()
     return captioned(tr("&Colours"), choice, this);
 }
 
+QCheckBox *GeneralPage::buildUpdates()
+{
+    auto *box = new QCheckBox(tr("Look for &updates"), this);
+    box->setObjectName(u"updates"_s);
+    box->setChecked(UpdateCfg::value(UpdateKey::EnableUpdate).toInt() == 1);
+    box->setMinimumHeight(metrics::ControlHeight);
+    connect(box, &QCheckBox::toggled, this, [this](bool on) {
+        const bool isStored = UpdateCfg::setValue(UpdateKey::EnableUpdate, on ? u"1"_s : u"0"_s);
+        sayStored(isStored ? QString() : u"UpdateCfg.ini"_s);
+    });
+    return box;
+}
+
 void GeneralPage::takeLanguage(const QString &file)
 {
-    cmcfg.setValue(u"function"_s, u"selected-language"_s, file);
+    if (!store(u"function"_s, u"selected-language"_s, file))
+        return;
+    tellUpdater();
     Q_EMIT sigSaid(tr("The language is stored. It takes effect when the program starts next."));
 }
 

@@ -19,6 +19,7 @@ public:
 private:
     QWidget *buildLanguage();
     QWidget *buildSkin();
+    QCheckBox *buildUpdates();
     void takeLanguage(const QString &file);
     void takeSkin(const QString &file);
 };

@@ -4,5 +4,5 @@
 
 int already_running()
 {
-    return corva::takeInstanceLock("/var/run/corvaDaemon.pid");
+    return corva::takeInstanceLock(instanceLockPath);
 }

@@ -5,6 +5,7 @@
 #include "shell/logging.h"
 #include "shell/safefile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QMutexLocker>
@@ -172,7 +173,7 @@ void CommonCfg::saveDom()
     if (fileBroken && QFileInfo(configPath()).size() > 0) {
         kept = corva::keepBrokenFile(configPath());
         if (kept.isEmpty())
-            error = u"can't keep the broken common-config.xml file"_s;
+            error = QCoreApplication::translate("SafeFile", "The broken settings file cannot be kept beside");
     }
     if (error.isEmpty())
         corva::writeFileSafely(configPath(), bytes, &error);

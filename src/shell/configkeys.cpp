@@ -44,7 +44,7 @@ constexpr ConfigKey keys[] = {
     {"fontsetting"_L1, "mainwindow_fontsize"_L1, Number, "0"_L1, "Font size of the main window, in points. 0: the skin's."_L1},
     {"fontsetting"_L1, "phonewindow_fontname"_L1, Text, ""_L1, "Font family of the contacts. Empty: the program's."_L1},
 
-    {"resource_position"_L1, "tooltipLabel_y"_L1, Pixels, "0"_L1, "Moves the tool-tip label down, away from its usual place."_L1},
+    {"resource_position"_L1, "tooltipLabel_y"_L1, Pixels, "0"_L1, "Shows tool tips so far below their usual place; above it when negative."_L1},
     {"resource_position"_L1, "topicon_width"_L1, Pixels, "20"_L1, "Width of the icons in the top bar. 0: 20."_L1},
 
     {"window"_L1, "page"_L1, Text, "connection"_L1, "The page that was open last."_L1},
@@ -62,15 +62,16 @@ constexpr ConfigKey keys[] = {
     {"network_dialer_setting"_L1, "send_cpmscommand_enabled"_L1, Flag, "1"_L1, "The card's message store is chosen once the card is ready."_L1},
     {"network_dialer_setting"_L1, "sim_detect_count"_L1, Number, "5"_L1, "How often a SIM that does not answer yet is asked again."_L1},
     {"network_dialer_setting"_L1, "dial_timeout"_L1, Seconds, "30"_L1, "How long a dial-up may take before it is judged. 0: 30."_L1},
-    {"network_dialer_setting"_L1, "ppp0_pid_file"_L1, File, "/run/ppp0.pid"_L1, "The file whose being there says that the PPP link is built. Empty: /etc/ppp/ppp0.lnk or /tmp/ppp0.lnk."_L1},
-    {"network_dialer_setting"_L1, "ppp_resolve_conf_file"_L1, File, "/etc/ppp/resolv.conf"_L1, "Where pppd leaves the network's name servers."_L1},
-    {"network_dialer_setting"_L1, "resolve_conf_file"_L1, File, "/etc/resolv.conf"_L1, "The system's list of name servers."_L1},
-    {"network_dialer_setting"_L1, "get_route_info_cmd"_L1, File, "/etc/ppp/get_route_info"_L1, "Helper that is run once connected, where there is one."_L1},
+    {"network_dialer_setting"_L1, "ppp0_pid_file"_L1, File, "/run/ppp0.pid"_L1, "A further file whose being there says that the PPP link is built, beside /etc/ppp/ppp0.lnk and /tmp/ppp0.lnk."_L1},
+    {"network_dialer_setting"_L1, "ppp_resolve_conf_file"_L1, File, "/etc/ppp/resolv.conf"_L1, "Where pppd leaves the network's name servers. Taken only when Corva runs as root."_L1},
+    {"network_dialer_setting"_L1, "resolve_conf_file"_L1, File, "/etc/resolv.conf"_L1, "The system's list of name servers. Taken only when Corva runs as root."_L1},
+    {"network_dialer_setting"_L1, "get_route_info_cmd"_L1, File, "/etc/ppp/get_route_info"_L1, "Helper that is run once connected, where there is one. Taken only when Corva runs as root."_L1},
+    {"network_dialer_setting"_L1, "roaming_question"_L1, Text, ""_L1, "What is asked before a connection in a foreign network. Empty: the program's own question."_L1},
     {"network_dialer_setting"_L1, "Show_open_URL"_L1, Flag, "0"_L1, "Once connected, the profile's page is opened in the browser."_L1},
     {"network_dialer_setting"_L1, "AutoConnectFlag"_L1, Flag, "0"_L1, "Connects by itself when the card is ready."_L1},
     {"network_dialer_setting"_L1, "AutoConnectTimes"_L1, Number, "3"_L1, "How many times that is tried."_L1},
     {"network_dialer_setting"_L1, "autoRedial_enabled"_L1, Flag, "0"_L1, "Dials again after a connection broke off."_L1},
-    {"network_dialer_setting"_L1, "autoRedial_time"_L1, Number, "5"_L1, "How many times that is tried."_L1},
+    {"network_dialer_setting"_L1, "autoRedial_time"_L1, Number, "5"_L1, "How many times that is tried. 0: not at all."_L1},
     {"network_dialer_setting"_L1, "autoRedial_startSec"_L1, Seconds, "5"_L1, "Wait before the first of these dials."_L1},
     {"network_dialer_setting"_L1, "autoRedial_afterSec"_L1, Seconds, "30"_L1, "Wait before each further one."_L1},
     {"network_dialer_setting"_L1, "autoDisconnect_enabled"_L1, Flag, "0"_L1, "Ends a connection over which nothing is carried."_L1},
@@ -87,9 +88,9 @@ constexpr ConfigKey keys[] = {
 
     {"network"_L1, "serchNetworkAlowSentAt_enabled"_L1, Flag, "0"_L1, "1: other commands may be sent to the card while a network search runs."_L1},
 
-    {"plmn_display_setting"_L1, "isPNNAlwaysShow"_L1, Flag, "0"_L1, "The network's own name (PNN) is always shown."_L1},
-    {"plmn_display_setting"_L1, "isPNNNeverShow"_L1, Flag, "0"_L1, "The network's own name (PNN) is never shown."_L1},
-    {"plmn_display_setting"_L1, "isSPNAlwaysShow"_L1, Flag, "0"_L1, "The SIM's provider name (SPN) is always shown."_L1},
+    {"plmn_display_setting"_L1, "isPNNAlwaysShow"_L1, Flag, "0"_L1, "The network's own name (PNN) is always shown, in brackets behind the provider's."_L1},
+    {"plmn_display_setting"_L1, "isPNNNeverShow"_L1, Flag, "0"_L1, "The network's own name (PNN) is never shown. Goes over \"always\", here and below."_L1},
+    {"plmn_display_setting"_L1, "isSPNAlwaysShow"_L1, Flag, "0"_L1, "The SIM's provider name (SPN) is always shown. With all four off the SIM itself says which."_L1},
     {"plmn_display_setting"_L1, "isSPNNeverShow"_L1, Flag, "0"_L1, "The SIM's provider name (SPN) is never shown."_L1},
 
     {"sms"_L1, "validPeriod"_L1, Number, "3"_L1, "How long the network keeps a message it cannot deliver: 0 is 12 hours, 1 a day, 2 a week, anything else the longest time."_L1},
@@ -134,6 +135,7 @@ constexpr ConfigKey keys[] = {
     {"device"_L1, "modem_port"_L1, File, ""_L1, "Data port of that card."_L1},
     {"device"_L1, "voice_port"_L1, File, ""_L1, "Voice port of that card."_L1},
     {"device"_L1, "network_interface"_L1, Text, ""_L1, "Network interface of that card, e.g. wwan0. Taken only when Corva runs as root; otherwise the card's own USB interface is."_L1},
+    {"device"_L1, "last_card"_L1, Text, ""_L1, "The USB card used last, tried first where there are several. Written by the program."_L1},
 };
 // clang-format on
 

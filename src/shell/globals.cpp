@@ -2,6 +2,7 @@
 #include "shell/globals.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTextStream>
 
 using namespace Qt::StringLiterals;
@@ -13,7 +14,7 @@ QString readVersionInfo()
     constexpr qint64 longestLine = 256;
 
     QFile file(basePath + u"/Data/version.txt"_s);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
         return {};
     QTextStream stream(&file);
     stream.setEncoding(QStringConverter::Utf8);

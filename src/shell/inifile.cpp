@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <cstdio>
@@ -98,7 +99,8 @@ char *CIniFile::trim(char *text)
 
 int CIniFile::Load(const char *path)
 {
-    const std::unique_ptr<std::FILE, CloseFile> file(path ? std::fopen(path, "re") : nullptr);
+    const bool isFile = path && QFileInfo(QFile::decodeName(path)).isFile(); // opening a pipe would wait
+    const std::unique_ptr<std::FILE, CloseFile> file(isFile ? std::fopen(path, "re") : nullptr);
     char line[lineBufferSize];
     std::string section;
     if (file) {

@@ -49,3 +49,16 @@ int corva::takeInstanceLock(const char *path)
         fail("can't write %s: %s", path);
     return 0; // the descriptor stays open, and with it the lock
 }
+
+pid_t corva::instanceLockHolder(const char *path)
+{
+    const int descriptor = ::open(path, O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0)
+        return 0;
+    struct flock lock = {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    const bool isHeld = ::fcntl(descriptor, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
+    ::close(descriptor);
+    return isHeld ? lock.l_pid : 0;
+}

@@ -3,12 +3,16 @@
 
 #include "shell/globals.h"
 #include "shell/inifile.h"
+#include "shell/logging.h"
 #include "shell/safefile.h"
 
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QMutex>
 #include <QMutexLocker>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -17,6 +21,7 @@ namespace corva
 namespace
 {
 
+constexpr qint64 largestFile = 4'194'304;
 constexpr auto section = "UPDATE";
 constexpr const char *names[] = {"FIRMWARE_VERSION", "IMEI_ID",          "DEVICE",  "DeviceReady",
                                  "CLINT_GROUP",      "ENABLE_UPDATE",    "CM_NAME", "LANGUAGE_TYPE",
@@ -51,6 +56,45 @@ QByteArray onOneLine(const QString &value)
     return line.trimmed();
 }
 
+/// Whether saving what was loaded would lose a line that somebody wrote: one longer than a piece, one that is
+/// no pair, one of two values of a key. Comments do not count.
+bool wouldLoseText(const QByteArray &file, const CIniFile &ini)
+{
+    constexpr qsizetype longestLine = 254; // and its end: one piece of the reader
+    QByteArray group;
+    for (const QByteArray &whole : file.split('\n')) {
+        const QByteArray line = whole.trimmed();
+        if (line.isEmpty() || QByteArrayView(";/#").contains(line.front()))
+            continue;
+        if (whole.size() <= longestLine && line.startsWith('[') && line.endsWith(']')) {
+            group = line.sliced(1, line.size() - 2).trimmed();
+            continue;
+        }
+        const qsizetype equals = line.indexOf('=');
+        const QByteArray key = line.first(std::max<qsizetype>(equals, 0)).trimmed();
+        if (whole.size() > longestLine || equals < 0 ||
+            line.sliced(equals + 1).trimmed() != ini.Get(group.constData(), key.constData(), nullptr))
+            return true;
+    }
+    return false;
+}
+
+/// Once: where a kept file lies beside already, its reader has not looked at it yet.
+void keepWhatWouldBeLost(const QString &path, const CIniFile &ini)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return;
+    const QString name = QFileInfo(path).fileName() + u".before-"_s;
+    const QByteArray text = file.read(largestFile);
+    if (!wouldLoseText(text, ini) || !QFileInfo(path).dir().entryList({name + u'*'}).isEmpty())
+        return;
+    const QString time = QDateTime::currentDateTime().toString(u"yyyyMMdd-hhmmss"_s);
+    QString error;
+    if (!writeFileSafely(QFileInfo(path).dir().filePath(name + time), text, &error))
+        qCWarning(lcShell).noquote() << logTime() + error;
+}
+
 } // namespace
 
 QString UpdateCfg::value(UpdateKey key)
@@ -75,7 +119,10 @@ bool UpdateCfg::setValues(const QMap<UpdateKey, QString> &values)
         changed = changed || !old || line != old;
         ini.Set(section, nameOf(it.key()), line.constData());
     }
-    return !changed || ini.Save(path.constData()) == 0;
+    if (!changed)
+        return true;
+    keepWhatWouldBeLost(QFile::decodeName(path), CIniFile(path.constData()));
+    return ini.Save(path.constData()) == 0;
 }
 
 } // namespace corva

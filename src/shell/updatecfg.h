@@ -31,7 +31,9 @@ public:
     /// The value in the file now; empty when it is absent.
     static QString value(UpdateKey key);
     /// Writes the values, each on one line (line breaks and other control characters become blanks). The file
-    /// is not touched when it holds them already. False when it cannot be written.
+    /// is not touched when it holds them already. One with lines that would be lost (see `CIniFile`; comments
+    /// do not count) is first kept as "UpdateCfg.ini.before-yyyyMMdd-hhmmss", unless such a file lies there.
+    /// False when it cannot be written.
     static bool setValues(const QMap<UpdateKey, QString> &values);
     static bool setValue(UpdateKey key, const QString &value) { return setValues({{key, value}}); }
 };

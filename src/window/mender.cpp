@@ -2,7 +2,7 @@
 #include "window/mender.h"
 
 #include "device/cardmonitor.h"
-#include "widgets/whendone.h"
+#include "shell/whendone.h"
 #include "window/checkpin.h"
 
 #include <QClipboard>

@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QFont>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QScreen>
 #include <QTranslator>
 #include <QWidget>
@@ -65,6 +66,15 @@ void installToolkitTranslation(const QString &languageCode)
         install(std::move(translator));
 }
 
+/// Names of months and forms of numbers in the language of the texts. Where that is the desktop's language,
+/// too, the person's own country decides further.
+void adoptLocale(const QString &languageCode)
+{
+    const QLocale locale(languageCode);
+    if (!languageCode.isEmpty() && locale.language() != QLocale::system().language())
+        QLocale::setDefault(locale);
+}
+
 Qt::LayoutDirection layoutDirection()
 {
     //: Translate as "RTL" where the language runs from right to left, else as "LTR".
@@ -86,8 +96,10 @@ void installTranslation()
 {
     auto translator = std::make_unique<QTranslator>();
     const QString folder = QDir::currentPath() + u"/Language"_s;
-    if (translator->load(chosenLanguage() + u".qm"_s, folder))
+    if (translator->load(chosenLanguage() + u".qm"_s, folder)) {
         installToolkitTranslation(translator->language());
+        adoptLocale(translator->language());
+    }
     install(std::move(translator));
     QApplication::setLayoutDirection(layoutDirection());
 }

@@ -2,6 +2,7 @@
 #include "window/statustexts.h"
 
 #include "device/offlinediagnosis.h"
+#include "window/operatorname.h"
 
 #include <QGuiApplication>
 #include <QLocale>
@@ -126,7 +127,8 @@ QString signalText(const CardState &state)
 {
     if (!state.signalDbm)
         return {};
-    return text(QT_TRANSLATE_NOOP("CardStatus", "%1 dBm")).arg(QLocale().toString(*state.signalDbm));
+    // A measure with a Latin unit keeps Latin digits: others would bring a direction of their own along.
+    return text(QT_TRANSLATE_NOOP("CardStatus", "%1 dBm")).arg(*state.signalDbm);
 }
 
 QString signalWithBarsText(const CardState &state)
@@ -134,7 +136,8 @@ QString signalWithBarsText(const CardState &state)
     if (!state.signalDbm)
         return {};
     return text(QT_TRANSLATE_NOOP("CardStatus", "%1, %2 of 5 bars"))
-        .arg(isolated(signalText(state)), QLocale().toString(state.signalBars()));
+        .arg(isolated(signalText(state)))
+        .arg(state.signalBars()); // as the 5 beside it
 }
 
 bool isRegistered(const CardState &state)
@@ -145,7 +148,7 @@ bool isRegistered(const CardState &state)
 
 QString operatorText(const CardState &state)
 {
-    return state.operatorName.isEmpty() ? state.operatorCode : state.operatorName;
+    return operatorNameOf(state, OperatorNameRules::fromConfiguration());
 }
 
 QString summaryText(const CardState &state)

@@ -33,7 +33,7 @@ QString signalWithBarsText(const CardState &state);
 
 /// Whether a network took the card in.
 bool isRegistered(const CardState &state);
-/// The operator's name, else its code, else empty.
+/// What the network is called, by the rules of the configuration; empty without a network.
 QString operatorText(const CardState &state);
 /// What the whole state comes to in a few words, for the status strip and the tray: "Offline: No SIM card" or
 /// "Operator, HSPA".

@@ -8,9 +8,11 @@
 #include "shell/commonconfig.h"
 #include "shell/endsignals.h"
 #include "shell/logging.h"
+#include "statistics/trafficservice.h"
 #include "widgets/line.h"
 #include "widgets/messagequeue.h"
 #include "widgets/skin.h"
+#include "widgets/tooltipmover.h"
 #include "window/aboutbox.h"
 #include "window/desktoppresence.h"
 #include "window/edgegrips.h"
@@ -19,6 +21,7 @@
 #include "window/navigation.h"
 #include "window/pagehost.h"
 #include "window/services.h"
+#include "window/settingsnotice.h"
 #include "window/splash.h"
 #include "window/statusstrip.h"
 #include "window/topbar.h"
@@ -26,6 +29,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPainter>
@@ -87,7 +91,7 @@ WTMainWindow::WTMainWindow(QWidget *parent, const char *name, Qt::WindowFlags fl
 WTMainWindow::~WTMainWindow()
 {
     stopLink();
-    delete m_services; // before the card's monitor, which a link that is still up leans on
+    delete m_services; // before the card's monitor, which it leans on
 }
 
 void WTMainWindow::build()
@@ -98,7 +102,8 @@ void WTMainWindow::build()
     m_navigation = new Navigation(this);
     m_pages = new PageHost(standardPages(),
                            {m_monitor, m_reports, m_mender, m_services->connection(), m_services->profiles(),
-                            m_services->traffic(), m_connector, m_services->meter()},
+                            m_services->traffic(), m_connector, m_services->meter(),
+                            [this] { showOfflinePanel(); }},
                            this);
     m_strip = new StatusStrip(this);
     buildMenu(menu);
@@ -194,8 +199,11 @@ void WTMainWindow::connectServices()
         if (m_desktop)
             m_desktop->tell(sentence);
     });
+    connect(m_services->traffic(), &TrafficService::sigProblem, m_strip, &StatusStrip::say);
     connect(m_services->connection(), &ConnectionService::sigStatusChanged, this,
             &WTMainWindow::slotConnectionChanged);
+    connect(m_services->connection(), &ConnectionService::sigOpenUrl, this,
+            [](const QUrl &page) { QDesktopServices::openUrl(page); });
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { m_isSessionEnding = true; });
     slotConnectionChanged(m_services->connection()->status());
 }
@@ -228,6 +236,7 @@ void WTMainWindow::slotDelayShow()
 void WTMainWindow::stopLink()
 {
     m_isReady = false;
+    m_services->connection()->shutDown(); // while the card still answers
     m_monitor->stop();
 }
 
@@ -348,6 +357,9 @@ void WTMainWindow::finishShowing()
         showInFront();
         aboutShow();
     });
+    if (const int pixelsDown = cmcfg.getNumber(u"resource_position"_s, u"tooltipLabel_y"_s))
+        new ToolTipMover(pixelsDown, this);
+    tellOfSettings(cmcfg, this);
     askForPinOnce(m_monitor->state());
     connect(new EndSignals(this), &EndSignals::sigEnd, this, &WTMainWindow::quit);
 }

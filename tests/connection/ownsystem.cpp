@@ -72,8 +72,6 @@ QString etcAsText()
         QDirIterator files(place, QDir::Files | QDir::System | QDir::Hidden);
         while (files.hasNext()) {
             const QFileInfo info(files.next());
-            if (info.fileName().endsWith("-secrets"_L1))
-                continue; // wvdial notes the user there, for good
             QFile file(info.filePath());
             const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
             lines += u"%1 %2:%3 %4 %5 %6"_s.arg(info.filePath())

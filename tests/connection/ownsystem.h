@@ -8,6 +8,5 @@
 /// there is one thread. Returns why it could not, in words; empty when it did.
 QString enterOwnSystem();
 
-/// Owner, group, mode and content of every file below "/etc" that the dialler has to do with; what pppd and
-/// wvdial keep for themselves is left out.
+/// Owner, group, mode and content of every file below "/etc" that the dialler has to do with.
 QString etcAsText();

@@ -76,10 +76,29 @@ ConnectionProfile profile()
     return p;
 }
 
+/// As wvdial does it: a line of the same user goes, and the new one comes last.
+void dialInto(const SystemFiles &files)
+{
+    for (const QString &path : {files.papSecrets, files.chapSecrets}) {
+        const QByteArray old = QFile::exists(path) ? contentOf(path) : QByteArray();
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("%s cannot be written", qPrintable(path));
+        for (const QByteArray &line : old.trimmed().split('\n'))
+            if (!line.startsWith("me\t*"))
+                file.write(line + '\n');
+        file.write("me\t*\tse\\#cret\n");
+    }
+}
+
 bool connectOnce(DiallerFiles &files)
 {
-    return files.saveConfigData() && files.readDeafaultConfigData(profile(), u"/dev/ttyUSB1"_s, {}) &&
-           files.saveManualDNS(u"8.8.8.8"_s, u"8.8.4.4"_s);
+    const bool isWritten = files.saveConfigData() &&
+                           files.readDeafaultConfigData(profile(), u"/dev/ttyUSB1"_s, {}) &&
+                           files.saveManualDNS(u"8.8.8.8"_s, u"8.8.4.4"_s);
+    if (isWritten)
+        dialInto(files.files());
+    return isWritten;
 }
 
 /// Runs `act` in a process of its own that is killed before its system call number `calls`, if it makes that
@@ -129,6 +148,8 @@ private Q_SLOTS:
     void foreignCopiesGoBack();
     void editedMeanwhile();
     void resolverOfOthers();
+    void secretsOfOthers_data();
+    void secretsOfOthers();
     void otherProgram();
     void refusals();
     void connectInfo();
@@ -154,7 +175,8 @@ void TestDiallerFiles::init()
     QVERIFY(QFile::link(u"../../usr/share/options"_s, m_files.pppOptions));
     put(path(u"/run/resolv.conf"_s), "search example.org\nnameserver 1.1.1.1\n");
     QVERIFY(QFile::link(u"../run/resolv.conf"_s, m_files.resolvConf));
-    for (const QString &file : {m_files.wvdialConf, path(u"/usr/share/options"_s)}) {
+    put(m_files.papSecrets, "# mine\nme\t*\told # of another network\n\nyou\t*\tkey\n", 0640);
+    for (const QString &file : {m_files.wvdialConf, m_files.papSecrets, path(u"/usr/share/options"_s)}) {
         const timespec times[] = {{1'000'000'000, 0}, {1'000'000'000, 0}};
         QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(file).constData(), times, 0), 0);
     }
@@ -255,7 +277,7 @@ void TestDiallerFiles::thereAndBack()
     QCOMPARE(contentOf(m_files.wvdialConf), wvdialConfText(profile(), u"/dev/ttyUSB1"_s));
     for (const QString &file : {m_files.wvdialConf, m_files.pppOptions, m_files.peer, m_files.journal})
         QCOMPARE(modeOf(file), 0600u);
-    QVERIFY(!contentOf(m_files.journal).contains("cret"));
+    QVERIFY(!contentOf(m_files.journal).contains("#cret"));
     QVERIFY(!files.hasLeftovers());
     QVERIFY(files.recoverConfigData());
     QCOMPARE(snapshot(m_root->path()), before);
@@ -334,6 +356,35 @@ void TestDiallerFiles::resolverOfOthers()
     QVERIFY(files.recoverConfigData());
     QCOMPARE(contentOf(m_files.resolvConf), QByteArray("nameserver 9.9.9.9\n"));
     QVERIFY(!QFileInfo::exists(m_files.savedResolvConf));
+}
+
+void TestDiallerFiles::secretsOfOthers_data()
+{
+    QTest::addColumn<QByteArray>("meanwhile");
+    QTest::addColumn<QByteArray>("after");
+    const QByteArray mine = "# mine\nme\t*\told # of another network\n\nyou\t*\tkey\n";
+    QTest::newRow("another user came") << QByteArray("# mine\nyou\t*\tkey\nme\t*\tse\\#cret\nhe * x\n")
+                                       << QByteArray("# mine\nyou\t*\tkey\nhe * x\n"
+                                                     "me\t*\told # of another network\n");
+    QTest::newRow("a user went") << QByteArray("# mine\n\"me\" * 'se#cret' # dial\n")
+                                 << QByteArray("# mine\nme\t*\told # of another network\n");
+    QTest::newRow("the same user for one server") << mine + "me\tserver\tse\\#cret\n"
+                                                  << mine + "me\tserver\tse\\#cret\n";
+    QTest::newRow("the dialler was killed while it wrote") << QByteArray("# mine\nyou\t*") << mine;
+    QTest::newRow("the dialler was killed before it wrote") << QByteArray() << mine;
+}
+
+void TestDiallerFiles::secretsOfOthers()
+{
+    QFETCH(QByteArray, meanwhile);
+    DiallerFiles files(m_files);
+    QVERIFY(connectOnce(files));
+    QCOMPARE(modeOf(m_files.savedPapSecrets), 0600u);
+    put(m_files.papSecrets, meanwhile, 0640);
+    QVERIFY(files.recoverConfigData());
+    QTEST(contentOf(m_files.papSecrets), "after");
+    QCOMPARE(modeOf(m_files.papSecrets), 0640u);
+    QVERIFY(!QFile::exists(m_files.chapSecrets));
 }
 
 void TestDiallerFiles::otherProgram()

@@ -89,6 +89,7 @@ private Q_SLOTS:
     void proposalTwice();
     void unreadableFileIsKept();
     void unwritableFolder();
+    void halfWritten();
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -310,6 +311,21 @@ void TestProfileStore::unwritableFolder()
     QVERIFY(!error.isEmpty());
     QCOMPARE(store.problem(), error);
     QVERIFY(store.list().isEmpty());
+}
+
+/// The list was written, the file of the default profile cannot be: the list is as before.
+void TestProfileStore::halfWritten()
+{
+    ProfileStore store(m_folder->path());
+    QVERIFY(store.add(wholeProfile()) && store.setDefault(u"Home"_s));
+    QVERIFY(QFile::remove(path(u"defaultRecord.conf"_s)));
+    QVERIFY(QDir().mkpath(path(u"defaultRecord.conf"_s)));
+    QString error;
+    QVERIFY(!store.change(u"Home"_s, named(u"House"_s), &error));
+    QVERIFY(!store.remove(u"Home"_s));
+    QCOMPARE(store.problem(), error);
+    QCOMPARE(store.list(), QList{wholeProfile()});
+    QCOMPARE(content(u"totalRecord.conf"_s), QByteArray(wholeRecord));
 }
 
 QTEST_APPLESS_MAIN(TestProfileStore)

@@ -327,12 +327,21 @@ void TestCardFinder::configuredPortThatIsNone()
     const QTemporaryDir folder;
     QFile file(folder.filePath(u"notes.txt"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    for (const QString &path : {file.fileName(), folder.path(), folder.filePath(u"missing"_s)}) {
+    const QString null = u"/dev/null"_s;
+    m_ports.results[null] = {Verdict::CannotOpen, ENOTTY};
+    const std::pair<QString, PortFault> rows[]{{file.fileName(), PortFault::NotSerial},
+                                               {folder.path(), PortFault::NotSerial},
+                                               {null, PortFault::NotSerial},
+                                               {u"/dev/ptmx"_s, PortFault::NotSerial},
+                                               {folder.filePath(u"missing"_s), PortFault::Missing}};
+    for (const auto &[path, fault] : rows) {
         DeviceSettings settings;
         settings.atPort = path;
-        QCOMPARE(finder(settings).find(m_ports.probe()).presence, CardPresence::Absent);
+        const FoundCard found = finder(settings).find(m_ports.probe());
+        QCOMPARE(found.presence, CardPresence::Absent);
+        QVERIFY2(found.fault == fault && found.port == path, qPrintable(path));
     }
-    QCOMPARE(m_ports.probed, QStringList());
+    QCOMPARE(m_ports.probed, QStringList{null});
 }
 
 void TestCardFinder::fixedNames()

@@ -2,10 +2,49 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """What a person does with the window, from plugging in to the state on screen. See driver.py."""
 import json
+import os
+import pathlib
+import shutil
 import subprocess
 import unittest
 
 from driver import desk, wait_for
+
+DIALLER_FILES = [pathlib.Path(name) for name in (
+    "/etc/wvdial.conf", "/etc/tmpwvdial.conf", "/etc/ppp/options", "/etc/ppp/tmpoptions", "/etc/ppp/peers/wvdial",
+    "/etc/ppp/peers/tmpwvdial", "/etc/resolv.conf", "/etc/tmpresolv.conf", "/tmp/connect_info")]
+
+
+def dialler_files():
+    """What stands in the system's files of the dialler, with owner and mode; None for one that is not there."""
+    def look(path):
+        if not path.exists():
+            return None
+        about = path.stat()
+        return path.read_bytes(), about.st_mode, about.st_uid, about.st_gid
+    return {path: look(path) for path in DIALLER_FILES}
+
+
+def can_dial_in_vain():
+    """Whether a dial gets as far as pppd here, and no further: rights, a dialler, and a kernel without PPP."""
+    try:
+        os.close(os.open("/dev/ppp", os.O_RDWR))
+    except OSError:
+        return os.geteuid() == 0 and bool(shutil.which("wvdial")) and bool(shutil.which("pppd"))
+    return False
+
+
+def add_profile(program, name):
+    """Adds a profile by keyboard."""
+    program.keys("ctrl+1")
+    program.wait_text("Status: Disconnected")
+    program.keys("ctrl+n")
+    program.wait_text("New profile")
+    program.type(name)
+    program.keys("alt+p")
+    program.type("internet.example")
+    program.keys("Return")
+    program.wait_text(f"Connect goes by the profile \"{name}\".")
 
 
 class Start(unittest.TestCase):
@@ -104,6 +143,78 @@ class Mending(unittest.TestCase):
             program.wait_no_text("One step is not in order.")
             card.say("unplug")
             program.wait_text("No card")
+
+
+def dial_in_vain(program):
+    """Presses Connect, waits for the box that says how it failed, and closes it. Returns what it said."""
+    def told():
+        return next((text for text in program.texts()
+                     if text.startswith(("Fail to connect!", "Connection is failed!"))), None)
+    program.keys("alt+c")
+    program.wait_text("Initializing")
+    program.picture("internet-connecting")
+    text = wait_for("how the dial failed", told, 60)
+    program.picture("internet-failed")
+    program.keys("Return")
+    program.wait_no_text(text)
+    program.wait_text("Status: Disconnected")
+    return text
+
+
+class Connection(unittest.TestCase):
+    @unittest.skipUnless(can_dial_in_vain(), "needs root, wvdial and a kernel without PPP; see tests/vm for one with it")
+    def test_failed_dial_is_told_and_leaves_the_files_as_they_were(self):
+        with desk() as (card, program):
+            before = dialler_files()
+            program.start()
+            program.wait_text("Test Network")
+            add_profile(program, "Prepaid")
+            program.picture("internet")
+            card.say("dial-result", "no-carrier")
+            self.assertEqual(dial_in_vain(program), "Connection is failed!")
+            self.assertEqual(dialler_files(), before)
+            card.say("dial-result", "connect-then-silence")
+            # On some processors wvdial ends itself now and then, by an assertion of its own; a person tries again.
+            told = next((text for text in (dial_in_vain(program) for _ in range(8)) if "exit code" in text), "")
+            self.assertIn("Fail to connect! exit code is 4", " ".join(told.split()))
+            self.assertEqual(dialler_files(), before)
+            program.keys("F1")
+            program.wait_text("The dialler failed")
+            program.picture("internet-why")
+            program.keys("ctrl+q")
+            self.assertEqual(program.process.wait(15), 0)
+            self.assertEqual(dialler_files(), before)
+
+    @unittest.skipUnless(can_dial_in_vain(), "needs root, wvdial and a kernel without PPP; see tests/vm for one with it")
+    def test_asked_to_end_in_the_middle_of_a_dial(self):
+        with desk() as (_, program):
+            before = dialler_files()
+            program.start()
+            program.wait_text("Test Network")
+            add_profile(program, "Prepaid")
+            program.keys("ctrl+d")
+            wait_for("the files of the dial", lambda: dialler_files() != before)
+            program.process.terminate()
+            self.assertEqual(program.process.wait(20), 0)
+            self.assertEqual(dialler_files(), before)
+
+    def test_profiles_outlive_the_program_and_mirror(self):
+        with desk() as (_, program):
+            program.start()
+            program.wait_text("Test Network")
+            add_profile(program, "Prepaid")
+            left = program.node("Prepaid, connects with it").get_extents(0).x
+            program.keys("ctrl+q")
+            program.process.wait(15)
+            program.configure("function", "selected-language", "Arabic")
+            program.configure("window", "geometry", "200,100,800,520")
+            program.start()
+            program.wait_text("Test Network")
+            program.wait_text("Prepaid")
+            program.picture("internet-arabic")
+            mirrored = [node for node in program.nodes() if node.get_name().startswith("Prepaid")
+                        and node.get_role_name() == "list item"]
+            self.assertGreater(mirrored[0].get_extents(0).x, left)
 
 
 if __name__ == "__main__":

@@ -10,6 +10,9 @@
 #include <QJsonArray>
 #include <QSignalSpy>
 #include <QTest>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -77,6 +80,7 @@ private Q_SLOTS:
         QCOMPARE(state().identity.imsi, u"001010123456789"_s);
         QCOMPARE(state().identity.iccid, u"89001010123456789015"_s);
         QCOMPARE(state().identity.ownNumber, u"+12025550123"_s);
+        QCOMPARE(state().identity.provider.name, u"Test Network"_s);
     }
 
     void changesAreSeen()
@@ -114,6 +118,10 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(state().pinAttempts, std::optional(3), patience);
         QCOMPARE(state().sim, SimState::PinNeeded);
         QVERIFY(!state().modemReady);
+        tell(R"({"command": "fault", "kind": "refuse", "match": "+CPIN=", "code": 14})");
+        QCOMPARE(m_monitor->enterPin(u"1234"_s).result(), PinOutcome::SimBusy);
+        tell(R"({"command": "fault", "kind": "refuse", "match": "+CPIN=", "code": 100})");
+        QCOMPARE(m_monitor->enterPin(u"1234"_s).result(), PinOutcome::Refused);
         QCOMPARE(m_monitor->enterPin(u"9999"_s).result(), PinOutcome::Wrong);
         QTRY_COMPARE_WITH_TIMEOUT(state().pinAttempts, std::optional(2), patience);
         QCOMPARE(m_monitor->enterPin(u"1234"_s).result(), PinOutcome::Accepted);
@@ -171,6 +179,30 @@ private Q_SLOTS:
         const auto last = m_monitor->enterPin(u"1234"_s); // behind every poll that waits; polls once itself
         QTRY_VERIFY_WITH_TIMEOUT(last.isFinished(), patience);
         QVERIFY(asked("AT+CSQ") - before <= 3);
+    }
+
+    void itsPortsAreKeptFromOthers()
+    {
+        cmcfg.setValue(u"call"_s, u"enable"_s, u"1"_s);
+        cmcfg.setValue(u"device"_s, u"voice_port"_s, m_folder.path() + u"/card/voice"_s);
+        begin(u"wcdma"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(state().modemReady, patience);
+        for (const auto *port : {"at", "voice"}) {
+            const QByteArray path = QFile::encodeName(m_folder.path()) + "/card/" + port;
+            const int other = ::open(path.constData(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+            const bool isFree = flock(other, LOCK_EX | LOCK_NB) == 0;
+            ::close(other);
+            QVERIFY2(other >= 0 && !isFree, port);
+        }
+        cmcfg.setValue(u"call"_s, u"enable"_s, {});
+        cmcfg.setValue(u"device"_s, u"voice_port"_s, {});
+    }
+
+    void theUpdaterHearsThatNoCardIsThere()
+    {
+        QVERIFY(UpdateCfg::setValue(UpdateKey::DeviceReady, u"1"_s)); // a run that ended without a word
+        startMonitor();
+        QTRY_COMPARE_WITH_TIMEOUT(UpdateCfg::value(UpdateKey::DeviceReady), u"0"_s, patience);
     }
 
     void stopDuringTheSearch()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "device/portclaim.h"
 #include "link/serialthread.h"
 #include "linktest.h"
 
@@ -6,6 +7,8 @@
 #include <QTest>
 #include <algorithm>
 #include <fcntl.h>
+#include <sys/file.h>
+#include <sys/ioctl.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -104,6 +107,40 @@ private Q_SLOTS:
         QCOMPARE(link.descriptor(), -1);
         QCOMPARE(openDescriptors(), before);
         QCOMPARE(file.size(), 6);
+    }
+
+    void portOfAnotherProgramIsLeftAsItWas()
+    {
+        Pty pty;
+        const int holder = ::open(qPrintable(pty.name()), O_RDWR | O_NOCTTY);
+        QCOMPARE(flock(holder, LOCK_EX | LOCK_NB), 0);
+        disturb(pty.name());
+        pty.write("+CSQ: 5\n");
+        const auto waiting = [&] {
+            int bytes = 0;
+            ioctl(holder, FIONREAD, &bytes);
+            return bytes;
+        };
+        QTRY_COMPARE(waiting(), 8);
+        const qsizetype before = openDescriptors();
+
+        SerialThread link(&m_owner);
+        const qsizetype own = openDescriptors() - before;
+        QCOMPARE(link.openPort(pty.name(), corva::claimPort), -1);
+        QCOMPARE(int(errno), EWOULDBLOCK);
+        QCOMPARE(link.descriptor(), -1);
+        QCOMPARE(openDescriptors(), before + own);
+        QCOMPARE(waiting(), 8);
+        termios line{};
+        QCOMPARE(tcgetattr(holder, &line), 0);
+        QCOMPARE(uint(line.c_iflag), uint(strangeInput));
+
+        flock(holder, LOCK_UN);
+        const int fd = link.openPort(pty.name(), corva::claimPort);
+        QVERIFY(fd > 0);
+        QVERIFY(flock(holder, LOCK_EX | LOCK_NB) != 0);
+        link.closePortNormal(fd);
+        ::close(holder);
     }
 
 private:

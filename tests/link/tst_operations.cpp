@@ -88,6 +88,8 @@ const Operation operations[] = {
     {"internal version", text<&Link::getJvn>, "1 EM7W-B112D03", "1 EM7T-B211D07", "1 EM7C-B314D00"},
     {"board", text<&Link::getJPCB>, "1 +JPCB: EM7W-PCB-A", "1 +JPCB: EM7T-PCB-B", "1 +JPCB: EM7C-PCB-A"},
     {"SIM's number", text<&Link::getICCID>, "1 +CRSM: 144,0,\"98000101214365870951\"", nullptr, nullptr},
+    {"SIM's provider", text<&Link::getSPN>, "1 +CRSM: 144,0,\"0154657374204E6574776F726BFFFFFFFF\"", nullptr,
+     nullptr},
     {"subscriber", text<&Link::getCIMI>, "1 001010123456789", nullptr, nullptr},
     {"own number", text<&Link::getISDN>, "1 +12025550123", nullptr, nullptr},
     {"signal", number<&Link::getSignalQuality>, "32", nullptr, nullptr},

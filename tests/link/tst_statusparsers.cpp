@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "link/simprovider.h"
 #include "link/statusparsers.h"
 
 #include <QTest>
@@ -28,10 +29,13 @@ struct Say {
     {
         return u"%1 %2 %3 %4"_s.arg(of(int(s.stat)), of(s.lac), of(s.cellId), of(int(s.networkType)));
     }
+    static QString of(const SimProvider &p)
+    {
+        return u"[%1] %2 %3"_s.arg(p.name, of(int(p.wantsNetworkAtHome)), of(int(p.isSilentAbroad)));
+    }
     static QString of(const SystemInformation &s)
     {
-        return u"%1 %2 %3 %4"_s.arg(of(int(s.service)), of(s.roaming), of(int(s.networkType)),
-                                    of(s.simPresent));
+        return u"%1 %2 %3"_s.arg(of(int(s.service)), of(s.roaming), of(int(s.networkType)));
     }
 };
 
@@ -80,6 +84,7 @@ constexpr Parser cpin = parsed<&parseSimState>;
 constexpr Parser identity = parsedLine<&parseIdentity>;
 constexpr Parser cimi = parsed<&parseImsi>;
 constexpr Parser iccid = parsed<&parseIccid>;
+constexpr Parser provider = parsed<&parseProvider>;
 constexpr Parser cnum = parsed<&parseOwnNumber>;
 constexpr Parser cpbr = parsed<&parsePhonebookCapacity>;
 
@@ -100,6 +105,10 @@ const Row rows[] = {
     {"operator by name", cops, "|+COPS: 0,0,\"Test, \"\"Net\",2|OK|", "0 [Test, Net]  5"},
     {"operator in UCS2", cops, "|+COPS: 0,0,\"00540065007300740020004E\",0|OK|", "0 [Test N]  2"},
     {"operator that looks like hex", cops, "|+COPS: 0,0,\"CAFE\",0|OK|", "0 [CAFE]  2"},
+    {"operator in UCS2 with what nobody sees", cops,
+     "|+COPS: 0,0,\"202E00540065D80000730074200F00000000\",0|OK|", "0 [Test]  2"},
+    {"operator in UCS2 with a pair", cops, "|+COPS: 0,0,\"00540065D83DDE00\",0|OK|", "0 [Te\U0001F600]  2"},
+    {"operator that looks like longer hex", cops, "|+COPS: 0,0,\"DEADBEEF\",0|OK|", "0 [DEADBEEF]  2"},
     {"operator with half a pair", cops, "|+COPS: 0,0,\"D800D800\"|OK|", "0 [D800D800]  0"},
     {"operator by number", cops, "|+COPS: 1,2,\"26201\",7|OK|", "1 [] 26201 15"},
     {"operator by number as name", cops, "|+COPS: 0,0,\"310410\"|OK|", "0 [] 310410 0"},
@@ -109,18 +118,21 @@ const Row rows[] = {
     {"registered at home", creg, "+CREG: AT+CREG?|+CREG: 2,1,\"1234\",\"ABCD\",2|OK|", "1 4660 43981 5"},
     {"registered, long cell", creg, "+CGREG: |+CGREG: 2,5,\"00FF\",\"0ABCDEF0\"|OK|", "5 255 180150000 0"},
     {"registration report", creg, "+CREG: |+CREG: 1,\"1234\",\"ABCD\"|", "1 4660 43981 0"},
+    {"registration report without quotes", creg, "+CREG: |+CREG: 1,00C3|", "1 195 - 0"},
+    {"registration report without quotes, all digits", creg, "+CREG: |+CREG: 5,0001,0002,2|", "5 1 2 5"},
+    {"registration without quotes", creg, "+CREG: |+CREG: 2,1,00C3,BEEF|OK|", "1 195 48879 0"},
     {"registration, plain", creg, "+CREG: |+CREG: 0,2|OK|", "2 - - 0"},
     {"registration for messages only", creg, "+CREG: |+CREG: 0,7|OK|", "5 - - 0"},
     {"registration, wild area", creg, "+CREG: |+CREG: 2,1,\"12345\",\"GHIJ\"|OK|", "1 - - 0"},
     {"registration beyond the list", creg, "+CREG: |+CREG: 2,11|OK|", "!bad field stat"},
     {"data registration is another line", creg, "+CREG: |+CGREG: 0,1|OK|", "!no line +CREG:"},
-    {"service on 3G", sysinfo, "|^SYSINFO:2,3,0,5,1,0,5|OK|", "2 0 6 1"},
-    {"service abroad, CDMA form", sysinfo, "|^SYSINFO: 2,255,1,4,1|OK|", "2 1 13 1"},
-    {"no service, no SIM", sysinfo, "|^SYSINFO:0,0,0,0,255|OK|", "0 0 1 0"},
-    {"service beyond the list", sysinfo, "|^SYSINFO:9,0,7,99,1,,99|OK|", "255 - 0 1"},
+    {"service on 3G", sysinfo, "|^SYSINFO:2,3,0,5,1,0,5|OK|", "2 0 6"},
+    {"service abroad, CDMA form", sysinfo, "|^SYSINFO: 2,255,1,4,1|OK|", "2 1 13"},
+    {"no service, no SIM", sysinfo, "|^SYSINFO:0,0,0,0,255|OK|", "0 0 1"},
+    {"service beyond the list", sysinfo, "|^SYSINFO:9,0,7,99,1,,99|OK|", "255 - 0"},
     {"service is a word", sysinfo, "|^SYSINFO:full|OK|", "!bad field service"},
-    {"access", jpas, "|+JPAS: 15,2,8|OK|", "2 - 10 -"},
-    {"access without service", jpas, "|+JPAS: 3|OK|", "255 - 2 -"},
+    {"access", jpas, "|+JPAS: 15,2,8|OK|", "2 - 10"},
+    {"access without service", jpas, "|+JPAS: 3|OK|", "255 - 2"},
     {"access, nothing", jpas, "|+JPAS: |OK|", "!bad field mode"},
     {"time with zone", jtime, "+JTIME: |+JTIME: \"26/02/28,23:59:59+08\"|OK|", "2026-02-28T23:59:59+02:00"},
     {"time west, summer time behind", jtime, "+CCLK: |+CCLK: \"24/02/29,00:00:00-20,1\"|OK|",
@@ -157,6 +169,22 @@ const Row rows[] = {
     {"SIM's number, no such file", iccid, "|+CRSM: 148,4|OK|", "!refused 148"},
     {"SIM's number, cut", iccid, "|+CRSM: 144,0,9800|OK|", "!bad field ICCID"},
     {"SIM's number, letters", iccid, "|+CRSM: 144,0,\"ABCDEABCDEABCDEABCDE\"|OK|", "!bad field ICCID"},
+    {"provider", provider, "|+CRSM: 144,0,\"0154657374204EF7FFFFFFFFFFFFFFFFFF\"|OK|", "[Test N] 1 0"},
+    {"provider, at home alone", provider, "|+CRSM: 144,0,0254656CFF|OK|", "[Tel] 0 1"},
+    {"provider, letters and an extension", provider, "|+CRSM: 144,0,005B1B651B5E0009FF|OK|",
+     "[\u00c4\u20ac\u00dc@\u00c7] 0 0"},
+    {"provider, UCS2", provider, "|+CRSM: 144,0,00804E2D56FDFFFFFF|OK|", "[\u4e2d\u56fd] 0 0"},
+    {"provider, UCS2, half a character", provider, "|+CRSM: 144,0,00804E2D56|OK|", "[\u4e2d] 0 0"},
+    {"provider, near a base octet", provider, "|+CRSM: 144,0,00810508C2D045C6FFFF|OK|",
+     "[\u0442\u0450E\u0446\u047f] 0 0"},
+    {"provider, near a base", provider, "|+CRSM: 144,0,0082030410844180FF|OK|", "[\u0414A\u0410] 0 0"},
+    {"provider, more told than there is", provider, "|+CRSM: 144,0,0082FF041084|OK|", "[\u0414] 0 0"},
+    {"provider, base cut", provider, "|+CRSM: 144,0,00820104|OK|", "[] 0 0"},
+    {"provider, a turn of the writing", provider, "|+CRSM: 144,0,0080202E0041000A0042|OK|", "[AB] 0 0"},
+    {"provider, none", provider, "|+CRSM: 144,0,\"00FFFFFFFF\"|OK|", "[] 0 0"},
+    {"provider, no such file", provider, "|+CRSM: 106,130|OK|", "!refused 106"},
+    {"provider, no digits", provider, "|+CRSM: 144,0,\"00XY\"|OK|", "!bad field provider"},
+    {"provider, half an octet", provider, "|+CRSM: 144,0,\"00546\"|OK|", "!bad field provider"},
     {"own number abroad", cnum, "|+CNUM: \"me, here\",\"12025550123\",145|OK|", "+12025550123"},
     {"own number at home", cnum, "|+CNUM: ,\"0305550123\",129|OK|", "0305550123"},
     {"own number, no number", cnum, "|+CNUM: \"\",\"call me\",129|OK|", "!bad field number"},
@@ -185,7 +213,7 @@ private Q_SLOTS:
         QFETCH(int, index);
         const Row &row = rows[index];
         QCOMPARE(row.parser(QByteArray(row.reply).replace('|', "|\r\n").replace('|', QByteArrayView())),
-                 QLatin1StringView(row.value));
+                 QString::fromUtf8(row.value));
     }
 };
 

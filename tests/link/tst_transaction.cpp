@@ -167,6 +167,22 @@ private Q_SLOTS:
         QCOMPARE(result.get(), 32);
     }
 
+    void tricklesWithoutEndAreGivenUp()
+    {
+        auto result = inBackground([this] { return m_link->sendCmdAndRec("AT+CSQ\r\n", 0, 500000); });
+        m_pty->readUntil("\n");
+        QElapsedTimer time;
+        time.start();
+        while (result.wait_for(60ms) != std::future_status::ready && !time.hasExpired(60000))
+            m_pty->write("\r\n+JRSSI: -80,-5,-75\r\n");
+        QVERIFY(time.elapsed() >= std::chrono::milliseconds(SerialThread::lowestCeiling).count());
+        QVERIFY(!time.hasExpired(60000));
+        QCOMPARE(result.get(), 102);
+        QCOMPARE(exchange([this] { return m_link->sendCmdAndRec("AT+CSQ\r\n", 1, 0); },
+                          "\r\n+CSQ: 5,9\r\n\r\nOK\r\n"),
+                 30);
+    }
+
     void nestedReadReturnsAtOnce()
     {
         int nested = -1;

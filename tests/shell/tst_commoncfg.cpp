@@ -3,12 +3,14 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <atomic>
 #include <memory>
 #include <thread>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -301,9 +303,26 @@ private Q_SLOTS:
         QCOMPARE(CommonCfg().getNumber(u"s"_s, u"k"_s), 100);
     }
 
+    void toolsAtOnceLoseNothing()
+    {
+        constexpr int count = 12;
+        putFile(document("<s><fixed>here</fixed></s>"));
+        std::vector<std::unique_ptr<QProcess>> tools;
+        for (int i = 0; i < count; ++i) {
+            tools.push_back(std::make_unique<QProcess>());
+            tools.back()->start(QStringLiteral(CORVA_CONFIGSET), {u"s"_s, u"k%1"_s.arg(i), u"v"_s});
+        }
+        for (const auto &tool : tools)
+            QVERIFY(tool->waitForFinished() && tool->exitCode() == 0);
+        const CommonCfg cfg;
+        QCOMPARE(cfg.getValue(u"s"_s, u"fixed"_s), u"here"_s);
+        for (int i = 0; i < count; ++i)
+            QCOMPARE(cfg.getValue(u"s"_s, u"k%1"_s.arg(i)), u"v"_s);
+    }
+
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-QTEST_APPLESS_MAIN(TestCommonCfg)
+QTEST_GUILESS_MAIN(TestCommonCfg)
 #include "tst_commoncfg.moc"

@@ -222,6 +222,32 @@ private Q_SLOTS:
         QCOMPARE(UpdateCfg::value(UpdateKey::UpdateFrequence), u"7"_s);
     }
 
+    void updateKeepsWhatWouldBeLost_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<int>("kept");
+        QTest::newRow("pairs and comments")
+            << QByteArray("; c\n[UPDATE]\n k = v\r\n[update]\nDEVICE=d=e\n\n") << 0;
+        QTest::newRow("the longest line") << "[UPDATE]\nk=" + QByteArray(252, 'x') + "\n" << 0;
+        QTest::newRow("a longer line") << "[UPDATE]\nk=" + QByteArray(253, 'x') + "\n" << 1;
+        QTest::newRow("no pair") << QByteArray("[UPDATE]\nsome words\n") << 1;
+        QTest::newRow("two values") << QByteArray("[UPDATE]\nk=1\nK=2\n") << 1;
+        QTest::newRow("NUL") << QByteArray("[UPDATE]\nk=1\0002\n", 15) << 1;
+    }
+
+    void updateKeepsWhatWouldBeLost()
+    {
+        QFETCH(QByteArray, content);
+        for (int round = 0; round < 2; ++round) { // once, however often it is written
+            put("UpdateCfg.ini", content);
+            QVERIFY(UpdateCfg::setValue(UpdateKey::Device, u"new"_s));
+            const QStringList kept = QDir().entryList({u"UpdateCfg.ini.before-*"_s});
+            QTEST(int(kept.size()), "kept");
+            if (!kept.isEmpty())
+                QCOMPARE(contentOf(qPrintable(kept.first())), content);
+        }
+    }
+
     void updateFromTwoThreadsLosesNothing()
     {
         constexpr int rounds = 20;

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What belongs to the process as a whole: the instance lock, the version file, the debug log.
+#include "device/modemtypes.h"
+#include "shell/commonconfig.h"
 #include "shell/debuglog.h"
 #include "shell/globals.h"
 #include "shell/instance.h"
 #include "shell/logging.h"
+#include "shell/updatecfg.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,6 +16,7 @@
 #include <csignal>
 #include <functional>
 #include <memory>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -116,6 +120,7 @@ private Q_SLOTS:
         Child first(take);
         QCOMPARE(first.result(), 0);
         const QByteArray number = QByteArray::number(first.pid());
+        QCOMPARE(corva::instanceLockHolder(path.constData()), first.pid());
         QCOMPARE(contentOf(basePath + u"/pid"_s), number);
 
         Child second(take);
@@ -123,6 +128,7 @@ private Q_SLOTS:
         QCOMPARE(contentOf(basePath + u"/pid"_s), number);
 
         first.kill();
+        QCOMPARE(corva::instanceLockHolder(path.constData()), 0);
         Child third(take);
         QCOMPARE(third.result(), 0);
         QCOMPARE(contentOf(basePath + u"/pid"_s), QByteArray::number(third.pid()));
@@ -161,6 +167,19 @@ private Q_SLOTS:
         QCOMPARE(readVersionInfo(), QString());
         put(basePath + u"/Data/version.txt"_s, content);
         QTEST(readVersionInfo(), "version");
+    }
+
+    void pipesInPlaceOfFilesAreNotWaitedFor()
+    {
+        const QStringList names{u"Data/config"_s, u"Data/version.txt"_s, u"Data/modem_types.xml"_s,
+                                u"UpdateCfg.ini"_s};
+        for (const QString &name : names)
+            QCOMPARE(::mkfifo(QFile::encodeName(basePath + u'/' + name).constData(), 0600), 0);
+        CommonConfig config;
+        QVERIFY(!readConfigFile(config, basePath + u"/Data/config"_s));
+        QCOMPARE(readVersionInfo(), QString());
+        QCOMPARE(corva::ModemTypes::load(basePath + u"/Data/modem_types.xml"_s).warnings.size(), 1);
+        QVERIFY(!corva::UpdateCfg::setValue(corva::UpdateKey::Device, u"x"_s));
     }
 
     void debugLogCollects()

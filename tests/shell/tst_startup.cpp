@@ -9,6 +9,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -82,6 +83,7 @@ private Q_SLOTS:
         const QList<QTranslator *> translators = qApp->findChildren<QTranslator *>();
         qDeleteAll(translators);
         QApplication::setLayoutDirection(Qt::LeftToRight);
+        QLocale::setDefault(QLocale::system());
         QDir::setCurrent(QDir::rootPath());
     }
 
@@ -91,11 +93,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("stored");
         QTest::addColumn<QString>("text");
         QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::addColumn<QString>("may");
         const QString source = u"Initializing"_s;
-        QTest::newRow("none") << QString() << u"English"_s << source << Qt::LeftToRight;
-        QTest::newRow("Spanish") << u"Spanish"_s << u"Spanish"_s << u"Iniciando"_s << Qt::LeftToRight;
-        QTest::newRow("Arabic") << u"Arabic"_s << u"Arabic"_s << u"جارٍ التهيئة"_s << Qt::RightToLeft;
-        QTest::newRow("no such file") << u"Martian"_s << u"Martian"_s << source << Qt::LeftToRight;
+        QTest::newRow("none") << QString() << u"English"_s << source << Qt::LeftToRight << u"May"_s;
+        QTest::newRow("Spanish") << u"Spanish"_s << u"Spanish"_s << u"Iniciando"_s << Qt::LeftToRight
+                                 << u"mayo"_s;
+        QTest::newRow("Arabic") << u"Arabic"_s << u"Arabic"_s << u"جارٍ التهيئة"_s << Qt::RightToLeft
+                                << u"مايو"_s;
+        QTest::newRow("no such file")
+            << u"Martian"_s << u"Martian"_s << source << Qt::LeftToRight << u"May"_s;
     }
 
     void language()
@@ -107,6 +113,7 @@ private Q_SLOTS:
         QTEST(cmcfg.getValue(u"function"_s, u"selected-language"_s), "stored");
         QTEST(SplashDialog::tr("Initializing"), "text");
         QTEST(QApplication::layoutDirection(), "direction");
+        QTEST(QLocale().monthName(5), "may");
     }
 
     void textsFit_data()

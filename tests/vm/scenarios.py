@@ -8,11 +8,14 @@ import os
 import pathlib
 import random
 import signal
+import subprocess
 import sys
+import threading
 import time
 import traceback
+import xml.dom.minidom
 
-from world import DOWNLOAD, PASSWORD, World, Wvdial, pids, wait_for
+from world import DOWNLOAD, PASSWORD, USER, World, Wvdial, pids, wait_for
 
 SCENARIOS = []
 LONG = "--long" in sys.argv
@@ -25,6 +28,45 @@ def scenario(function):
 
 def title(function):
     return function.__doc__.strip().rstrip(".")
+
+
+class Watch:
+    """Notes the moments at which things happen, on time.monotonic(), while the program is being watched otherwise."""
+
+    def __init__(self, **conditions):
+        self.moments = {}
+        self.conditions = conditions
+        self.over = threading.Event()
+        self.thread = threading.Thread(target=self.look, daemon=True)
+        self.thread.start()
+
+    def look(self):
+        while not self.over.wait(0.02):
+            for name, condition in self.conditions.items():
+                if name not in self.moments and condition():
+                    self.moments[name] = time.monotonic()
+
+    def end(self):
+        self.over.set()
+        self.thread.join()
+        return self.moments
+
+
+def connect_info():
+    try:
+        return pathlib.Path("/tmp/connect_info").read_text(errors="replace")
+    except OSError:
+        return ""
+
+
+def history(program):
+    file = program.folder / "Data/historyRecord.xml"
+    wait_for("the history", file.exists)
+    return [dict(node.attributes.items()) for node in xml.dom.minidom.parse(str(file)).getElementsByTagName("record")]
+
+
+def interface_is_up():
+    return pathlib.Path("/sys/class/net/ppp0").exists()
 
 
 @scenario
@@ -46,6 +88,218 @@ def plain_wvdial(world):
         return f"name servers after {took:.1f} s, {DOWNLOAD / seconds / 1e6:.1f} MB/s"
 
 
+@scenario
+def whole_connection(world):
+    """Connect, ping, 20 MB that are counted, Disconnect, and /etc as before."""
+    with world.card(auth="require-pap") as card, world.program() as program:
+        watch = Watch(started=lambda: pids("wvdial"), told=lambda: "primary   DNS" in connect_info())
+        took = program.connect()
+        moments = watch.end()
+        world.network.ping()
+        seconds = world.network.fetch()
+        watch = Watch(gone=lambda: not pids("pppd") or not card.network_process() or not interface_is_up())
+        begin = program.press_now("Disconnect")
+        world.etc.wait_same(40)
+        restored = time.monotonic() - begin
+        ended = program.wait_state("Status: Disconnected", 40) - begin  # comes when everything is as before
+        gone = watch.end().get("gone", begin) - begin
+        assert restored <= gone + 1, f"/etc as before {restored:.1f} s after Disconnect, pppd gone after {gone:.1f} s"
+        counted = history(program)[-1]
+        received = int(counted["received"])
+        assert DOWNLOAD <= received < 1.1 * DOWNLOAD, f"{received} bytes counted of {DOWNLOAD} and their packets"
+        own = moments["told"] - moments["started"]
+        assert took <= 1.1 * own + 0.2, f"Connected after {took:.2f} s, {took / own:.2f} times wvdial's own {own:.2f} s"
+        return (f"connected {took:.1f} s = {took / own:.2f} x wvdial's own; {DOWNLOAD / seconds / 1e6:.1f} MB/s; "
+                f"{received / DOWNLOAD:.3f} of it counted; disconnected {ended:.1f} s, /etc as before {restored:.1f} s, "
+                f"pppd itself {gone:.1f} s")
+
+
+def refused(world, profile, *network):
+    with world.card(auth=" ".join(network)) as card, world.program(profile=profile) as program:
+        program.press_now("Connect")
+        program.dismiss("exit code is 19")
+        program.wait_state("Status: Disconnected")
+        world.etc.wait_same()
+        # The same card and the right word: nothing of the failure is left in the way.
+        card.say("set", "data.peer", card.peer("noauth"))
+        program.connect()
+        program.disconnect()
+
+
+@scenario
+def wrong_pap_password(world):
+    """a wrong password, by PAP."""
+    refused(world, {"Password": "wrong"}, "require-pap")
+
+
+@scenario
+def wrong_chap_password(world):
+    """a wrong password, by CHAP."""
+    refused(world, {"Password": "wrong", "PAP modal": "0", "CHAP modal": "1"}, "require-chap")
+
+
+@scenario
+def not_taken(world):
+    """NO CARRIER, NO ANSWER, NO DIALTONE, ERROR and BUSY end in words, once each."""
+    with world.card() as card, world.program() as program:
+        for result in ("no-carrier", "no-answer", "no-dialtone", "error", "busy"):
+            card.say("dial-result", result)
+            card.say("log", "clear=on")
+            program.press_now("Connect")
+            program.dismiss("failed!")
+            program.wait_state("Status: Disconnected")
+            world.check_clean()
+            dials = card.say("log").count('"ATDT*99#"')
+            assert dials == 1 or result == "busy", f"{result}: dialled {dials} times"
+        card.say("dial-result", "connect")
+        program.connect()
+        program.disconnect()
+
+
+@scenario
+def nobody_there(world):
+    """CONNECT and then silence ends at the time-out, a cancelled dial at once."""
+    with world.card() as card, world.program(network_dialer_setting__dial_timeout="12") as program:
+        card.say("dial-result", "connect-then-silence")
+        begin = program.press_now("Connect")
+        program.dismiss("Link ppp0 wasn't built")
+        took = time.monotonic() - begin
+        program.wait_state("Status: Disconnected")
+        world.check_clean()
+        card.say("drop-data") if card.network_process() else None
+        program.press_now("Connect")
+        wait_for("the dialler", lambda: pids("wvdial"))
+        program.press_now("Cancel")
+        program.wait_state("Status: Disconnected")
+        return f"ended after {took:.1f} s"
+
+
+@scenario
+def unplugged(world):
+    """the card is pulled out while connected, put back, and connects again."""
+    with world.card() as card, world.program() as program:
+        program.connect()
+        card.pull()
+        program.wait_state("Status: Disconnected", 20)
+        world.check_clean()
+        card.plug()
+        program.wait_text("Test Network", 40)
+        program.dismiss_all()
+        program.connect()
+        program.disconnect()
+
+
+@scenario
+def peer_gone(world):
+    """the network falls silent: LCP's echoes end the link."""
+    with world.card() as card, world.program() as program:
+        program.connect()
+        process = card.network_process()
+        os.kill(process, signal.SIGSTOP)
+        begin = time.monotonic()
+        took = program.wait_state("Status: Disconnected", 40) - begin
+        os.kill(process, signal.SIGKILL)
+        world.check_clean()
+        return f"seen after {took:.1f} s"
+
+
+@scenario
+def network_hangs_up(world):
+    """the network ends the link, and the program dials again by itself."""
+    with world.card() as card, world.program(network_dialer_setting__autoRedial_enabled="1",
+                                             network_dialer_setting__autoRedial_time="3",
+                                             network_dialer_setting__autoRedial_startSec="1",
+                                             network_dialer_setting__autoRedial_afterSec="2") as program:
+        program.connect()
+        first = card.network_process()
+        card.say("drop-data")
+        wait_for("another call", lambda: card.network_process() not in (None, first), 40)
+        program.wait_state("Status: Connected", 40)
+        world.network.ping()
+        program.disconnect()
+        assert [record["ended"] for record in history(program)] == ["network", "person"], history(program)
+
+
+@scenario
+def own_name_servers(world):
+    """name servers of one's own are the system's while connected."""
+    resolver = pathlib.Path("/etc/resolv.conf")
+    before = resolver.read_text()
+    own = ["198.51.100.53", "198.51.100.54"]
+    profile = {"obtain DNS": "0", "use DNS": "1", "preNameserver": own[0], "altNameserver": own[1]}
+    with world.card() as card, world.program(profile=profile) as program:
+        program.connect()
+        wait_for("the own name servers", lambda: own == [
+            line.split()[1] for line in resolver.read_text().splitlines() if line.startswith("nameserver")])
+        world.network.ping()
+        program.disconnect()
+        world.check_clean()
+        assert resolver.read_text() == before, "the file behind the link is not as before"
+
+
+@scenario
+def idle(world):
+    """a link that carries nothing is ended."""
+    with world.card() as card, world.program(network_dialer_setting__autoDisconnect_enabled="1",
+                                             network_dialer_setting__autoDisconnect_min="1") as program:
+        program.connect()
+        begin = time.monotonic()
+        world.network.ping()
+        program.dismiss("There is no data transported recently", 150)
+        took = time.monotonic() - begin
+        program.wait_state("Status: Disconnected")
+        assert card.network_process() is None
+        return f"after {took:.0f} s"
+
+
+@scenario
+def killed(world):
+    """kill -9 at random moments: the next start puts the files back."""
+    rounds = 50 if LONG else 5
+    seed = random.randrange(1 << 30)
+    chance = random.Random(seed)
+    right = 0
+    with world.card() as card, world.program() as program:
+        for number in range(rounds):
+            program.press_now("Connect")
+            moment = chance.uniform(0, 10)
+            time.sleep(moment)
+            program.kill()
+            program.begin()
+            try:
+                world.check_clean()
+                right += 1
+            except AssertionError as problem:
+                print(f"      round {number + 1}, killed after {moment:.2f} s: {problem}")
+                world.clean()
+            wait_for("the line", lambda: not card.network_process(), 20)
+        program.connect()
+        program.disconnect()
+    assert right == rounds, f"{right} of {rounds} rounds right, seed {seed}"
+    return f"{right} of {rounds}, seed {seed}"
+
+
+@scenario
+def network_card(world):
+    """a card with a network interface connects by it, with an address by DHCP."""
+    with world.card(has_network_card=True) as card, world.program(profile={"PPP modal": "NDIS"}) as program:
+        took = program.connect()
+        world.network.ping()
+        seconds = world.network.fetch()
+        card.say("drop-data")
+        program.wait_state("Status: Disconnected", 20)
+        world.check_clean()
+        program.dismiss_all()
+        card.say("set", "data.activation", "refused")
+        program.press_now("Connect")
+        program.dismiss("failed!")
+        program.wait_state("Status: Disconnected")
+        card.say("set", "data.activation", "up")
+        program.connect()
+        program.disconnect()
+        return f"connected {took:.1f} s, {DOWNLOAD / seconds / 1e6:.1f} MB/s"
+
+
 def main():
     words = [word for word in sys.argv[1:] if not word.startswith("--")]
     chosen = [s for s in SCENARIOS if not words or any(word in title(s) for word in words)]
@@ -54,15 +308,13 @@ def main():
     begin = time.monotonic()
     for function in chosen:
         start = time.monotonic()
-        said = ""
-        verdict = "ok"
+        verdict, said = "ok", ""
         try:
             said = function(world) or ""
             world.check_clean()
         except Exception as problem:
             failed += 1
-            verdict = "FAILED"
-            said = str(problem)
+            verdict, said = "FAILED", str(problem)
             if not isinstance(problem, AssertionError):
                 traceback.print_exc(file=sys.stdout)
             world.clean()

@@ -5,9 +5,11 @@
 #include "widgets/cdestyle.h"
 #include "widgets/skin.h"
 #include "widgets/textlabel.h"
+#include "widgets/tooltipmover.h"
 
 #include <QApplication>
 #include <QFocusFrame>
+#include <QHelpEvent>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -15,7 +17,9 @@
 #include <QStyleOption>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolTip>
 #include <QVBoxLayout>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -39,6 +43,28 @@ private Q_SLOTS:
         QVERIFY(QStyleFactory::keys().contains(u"cde"_s, Qt::CaseInsensitive));
         const std::unique_ptr<QStyle> made(QStyleFactory::create(u"CDE"_s));
         QVERIFY(qobject_cast<CdeStyle *>(made.get()));
+    }
+
+    void toolTipsStandLower()
+    {
+        QWidget window;
+        QPushButton button(&window);
+        button.setToolTip(u"tip"_s);
+        window.show();
+        const auto tipPlace = [&] {
+            QHelpEvent event(QEvent::ToolTip, {5, 5}, button.mapToGlobal(QPoint(5, 5)));
+            QApplication::sendEvent(&button, &event);
+            const QWidgetList all = QApplication::topLevelWidgets();
+            const auto tip = std::ranges::find_if(
+                all, [](const QWidget *each) { return each->inherits("QTipLabel") && each->isVisible(); });
+            const QPoint place = tip == all.end() ? QPoint(-1, -1) : (*tip)->pos();
+            QToolTip::hideText();
+            return place;
+        };
+        const QPoint usual = tipPlace();
+        QTRY_VERIFY(!QToolTip::isVisible());
+        const ToolTipMover mover(40, nullptr);
+        QCOMPARE(tipPlace(), usual + QPoint(0, 40));
     }
 
     void buttonsArePaintedByKind_data()

@@ -169,6 +169,12 @@ const std::map<QString, Change> &changes()
              state = {};
              state.deviceName = u"Data Stick"_s;
          }},
+        {u"wrongport"_s,
+         [](CardState &state) {
+             state = {};
+             state.portName = u"/dev/null"_s;
+             state.portFault = PortFault::NotSerial;
+         }},
         {u"norights"_s,
          [](CardState &state) {
              state = {};

@@ -48,6 +48,11 @@ ConnectionService::ConnectionService(CardMonitor *, ProfileStore *profiles, QObj
 
 ConnectionService::~ConnectionService() = default;
 
+void ConnectionService::shutDown()
+{
+    strings().calls += u"shutDown"_s;
+}
+
 ProfileStore &ConnectionService::profiles()
 {
     return *d->profiles;

@@ -10,7 +10,8 @@
 namespace fakeconnection
 {
 
-/// What was asked for, in order: "connect", "connect maria/secret", "disconnect", "recover".
+/// What was asked for, in order: "connect", "connect maria/secret", "disconnect", "recover",
+/// "shutDown".
 QStringList takeCalls();
 /// The connection is now in this state.
 void put(const corva::ConnectionStatus &status);

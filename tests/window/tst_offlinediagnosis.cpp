@@ -31,6 +31,7 @@ private Q_SLOTS:
         row("absent", UsbMode, Failed, SearchAgain, u"Plug the card"_s);
         row("storage", UsbMode, Failed, SwitchMode, u"Switch it over"_s);
         row("noport", Port, Failed, SearchAgain, u"\"Data Stick\""_s);
+        row("wrongport", Port, Failed, SearchAgain, u"/dev/null, which is no serial port"_s);
         row("norights", Rights, Failed, CopyGroupCommand, u"group \"dialout\""_s);
         row("busy", PortFree, Failed, SearchAgain,
             u"ModemManager (process 812) holds the port /dev/ttyUSB2"_s);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fakecardmonitor.h"
 #include "window/linkreport.h"
+#include "window/operatorname.h"
 #include "window/statustexts.h"
 #include "window/windowplace.h"
 
@@ -63,6 +64,52 @@ private Q_SLOTS:
         CardState state = fakecard::registeredCard();
         state.operatorName.clear();
         QCOMPARE(summaryText(state), u"26201, HSPA"_s);
+    }
+
+    void operatorNames_data()
+    {
+        using Rules = OperatorNameRules;
+        constexpr auto home = Registration::Home;
+        constexpr auto abroad = Registration::Roaming;
+        QTest::addColumn<SimProvider>("provider");
+        QTest::addColumn<Registration>("registration");
+        QTest::addColumn<Rules>("rules");
+        QTest::addColumn<QString>("shown");
+        const auto row = [](const char *name, const SimProvider &provider, Registration registration,
+                            const Rules &rules, const QString &shown) {
+            QTest::newRow(name) << provider << registration << rules << shown;
+        };
+        const SimProvider plain{u"Tel"_s, false, false};
+        const SimProvider both{u"Tel"_s, true, false};
+        const SimProvider homeOnly{u"Tel"_s, false, true};
+        row("no provider's name", {}, home, {}, u"Netz"_s);
+        row("home", plain, home, {}, u"Tel"_s);
+        row("home, both wanted", both, home, {}, u"Tel (Netz)"_s);
+        row("home, both the same", {u"Netz"_s, true, false}, home, {}, u"Netz"_s);
+        row("abroad", plain, abroad, {}, u"Tel (Netz)"_s);
+        row("abroad, not wanted", homeOnly, abroad, {}, u"Netz"_s);
+        row("network always", plain, home, {.networkAlways = true}, u"Tel (Netz)"_s);
+        row("network never", both, abroad, {.networkNever = true}, u"Tel"_s);
+        row("network never, and no other", {}, home, {.networkNever = true}, u"26201"_s);
+        row("provider always", homeOnly, abroad, {.providerAlways = true}, u"Tel (Netz)"_s);
+        row("provider never", plain, home, {.providerNever = true}, u"Netz"_s);
+        row("never goes over always", plain, home, {.providerAlways = true, .providerNever = true},
+            u"Netz"_s);
+    }
+
+    void operatorNames()
+    {
+        QFETCH(const SimProvider, provider);
+        QFETCH(const Registration, registration);
+        QFETCH(const OperatorNameRules, rules);
+        CardState state = fakecard::registeredCard();
+        state.operatorName = u"Netz"_s;
+        state.identity.provider = provider;
+        state.registration = registration;
+        QTEST(operatorNameOf(state, rules), "shown");
+        state.operatorName.clear();
+        state.operatorCode.clear();
+        QCOMPARE(operatorNameOf(state, rules), QString()); // a SIM without a network names none
     }
 
     void notices_data()

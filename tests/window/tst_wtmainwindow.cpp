@@ -2,8 +2,10 @@
 #include "windowtest.h"
 
 #include "settings/languages.h"
+#include "shell/updatecfg.h"
 #include "window/offlinepanel.h"
 #include "window/pageregistry.h"
+#include "window/settingsnotice.h"
 #include "window/splash.h"
 
 #include <QCheckBox>
@@ -11,6 +13,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QMenu>
+#include <QMessageBox>
 #include <QSignalSpy>
 #include <QTimer>
 #include <QToolButton>
@@ -419,7 +422,62 @@ private Q_SLOTS:
         language->setFocus();
         QTest::keyClicks(language, u"Fran"_s);
         QCOMPARE(CommonCfg().getValue(u"function"_s, u"selected-language"_s), u"French"_s);
+        QCOMPARE(UpdateCfg::value(UpdateKey::LanguageType), u"French"_s);
         QVERIFY(said(m_window.get(), u"settingsSaid"_s).contains(u"starts next"_s));
+    }
+
+    void theUpdaterIsToldAndSwitched()
+    {
+        m_window->show();
+        m_window->showPage(u"settings"_s);
+        QCOMPARE(UpdateCfg::value(UpdateKey::CmName), comcfg.softwareName);
+        QCOMPARE(UpdateCfg::value(UpdateKey::SoftwareVersion), readVersionInfo());
+        QVERIFY(!m_window->findChild<QCheckBox *>(u"updates"_s)); // nothing would look for any
+
+        QVERIFY(UpdateCfg::setValue(UpdateKey::UpdateFrequence, u"7"_s));
+        m_window.reset(makeWindow());
+        m_window->show();
+        m_window->showPage(u"settings"_s);
+        shown<QCheckBox>(m_window.get(), u"updates"_s)->click();
+        QCOMPARE(UpdateCfg::value(UpdateKey::EnableUpdate), u"1"_s);
+    }
+
+    void aSettingThatCannotBeStoredIsTold()
+    {
+        cmcfg.setValue(u"function"_s, u"lansetting_enabled"_s, u"1"_s);
+        m_window->show();
+        m_window->showPage(u"settings"_s);
+        QVERIFY(QDir().rename(u"Data"_s, u"Away"_s));
+        QVERIFY(QFile(u"Data"_s).open(QIODevice::WriteOnly)); // in the way of the folder
+        auto *tray = shown<QCheckBox>(m_window.get(), u"close_to_tray"_s);
+        auto *language = shown<QComboBox>(m_window.get(), u"language"_s);
+        tray->click();
+        QVERIFY(said(m_window.get(), u"settingsSaid"_s).contains(u"could not be stored"_s));
+        language->setFocus();
+        QTest::keyClicks(language, u"Span"_s);
+        QVERIFY(said(m_window.get(), u"settingsSaid"_s).contains(u"could not be stored"_s));
+
+        QVERIFY(QFile::remove(u"Data"_s) && QDir().rename(u"Away"_s, u"Data"_s));
+        tray->click();
+        QCOMPARE(said(m_window.get(), u"settingsSaid"_s), QString());
+    }
+
+    void tellsWhereABrokenSettingsFileWasKept()
+    {
+        QFile file(u"Data/common-config.xml"_s);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("<settings><cut");
+        file.close();
+        CommonCfg config;
+        const auto box = [this] { return m_window->findChild<QMessageBox *>(u"settingsNotice"_s); };
+        m_window->show();
+        tellOfSettings(config, m_window.get());
+        QVERIFY(!box()); // nothing was lost yet
+        config.setValue(u"window"_s, u"page"_s, u"card"_s);
+        tellOfSettings(config, m_window.get());
+        QVERIFY(box()->isVisible());
+        QVERIFY(!box()->isModal());
+        QVERIFY(box()->text().contains(QFileInfo(config.keptBrokenFile()).fileName()));
     }
 
     void theSkinChangesAtOnceAndStays()

@@ -28,9 +28,9 @@ public:
     {
         QDir::setCurrent(m_folder.path());
         QDir().mkdir(QStringLiteral("Data"));
-        for (const auto &name : {u"/res"_s, u"/Data/skins"_s, u"/Data/version.txt"_s})
-            QFile::link(QStringLiteral(CORVA_SOURCE_DIR) + name, m_folder.path() + name);
         basePath = m_folder.path();
+        for (const auto &own : {u"/res"_s, u"/Data/skins"_s, u"/Data/version.txt"_s})
+            QFile::link(QStringLiteral(CORVA_SOURCE_DIR) + own, basePath + own);
         corva::installCdeStyle();
         QGuiApplication::setQuitOnLastWindowClosed(false);
         // The store lives as long as the process: what an earlier test set is taken back.

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/ui/connectionsettings.h"
 
-#include "settings/settingcontrols.h"
 #include "widgets/factrow.h"
 #include "widgets/skin.h"
 
@@ -22,21 +21,18 @@ SettingKey dialer(const QString &name)
     return {u"network_dialer_setting"_s, name};
 }
 
-/// A number that counts only while its switch is on.
-void addNumber(QVBoxLayout *layout, const QString &caption, const SettingNumber &number,
-               const QCheckBox *owner)
+} // namespace
+
+void ConnectionSettings::addNumber(QVBoxLayout *layout, const QString &caption, const SettingNumber &number,
+                                   const QCheckBox *owner)
 {
-    QWidget *parent = layout->parentWidget();
-    QSpinBox *box = settingNumber(number, parent);
-    QWidget *row = captioned(caption, box, parent);
+    QWidget *row = captioned(caption, settingNumber(number), this);
     layout->addWidget(row);
     if (!owner)
         return;
     row->setEnabled(owner->isChecked());
-    QObject::connect(owner, &QCheckBox::toggled, row, &QWidget::setEnabled);
+    connect(owner, &QCheckBox::toggled, row, &QWidget::setEnabled);
 }
-
-} // namespace
 
 ConnectionSettings::ConnectionSettings(QWidget *parent) : SettingsPage(parent)
 {
@@ -57,30 +53,30 @@ void ConnectionSettings::buildAutomatic(QVBoxLayout *layout)
 {
     layout->addWidget(new SectionHeader(tr("Automatic connection"), this));
     auto *connects =
-        settingSwitch(tr("&Connect by itself when the card is ready"), dialer(u"AutoConnectFlag"_s), this);
+        settingSwitch(tr("&Connect by itself when the card is ready"), dialer(u"AutoConnectFlag"_s));
     layout->addWidget(connects, 0, Qt::AlignLeading);
-    addNumber(layout, tr("&Attempts"), {dialer(u"AutoConnectTimes"_s), 1, 100, {}, 3}, connects);
+    addNumber(layout, tr("&Attempts"), {dialer(u"AutoConnectTimes"_s), 1, 100, 3}, connects);
 }
 
 void ConnectionSettings::buildRedial(QVBoxLayout *layout)
 {
     const QString seconds = tr(" s", "seconds");
     layout->addWidget(new SectionHeader(tr("When a connection breaks off"), this));
-    auto *redials = settingSwitch(tr("&Dial again"), dialer(u"autoRedial_enabled"_s), this);
+    auto *redials = settingSwitch(tr("&Dial again"), dialer(u"autoRedial_enabled"_s));
     layout->addWidget(redials, 0, Qt::AlignLeading);
-    addNumber(layout, tr("A&ttempts"), {dialer(u"autoRedial_time"_s), 1, 100, {}, 5}, redials);
-    addNumber(layout, tr("&First one after"), {dialer(u"autoRedial_startSec"_s), 1, 3600, seconds, 5},
+    addNumber(layout, tr("A&ttempts"), {dialer(u"autoRedial_time"_s), 1, 100, 5}, redials);
+    addNumber(layout, tr("&First one after"), {dialer(u"autoRedial_startSec"_s), 1, 3600, 5, seconds},
               redials);
-    addNumber(layout, tr("Each f&urther one after"), {dialer(u"autoRedial_afterSec"_s), 1, 3600, seconds, 30},
+    addNumber(layout, tr("Each f&urther one after"), {dialer(u"autoRedial_afterSec"_s), 1, 3600, 30, seconds},
               redials);
 }
 
 void ConnectionSettings::buildIdle(QVBoxLayout *layout)
 {
     layout->addWidget(new SectionHeader(tr("When nothing is carried"), this));
-    auto *disconnects = settingSwitch(tr("D&isconnect"), dialer(u"autoDisconnect_enabled"_s), this);
+    auto *disconnects = settingSwitch(tr("D&isconnect"), dialer(u"autoDisconnect_enabled"_s));
     layout->addWidget(disconnects, 0, Qt::AlignLeading);
-    addNumber(layout, tr("Aft&er"), {dialer(u"autoDisconnect_min"_s), 1, 1440, tr(" min", "minutes"), 10},
+    addNumber(layout, tr("Aft&er"), {dialer(u"autoDisconnect_min"_s), 1, 1440, 10, tr(" min", "minutes")},
               disconnects);
 }
 
@@ -88,12 +84,12 @@ void ConnectionSettings::buildDialling(QVBoxLayout *layout)
 {
     layout->addWidget(new SectionHeader(tr("Dialling"), this));
     addNumber(layout, tr("&Longest wait for a link"),
-              {dialer(u"dial_timeout"_s), 5, 600, tr(" s", "seconds"), 30}, nullptr);
+              {dialer(u"dial_timeout"_s), 5, 600, 30, tr(" s", "seconds")}, nullptr);
     layout->addWidget(settingSwitch(tr("E&xplain a failure by the exit status of pppd"),
-                                    {u"function"_s, u"ppp_errcode_show"_s}, this),
+                                    {u"function"_s, u"ppp_errcode_show"_s}),
                       0, Qt::AlignLeading);
     layout->addWidget(
-        settingSwitch(tr("&Open the profile's page once connected"), dialer(u"Show_open_URL"_s), this), 0,
+        settingSwitch(tr("&Open the profile's page once connected"), dialer(u"Show_open_URL"_s)), 0,
         Qt::AlignLeading);
 }
 

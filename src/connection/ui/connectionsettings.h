@@ -17,6 +17,9 @@ public:
     explicit ConnectionSettings(QWidget *parent);
 
 private:
+    /// A number that counts only while its switch is on; nullptr: always.
+    void addNumber(QVBoxLayout *layout, const QString &caption, const SettingNumber &number,
+                   const QCheckBox *owner);
     void buildAutomatic(QVBoxLayout *layout);
     void buildRedial(QVBoxLayout *layout);
     void buildIdle(QVBoxLayout *layout);

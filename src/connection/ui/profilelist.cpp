@@ -25,7 +25,7 @@ namespace
 /// How the profile reaches the network, in a word or two.
 QString accessPoint(const ConnectionProfile &profile)
 {
-    const QString apn = profile.text(ProfileField::Apn);
+    const QString &apn = profile.text(ProfileField::Apn);
     return profile.isOn(ProfileField::UsesApn) ? apn : ProfileList::tr("access point from the network");
 }
 

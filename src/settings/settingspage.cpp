@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "settings/settingcontrols.h"
+#include "settings/settingspage.h"
 
 #include "shell/commoncfg.h"
 #include "widgets/skin.h"
 #include "widgets/textlabel.h"
 
 #include <QCheckBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QSpinBox>
 
@@ -37,31 +38,50 @@ QWidget *captioned(const QString &caption, QWidget *control, QWidget *parent)
     return row;
 }
 
-QCheckBox *settingSwitch(const QString &text, const SettingKey &key, QWidget *parent)
+QString numberPrefix()
 {
-    auto *box = new QCheckBox(text, parent);
+    constexpr QChar rightToLeftMark(0x200f);
+    return QGuiApplication::isRightToLeft() ? QString(rightToLeftMark) : QString();
+}
+
+QCheckBox *SettingsPage::settingSwitch(const QString &text, const SettingKey &key)
+{
+    auto *box = new QCheckBox(text, this);
     box->setObjectName(key.name);
     box->setChecked(cmcfg.getNumber(key.section, key.name) == 1);
     box->setMinimumHeight(metrics::ControlHeight);
-    QObject::connect(box, &QCheckBox::toggled, box,
-                     [key](bool on) { cmcfg.setValue(key.section, key.name, on ? u"1"_s : u"0"_s); });
+    connect(box, &QCheckBox::toggled, this,
+            [this, key](bool on) { store(key.section, key.name, on ? u"1"_s : u"0"_s); });
     return box;
 }
 
-QSpinBox *settingNumber(const SettingNumber &number, QWidget *parent)
+QSpinBox *SettingsPage::settingNumber(const SettingNumber &number)
 {
-    auto *box = new QSpinBox(parent);
+    auto *box = new QSpinBox(this);
     box->setObjectName(number.key.name);
     box->setRange(number.least, number.most);
+    box->setPrefix(numberPrefix());
     box->setSuffix(number.unit);
     box->setKeyboardTracking(false);
     box->setMinimumHeight(metrics::ControlHeight);
     const int stored = cmcfg.getNumber(number.key.section, number.key.name);
     box->setValue(stored == 0 ? number.insteadOfNone : stored);
-    QObject::connect(box, &QSpinBox::valueChanged, box, [key = number.key](int value) {
-        cmcfg.setValue(key.section, key.name, QString::number(value));
-    });
+    connect(box, &QSpinBox::valueChanged, this,
+            [this, key = number.key](int value) { store(key.section, key.name, QString::number(value)); });
     return box;
+}
+
+bool SettingsPage::store(const QString &section, const QString &key, const QString &value)
+{
+    cmcfg.setValue(section, key, value);
+    const QString error = cmcfg.lastError();
+    sayStored(error);
+    return error.isEmpty();
+}
+
+void SettingsPage::sayStored(const QString &error)
+{
+    Q_EMIT sigSaid(error.isEmpty() ? QString() : tr("The setting could not be stored: %1").arg(error));
 }
 
 } // namespace corva
