@@ -29,6 +29,10 @@ DataLink::DataLink(CardMonitor &monitor, DiallerBackend &backend, Facts facts, c
     m_limit.setSingleShot(true);
     connect(&m_limit, &QTimer::timeout, this, &DataLink::timeIsUp);
     connect(&m_watch, &QTimer::timeout, this, [this] { look(); });
+    connect(&m_backend, &DiallerBackend::sigLost, this, [this](const QString &sentence) {
+        if (isMaking() || isUp())
+            explain(ConnectionEnd::DiallerFailed, sentence);
+    });
 }
 
 LinkFacts DataLink::facts() const

@@ -39,6 +39,9 @@ Q_SIGNALS:
     void sigOutput(const QByteArray &chunk);
     /// The dialler has ended, and everything that it started.
     void sigDiallerGone();
+    /// Whoever has the rights is gone, and nobody watches the dialler any more. The next request finds
+    /// another, who puts right what was left. `sentence` is for people.
+    void sigLost(const QString &sentence);
 };
 
 /// In this process when it may do everything itself (run as root), through the helper otherwise.

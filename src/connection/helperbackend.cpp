@@ -139,7 +139,7 @@ void HelperBackend::ended(const QString &sentence)
     m_process.release()->deleteLater(); // it may be speaking now
     const std::deque<Pending> pending = std::exchange(m_pending, {});
     if (wasReady)
-        Q_EMIT sigDiallerGone();
+        Q_EMIT sigLost(sentence);
     for (const Pending &waiting : pending)
         waiting.answer({wasReady ? DialResult::Kind::Failed : DialResult::Kind::NoRights, sentence});
 }

@@ -188,8 +188,7 @@ private Q_SLOTS:
         program.start(QCoreApplication::applicationFilePath(), {u"--dial-and-die"_s, modemPort()});
         QVERIFY(program.waitForFinished(patience));
         QCOMPARE(program.exitStatus(), QProcess::CrashExit);
-        QTRY_VERIFY_WITH_TIMEOUT(!dialler().empty(), patience);
-        QVERIFY(etcAsText() != m_before);
+        QVERIFY(etcAsText() != m_before); // its dialler may live on, or meet its broken pipe
 
         m_service->recoverLeftovers();
         QTRY_COMPARE_WITH_TIMEOUT(etcAsText(), m_before, patience);
