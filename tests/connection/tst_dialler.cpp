@@ -247,7 +247,7 @@ private Q_SLOTS:
     void helperRefuses_data()
     {
         QTest::addColumn<QByteArray>("line");
-        QTest::addColumn<bool>("ends"); // it does not speak on with who speaks like that
+        QTest::addColumn<QString>("sentence"); // none: it does not speak on with who speaks like that
         const auto write = [](const QString &port, ProfileField field, const QString &text) {
             DialRequest hostile = request(DialVerb::Write, {});
             hostile.modemPort = port;
@@ -255,27 +255,37 @@ private Q_SLOTS:
             return toLine(hostile);
         };
         const QString port = u"%PORT%"_s;
+        const QString notYours = u"You may not use this card's data port."_s;
         const QByteArray servers = R"({"verb":"nameServers","servers":["1.1.1.1\nsearch evil"]})";
-        QTest::newRow("an unknown verb") << QByteArray(R"({"verb":"shell","text":"id"})") << true;
+        QTest::newRow("an unknown verb") << QByteArray(R"({"verb":"shell","text":"id"})") << QString();
         QTest::newRow("a path beside a verb")
-            << QByteArray(R"({"verb":"save","path":"/etc/shadow"})") << true;
-        QTest::newRow("no JSON") << QByteArray("save") << true;
-        QTest::newRow("an endless line") << QByteArray(100000, 'x') << true;
+            << QByteArray(R"({"verb":"save","path":"/etc/shadow"})") << QString();
+        QTest::newRow("no JSON") << QByteArray("save") << QString();
+        QTest::newRow("an endless line") << QByteArray(100000, 'x') << QString();
         QTest::newRow("a phone number that is two lines")
-            << write(port, ProfileField::Phone, u"*99#\nInit2 = AT+X"_s) << false;
+            << write(port, ProfileField::Phone, u"*99#\nInit2 = AT+X"_s)
+            << u"A value holds a line break or another control character, or the text \"-|-\"."_s;
         QTest::newRow("an option in the user name")
-            << write(port, ProfileField::UserName, u"a\"\nconnect /bin/sh"_s) << false;
-        QTest::newRow("a disk") << write(u"/dev/null"_s, ProfileField::Name, u"x"_s) << false;
-        QTest::newRow("a console") << write(u"/dev/tty1"_s, ProfileField::Name, u"x"_s) << false;
-        QTest::newRow("no device") << write(u"/etc/passwd"_s, ProfileField::Name, u"x"_s) << false;
+            << write(port, ProfileField::UserName, u"a\" connect /bin/sh"_s)
+            << u"The user name must not hold quotes, backslashes, a brace at its beginning or blanks at its "
+               u"ends, not be a single asterisk, and be 255 bytes long at most."_s;
+        QTest::newRow("a disk") << write(u"/dev/null"_s, ProfileField::Name, u"x"_s) << notYours;
+        QTest::newRow("a console") << write(u"/dev/tty1"_s, ProfileField::Name, u"x"_s) << notYours;
+        QTest::newRow("no device") << write(u"/etc/passwd"_s, ProfileField::Name, u"x"_s) << notYours;
         QTest::newRow("another's network interface")
-            << QByteArray(R"({"verb":"lease","port":"%PORT%","interface":"lo"})") << false;
-        QTest::newRow("servers that are more than that") << servers << false;
+            << QByteArray(R"({"verb":"lease","port":"%PORT%","interface":"lo"})")
+            << u"The network interface does not belong to the card."_s;
+        QTest::newRow("servers that are more than that") << servers << u"The DNS is invalid !"_s;
+        QTest::newRow("servers without a link")
+            << QByteArray(R"({"verb":"nameServers","servers":["1.1.1.1"]})")
+            << u"The network interface has no address from here."_s;
+        QTest::newRow("a dial on no port") << QByteArray(R"({"verb":"dial"})") << notYours;
     }
     void helperRefuses()
     {
         QFETCH(QByteArray, line);
-        QFETCH(bool, ends);
+        QFETCH(QString, sentence);
+        const bool ends = sentence.isEmpty();
         QProcess helper;
         helper.start(helperProgram, QStringList());
         helper.write(toLine(request(DialVerb::Save, {})));
@@ -285,6 +295,8 @@ private Q_SLOTS:
                                      helper.state() == QProcess::NotRunning,
                                  patience);
         QCOMPARE(helper.state() == QProcess::NotRunning, ends);
+        if (!ends)
+            QCOMPARE(eventFromLine(said.trimmed().split('\n').last())->result.error, sentence);
         helper.closeWriteChannel();
         QVERIFY(helper.state() == QProcess::NotRunning || helper.waitForFinished(patience));
         QCOMPARE(helper.exitCode(), ends ? 2 : 0);
@@ -326,15 +338,23 @@ private:
     }
 
     static QString modemPort() { return QFileInfo(basePath + u"/card/modem"_s).canonicalFilePath(); }
+    /// This machine may run the same test twice.
+    static bool isInOwnSystem(pid_t pid)
+    {
+        const auto space = [](const QString &who) {
+            return QFileInfo(QFile::symLinkTarget(u"/proc/%1/ns/mnt"_s.arg(who))).fileName();
+        };
+        return space(QString::number(pid)) == space(u"self"_s);
+    }
     static std::vector<pid_t> running(const QByteArray &name)
     {
         std::vector<pid_t> pids;
         for (const QString &entry : QDir(u"/proc"_s).entryList(QDir::Dirs))
-            if (const auto stat = processStat(entry.toInt()); stat && stat->name == name && !stat->isZombie())
+            if (const auto stat = processStat(entry.toInt());
+                stat && stat->name == name && !stat->isZombie() && isInOwnSystem(stat->pid))
                 pids.push_back(stat->pid);
         return pids;
     }
-    /// Diallers on the card's port: this machine may have others.
     static std::vector<pid_t> dialler()
     {
         std::vector<pid_t> pids = running("wvdial");
