@@ -2873,10 +2873,6 @@ to %2</source>
         <translation> %</translation>
     </message>
     <message>
-        <source>This could not be stored: %1</source>
-        <translation>تعذّر حفظ هذا: %1</translation>
-    </message>
-    <message>
         <source>Unit: %1</source>
         <translation>الوحدة: %1</translation>
     </message>

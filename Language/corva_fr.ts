@@ -819,7 +819,7 @@
     </message>
     <message>
         <source>The settings name the port %1, which does not exist. Plug the card in; if it is plugged in, correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
-        <translation>Les paramètres indiquent le port %1, qui n’existe pas. Branchez la carte ; si elle est déjà branchée, corrigez « at_port » dans le fichier Data/common-config.xml et redémarrez le programme.</translation>
+        <translation>Les paramètres indiquent le port %1, qui n’existe pas. Branchez la carte&#xa0;; si elle est déjà branchée, corrigez «&#xa0;at_port&#xa0;» dans le fichier Data/common-config.xml et redémarrez le programme.</translation>
     </message>
     <message>
         <source>The port is no serial port</source>
@@ -827,7 +827,7 @@
     </message>
     <message>
         <source>The settings name the port %1, which is no serial port. Correct &quot;at_port&quot; in the file Data/common-config.xml and start the program again.</source>
-        <translation>Les paramètres indiquent le port %1, qui n’est pas un port série. Corrigez « at_port » dans le fichier Data/common-config.xml et redémarrez le programme.</translation>
+        <translation>Les paramètres indiquent le port %1, qui n’est pas un port série. Corrigez «&#xa0;at_port&#xa0;» dans le fichier Data/common-config.xml et redémarrez le programme.</translation>
     </message>
 </context>
 <context>
@@ -2859,10 +2859,6 @@ au %2</translation>
     <message>
         <source> %</source>
         <translation> %</translation>
-    </message>
-    <message>
-        <source>This could not be stored: %1</source>
-        <translation>Impossible d’enregistrer ce réglage&#xa0;: %1</translation>
     </message>
     <message>
         <source>Unit: %1</source>

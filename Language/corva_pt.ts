@@ -2861,10 +2861,6 @@ a %2</translation>
         <translation> %</translation>
     </message>
     <message>
-        <source>This could not be stored: %1</source>
-        <translation>Não foi possível guardar: %1</translation>
-    </message>
-    <message>
         <source>Unit: %1</source>
         <translation>Unidade: %1</translation>
     </message>

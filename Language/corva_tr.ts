@@ -2858,10 +2858,6 @@ Bitiş: %2</translation>
         <translation> %</translation>
     </message>
     <message>
-        <source>This could not be stored: %1</source>
-        <translation>Bu ayar kaydedilemedi: %1</translation>
-    </message>
-    <message>
         <source>Unit: %1</source>
         <translation>Birim: %1</translation>
     </message>

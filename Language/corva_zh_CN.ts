@@ -2858,10 +2858,6 @@ to %2</source>
         <translation> %</translation>
     </message>
     <message>
-        <source>This could not be stored: %1</source>
-        <translation>无法保存：%1</translation>
-    </message>
-    <message>
         <source>Unit: %1</source>
         <translation>单位：%1</translation>
     </message>

@@ -7,8 +7,10 @@
 #include "connection/idlemonitor.h"
 #include "connection/networkcard.h"
 #include "connection/networkcardlink.h"
+#include "connection/profilechecks.h"
 #include "connection/profilestore.h"
 #include "connection/redial.h"
+#include "connection/simprofile.h"
 #include "device/cardmonitor.h"
 #include "shell/logging.h"
 
@@ -18,6 +20,8 @@
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
+
+std::atomic<int> connecting = 0;
 
 namespace corva
 {
@@ -50,9 +54,9 @@ bool isWorthAnotherDial(ConnectionEnd end)
 
 QUrl pageOf(const ConnectionProfile &profile)
 {
-    const QUrl url(profile.text(ProfileField::DefaultOpenUrl).trimmed(), QUrl::StrictMode);
-    const bool isPage = (url.scheme() == "http"_L1 || url.scheme() == "https"_L1) && !url.host().isEmpty();
-    return isPage && url.isValid() ? url : QUrl();
+    const QString text = profile.text(ProfileField::DefaultOpenUrl).trimmed();
+    const QUrl url = QUrl::fromUserInput(text);
+    return isWebAddress(text) && !url.host().isEmpty() ? url : QUrl();
 }
 
 } // namespace
@@ -67,6 +71,12 @@ ConnectionParts::ConnectionParts()
 ConnectionParts::ConnectionParts(ConnectionParts &&) noexcept = default;
 ConnectionParts::~ConnectionParts() = default;
 
+/// What the person allowed for one link and its redials.
+struct DialPermission {
+    std::optional<DialCredentials> credentials;
+    bool mayRoam = false; ///< dialled while roaming, and so agreed to it
+};
+
 class ConnectionService::Private
 {
 public:
@@ -74,22 +84,31 @@ public:
             ConnectionParts theParts);
 
     bool mayDial();
-    bool dial();
+    bool dialDefault();
+    bool dial(ConnectionProfile profile);
+    bool mayDialUnasked(const ConnectionProfile &profile) const;
     bool start(const ConnectionProfile &profile);
     LinkPlan planFor(const ConnectionProfile &profile, const DiallerOptions &options) const;
     void wentUp(const ConnectionProfile &profile);
+    ConnectionStatus ended(ConnectionEnd end) const;
     void isOver(const LinkOutcome &outcome);
     void tellOrRedial(const LinkOutcome &outcome, bool wasUp);
     void autoReConnWhenAbnormalDisconn();
     void slotAutoRedial();
+    void missCard();
+    bool dialUnasked();
+    void beginRow(const Redial::Row &row);
+    void endRow();
     void autoConnect(const CardState &card);
     void takeCard(const CardState &card);
     void becameIdle();
     void refresh();
+    void takeFacts(ConnectionStatus &status) const;
     void refuse(ConnectionEnd end, const QString &message);
 
     /// Changes the status and tells it, if there is a difference.
     template <typename Change> void update(Change change);
+    void tellChange(const ConnectionStatus &before, const ConnectionStatus &now);
 
     ConnectionService *q;
     CardMonitor *monitor;
@@ -99,10 +118,10 @@ public:
     Redial redial;
     IdleMonitor idle;
     QTimer refreshTimer;
-    std::optional<DialCredentials> credentials;
+    DialPermission given;
     bool isCallUp = false;
-    bool mayRoam = false; ///< the person dialled while roaming, and so agreed to it
     bool wasReady = false;
+    bool hasToldOfCard = false; ///< in this row of redials
     bool isShutDown = false;
 };
 
@@ -114,8 +133,22 @@ template <typename Change> void ConnectionService::Private::update(Change change
     status.redials = redial.times();
     if (status == q->m_status)
         return;
-    q->m_status = status;
+    const ConnectionStatus before = std::exchange(q->m_status, status);
+    connecting = status.state == ConnectionState::Connecting;
     Q_EMIT q->sigStatusChanged(status);
+    tellChange(before, status);
+}
+
+void ConnectionService::Private::tellChange(const ConnectionStatus &before, const ConnectionStatus &now)
+{
+    const auto isNow = [&](ConnectionState state) { return now.state == state; };
+    const auto differs = [&](ConnectionState state) { return isNow(state) != (before.state == state); };
+    if (differs(ConnectionState::Connecting))
+        isNow(ConnectionState::Connecting) ? Q_EMIT q->sigConnectingStart() : Q_EMIT q->sigConnectingEnd();
+    if (differs(ConnectionState::Connected))
+        Q_EMIT q->sigUpdateConnectPixmap(isNow(ConnectionState::Connected));
+    if (isNow(ConnectionState::NotConnected) && before.since.isValid())
+        Q_EMIT q->sigUpdateHis();
 }
 
 ConnectionService::Private::Private(ConnectionService *service, CardMonitor *cardMonitor, ProfileStore *store,
@@ -128,9 +161,6 @@ ConnectionService::Private::Private(ConnectionService *service, CardMonitor *car
     connect(&idle, &IdleMonitor::sigIdle, q, [this] { becameIdle(); });
     connect(monitor, &CardMonitor::sigStateChanged, q, [this](const CardState &card) { takeCard(card); });
 }
-
-// --- Dialling
-// ------------------------------------------------------------------------------------------------------------
 
 /// Whether nothing runs and nothing stands in the way but roaming; tells what does.
 bool ConnectionService::Private::mayDial()
@@ -148,18 +178,31 @@ bool ConnectionService::Private::mayDial()
     return true;
 }
 
-bool ConnectionService::Private::dial()
+bool ConnectionService::Private::dialDefault()
 {
-    auto profile = profiles->defaultProfile();
+    const auto profile = profiles->defaultProfile();
     if (!profile) {
         refuse(ConnectionEnd::FilesFailed, tr("Can't open deault config file!"));
         return false;
     }
-    if (credentials) {
-        profile->setText(ProfileField::UserName, credentials->userName);
-        profile->setText(ProfileField::Password, credentials->password);
+    return dial(*profile);
+}
+
+bool ConnectionService::Private::dial(ConnectionProfile profile)
+{
+    if (given.credentials && given.credentials->profileName == profile.name()) {
+        profile.setText(ProfileField::UserName, given.credentials->userName);
+        profile.setText(ProfileField::Password, given.credentials->password);
     }
-    return start(*profile);
+    return start(profile);
+}
+
+/// Whether nobody has to be asked for the user name.
+bool ConnectionService::Private::mayDialUnasked(const ConnectionProfile &profile) const
+{
+    return !profile.isOn(ProfileField::AsksUserName) || profile.isOn(ProfileField::NoAuthentication) ||
+           !profile.text(ProfileField::UserName).isEmpty() ||
+           (given.credentials && given.credentials->profileName == profile.name());
 }
 
 LinkPlan ConnectionService::Private::planFor(const ConnectionProfile &profile,
@@ -183,9 +226,11 @@ LinkPlan ConnectionService::Private::planFor(const ConnectionProfile &profile,
 bool ConnectionService::Private::start(const ConnectionProfile &profile)
 {
     const DiallerOptions options = DiallerOptions::fromConfiguration();
-    const LinkPlan plan = planFor(profile, options);
+    LinkPlan plan = planFor(profile, options);
     const bool isNetworkCard = profile.linkKind() == LinkKind::NetworkCard ||
                                (profile.linkKind() == LinkKind::Automatic && !plan.interfaceName.isEmpty());
+    if (isNetworkCard)
+        plan.contextId = NetworkCardLink::contextId;
     if (isNetworkCard && plan.interfaceName.isEmpty()) {
         refuse(ConnectionEnd::DiallerFailed,
                tr("This card has no network interface. Please choose dial-up in the profile."));
@@ -203,6 +248,7 @@ bool ConnectionService::Private::start(const ConnectionProfile &profile)
         link = dialUp;
     }
     connect(link, &DataLink::sigUp, q, [this, profile] { wentUp(profile); });
+    connect(link, &DataLink::sigPDPSetCommand, q, &ConnectionService::sigPDPSetCommand);
     connect(link, &DataLink::sigMessage, q, &ConnectionService::sigMessage);
     connect(link, &DataLink::sigOver, q, [this](const LinkOutcome &outcome) { isOver(outcome); });
     connect(link, &DataLink::sigEnding, q, [this] {
@@ -215,7 +261,7 @@ bool ConnectionService::Private::start(const ConnectionProfile &profile)
         status.state = ConnectionState::Connecting;
         status.kind = isNetworkCard ? LinkKind::NetworkCard : LinkKind::DialUp;
         status.profileName = profile.name();
-        status.apn = profile.isOn(ProfileField::ObtainsApn) ? QString() : profile.text(ProfileField::Apn);
+        status.apn = profile.isOn(ProfileField::UsesApn) ? profile.text(ProfileField::Apn) : QString();
         status.isRoaming = isRoaming(monitor->state());
     });
     link->start();
@@ -226,6 +272,7 @@ bool ConnectionService::Private::start(const ConnectionProfile &profile)
 void ConnectionService::Private::refuse(ConnectionEnd end, const QString &message)
 {
     redial.stop();
+    given = {};
     update([&](ConnectionStatus &status) {
         status = {};
         status.end = end;
@@ -238,12 +285,14 @@ void ConnectionService::Private::wentUp(const ConnectionProfile &profile)
 {
     const DiallerOptions options = DiallerOptions::fromConfiguration();
     redial.stop();
-    refreshTimer.start();
-    update([](ConnectionStatus &status) {
+    update([this](ConnectionStatus &status) {
         status.state = ConnectionState::Connected;
         status.since = QDateTime::currentDateTime();
+        takeFacts(status); // who counts begins with the interface's name
     });
-    refresh();
+    if (!link || !link->isUp())
+        return; // whoever heard of it has ended it
+    refreshTimer.start();
     if (options.idleLimit)
         idle.launchAutoDisconnectMonitor(*options.idleLimit);
     if (const QUrl url = pageOf(profile); options.opensUrl && !url.isEmpty())
@@ -252,21 +301,20 @@ void ConnectionService::Private::wentUp(const ConnectionProfile &profile)
 
 void ConnectionService::Private::refresh()
 {
-    if (!link)
-        return;
-    const LinkFacts facts = link->facts();
-    update([&](ConnectionStatus &status) {
-        status.interfaceName = facts.interfaceName;
-        status.localAddress = facts.localAddress;
-        status.peerAddress = facts.peerAddress;
-        status.nameServers = facts.nameServers;
-        status.hasDefaultRoute = facts.hasDefaultRoute;
-        status.isRoaming = isRoaming(monitor->state());
-    });
+    if (link)
+        update([this](ConnectionStatus &status) { takeFacts(status); });
 }
 
-// --- The end of a link
-// ---------------------------------------------------------------------------------------------------
+void ConnectionService::Private::takeFacts(ConnectionStatus &status) const
+{
+    const LinkFacts facts = link->facts();
+    status.interfaceName = facts.interfaceName;
+    status.localAddress = facts.localAddress;
+    status.peerAddress = facts.peerAddress;
+    status.nameServers = facts.nameServers;
+    status.hasDefaultRoute = facts.hasDefaultRoute;
+    status.isRoaming = isRoaming(monitor->state());
+}
 
 void ConnectionService::Private::isOver(const LinkOutcome &outcome)
 {
@@ -279,7 +327,7 @@ void ConnectionService::Private::isOver(const LinkOutcome &outcome)
 /// A box only where no further dial follows; the status first, so that who reads the box sees it.
 void ConnectionService::Private::tellOrRedial(const LinkOutcome &outcome, bool wasUp)
 {
-    const QString sentence = outcome.isExplained ? outcome.message : endSentence(outcome.end);
+    const QString sentence = outcome.sentence.isEmpty() ? endSentence(outcome.end) : outcome.sentence;
     const bool isWorthIt = isWorthAnotherDial(outcome.end);
     bool dialsAgain = false;
     if (redial.isActive() && isWorthIt)
@@ -289,14 +337,11 @@ void ConnectionService::Private::tellOrRedial(const LinkOutcome &outcome, bool w
     if (wasUp && isWorthIt)
         autoReConnWhenAbnormalDisconn();
     dialsAgain = dialsAgain || redial.isActive();
+    if (!dialsAgain)
+        given = {};
 
     update([&](ConnectionStatus &status) {
-        const ConnectionStatus before = status;
-        status = {};
-        status.kind = before.kind;
-        status.profileName = before.profileName;
-        status.apn = before.apn;
-        status.end = outcome.end;
+        status = ended(outcome.end);
         status.exitCode = outcome.exitCode;
         status.endSentence = sentence;
     });
@@ -305,11 +350,22 @@ void ConnectionService::Private::tellOrRedial(const LinkOutcome &outcome, bool w
         Q_EMIT q->sigMessage(message);
 }
 
+/// What stays known of a link that is over.
+ConnectionStatus ConnectionService::Private::ended(ConnectionEnd end) const
+{
+    ConnectionStatus status;
+    status.kind = q->m_status.kind;
+    status.profileName = q->m_status.profileName;
+    status.apn = q->m_status.apn;
+    status.end = end;
+    return status;
+}
+
 void ConnectionService::Private::autoReConnWhenAbnormalDisconn()
 {
     const DiallerOptions options = DiallerOptions::fromConfiguration();
     if (options.redials)
-        redial.autoRedialNetwork(options.redial);
+        beginRow(options.redial);
 }
 
 /// One dial of a row that nobody pressed a button for.
@@ -317,46 +373,66 @@ void ConnectionService::Private::slotAutoRedial()
 {
     if (link)
         return;
-    if (isRoaming(monitor->state()) && !mayRoam) {
-        redial.stop(); // roaming costs: a person decides
-        update([](ConnectionStatus &) {});
-        return;
-    }
-    if (q->obstacle() == ConnectObstacle::CardGone && redial.next()) {
-        if (redial.number() == 2) // one box for the row
-            Q_EMIT q->sigMessage(tr("The device has been disconnected or is unavailable."));
-        update([](ConnectionStatus &) {});
-        return;
-    }
-    if (mayDial())
-        dial();
-    else
-        redial.stop();
+    if (q->obstacle() == ConnectObstacle::CardGone)
+        missCard();
+    else if (!dialUnasked())
+        endRow();
     update([](ConnectionStatus &) {});
 }
 
-// --- The card
-// ------------------------------------------------------------------------------------------------------------
+/// A dial of the row that has no card to go by: one box for the row, and the next dial.
+void ConnectionService::Private::missCard()
+{
+    if (!std::exchange(hasToldOfCard, true))
+        Q_EMIT q->sigMessage(tr("The device has been disconnected or is unavailable."));
+    if (!redial.next())
+        given = {};
+}
+
+/// Roaming costs, and a password has to be entered: there a person decides.
+bool ConnectionService::Private::dialUnasked()
+{
+    if ((isRoaming(monitor->state()) && !given.mayRoam) || !mayDial())
+        return false;
+    const auto profile = profileForSim(*profiles, monitor->state().identity.imsi);
+    if (profile)
+        return mayDialUnasked(*profile) && dial(*profile);
+    return !profiles->defaultProfile() && dialDefault(); // which says that there is none
+}
+
+void ConnectionService::Private::beginRow(const Redial::Row &row)
+{
+    hasToldOfCard = false;
+    redial.autoRedialNetwork(row);
+}
+
+void ConnectionService::Private::endRow()
+{
+    redial.stop();
+    given = {};
+}
 
 void ConnectionService::Private::takeCard(const CardState &card)
 {
     const bool isGone = card.presence == CardPresence::Absent || card.presence == CardPresence::StorageMode;
     if (isGone && link)
-        link->end({ConnectionEnd::CardGone, -1, tr("The device has been disconnected or is unavailable.")});
+        link->end(
+            {ConnectionEnd::CardGone, -1, tr("The device has been disconnected or is unavailable."), {}});
     autoConnect(card);
 }
 
 /// Dials once for each time that a card becomes ready.
 void ConnectionService::Private::autoConnect(const CardState &card)
 {
-    const bool isReady =
-        card.presence == CardPresence::Ready && card.modemReady && card.registration == Registration::Home;
+    const bool isReady = card.presence == CardPresence::Ready && card.modemReady &&
+                         card.registration == Registration::Home && isSimKnown(*profiles, card.identity.imsi);
     const bool becameReady = isReady && !wasReady;
     wasReady = isReady || (wasReady && card.presence == CardPresence::Ready);
     const DiallerOptions options = DiallerOptions::fromConfiguration();
     if (!becameReady || !options.connectsByItself || link || redial.isActive())
         return;
-    redial.autoRedialNetwork(options.automatic);
+    given = {};
+    beginRow(options.automatic);
     update([](ConnectionStatus &) {});
 }
 
@@ -366,11 +442,8 @@ void ConnectionService::Private::becameIdle()
         return;
     Q_EMIT q->sigMessage(
         tr("There is no data transported recently. Auto Disconnect will close your internet link."));
-    link->end({ConnectionEnd::Idle, -1, {}});
+    link->end({ConnectionEnd::Idle, -1, {}, {}});
 }
-
-// --- The service
-// ---------------------------------------------------------------------------------------------------------
 
 ConnectionService::ConnectionService(CardMonitor *monitor, ProfileStore *profiles, QObject *parent)
     : ConnectionService(monitor, profiles, ConnectionParts(), parent)
@@ -398,11 +471,20 @@ void ConnectionService::shutDown()
     if (std::exchange(d->isShutDown, true))
         return;
     d->redial.stop();
-    if (d->link)
+    d->idle.stopAutoDisconnectMonitor();
+    d->refreshTimer.stop();
+    const bool hadLink = d->link;
+    if (hadLink) {
+        // While the interface is there: who counts reads it for the last time.
+        d->update([](ConnectionStatus &status) { status.state = ConnectionState::Disconnecting; });
         d->link->abandon();
+    }
     d->parts.backend->shutDown();
     delete std::exchange(d->link, nullptr);
-    d->update([](ConnectionStatus &status) { status.state = ConnectionState::NotConnected; });
+    d->update([&](ConnectionStatus &status) {
+        if (hadLink)
+            status = d->ended(ConnectionEnd::ByProgram);
+    });
 }
 
 void ConnectionService::recoverLeftovers()
@@ -432,18 +514,17 @@ bool ConnectionService::connectNow(const std::optional<DialCredentials> &credent
         return false;
     }
     d->redial.stop();
-    d->credentials = credentials;
-    d->mayRoam = isRoaming(d->monitor->state());
-    const bool isDialling = d->mayDial() && d->dial();
+    d->given = {credentials, isRoaming(d->monitor->state())};
+    const bool isDialling = d->mayDial() && d->dialDefault();
     d->update([](ConnectionStatus &) {}); // a row of redials may have ended
     return isDialling;
 }
 
 void ConnectionService::disconnectNow(ConnectionEnd why)
 {
-    d->redial.stop();
+    d->endRow();
     if (d->link)
-        d->link->end({why, -1, {}});
+        d->link->end({why, -1, {}, {}});
     d->update([](ConnectionStatus &) {});
 }
 

@@ -5,9 +5,13 @@
 
 #include <QObject>
 #include <QUrl>
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <optional>
+
+/// 1 from the start of dialling until the outcome is known. For any thread.
+extern std::atomic<int> connecting;
 
 namespace corva
 {
@@ -26,8 +30,9 @@ enum class ConnectObstacle {
 };
 
 /// What the person was asked for at connect time, in place of the profile's own. Kept for one link and its
-/// redials, never stored.
+/// redials, never stored, and given to no other profile.
 struct DialCredentials {
+    QString profileName;
     QString userName;
     QString password;
 };
@@ -80,6 +85,17 @@ public:
 
 Q_SIGNALS:
     void sigStatusChanged(const corva::ConnectionStatus &status);
+
+    // What the status says as well, for who waits for one change alone.
+    void sigConnectingStart();
+    void sigConnectingEnd();
+    /// The link came up, or is up no longer.
+    void sigUpdateConnectPixmap(bool isConnected);
+    /// A link that was up is over: the history has one more.
+    void sigUpdateHis();
+
+    /// The card gets its context now: PDP type and access point, empty for one of the network's choice.
+    void sigPDPSetCommand(const QString &type, const QString &apn);
     /// A box for the person: why a connection failed, or why it was ended.
     void sigMessage(const QString &text);
     /// The profile's page, to be opened in the browser: http or https.

@@ -28,7 +28,8 @@ enum class ConnectionEnd {
     LinkLost,      ///< no answer to the link's echoes
     CardGone,      ///< the card was pulled out
     Idle,          ///< ended because nothing was carried
-    Quota          ///< ended because the month's volume was used up
+    Quota,         ///< ended because the month's volume was used up
+    ByProgram      ///< the program was closed
 };
 
 /// Everything about the data connection that the window shows. A plain value.

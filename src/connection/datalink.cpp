@@ -27,8 +27,7 @@ DataLink::DataLink(CardMonitor &monitor, DiallerBackend &backend, Facts facts, c
     : QObject(parent), m_monitor(monitor), m_backend(backend), m_facts(std::move(facts)), m_plan(plan)
 {
     m_limit.setSingleShot(true);
-    connect(&m_limit, &QTimer::timeout, this,
-            [this] { fail(ConnectionEnd::TimeOut, tr("Fail to connect! Link ppp0 wasn't built !")); });
+    connect(&m_limit, &QTimer::timeout, this, &DataLink::timeIsUp);
     connect(&m_watch, &QTimer::timeout, this, [this] { look(); });
 }
 
@@ -52,15 +51,42 @@ void DataLink::armLimit()
     m_limit.start(m_plan.limit);
 }
 
+void DataLink::timeIsUp()
+{
+    if (m_stage != Stage::Ending) {
+        slotDelayMessageBox();
+        return;
+    }
+    qCWarning(lcConnection).noquote()
+        << logTime() + u"the link was not taken down in time, and counts as gone"_s;
+    // What is still being done is done before this.
+    if (m_isSaved || m_isSavePending)
+        m_backend.ask({.verb = DialVerb::Recover}, [](const DialResult &) {});
+    over();
+}
+
+void DataLink::slotDelayMessageBox()
+{
+    fail(ConnectionEnd::TimeOut, tr("Fail to connect! Link ppp0 wasn't built !"));
+}
+
+/// Empty: the network chooses it.
+QString DataLink::apn() const
+{
+    const ConnectionProfile &profile = m_plan.profile;
+    return profile.isOn(ProfileField::UsesApn) ? profile.text(ProfileField::Apn).trimmed() : QString();
+}
+
 void DataLink::setContext()
 {
     const auto text = [this](ProfileField field) { return m_plan.profile.text(field).trimmed(); };
     const QString type = text(ProfileField::IpMode).isEmpty() ? u"IP"_s : text(ProfileField::IpMode);
-    const QString apn = m_plan.profile.isOn(ProfileField::ObtainsApn) ? QString() : text(ProfileField::Apn);
     const QString address = m_plan.profile.isOn(ProfileField::UsesPdp) ? text(ProfileField::Pdp) : QString();
-    const auto future = m_monitor.worker().submit([=, cid = m_plan.contextId](SerialThread &link) {
-        return link.setPdpContext(cid, type, apn, address);
-    });
+    Q_EMIT sigPDPSetCommand(type, apn());
+    const auto future =
+        m_monitor.worker().submit([type, address, apn = apn(), cid = m_plan.contextId](SerialThread &link) {
+            return link.setPdpContext(cid, type, apn, address);
+        });
     whenDone(future, this, [this](const std::optional<int> &result) { contextSet(result); });
 }
 
@@ -71,7 +97,7 @@ void DataLink::contextSet(std::optional<int> result)
     if (m_stage != Stage::Context)
         return;
     // With an access point of the network's choice there is nothing that could be dialled wrongly.
-    const bool isRefused = result.value_or(-1) != 1 && !m_plan.profile.isOn(ProfileField::ObtainsApn);
+    const bool isRefused = result.value_or(-1) != 1 && m_plan.profile.isOn(ProfileField::UsesApn);
     if (!result)
         fail(ConnectionEnd::CardGone, tr("The device has been disconnected or is unavailable."));
     else if (isRefused)
@@ -132,7 +158,7 @@ void DataLink::useOwnNameServers()
 
 void DataLink::explain(ConnectionEnd end, const QString &sentence)
 {
-    this->end({end, -1, sentence, true});
+    this->end({end, -1, sentence, sentence});
 }
 
 void DataLink::explain(const DialResult &result)
@@ -143,7 +169,7 @@ void DataLink::explain(const DialResult &result)
 
 void DataLink::fail(ConnectionEnd end, const QString &sentence, int exitCode)
 {
-    this->end({end, exitCode, sentence});
+    this->end({end, exitCode, sentence, {}});
 }
 
 void DataLink::end(const LinkOutcome &why)
@@ -153,7 +179,7 @@ void DataLink::end(const LinkOutcome &why)
     const Stage before = m_stage;
     m_outcome = why;
     m_stage = Stage::Ending;
-    m_limit.stop();
+    m_limit.start(m_plan.endLimit);
     m_watch.stop();
     Q_EMIT sigEnding();
     if (before == Stage::Making || before == Stage::Up)
@@ -165,22 +191,27 @@ void DataLink::end(const LinkOutcome &why)
 /// The system's files go back to their places last.
 void DataLink::takenDown()
 {
-    const auto over = [this] {
-        m_stage = Stage::Over;
-        Q_EMIT sigOver(m_outcome);
-    };
+    if (m_stage != Stage::Ending)
+        return;
     if (!m_isSaved) {
-        QMetaObject::invokeMethod(this, over, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &DataLink::over, Qt::QueuedConnection);
         return;
     }
-    m_backend.ask(
-        {.verb = DialVerb::Recover}, [this, over, guard = QPointer(this)](const DialResult &result) {
-            if (!guard)
-                return;
-            if (!result.isDone()) // one box, not two
-                m_outcome.message += (m_outcome.message.isEmpty() ? u""_s : u"\n\n"_s) + result.error;
-            over();
-        });
+    m_backend.ask({.verb = DialVerb::Recover}, [this, guard = QPointer(this)](const DialResult &result) {
+        if (!guard || m_stage != Stage::Ending)
+            return;
+        if (!result.isDone()) // one box, not two
+            m_outcome.message += (m_outcome.message.isEmpty() ? u""_s : u"\n\n"_s) + result.error;
+        over();
+    });
+}
+
+void DataLink::over()
+{
+    if (std::exchange(m_stage, Stage::Over) == Stage::Over)
+        return;
+    m_limit.stop();
+    Q_EMIT sigOver(m_outcome);
 }
 
 } // namespace corva

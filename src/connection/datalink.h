@@ -26,6 +26,8 @@ struct LinkPlan {
     bool hasContexts = true;
     PppOptions options;
     std::chrono::milliseconds limit{30000}; ///< the latest moment at which the outcome is judged
+    /// The longest that taking it down may take, hanging up and putting the files back included.
+    std::chrono::milliseconds endLimit = DiallerBackend::longestShutDown + std::chrono::seconds(3);
     bool showsExitCode = true;
 };
 
@@ -34,8 +36,7 @@ struct LinkOutcome {
     ConnectionEnd end = ConnectionEnd::ByPerson;
     int exitCode = -1; ///< pppd's
     QString message;   ///< a box for the person; may be empty
-    /// The message says it better than the end alone, and says what to do.
-    bool isExplained = false;
+    QString sentence;  ///< the same in words where the end alone does not say enough
 };
 
 /// What the ways of making a link share: the card's context comes first, and everything that was changed is
@@ -62,6 +63,8 @@ public:
     virtual LinkFacts facts() const;
 
 Q_SIGNALS:
+    /// The card gets its context now: PDP type and access point, empty for one of the network's choice.
+    void sigPDPSetCommand(const QString &type, const QString &apn);
     /// It carries traffic. Once at most.
     void sigUp();
     /// It is being taken down.
@@ -80,6 +83,8 @@ protected:
     virtual void takeDown() = 0;
     /// Looks whether the link is up, or whether it is still there.
     virtual void look() = 0;
+    /// Judges the outcome at the time-out: there is no link.
+    virtual void slotDelayMessageBox();
 
     Stage stage() const { return m_stage; }
     /// Whether what `make` asked for is still wanted.
@@ -105,6 +110,9 @@ private:
     void contextSet(std::optional<int> result);
     void save();
     void useOwnNameServers();
+    void timeIsUp();
+    void over();
+    QString apn() const;
 
     Stage m_stage = Stage::New;
     LinkOutcome m_outcome;

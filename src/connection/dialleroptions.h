@@ -3,6 +3,7 @@
 
 #include "connection/pppoptions.h"
 #include "connection/redial.h"
+#include "connection/systemfiles.h"
 
 #include <QStringList>
 #include <chrono>
@@ -26,8 +27,16 @@ struct DiallerOptions {
     bool connectsByItself = false;
     Redial::Row automatic;
     std::optional<std::chrono::minutes> idleLimit;
+    QString roamingQuestion; ///< asked in place of the program's own; empty: that
 
     static DiallerOptions fromConfiguration();
 };
+
+/// How long a dial may take before its outcome is judged.
+std::chrono::seconds getDialTimeoutParam();
+
+/// The system's files as the configuration names them, for a program that runs as root. The helper program
+/// takes the real places whatever the person's configuration says.
+SystemFiles systemFilesFromConfiguration();
 
 } // namespace corva

@@ -122,6 +122,9 @@ void DialUpLink::take(const WvdialEvent &event)
     case Kind::NameServer: m_said.nameServers += event.text; break;
     case Kind::Refused: m_wasRefused = true; break;
     case Kind::PppEnded: pppEnded(event.number); break;
+    case Kind::PortFailed: m_reason = tr("The card's data port cannot be opened: %1").arg(event.text); break;
+    case Kind::ModemSilent: m_reason = tr("The card does not answer on its data port."); break;
+    case Kind::BadInit: m_reason = tr("The card refused a command on its data port."); break;
     case Kind::Busy: // the dialler would go on dialling for ever
         fail(ConnectionEnd::Busy, failureMessage(-1));
         break;
@@ -150,9 +153,18 @@ void DialUpLink::endedByItself()
         return;
     for (const WvdialEvent &event : m_output.finish())
         take(event);
+    if (!isMaking() && !isUp())
+        return; // its last words said why
     const bool isPortGone = !QFile::exists(m_plan.modemPort);
-    fail(isPortGone ? ConnectionEnd::CardGone : ConnectionEnd::DiallerFailed,
-         isUp() ? QString() : failureMessage(-1));
+    const bool isCrash = isMaking() && m_reason.isEmpty() && !isPortGone;
+    if (isCrash && !m_isRestarted) { // wvdial crashes now and then; it deserves another go
+        m_isRestarted = true;
+        m_output = {};
+        slotStartWvdial();
+        return;
+    }
+    end({isPortGone ? ConnectionEnd::CardGone : ConnectionEnd::DiallerFailed, -1,
+         isUp() ? QString() : failureMessage(-1), m_reason});
 }
 
 void DialUpLink::look()

@@ -41,6 +41,8 @@ private:
     int m_killRounds = 0; ///< how often the kill waited for the card's reply
     bool m_isDialled = false;
     bool m_wasRefused = false;
+    bool m_isRestarted = false;
+    QString m_reason; ///< why the dialler gives up, as it said
 };
 
 } // namespace corva

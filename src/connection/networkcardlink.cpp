@@ -22,8 +22,19 @@ namespace
 // "+JPDPACT: <context>,<state>".
 enum DataCallState { Down, Up, BeingMade, Refused };
 
+/// The one whose data call the card reports about.
+constexpr int reportedContext = 1;
+
 constexpr int accepted = 1;
 constexpr int refusedPlainly = 0;
+
+/// By the command that made the call. Of a call that is still being made that is not known: then by the one
+/// that would have come first, and by the other where the card does not know that.
+void endDataCall(SerialThread &link, bool isByContext, int cid)
+{
+    if (isByContext || link.setDataCall(cid, false) == refusedPlainly)
+        link.activatePdpContext(cid, false);
+}
 
 } // namespace
 
@@ -32,7 +43,7 @@ void NetworkCardLink::make()
 {
     m_interface = m_plan.interfaceName;
     const auto future = m_monitor.worker().submit([cid = m_plan.contextId](SerialThread &link) {
-        const int result = link.setDataCall(cid, true);
+        const int result = cid == reportedContext ? link.setDataCall(cid, true) : refusedPlainly;
         if (result != refusedPlainly)
             return std::pair(Activation::DataCall, result);
         return std::pair(Activation::Context, link.activatePdpContext(cid, true));
@@ -58,6 +69,11 @@ void NetworkCardLink::activated(Activation by, int result)
     look();
 }
 
+void NetworkCardLink::slotDelayMessageBox()
+{
+    fail(ConnectionEnd::TimeOut, tr("Connection is failed!"));
+}
+
 void NetworkCardLink::refused()
 {
     fail(ConnectionEnd::NoCarrier, tr("Connection is failed!"));
@@ -65,7 +81,7 @@ void NetworkCardLink::refused()
 
 void NetworkCardLink::look()
 {
-    const int state = m_activation == Activation::DataCall ? m_monitor.link().dataCallState() : Up;
+    const int state = m_activation == Activation::DataCall ? m_monitor.link().latestDataCallState() : Up;
     if (isMaking() && !m_isActivating && m_activation != Activation::None && !m_isLeased) {
         if (state == Up)
             lease();
@@ -120,23 +136,23 @@ void NetworkCardLink::deactivate()
     }
     const auto future = m_monitor.worker().submit(
         [by = std::exchange(m_activation, Activation::None), cid = m_plan.contextId](SerialThread &link) {
-            return by == Activation::DataCall ? link.setDataCall(cid, false)
-                                              : link.activatePdpContext(cid, false);
+            endDataCall(link, by == Activation::Context, cid);
+            return true;
         });
-    whenDone(future, this, [this](const std::optional<int> &) { takenDown(); });
+    whenDone(future, this, [this](std::optional<bool>) { takenDown(); });
 }
 
 /// Asks the card to end the data call and does not wait for its answer longer than a person would.
 void NetworkCardLink::abandon()
 {
-    if (m_activation == Activation::None)
+    if (m_activation == Activation::None && !m_isActivating)
         return;
-    constexpr auto patience = 2s;
+    const auto patience = m_isActivating ? 5s : 2s; // first the card has to be done with making the call
     auto ended = std::make_shared<std::promise<void>>();
     std::future<void> end = ended->get_future();
     m_monitor.worker().submit([by = std::exchange(m_activation, Activation::None), cid = m_plan.contextId,
                                ended](SerialThread &link) {
-        by == Activation::DataCall ? link.setDataCall(cid, false) : link.activatePdpContext(cid, false);
+        endDataCall(link, by == Activation::Context, cid);
         ended->set_value();
     });
     end.wait_for(patience);

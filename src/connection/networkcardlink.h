@@ -15,9 +15,13 @@ class NetworkCardLink : public DataLink
 public:
     using DataLink::DataLink;
 
+    /// The card's reports tell of this context alone, whatever dial-up uses.
+    static constexpr int contextId = 1;
+
     void abandon() override;
 
 protected:
+    void slotDelayMessageBox() override;
     void make() override;
     void takeDown() override;
     void look() override;

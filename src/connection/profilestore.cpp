@@ -208,6 +208,11 @@ std::optional<ConnectionProfile> ProfileStore::defaultProfile() const
     return records.size() > 0 ? std::optional(records.at(0)) : std::nullopt;
 }
 
+bool ProfileStore::isDefaultBroken() const
+{
+    return !d->chosen.problem().isEmpty();
+}
+
 bool ProfileStore::setDefault(const QString &name, QString *error)
 {
     const Place place = d->placeOf(name);

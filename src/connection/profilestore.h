@@ -44,6 +44,8 @@ public:
 
     /// The profile that is dialled, as its file has it. None: nothing was chosen, or the file cannot be read.
     std::optional<ConnectionProfile> defaultProfile() const;
+    /// The file of the default profile is there and cannot be read.
+    bool isDefaultBroken() const;
     bool setDefault(const QString &name, QString *error = nullptr);
 
     /// The profile whose IMSI prefix is the longest that begins `imsi`; the first of several. None without

@@ -45,7 +45,7 @@ int SerialThread::setPdpContext(int cid, const QString &type, const QString &apn
 
 int SerialThread::setDataCall(int cid, bool up)
 {
-    m_dataCallState = dataCallIsMade;
+    m_latestDataCallState = dataCallIsMade;
     return outcome(
         transact("AT+JPDPACT=" + QByteArray::number(cid) + (up ? ",1\r\n" : ",0\r\n"), activationTimeout));
 }

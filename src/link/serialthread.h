@@ -138,6 +138,8 @@ public:
     void handleCellBoard(const QString &text);
     /// The last state of "+JPDPACT: 1,<state>", 0..3.
     int dataCallState() const { return m_dataCallState; }
+    /// The same by the order in which reports came, where several came together: "being made" and "up" do.
+    int latestDataCallState() const { return m_latestDataCallState; }
 
     // --- Identity and status
     // ---------------------------------------------------------------------------------------
@@ -243,8 +245,8 @@ public:
     /// "AT+CGDCONT=<cid>,"<type>","<apn>"[,"<address>"]"; an empty address is the network's to choose. -1 as
     /// well for a text that would break out of its quotes. 3GPP TS 27.007 10.1.1.
     int setPdpContext(int cid, const QString &type, const QString &apn, const QString &address);
-    /// "AT+JPDPACT=<cid>,<1|0>": the maker's data call over the network interface. `dataCallState` is 2 until
-    /// the card reports the outcome.
+    /// "AT+JPDPACT=<cid>,<1|0>": the maker's data call over the network interface. `latestDataCallState`
+    /// is 2 until the card reports the outcome.
     int setDataCall(int cid, bool up);
     /// "AT+CGACT=<1|0>,<cid>". 3GPP TS 27.007 10.1.10.
     int activatePdpContext(int cid, bool up);
@@ -289,6 +291,7 @@ private:
     std::atomic<bool> m_portLost = false;
     std::atomic<bool> m_stop = false;
     std::atomic<int> m_dataCallState = 0;
+    std::atomic<int> m_latestDataCallState = 0;
     std::atomic<corva::CardFamily> m_family;
     int m_stopEvent = -1; ///< becomes readable at `requestStop`
     QByteArray m_ahead;   ///< bytes read from the port that no reply has taken yet

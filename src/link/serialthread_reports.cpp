@@ -4,8 +4,18 @@
 #include "serialthread.h"
 #include "shell/commoncfg.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::StringLiterals;
 using corva::Report;
+
+/// The state that the last data-call report of the text tells, or -1.
+static int lastDataCallState(const QString &text)
+{
+    static const QRegularExpression form(u"\\+JPDPACT: 1,([0-3])"_s);
+    QRegularExpressionMatch match;
+    return text.lastIndexOf(form, -1, &match) < 0 ? -1 : match.captured(1).toInt();
+}
 
 void SerialThread::findUpReportAtCmd(QString text)
 {
@@ -13,6 +23,8 @@ void SerialThread::findUpReportAtCmd(QString text)
         return;
     if (text.contains("+JRSSI:"_L1))
         m_radioReport = text.toLatin1();
+    if (const int state = lastDataCallState(text); state >= 0)
+        m_latestDataCallState = state;
     const corva::ReportConditions conditions{
         .deliveryReports = m_owner->wantsDeliveryReports() && m_owner->isReadyForReports(),
         .stkSmsState = m_owner->wantsStkSmsState(),

@@ -6,6 +6,7 @@
 #include "widgets/textlabel.h"
 
 #include <QCheckBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QSpinBox>
 
@@ -37,6 +38,12 @@ QWidget *captioned(const QString &caption, QWidget *control, QWidget *parent)
     return row;
 }
 
+QString numberPrefix()
+{
+    constexpr QChar rightToLeftMark(0x200f);
+    return QGuiApplication::isRightToLeft() ? QString(rightToLeftMark) : QString();
+}
+
 QCheckBox *SettingsPage::settingSwitch(const QString &text, const SettingKey &key)
 {
     auto *box = new QCheckBox(text, this);
@@ -53,6 +60,7 @@ QSpinBox *SettingsPage::settingNumber(const SettingNumber &number)
     auto *box = new QSpinBox(this);
     box->setObjectName(number.key.name);
     box->setRange(number.least, number.most);
+    box->setPrefix(numberPrefix());
     box->setSuffix(number.unit);
     box->setKeyboardTracking(false);
     box->setMinimumHeight(metrics::ControlHeight);

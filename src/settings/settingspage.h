@@ -29,6 +29,10 @@ struct SettingNumber {
 /// A caption with its control behind it, as a row of a settings page. The caption is the control's name.
 QWidget *captioned(const QString &caption, QWidget *control, QWidget *parent);
 
+/// What stands before the number in a field: a field of digits alone would run from left to right, whatever
+/// the window does.
+QString numberPrefix();
+
 /// One group of options, contributed by its subsystem. What a control shows is stored at once: there is
 /// nothing to apply.
 class SettingsPage : public QWidget

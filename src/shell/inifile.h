@@ -14,8 +14,8 @@ public:
     CIniFile() = default;
     explicit CIniFile(const char *path);
 
-    /// 0 on success. 1 when it is no plain file or cannot be read, with a message on the standard output; what
-    /// was loaded before then stays unless a part of the new file was read already.
+    /// 0 on success. 1 when it is no plain file or cannot be read, with a message on the standard output;
+    /// what was loaded before then stays unless a part of the new file was read already.
     int Load(const char *path);
     /// The stored text, or `defaultValue` as it was given. It lives until the next `Set`, `Load` or
     /// `FreeAllTheStuff`.

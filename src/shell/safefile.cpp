@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <csignal>
@@ -246,6 +247,18 @@ bool writeFileSafely(const QString &path, const QByteArray &content, QString *er
 bool writeFileSafely(const QString &path, const QByteArray &content, const FileRights &rights, QString *error)
 {
     return isDone(replace(path, content, &rights), error);
+}
+
+QByteArray readAtMost(const QString &path, qint64 most)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return {};
+    // No more is set aside than is there; a file of the kernel says 0 for its size.
+    QByteArray bytes = file.read(file.size() > 0 ? std::min(file.size(), most) : most);
+    if (file.error() != QFile::NoError)
+        return {};
+    return bytes.isNull() ? QByteArray("") : bytes;
 }
 
 std::optional<FileRights> fileRights(const QString &path)

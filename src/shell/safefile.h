@@ -19,6 +19,11 @@ namespace corva
 /// untouched.
 bool writeFileSafely(const QString &path, const QByteArray &content, QString *error = nullptr);
 
+/// The first `most` bytes of a plain file at most; null when there is none that can be read, and not null for
+/// an empty one. Never waits for a pipe. Ask for one byte more than is allowed to tell a file that is too
+/// large.
+QByteArray readAtMost(const QString &path, qint64 most);
+
 /// What a file has besides its content.
 struct FileRights {
     mode_t mode = 0600; ///< the twelve lower bits

@@ -21,11 +21,8 @@ constexpr qint64 largestFile = 64LL * 1024 * 1024;
 /// Null when there is a file that cannot be read, or is too large to be ours.
 QByteArray readWhole(const QString &path)
 {
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || file.size() > largestFile || !file.open(QIODevice::ReadOnly))
-        return {};
-    QByteArray bytes = file.readAll();
-    return bytes.isNull() ? QByteArray("") : bytes;
+    const QByteArray bytes = readAtMost(path, largestFile + 1);
+    return bytes.size() > largestFile ? QByteArray() : bytes;
 }
 
 /// Reads one file by its parser. Of a broken one the whole is kept beside, and a sentence added.

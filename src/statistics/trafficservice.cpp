@@ -81,6 +81,7 @@ public:
     void end(const QString &how);
     void takeLeftover(RunningSession left);
     void fold(const RunningSession &over);
+    void addHistoryRecord(const HistoryRecord &record);
     void bound();
 
     void checkQuota();
@@ -163,12 +164,16 @@ void TrafficService::Private::fold(const RunningSession &over)
         stored.counted = over.id;
         areTotalsDirty = true;
     }
-    const HistoryRecord record = recordOf(over);
-    if (std::none_of(history.begin(), history.end(), [&](const auto &r) { return r.id == record.id; })) {
-        history.insert(std::upper_bound(history.begin(), history.end(), record, endsEarlier), record);
-        isHistoryDirty = true;
-    }
+    addHistoryRecord(recordOf(over));
     closed = over;
+}
+
+void TrafficService::Private::addHistoryRecord(const HistoryRecord &record)
+{
+    if (std::any_of(history.begin(), history.end(), [&](const auto &r) { return r.id == record.id; }))
+        return;
+    history.insert(std::upper_bound(history.begin(), history.end(), record, endsEarlier), record);
+    isHistoryDirty = true;
 }
 
 /// Keeps what is kept bounded.

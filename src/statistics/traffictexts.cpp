@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QTime>
 #include <algorithm>
 #include <limits>
 
@@ -46,9 +47,10 @@ QString rateText(quint64 bytesPerSecond)
 
 QString durationText(std::chrono::seconds duration)
 {
-    const auto two = [](qint64 number) { return u"%1"_s.arg(number, 2, 10, QChar(u'0')); };
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
     const qint64 all = duration.count();
-    return u"%1:%2:%3"_s.arg(all / 3600).arg(two(all / 60 % 60), two(all % 60));
+    return locale.toString(all / 3600) + locale.toString(QTime(0, 0).addSecs(int(all % 3600)), u":mm:ss");
 }
 
 QString dayText(QDate day)

@@ -225,4 +225,23 @@ void comboBox(const QStyleOptionComboBox &option, QPainter &painter, const QRect
             enabled ? skinColor(SkinRole::Text) : skinColor(SkinRole::DisabledText));
 }
 
+void spinBox(const QStyleOptionSpinBox &option, QPainter &painter, const QRect &up, const QRect &down)
+{
+    const bool isFocused = has(option, QStyle::State_HasFocus);
+    box(painter, option.rect, option.palette.color(QPalette::Base),
+        skinColor(isFocused ? SkinRole::Accent : SkinRole::Line));
+    const auto arrow = [&](const QRect &rect, QAbstractSpinBox::StepEnabledFlag step, QStyle::SubControl part,
+                           Qt::ArrowType direction) {
+        const bool mayStep = has(option, QStyle::State_Enabled) && option.stepEnabled.testFlag(step);
+        const bool isUnderMouse =
+            has(option, QStyle::State_MouseOver) && option.activeSubControls.testFlag(part);
+        chevron(painter, rect, direction,
+                skinColor(!mayStep       ? SkinRole::DisabledText
+                          : isUnderMouse ? SkinRole::Accent
+                                         : SkinRole::Text));
+    };
+    arrow(up, QAbstractSpinBox::StepUpEnabled, QStyle::SC_SpinBoxUp, Qt::UpArrow);
+    arrow(down, QAbstractSpinBox::StepDownEnabled, QStyle::SC_SpinBoxDown, Qt::DownArrow);
+}
+
 } // namespace corva::paint

@@ -39,5 +39,6 @@ void progressContents(const QStyleOption &option, QPainter &painter, const QWidg
 
 void scrollBar(const QStyleOptionSlider &option, QPainter &painter);
 void comboBox(const QStyleOptionComboBox &option, QPainter &painter, const QRect &arrow);
+void spinBox(const QStyleOptionSpinBox &option, QPainter &painter, const QRect &up, const QRect &down);
 
 } // namespace corva::paint

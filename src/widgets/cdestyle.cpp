@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
@@ -229,6 +230,12 @@ void CdeStyle::drawComplexControl(ComplexControl control, const QStyleOptionComp
         paint::comboBox(*combo, *painter, subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget));
         return;
     }
+    const auto *spin = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
+    if (control == CC_SpinBox && spin) {
+        paint::spinBox(*spin, *painter, subControlRect(CC_SpinBox, option, SC_SpinBoxUp, widget),
+                       subControlRect(CC_SpinBox, option, SC_SpinBoxDown, widget));
+        return;
+    }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
@@ -284,6 +291,9 @@ int CdeStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const 
 int CdeStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                         QStyleHintReturn *returnData) const
 {
+    // The line below one letter would part it from the letters that it joins in Arabic.
+    if (hint == SH_UnderlineShortcut && QGuiApplication::isRightToLeft())
+        return 0;
     const auto *row = find(std::begin(styleHints), std::end(styleHints), &HintRow::hint, hint);
     return row ? row->value : QProxyStyle::styleHint(hint, option, widget, returnData);
 }

@@ -28,6 +28,7 @@ struct PageContext {
     TrafficService *traffic = nullptr;
     Connector *connector = nullptr;
     LinkMeter *meter = nullptr;
+    std::function<void()> showDiagnosis; ///< which step keeps the computer offline
 };
 
 /// A page as its subsystem contributes it. It is built when it is first shown.

@@ -29,6 +29,7 @@ constexpr HistoryRow historyRows[] = {
     {ConnectionEnd::ByPerson, historyend::Person},   {ConnectionEnd::ByPeer, historyend::Peer},
     {ConnectionEnd::LinkLost, historyend::LinkLost}, {ConnectionEnd::CardGone, historyend::CardGone},
     {ConnectionEnd::Idle, historyend::Idle},         {ConnectionEnd::Quota, historyend::Quota},
+    {ConnectionEnd::ByProgram, historyend::Program},
 };
 
 QString historyWord(ConnectionEnd end)
@@ -41,9 +42,18 @@ QString historyWord(ConnectionEnd end)
 } // namespace
 
 Services::Services(CardMonitor *monitor, QObject *parent)
+    : Services(
+          monitor,
+          [](CardMonitor *card, ProfileStore *profiles) {
+              return std::make_unique<ConnectionService>(card, profiles);
+          },
+          parent)
+{
+}
+
+Services::Services(CardMonitor *monitor, const MakeConnection &makeConnection, QObject *parent)
     : QObject(parent), m_profiles(std::make_unique<ProfileStore>(basePath + u"/Data"_s)),
-      m_traffic(std::make_unique<TrafficService>()),
-      m_connection(std::make_unique<ConnectionService>(monitor, m_profiles.get()))
+      m_traffic(std::make_unique<TrafficService>()), m_connection(makeConnection(monitor, m_profiles.get()))
 {
     connectParts();
     connect(monitor, &CardMonitor::sigStateChanged, this, [this](const CardState &state) {
@@ -52,7 +62,10 @@ Services::Services(CardMonitor *monitor, QObject *parent)
     });
 }
 
-Services::~Services() = default;
+Services::~Services()
+{
+    m_connection->shutDown(); // while everybody who hears of it is there
+}
 
 void Services::connectParts()
 {
@@ -66,7 +79,9 @@ void Services::connectParts()
     });
     connect(m_traffic.get(), &TrafficService::sigQuotaWarning, this, &Services::sigVolume);
     connect(m_traffic.get(), &TrafficService::sigQuotaReached, this, [this](const QString &sentence) {
-        m_connection->disconnectNow(ConnectionEnd::Quota);
+        // Not from within the status that the counting was begun by: it would be told out of order.
+        QMetaObject::invokeMethod(
+            this, [this] { m_connection->disconnectNow(ConnectionEnd::Quota); }, Qt::QueuedConnection);
         Q_EMIT sigVolume(sentence);
     });
 }

@@ -5,6 +5,7 @@
 #include "connection/ui/linkmeter.h"
 
 #include <QObject>
+#include <functional>
 #include <memory>
 
 namespace corva
@@ -21,7 +22,12 @@ class Services final : public QObject
     Q_OBJECT
 
 public:
+    using MakeConnection =
+        std::function<std::unique_ptr<ConnectionService>(CardMonitor *monitor, ProfileStore *profiles)>;
+
     Services(CardMonitor *monitor, QObject *parent);
+    /// The same over a connection of another make.
+    Services(CardMonitor *monitor, const MakeConnection &makeConnection, QObject *parent);
     /// Hangs up, puts the system's files back, writes the traffic down.
     ~Services() override;
 

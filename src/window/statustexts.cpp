@@ -127,7 +127,8 @@ QString signalText(const CardState &state)
 {
     if (!state.signalDbm)
         return {};
-    return text(QT_TRANSLATE_NOOP("CardStatus", "%1 dBm")).arg(QLocale().toString(*state.signalDbm));
+    // A measure with a Latin unit keeps Latin digits: others would bring a direction of their own along.
+    return text(QT_TRANSLATE_NOOP("CardStatus", "%1 dBm")).arg(*state.signalDbm);
 }
 
 QString signalWithBarsText(const CardState &state)
@@ -135,7 +136,8 @@ QString signalWithBarsText(const CardState &state)
     if (!state.signalDbm)
         return {};
     return text(QT_TRANSLATE_NOOP("CardStatus", "%1, %2 of 5 bars"))
-        .arg(isolated(signalText(state)), QLocale().toString(state.signalBars()));
+        .arg(isolated(signalText(state)))
+        .arg(state.signalBars()); // as the 5 beside it
 }
 
 bool isRegistered(const CardState &state)

@@ -8,6 +8,7 @@
 #include "shell/commonconfig.h"
 #include "shell/endsignals.h"
 #include "shell/logging.h"
+#include "statistics/trafficservice.h"
 #include "widgets/line.h"
 #include "widgets/messagequeue.h"
 #include "widgets/skin.h"
@@ -101,7 +102,8 @@ void WTMainWindow::build()
     m_navigation = new Navigation(this);
     m_pages = new PageHost(standardPages(),
                            {m_monitor, m_reports, m_mender, m_services->connection(), m_services->profiles(),
-                            m_services->traffic(), m_connector, m_services->meter()},
+                            m_services->traffic(), m_connector, m_services->meter(),
+                            [this] { showOfflinePanel(); }},
                            this);
     m_strip = new StatusStrip(this);
     buildMenu(menu);
@@ -197,6 +199,7 @@ void WTMainWindow::connectServices()
         if (m_desktop)
             m_desktop->tell(sentence);
     });
+    connect(m_services->traffic(), &TrafficService::sigProblem, m_strip, &StatusStrip::say);
     connect(m_services->connection(), &ConnectionService::sigStatusChanged, this,
             &WTMainWindow::slotConnectionChanged);
     connect(m_services->connection(), &ConnectionService::sigOpenUrl, this,

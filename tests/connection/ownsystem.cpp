@@ -4,6 +4,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 #include <sched.h>
 #include <sys/mount.h>
@@ -35,12 +36,21 @@ bool becomeRoot()
     return true;
 }
 
+/// A copy, since others may change the system's own meanwhile; without what a dial of theirs left for now.
+void copyEtc()
+{
+    (void)!std::system(
+        "cp -a /etc /run/etc 2>/dev/null; cd /run/etc && "
+        "rm -f tmpwvdial.conf tmpresolv.conf ppp/tmpoptions ppp/peers/tmpwvdial ppp/corva-saved.json");
+}
+
 bool mountAll()
 {
-    return mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-           mount("own", "/run", "tmpfs", 0, nullptr) == 0 && mkdir("/run/lock", 0777) == 0 &&
-           mkdir("/run/upper", 0755) == 0 && mkdir("/run/work", 0755) == 0 &&
-           mount("own", "/etc", "overlay", 0, "lowerdir=/etc,upperdir=/run/upper,workdir=/run/work") == 0 &&
+    if (mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+        mount("own", "/run", "tmpfs", 0, nullptr) != 0 || mkdir("/run/lock", 0777) != 0)
+        return false;
+    copyEtc();
+    return mount("/run/etc", "/etc", nullptr, MS_BIND, nullptr) == 0 &&
            mount("own", "/tmp", "tmpfs", 0, nullptr) == 0;
 }
 

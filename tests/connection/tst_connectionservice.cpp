@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/connectionservice.h"
-#include "connection/diallerbackend.h"
 #include "connection/idlemonitor.h"
 #include "connection/linkfacts.h"
 #include "connection/profilestore.h"
+#include "fakebackend.h"
 #include "fakecardmonitor.h"
 #include "shell/commoncfg.h"
 
@@ -11,43 +11,9 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <map>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
-
-/// Does what a test says, and notes what it was asked for.
-class FakeBackend : public DiallerBackend
-{
-    Q_OBJECT
-
-public:
-    void ask(const DialRequest &request, Answer answer) override
-    {
-        asked += request.verb;
-        last = request;
-        if (holds == request.verb)
-            held = std::move(answer);
-        else
-            reply(request.verb, std::move(answer));
-    }
-    void shutDown() override { isShutDown = true; }
-
-    void reply(DialVerb verb, Answer answer)
-    {
-        QMetaObject::invokeMethod(
-            this, [this, verb, answer = std::move(answer)] { answer(results[verb]); }, Qt::QueuedConnection);
-    }
-    void say(const QByteArray &lines) { Q_EMIT sigOutput(lines); }
-    void beGone() { Q_EMIT sigDiallerGone(); }
-
-    QList<DialVerb> asked;
-    DialRequest last;
-    std::map<DialVerb, DialResult> results;
-    std::optional<DialVerb> holds;
-    Answer held;
-    bool isShutDown = false;
-};
 
 constexpr auto linkComesUp = "--> Using interface ppp0\n--> local  IP address 10.1.2.3\n"
                              "--> remote IP address 10.64.64.64\n--> primary   DNS address 10.64.64.65\n";
@@ -195,6 +161,27 @@ private Q_SLOTS:
         QTEST(m_service->status().end, "end");
         QTEST(m_backend->asked.contains(DialVerb::Recover), "recovers");
         QCOMPARE(m_service->status().endSentence, u"This went wrong."_s);
+    }
+
+    void diallerEndsWithoutAWord()
+    {
+        beginDial();
+        m_backend->beGone();
+        QTRY_COMPARE(m_backend->asked.count(DialVerb::Dial), 2);
+        QCOMPARE(m_service->status().state, ConnectionState::Connecting);
+        m_backend->beGone();
+        QTRY_COMPARE(m_messages, QStringList{u"Connection is failed!"_s});
+        QCOMPARE(m_service->status().end, ConnectionEnd::DiallerFailed);
+    }
+
+    void diallerSaysWhy()
+    {
+        beginDial();
+        m_backend->say("--> Cannot open /dev/ttyUSB1: Device or resource busy\n");
+        m_backend->beGone();
+        QTRY_COMPARE(m_messages, QStringList{u"Connection is failed!"_s});
+        QVERIFY(m_service->status().endSentence.contains(u"Device or resource busy"_s));
+        QCOMPARE(m_backend->asked.count(DialVerb::Dial), 1);
     }
 
     void failedRestoreIsTold()

@@ -20,6 +20,8 @@
 #include <QProcess>
 #include <QTest>
 #include <csignal>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -221,7 +223,7 @@ private Q_SLOTS:
         makeService(std::make_unique<HelperBackend>(QStringList{helperProgram}));
         tell(R"({"command": "dial-result", "result": "silence"})");
         QVERIFY(m_service->connectNow());
-        QTRY_VERIFY_WITH_TIMEOUT(!running("wvdial").empty(), patience);
+        QTRY_VERIFY_WITH_TIMEOUT(!dialler().empty(), patience);
         kill(running("corva-dialhelpe").at(0), SIGKILL);
         QTRY_COMPARE_WITH_TIMEOUT(m_service->status().state, ConnectionState::NotConnected, patience);
         QCOMPARE(m_service->status().end, ConnectionEnd::DiallerFailed);
@@ -303,6 +305,31 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(u"/tmp/connect_info"_s));
     }
 
+    /// The helper's caller has no port but his own.
+    void portOfAnother()
+    {
+        constexpr uid_t nobody = 65534;
+        const QByteArray port = modemPort().toLocal8Bit();
+        if (chown(port.constData(), nobody, gid_t(-1)) != 0)
+            QSKIP("the port cannot be given away here");
+        for (const bool isHis : {true, false}) {
+            QCOMPARE(chown(port.constData(), isHis ? nobody : 0, gid_t(-1)), 0);
+            QCOMPARE(chmod(port.constData(), 0600), 0);
+            QProcess helper;
+            QProcessEnvironment environment;
+            environment.insert(u"PKEXEC_UID"_s, QString::number(nobody));
+            helper.setProcessEnvironment(environment);
+            helper.start(helperProgram, QStringList());
+            helper.write(toLine(request(DialVerb::Save, {})));
+            helper.write(toLine(request(DialVerb::Write, modemPort())));
+            QByteArray said;
+            QTRY_COMPARE_WITH_TIMEOUT((said += helper.readAllStandardOutput()).count("done"), 2, patience);
+            QCOMPARE(said.contains("error"), !isHis);
+            helper.closeWriteChannel();
+            QVERIFY(helper.waitForFinished(patience));
+        }
+    }
+
 private:
     void set(const QString &key, const QString &value)
     {
@@ -338,23 +365,21 @@ private:
     }
 
     static QString modemPort() { return QFileInfo(basePath + u"/card/modem"_s).canonicalFilePath(); }
-    /// This machine may run the same test twice.
-    static bool isInOwnSystem(pid_t pid)
+    static QString worldOf(const QString &process)
     {
-        const auto space = [](const QString &who) {
-            return QFileInfo(QFile::symLinkTarget(u"/proc/%1/ns/mnt"_s.arg(who))).fileName();
-        };
-        return space(QString::number(pid)) == space(u"self"_s);
+        return QFile::symLinkTarget(u"/proc/%1/ns/mnt"_s.arg(process)).section(u'/', -1);
     }
+    /// Processes of this test: the machine may have others of that name.
     static std::vector<pid_t> running(const QByteArray &name)
     {
         std::vector<pid_t> pids;
         for (const QString &entry : QDir(u"/proc"_s).entryList(QDir::Dirs))
             if (const auto stat = processStat(entry.toInt());
-                stat && stat->name == name && !stat->isZombie() && isInOwnSystem(stat->pid))
+                stat && stat->name == name && !stat->isZombie() && worldOf(entry) == worldOf(u"self"_s))
                 pids.push_back(stat->pid);
         return pids;
     }
+    /// The true diallers among them.
     static std::vector<pid_t> dialler()
     {
         std::vector<pid_t> pids = running("wvdial");
@@ -380,12 +405,11 @@ static int dialAndDie(const QString &port)
     basePath = QDir::currentPath();
     OwnBackend backend{SystemFiles()};
     for (const DialVerb verb : {DialVerb::Save, DialVerb::Write, DialVerb::Dial})
-        backend.ask(request(verb, port), [verb](const DialResult &result) {
+        backend.ask(request(verb, port), [](const DialResult &result) {
             if (!result.isDone())
                 QCoreApplication::exit(1);
-            else if (verb == DialVerb::Dial)
-                raise(SIGKILL);
         });
+    QObject::connect(&backend, &DiallerBackend::sigOutput, [] { raise(SIGKILL); });
     return QCoreApplication::exec();
 }
 

@@ -89,19 +89,21 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("state");
-        QTest::newRow("up") << u"+JPDPACT: 1,1\r\n"_s << 1;
-        QTest::newRow("down") << u"+JPDPACT: 1,0\r\n"_s << 0;
-        QTest::newRow("down, then up") << u"+JPDPACT: 1,0\r\n+JPDPACT: 1,1\r\n"_s << 0;
+        QTest::addColumn<int>("latest");
+        QTest::newRow("up") << u"+JPDPACT: 1,1\r\n"_s << 1 << 1;
+        QTest::newRow("down") << u"+JPDPACT: 1,0\r\n"_s << 0 << 0;
+        QTest::newRow("down, then up") << u"+JPDPACT: 1,0\r\n+JPDPACT: 1,1\r\n"_s << 0 << 1;
         QTest::newRow("all, 2 is last in the table")
-            << u"+JPDPACT: 1,2+JPDPACT: 1,3+JPDPACT: 1,0+JPDPACT: 1,1"_s << 2;
-        QTest::newRow("3 beats 0") << u"+JPDPACT: 1,3+JPDPACT: 1,0"_s << 3;
-        QTest::newRow("other context, state kept") << u"+JPDPACT: 2,1\r\n"_s << 3;
+            << u"+JPDPACT: 1,2+JPDPACT: 1,3+JPDPACT: 1,0+JPDPACT: 1,1"_s << 2 << 1;
+        QTest::newRow("3 beats 0") << u"+JPDPACT: 1,3+JPDPACT: 1,0"_s << 3 << 0;
+        QTest::newRow("other context, state kept") << u"+JPDPACT: 2,1\r\n"_s << 3 << 0;
     }
     void dataCallState()
     {
         QFETCH(QString, text);
         m_link.findUpReportAtCmd(text);
         QTEST(m_link.dataCallState(), "state");
+        QTEST(m_link.latestDataCallState(), "latest");
     }
 
 private:

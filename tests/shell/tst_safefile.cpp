@@ -230,6 +230,19 @@ private Q_SLOTS:
         QCOMPARE(contentOf(at("real")), QByteArray("new"));
     }
 
+    void readsNoMoreThanAsked()
+    {
+        put(at("file"), "abcdef");
+        put(at("empty"), "");
+        QCOMPARE(::mkfifo(QFile::encodeName(at("pipe")).constData(), 0600), 0);
+        QCOMPARE(readAtMost(at("file"), 4), QByteArray("abcd"));
+        QCOMPARE(readAtMost(at("file"), 100), QByteArray("abcdef"));
+        QVERIFY(readAtMost(u"/proc/self/cmdline"_s, 4).size() == 4); // says 0 for its size
+        QVERIFY(!readAtMost(at("empty"), 4).isNull());
+        QVERIFY(readAtMost(at("pipe"), 4).isNull()); // nobody writes into it
+        QVERIFY(readAtMost(at("absent"), 4).isNull());
+    }
+
     void keepsNothingWhereNothingIs()
     {
         put(at("empty"), "");

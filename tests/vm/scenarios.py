@@ -37,7 +37,7 @@ class Watch:
         self.moments = {}
         self.conditions = conditions
         self.over = threading.Event()
-        self.thread = threading.Thread(target=self.look)
+        self.thread = threading.Thread(target=self.look, daemon=True)
         self.thread.start()
 
     def look(self):
@@ -99,10 +99,11 @@ def whole_connection(world):
         seconds = world.network.fetch()
         watch = Watch(gone=lambda: not pids("pppd") or not card.network_process() or not interface_is_up())
         begin = program.press_now("Disconnect")
-        ended = program.wait_state("Status: Disconnected", 40) - begin
-        world.etc.wait_same(3)
+        world.etc.wait_same(40)
         restored = time.monotonic() - begin
+        ended = program.wait_state("Status: Disconnected", 40) - begin  # comes when everything is as before
         gone = watch.end().get("gone", begin) - begin
+        assert restored <= gone + 1, f"/etc as before {restored:.1f} s after Disconnect, pppd gone after {gone:.1f} s"
         counted = history(program)[-1]
         received = int(counted["received"])
         assert DOWNLOAD <= received < 1.1 * DOWNLOAD, f"{received} bytes counted of {DOWNLOAD} and their packets"
@@ -145,7 +146,7 @@ def not_taken(world):
             card.say("dial-result", result)
             card.say("log", "clear=on")
             program.press_now("Connect")
-            program.dismiss("onnect")
+            program.dismiss("failed!")
             program.wait_state("Status: Disconnected")
             world.check_clean()
             dials = card.say("log").count('"ATDT*99#"')
@@ -220,6 +221,23 @@ def network_hangs_up(world):
 
 
 @scenario
+def own_name_servers(world):
+    """name servers of one's own are the system's while connected."""
+    resolver = pathlib.Path("/etc/resolv.conf")
+    before = resolver.read_text()
+    own = ["198.51.100.53", "198.51.100.54"]
+    profile = {"obtain DNS": "0", "use DNS": "1", "preNameserver": own[0], "altNameserver": own[1]}
+    with world.card() as card, world.program(profile=profile) as program:
+        program.connect()
+        wait_for("the own name servers", lambda: own == [
+            line.split()[1] for line in resolver.read_text().splitlines() if line.startswith("nameserver")])
+        world.network.ping()
+        program.disconnect()
+        world.check_clean()
+        assert resolver.read_text() == before, "the file behind the link is not as before"
+
+
+@scenario
 def idle(world):
     """a link that carries nothing is ended."""
     with world.card() as card, world.program(network_dialer_setting__autoDisconnect_enabled="1",
@@ -274,7 +292,7 @@ def network_card(world):
         program.dismiss_all()
         card.say("set", "data.activation", "refused")
         program.press_now("Connect")
-        program.dismiss("onnect")
+        program.dismiss("failed!")
         program.wait_state("Status: Disconnected")
         card.say("set", "data.activation", "up")
         program.connect()

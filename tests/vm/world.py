@@ -5,11 +5,13 @@ import hashlib
 import json
 import os
 import pathlib
+import re
 import signal
 import stat
 import subprocess
 import sys
 import tempfile
+import threading
 import time
 
 HERE = pathlib.Path(__file__).resolve().parent
@@ -23,7 +25,10 @@ EXCHANGE = pathlib.Path("/exchange")
 
 
 def run(*words, **options):
-    return subprocess.run([str(word) for word in words], check=True, capture_output=True, text=True, **options).stdout
+    words = [str(word) for word in words]
+    done = subprocess.run(words, capture_output=True, text=True, **options)
+    assert done.returncode == 0, f"{' '.join(words)}: status {done.returncode}, {done.stdout}{done.stderr}".strip()
+    return done.stdout
 
 
 def pids(name):
@@ -49,18 +54,26 @@ class Etc:
                 content = ""
                 if stat.S_ISLNK(about.st_mode):
                     content = os.readlink(path)
+                    if path == "/etc/resolv.conf":
+                        content += pathlib.Path(path).read_text()
                 elif stat.S_ISREG(about.st_mode):
                     content = hashlib.sha256(pathlib.Path(path).read_bytes()).hexdigest()
                 yield path, (about.st_mode, about.st_uid, about.st_gid, content)
 
     def differences(self):
         now = dict(self.look())
-        return sorted(path for path in self.files.keys() | now.keys() if self.files.get(path) != now.get(path))
+        aspects = ("mode", "owner", "group", "content")
+        for path in sorted(self.files.keys() | now.keys()):
+            before, after = self.files.get(path), now.get(path)
+            if before is None or after is None:
+                yield f"{path} ({'new' if before is None else 'gone'})"
+            elif before != after:
+                yield f"{path} ({', '.join(name for name, a, b in zip(aspects, before, after) if a != b)})"
 
     def wait_same(self, seconds=10.0):
         """Returns once /etc is as it was."""
         end = time.monotonic() + seconds
-        while different := self.differences():
+        while different := list(self.differences()):
             assert time.monotonic() < end, f"not as before in /etc: {', '.join(different)}"
             time.sleep(0.1)
 
@@ -85,7 +98,10 @@ class Network:
 
     @staticmethod
     def ping():
-        run("busybox", "ping", "-c", "1", "-W", "5", WEB)
+        """Pings across; "connected" may be said a moment before the route stands."""
+        def answers():
+            return subprocess.run(["busybox", "ping", "-c", "1", "-W", "5", WEB], capture_output=True).returncode == 0
+        wait_for("an answer to a ping", answers, 5)
 
     @staticmethod
     def fetch():
@@ -96,6 +112,49 @@ class Network:
         return time.monotonic() - begin
 
 
+class Recorder:
+    """Keeps a file's last text, also when the file is gone."""
+
+    def __init__(self, path):
+        self.path = pathlib.Path(path)
+        self.text = ""
+        threading.Thread(target=self.look, daemon=True).start()
+
+    def look(self):
+        while True:
+            with contextlib.suppress(OSError):
+                self.text = self.path.read_text(errors="replace") or self.text
+            time.sleep(0.05)
+
+
+class DtrWatch:
+    """Calls `changed` with an interface's number and whether its DTR is up, whenever the computer sets it.
+
+    The gadget's side cannot see it, so it is taken from the driver's own request on the bus, SET_CONTROL_LINE_STATE.
+    """
+
+    TRACING = pathlib.Path("/sys/kernel/tracing")
+    REQUEST, TO_INTERFACE = 0x22, 0x21
+
+    def __init__(self, changed):
+        self.changed = changed
+        if not (self.TRACING / "kprobe_events").exists():
+            run("mount", "-t", "tracefs", "tracefs", self.TRACING)
+        (self.TRACING / "kprobe_events").write_text(
+            "p:linestate usb_control_msg request=%dx:u8 type=%cx:u8 value=%r8:u16 index=%r9:u16\n")
+        event = self.TRACING / "events/kprobes/linestate"
+        (event / "filter").write_text(f"request == {self.REQUEST} && type == {self.TO_INTERFACE}")
+        (event / "enable").write_text("1")
+        threading.Thread(target=self.look, daemon=True).start()
+
+    def look(self):
+        with open(self.TRACING / "trace_pipe") as pipe:
+            for line in pipe:
+                found = re.search(r"value=(\d+) index=(\d+)", line)
+                if found:
+                    self.changed(int(found[2]), bool(int(found[1]) & 1))
+
+
 class GadgetCard(Card):
     """The emulated card behind a USB gadget: /dev/ttyUSB* for the computer, with the network behind its data port."""
 
@@ -103,7 +162,7 @@ class GadgetCard(Card):
 
     def __init__(self, folder, has_network_card=False, auth="noauth", **data):
         self.folder = folder
-        self.auth = auth
+        self.hang_up = threading.Timer(0, self.end_call, [None])
         functions = ["gser.0", "gser.1", "gser.2"] + (["ecm.0"] if has_network_card else [])
         run(HERE / "gadget", "make", "1209", "0001", *functions)
         profile = {"line": {"dialResult": "CONNECT"},
@@ -118,6 +177,23 @@ class GadgetCard(Card):
                                         stdout=self.output, stderr=self.output)
         wait_for("the card's control socket", (folder / "control").exists)
         self.plug()
+
+    def dtr_changed(self, interface, is_up):
+        """A lowered DTR ends the call. Not at once: pppd says goodbye over the line at the same moment, and cannot be told
+        that it is dead, since the gadget has no carrier detect either. Raised again meanwhile, it ends it at once."""
+        if interface != self.INTERFACES["modem"]:
+            return
+        waits = self.hang_up.is_alive()
+        self.hang_up.cancel()
+        if waits or not is_up:
+            call = self.hang_up.args[0] if waits else self.network_process()
+            self.hang_up = threading.Timer(0 if is_up else 3, self.end_call, [call])
+            self.hang_up.start()
+
+    def end_call(self, call):
+        with contextlib.suppress(subprocess.CalledProcessError):
+            if call and self.network_process() == call:
+                self.say("drop-data")
 
     @staticmethod
     def peer(*options):
@@ -215,7 +291,7 @@ class Internet(Program):
         return None
 
     def state(self):
-        self.state_node.clear_cache_single()
+        self.state_node.clear_cache()
         return self.state_node.get_name()
 
     def wait_state(self, state, seconds=60.0):
@@ -258,6 +334,9 @@ class Internet(Program):
 def prepare_system():
     """The system's own dialler files, with contents, modes and owners that a careless restore would not bring back."""
     dip = int(run("getent", "group", "dip").split(":")[2])
+    for left in ("/etc/tmpwvdial.conf", "/etc/tmpresolv.conf", "/etc/ppp/tmpoptions", "/etc/ppp/peers/tmpwvdial",
+                 "/etc/ppp/corva-saved.json"):
+        pathlib.Path(left).unlink(missing_ok=True)
     for path, text, mode, group in (
             ("/etc/wvdial.conf", "[Dialer Defaults]\nModem = /dev/modem\nPhone = 5550100\n", 0o640, dip),
             ("/etc/ppp/options", "# the owner's options\r\nlock\r\n", 0o640, dip),
@@ -284,6 +363,9 @@ class World:
         prepare_system()
         self.network = Network(self.folder)
         self.etc = Etc()
+        self.dialler_words = Recorder("/tmp/connect_info")
+        self.current_card = None
+        DtrWatch(lambda interface, is_up: self.current_card and self.current_card.dtr_changed(interface, is_up))
         self.count = 0
 
     def new_folder(self, name):
@@ -292,10 +374,11 @@ class World:
 
     @contextlib.contextmanager
     def card(self, **options):
-        card = GadgetCard(self.new_folder("card"), **options)
+        self.current_card = card = GadgetCard(self.new_folder("card"), **options)
         try:
             yield card
         finally:
+            self.current_card = None
             card.end()
 
     @contextlib.contextmanager
@@ -315,7 +398,14 @@ class World:
             run("import", "-window", "root", EXCHANGE / f"failed{self.count}.png")
         with contextlib.suppress(Exception):
             print("      shown:", "; ".join(program.texts()))
-        for source, name in ((program.folder / "output.txt", "output"), (pathlib.Path("/tmp/connect_info"), "connect_info"),
+        with open(EXCHANGE / f"failed{self.count}-system.txt", "w") as log:
+            for words in ("ip -s address", "ip route", "ip -n net -s address", "ip -n net route", "ps ax", "ls -lR /etc/ppp",
+                          "cat /etc/ppp/options", "dmesg"):
+                log.write(f"=== {words}\n")
+                log.flush()
+                subprocess.run(words.split(), stdout=log, stderr=log)
+        (EXCHANGE / f"failed{self.count}-dialler.txt").write_text(self.dialler_words.text)
+        for source, name in ((program.folder / "output.txt", "output"),
                              (pathlib.Path("/tmp/network-side.log"), "network-side")):
             with contextlib.suppress(Exception):
                 (EXCHANGE / f"failed{self.count}-{name}.txt").write_bytes(source.read_bytes())

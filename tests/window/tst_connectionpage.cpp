@@ -194,6 +194,36 @@ private Q_SLOTS:
         QCOMPARE(storedDefault().name(), u"Mine"_s);
     }
 
+    void roamingThatBeginsMeanwhileIsAskedAbout()
+    {
+        cmcfg.setValue(u"network_dialer_setting"_s, u"roaming_question"_s, u"Really?"_s);
+        ConnectionProfile asking = profile(u"Mine"_s);
+        asking.setOn(ProfileField::AsksUserName, true);
+        open({asking});
+        button(u"isConnectButton"_s)->click();
+        fakeconnection::setObstacle(ConnectObstacle::Roaming);
+        auto *dialog = shown<QDialog>(m_window.get(), u"credentials"_s);
+        shown<QPushButton>(dialog, u"connectWith"_s)->click();
+        QCOMPARE(fakeconnection::takeCalls(), QStringList());
+        auto *box = shown<QMessageBox>(m_window.get(), u"messageBox"_s);
+        QCOMPARE(box->text(), u"Really?"_s);
+        box->button(QMessageBox::Yes)->click();
+        QCOMPARE(fakeconnection::takeCalls(), QStringList{u"connect /"_s});
+        cmcfg.setValue(u"network_dialer_setting"_s, u"roaming_question"_s, {});
+    }
+
+    void aBrokenDefaultIsNotReplacedSilently()
+    {
+        const QString path = basePath + u"/Data/defaultRecord.conf"_s;
+        QVERIFY(QDir().mkpath(path)); // cannot be read as a file
+        open({}, onlyOneOperator);
+        QTRY_VERIFY(said(m_window.get(), u"connectionSentence"_s).startsWith(u"The settings of"_s));
+        button(u"isConnectButton"_s)->click();
+        QCOMPARE(fakeconnection::takeCalls(), QStringList{u"connect"_s}); // which refuses with a sentence
+        QVERIFY(QFileInfo(path).isDir());
+        QVERIFY(ProfileStore(basePath + u"/Data"_s).list().isEmpty());
+    }
+
     void asksForThePassword_data()
     {
         QTest::addColumn<bool>("keeps");

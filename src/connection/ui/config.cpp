@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -89,9 +90,10 @@ Config::Config(ProfileStore *profiles, const QString &name, QWidget *parent)
     auto *head = new TextLabel(title, TextRole::Title, this);
     head->setContentsMargins(metrics::PageMargin, 0, metrics::PageMargin, 0);
     layout->addWidget(head);
-    layout->addWidget(buildForm(), 1);
+    QScrollArea *form = buildForm();
+    layout->addWidget(form, 1);
     layout->addWidget(buildButtons());
-    resize(usualSize.boundedTo(screen()->availableSize() - QSize(screenEdge, 3 * screenEdge)));
+    takeSize(*form);
     load();
     if (m_isReadOnly)
         setReadOnly();
@@ -99,7 +101,20 @@ Config::Config(ProfileStore *profiles, const QString &name, QWidget *parent)
     showField(ProfileField::Name);
 }
 
-QWidget *Config::buildForm()
+/// As wide as the longest captions need in this language; on a screen without that room they wrap.
+void Config::takeSize(const QScrollArea &form)
+{
+    const QSize room = screen()->availableSize() - QSize(screenEdge, 3 * screenEdge);
+    const int width = form.widget()->minimumSizeHint().width() + form.verticalScrollBar()->sizeHint().width();
+    if (width > room.width()) {
+        const auto captions = form.widget()->findChildren<TextLabel *>();
+        for (TextLabel *caption : captions)
+            caption->setWordWrap(true);
+    }
+    resize(usualSize.expandedTo({width, 0}).boundedTo(room));
+}
+
+QScrollArea *Config::buildForm()
 {
     auto *content = new QWidget(this);
     auto *form = new QVBoxLayout(content);

@@ -10,6 +10,7 @@
 class QCheckBox;
 class QComboBox;
 class QPushButton;
+class QScrollArea;
 class QVBoxLayout;
 
 namespace corva
@@ -37,7 +38,8 @@ Q_SIGNALS:
     void sigSaved(const QString &name);
 
 private:
-    QWidget *buildForm();
+    QScrollArea *buildForm();
+    void takeSize(const QScrollArea &form);
     QWidget *buildButtons();
     void addRow(QVBoxLayout *form, std::initializer_list<QWidget *> widgets);
     void buildGeneral(QVBoxLayout *form);

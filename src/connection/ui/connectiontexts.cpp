@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QTime>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -61,9 +62,10 @@ bool isWorthAsking(const ConnectionStatus &status)
 QString elapsedText(std::chrono::seconds elapsed)
 {
     const qint64 seconds = std::max<qint64>(elapsed.count(), 0);
-    return u"%1:%2:%3"_s.arg(seconds / 3600)
-        .arg(seconds / 60 % 60, 2, 10, QChar(u'0'))
-        .arg(seconds % 60, 2, 10, QChar(u'0'));
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(seconds / 3600) +
+           locale.toString(QTime(0, 0).addSecs(int(seconds % 3600)), u":mm:ss");
 }
 
 } // namespace corva

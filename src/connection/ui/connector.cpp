@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/ui/connector.h"
 
-#include "connection/connectionservice.h"
+#include "connection/dialleroptions.h"
 #include "connection/profilestore.h"
+#include "connection/simprofile.h"
 #include "connection/ui/choicedialog.h"
 #include "connection/ui/credentialsdialog.h"
 #include "device/cardmonitor.h"
@@ -22,13 +23,6 @@ namespace corva
 
 namespace
 {
-
-/// Whether a profile is for this SIM. One without a prefix is for all; of a SIM that has not told its number
-/// nothing can be said against it.
-bool isFor(const ConnectionProfile &profile, const QString &imsi)
-{
-    return imsi.isEmpty() || imsi.startsWith(profile.text(ProfileField::Imsi).trimmed());
-}
 
 ChoiceDialog::Choice choiceOf(const ApnProposal &proposal)
 {
@@ -72,6 +66,7 @@ void Connector::connectNow()
 {
     if (isActive() || m_dialog)
         return;
+    m_mayRoam = false;
     switch (m_connection->obstacle()) {
     case ConnectObstacle::CallOnOtherNetwork:
         m_messages->tell(tr("Only UMTS network can connect while calling!"));
@@ -79,10 +74,7 @@ void Connector::connectNow()
     case ConnectObstacle::CardGone:
         m_messages->tell(tr("The device has been disconnected or is unavailable."));
         return;
-    case ConnectObstacle::Roaming:
-        m_messages->ask(tr("You are connecting to a roaming network. Would you like to continue?"),
-                        [this] { findProfile(); });
-        return;
+    case ConnectObstacle::Roaming: askAboutRoaming([this] { findProfile(); }); return;
     case ConnectObstacle::None: break;
     }
     findProfile();
@@ -92,6 +84,8 @@ void Connector::searchProposals()
 {
     if (m_imsi == m_monitor->state().identity.imsi)
         return;
+    if (!m_imsi.isEmpty()) // another SIM is not dialled because of a press that was meant for this one
+        m_connectsThen = false;
     m_imsi = m_monitor->state().identity.imsi;
     m_proposals.clear();
     m_isSearching = true;
@@ -118,7 +112,11 @@ void Connector::findProfile()
 {
     const QString &imsi = m_monitor->state().identity.imsi;
     const auto chosen = m_profiles->defaultProfile();
-    if (chosen && isFor(*chosen, imsi)) {
+    if (m_profiles->isDefaultBroken()) {
+        dial(); // the service says so; the person chooses anew
+        return;
+    }
+    if (chosen && isForSim(*chosen, imsi)) {
         askForCredentials();
         return;
     }
@@ -139,7 +137,7 @@ void Connector::findProposal()
     }
     QStringList names;
     for (const ConnectionProfile &profile : m_profiles->list())
-        if (profile.isShown() && isFor(profile, m_imsi))
+        if (profile.isShown() && isForSim(profile, m_imsi))
             names += profile.name();
     if (names.size() == 1)
         useProfile(names.first());
@@ -212,7 +210,7 @@ void Connector::askForCredentials()
     connect(dialog, &CredentialsDialog::sigEntered, this,
             [this, profile](const QString &userName, const QString &password, bool keep) {
                 if (!keep) {
-                    m_connection->connectNow(DialCredentials{userName, password});
+                    dial(DialCredentials{profile->name(), userName, password});
                     return;
                 }
                 ConnectionProfile kept = *profile;
@@ -229,9 +227,24 @@ void Connector::askForCredentials()
     open(dialog);
 }
 
-void Connector::dial()
+void Connector::askAboutRoaming(const std::function<void()> &goOn)
 {
-    m_connection->connectNow();
+    const QString own = DiallerOptions::fromConfiguration().roamingQuestion;
+    m_messages->ask(own.isEmpty() ? tr("You are connecting to a roaming network. Would you like to continue?")
+                                  : own,
+                    [this, goOn] {
+                        m_mayRoam = true;
+                        goOn();
+                    });
+}
+
+/// Roaming may have begun while the person was at another step.
+void Connector::dial(const std::optional<DialCredentials> &credentials)
+{
+    if (!m_mayRoam && m_connection->obstacle() == ConnectObstacle::Roaming)
+        askAboutRoaming([this, credentials] { dial(credentials); });
+    else
+        m_connection->connectNow(credentials);
 }
 
 void Connector::open(QDialog *dialog)

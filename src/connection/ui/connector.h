@@ -2,10 +2,12 @@
 #pragma once
 
 #include "connection/apnproposals.h"
-#include "connection/connectionstate.h"
+#include "connection/connectionservice.h"
 
 #include <QObject>
 #include <QPointer>
+#include <functional>
+#include <optional>
 #include <vector>
 
 class QDialog;
@@ -15,7 +17,6 @@ namespace corva
 {
 
 class CardMonitor;
-class ConnectionService;
 class MessageQueue;
 class ProfileStore;
 
@@ -61,7 +62,8 @@ private:
     void chooseProfile(const QStringList &names);
     void useProfile(const QString &name);
     void askForCredentials();
-    void dial();
+    void askAboutRoaming(const std::function<void()> &goOn);
+    void dial(const std::optional<DialCredentials> &credentials = std::nullopt);
     void open(QDialog *dialog);
     void complain(const QString &error);
 
@@ -73,6 +75,7 @@ private:
     QPointer<QDialog> m_dialog; ///< the step that the person is at
     QString m_imsi;             ///< whose proposals they are
     bool m_isSearching = false;
+    bool m_mayRoam = false;      ///< the person was asked for this dial
     bool m_connectsThen = false; ///< Connect was pressed and waits for the search
     std::vector<ApnProposal> m_proposals;
 };

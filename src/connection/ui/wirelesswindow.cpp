@@ -11,7 +11,6 @@
 #include "device/cardmonitor.h"
 #include "widgets/skin.h"
 #include "widgets/textlabel.h"
-#include "window/mender.h"
 
 #include <QHBoxLayout>
 #include <QScrollArea>
@@ -34,7 +33,7 @@ WirelessWindow::WirelessWindow(const PageInfo &info, const PageContext &context,
 {
     build();
     connect(m_head, &ConnectionHead::sigPressed, this, &WirelessWindow::isConnectButton_clicked);
-    connect(m_head, &ConnectionHead::sigWhy, context.mender, &Mender::sigDiagnosisWanted);
+    connect(m_head, &ConnectionHead::sigWhy, this, context.showDiagnosis);
     connect(m_profiles, &ProfileList::sigSaid, this, &WirelessWindow::say);
     connect(context.connection, &ConnectionService::sigStatusChanged, this, &WirelessWindow::takeStatus);
     connect(context.monitor, &CardMonitor::sigStateChanged, this, &WirelessWindow::takeStatus);

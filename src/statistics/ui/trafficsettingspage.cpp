@@ -27,7 +27,7 @@ constexpr int megabytesPerGigabyte = 1000;
 constexpr double mostVolume = 999'999;
 const QString section = u"statistics"_s;
 
-QWidget *captioned(const QString &caption, const std::vector<QWidget *> &controls, QWidget *parent)
+QWidget *captionedRow(const QString &caption, const std::vector<QWidget *> &controls, QWidget *parent)
 {
     auto *row = new QWidget(parent);
     auto *name = new TextLabel(caption, TextRole::Text, row);
@@ -61,11 +61,9 @@ TrafficSettingsPage::TrafficSettingsPage(QWidget *parent) : SettingsPage(parent)
     layout->addStretch(1);
 }
 
-void TrafficSettingsPage::store(const QString &key, int value)
+void TrafficSettingsPage::storeNumber(const QString &key, int value)
 {
-    cmcfg.setValue(section, key, QString::number(value));
-    const QString error = cmcfg.lastError();
-    Q_EMIT sigSaid(error.isEmpty() ? QString() : tr("This could not be stored: %1").arg(error));
+    store(section, key, QString::number(value));
 }
 
 QWidget *TrafficSettingsPage::buildVolume(const QString &caption, const QString &none, const QString &key,
@@ -84,6 +82,7 @@ QWidget *TrafficSettingsPage::buildVolume(const QString &caption, const QString 
     amount->setObjectName(id);
     amount->setAccessibleName(QString(caption).remove(u'&'));
     amount->setRange(0, mostVolume);
+    amount->setPrefix(numberPrefix());
     amount->setSpecialValueText(none);
     amount->setMinimumWidth(numberWidth);
     amount->setKeyboardTracking(false);
@@ -96,11 +95,12 @@ QWidget *TrafficSettingsPage::buildVolume(const QString &caption, const QString 
         amount->blockSignals(isBlocked);
     };
     fit(megabytes, unit->currentData().toInt());
-    connect(amount, &QDoubleSpinBox::valueChanged, this,
-            [this, unit, key](double value) { store(key, qRound(value * unit->currentData().toInt())); });
+    connect(amount, &QDoubleSpinBox::valueChanged, this, [this, unit, key](double value) {
+        storeNumber(key, qRound(value * unit->currentData().toInt()));
+    });
     connect(unit, &QComboBox::activated, this,
             [fit, unit, key] { fit(qMax(0, cmcfg.getNumber(section, key)), unit->currentData().toInt()); });
-    return captioned(caption, {amount, unit}, this);
+    return captionedRow(caption, {amount, unit}, this);
 }
 
 QWidget *TrafficSettingsPage::buildNumber(const QString &caption, const QString &key, int least, int most,
@@ -110,14 +110,15 @@ QWidget *TrafficSettingsPage::buildNumber(const QString &caption, const QString 
     number->setObjectName(key);
     number->setAccessibleName(QString(caption).remove(u'&'));
     number->setRange(least, most);
+    number->setPrefix(numberPrefix());
     number->setSuffix(suffix);
     number->setMinimumWidth(numberWidth);
     number->setKeyboardTracking(false);
     if (least == 0)
         number->setSpecialValueText(tr("Never"));
     number->setValue(cmcfg.getNumber(section, key));
-    connect(number, &QSpinBox::valueChanged, this, [this, key](int value) { store(key, value); });
-    return captioned(caption, {number}, this);
+    connect(number, &QSpinBox::valueChanged, this, [this, key](int value) { storeNumber(key, value); });
+    return captionedRow(caption, {number}, this);
 }
 
 QWidget *TrafficSettingsPage::buildEnd()
@@ -126,7 +127,8 @@ QWidget *TrafficSettingsPage::buildEnd()
     box->setObjectName(u"end_at_quota"_s);
     box->setChecked(cmcfg.getNumber(section, u"end_at_quota"_s) == 1);
     box->setMinimumHeight(metrics::ControlHeight);
-    connect(box, &QCheckBox::toggled, this, [this](bool isOn) { store(u"end_at_quota"_s, isOn ? 1 : 0); });
+    connect(box, &QCheckBox::toggled, this,
+            [this](bool isOn) { storeNumber(u"end_at_quota"_s, isOn ? 1 : 0); });
     return box;
 }
 

@@ -19,7 +19,7 @@ private:
     QWidget *buildNumber(const QString &caption, const QString &key, int least, int most,
                          const QString &suffix);
     QWidget *buildEnd();
-    void store(const QString &key, int value);
+    void storeNumber(const QString &key, int value);
 };
 
 SettingsEntry trafficSettingsEntry();

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "connection/simprofile.h"
+
+#include "connection/profilestore.h"
+
+namespace corva
+{
+
+bool isForSim(const ConnectionProfile &profile, const QString &imsi)
+{
+    return imsi.isEmpty() || imsi.startsWith(profile.text(ProfileField::Imsi).trimmed());
+}
+
+std::optional<ConnectionProfile> profileForSim(const ProfileStore &profiles, const QString &imsi)
+{
+    const auto chosen = profiles.defaultProfile();
+    if ((chosen && isForSim(*chosen, imsi)) || profiles.isDefaultBroken())
+        return chosen;
+    return profiles.profileFor(imsi);
+}
+
+bool isSimKnown(const ProfileStore &profiles, const QString &imsi)
+{
+    const auto chosen = profiles.defaultProfile();
+    return !imsi.isEmpty() || (chosen && chosen->text(ProfileField::Imsi).trimmed().isEmpty());
+}
+
+} // namespace corva

@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The data call over the card's own network interface, on the emulated card. Who gets the address is a fake.
+#include "cardthread.h"
+#include "connection/connectionservice.h"
+#include "connection/linkfacts.h"
+#include "connection/profilestore.h"
+#include "device/cardmonitor.h"
+#include "fakebackend.h"
+#include "linktest.h"
+#include "shell/commoncfg.h"
+#include "shell/globals.h"
+
+#include <QDir>
+#include <QJsonDocument>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace corva;
+
+constexpr int patience = 20000; // ms, for what takes a moment on a busy machine
+
+class TestNetworkCard : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        basePath = m_folder.path();
+        QVERIFY(QDir().mkpath(basePath + u"/Data"_s));
+        cmcfg.setValue(u"device"_s, u"at_port"_s, basePath + u"/card/at"_s);
+        cmcfg.setValue(u"device"_s, u"modem_port"_s, basePath + u"/card/modem"_s);
+        cmcfg.setValue(u"device"_s, u"network_interface"_s, u"wwan0"_s);
+        cmcfg.setValue(u"network_dialer_setting"_s, u"send_nullatcommand_timer_100ms"_s, u"10"_s);
+        cmcfg.setValue(u"network_dialer_setting"_s, u"dial_timeout"_s, u"30"_s);
+        m_owner.onFind = [this] { m_monitor->findPorts(false); };
+    }
+    void cleanup()
+    {
+        m_service.reset();
+        m_monitor.reset();
+        m_card.reset();
+    }
+
+    void upAndDown_data()
+    {
+        QTest::addColumn<QString>("card");
+        QTest::addColumn<QByteArray>("up");
+        QTest::addColumn<QByteArray>("down");
+        QTest::newRow("the maker's command")
+            << u"wcdma"_s << QByteArray("AT+JPDPACT=1,1") << QByteArray("AT+JPDPACT=1,0");
+        QTest::newRow("the standard's")
+            << u"standard"_s << QByteArray("AT+CGACT=1,1") << QByteArray("AT+CGACT=0,1");
+    }
+    void upAndDown()
+    {
+        QFETCH(QString, card);
+        QFETCH(QByteArray, up);
+        QFETCH(QByteArray, down);
+        begin(card);
+        QVERIFY(m_service->connectNow());
+        QTRY_COMPARE_WITH_TIMEOUT(status().state, ConnectionState::Connected, patience);
+        QCOMPARE(status().kind, LinkKind::NetworkCard);
+        QCOMPARE(status().interfaceName, u"wwan0"_s);
+        QCOMPARE(m_backend->asked.mid(0, 2), (QList{DialVerb::Save, DialVerb::Lease}));
+        QVERIFY(heard().contains(up) && !heard().contains(down));
+
+        m_service->disconnectNow();
+        QTRY_COMPARE_WITH_TIMEOUT(status().state, ConnectionState::NotConnected, patience);
+        QCOMPARE(m_backend->asked.mid(3), (QList{DialVerb::Release, DialVerb::Recover}));
+        QVERIFY(heard().contains(down));
+        QCOMPARE(m_messages, QStringList());
+    }
+
+    void refusedByTheNetwork_data()
+    {
+        QTest::addColumn<QString>("card");
+        QTest::newRow("by a report") << u"wcdma"_s;
+        QTest::newRow("by an error") << u"standard"_s;
+    }
+    void refusedByTheNetwork()
+    {
+        QFETCH(QString, card);
+        begin(card);
+        tell(R"({"command": "set", "key": "data.accessPoint", "value": "elsewhere"})");
+        QVERIFY(m_service->connectNow());
+        QTRY_COMPARE_WITH_TIMEOUT(m_messages, QStringList{u"Connection is failed!"_s}, patience);
+        QCOMPARE(status().end, ConnectionEnd::NoCarrier);
+        QVERIFY(!m_backend->asked.contains(DialVerb::Lease));
+        QCOMPARE(m_backend->asked.last(), DialVerb::Recover);
+    }
+
+    void noAddress()
+    {
+        begin(u"wcdma"_s);
+        m_backend->results[DialVerb::Lease] = {DialResult::Kind::Failed, u"The network gave no address."_s};
+        QVERIFY(m_service->connectNow());
+        QTRY_COMPARE_WITH_TIMEOUT(m_messages, QStringList{u"The network gave no address."_s}, patience);
+        QVERIFY(heard().contains("AT+JPDPACT=1,0"));
+    }
+
+    void endedByTheNetwork()
+    {
+        begin(u"wcdma"_s);
+        QVERIFY(m_service->connectNow());
+        QTRY_COMPARE_WITH_TIMEOUT(status().state, ConnectionState::Connected, patience);
+        tell(R"({"command": "drop-data"})");
+        QTRY_COMPARE_WITH_TIMEOUT(status().state, ConnectionState::NotConnected, patience);
+        QCOMPARE(status().end, ConnectionEnd::ByPeer);
+    }
+
+    void cancelledWhileTheAddressIsAskedFor()
+    {
+        begin(u"wcdma"_s);
+        m_backend->holds = DialVerb::Lease;
+        QVERIFY(m_service->connectNow());
+        QTRY_VERIFY_WITH_TIMEOUT(m_backend->held, patience);
+        m_service->disconnectNow();
+        m_backend->held({DialResult::Kind::Failed, u"cancelled"_s});
+        QTRY_COMPARE_WITH_TIMEOUT(status().state, ConnectionState::NotConnected, patience);
+        QVERIFY(heard().contains("AT+JPDPACT=1,0"));
+        QCOMPARE(m_messages, QStringList());
+    }
+
+    void endOfTheProgram()
+    {
+        begin(u"wcdma"_s);
+        QVERIFY(m_service->connectNow());
+        QTRY_COMPARE_WITH_TIMEOUT(status().state, ConnectionState::Connected, patience);
+        m_service->shutDown();
+        QVERIFY(heard().contains("AT+JPDPACT=1,0"));
+    }
+
+private:
+    void begin(const QString &card)
+    {
+        resetLinkGlobals();
+        m_messages.clear();
+        m_card = std::make_unique<cardemu::CardThread>(
+            std::get<cardemu::Profile>(cardemu::Profile::builtIn(card)));
+        QCOMPARE(m_card->start(basePath + u"/card"_s), QString());
+        m_monitor = std::make_unique<CardMonitor>(&m_owner);
+        m_monitor->start();
+        QTRY_VERIFY_WITH_TIMEOUT(m_monitor->state().modemReady, patience);
+
+        m_store = std::make_unique<ProfileStore>(basePath + u"/Data"_s);
+        ConnectionProfile profile = ProfileStore::newProfile();
+        profile.setText(ProfileField::Name, u"Stick"_s);
+        profile.setText(ProfileField::Apn, u"internet"_s);
+        profile.setOn(ProfileField::UsesApn, true);
+        profile.setLinkKind(LinkKind::Automatic);
+        if (m_store->list().isEmpty())
+            QVERIFY(m_store->add(profile) && m_store->setDefault(u"Stick"_s));
+        ConnectionParts parts;
+        auto backend = std::make_unique<FakeBackend>();
+        m_backend = backend.get();
+        parts.backend = std::move(backend);
+        parts.facts = [](const QString &name) {
+            LinkFacts facts;
+            facts.interfaceName = name;
+            facts.isUp = true;
+            facts.localAddress = u"192.0.2.7"_s;
+            return facts;
+        };
+        m_service = std::make_unique<ConnectionService>(m_monitor.get(), m_store.get(), std::move(parts));
+        connect(m_service.get(), &ConnectionService::sigMessage, this,
+                [this](const QString &text) { m_messages += text; });
+    }
+    void tell(const QByteArray &json)
+    {
+        const QJsonObject answer = m_card->control(json);
+        QVERIFY2(answer[u"ok"_s].toBool(), qPrintable(answer[u"error"_s].toString()));
+    }
+    QByteArray heard()
+    {
+        return QJsonDocument(m_card->control(R"({"command": "log", "last": 1000})")).toJson();
+    }
+    const ConnectionStatus &status() const { return m_service->status(); }
+
+    ScratchFolder m_folder;
+    FakeOwner m_owner;
+    QStringList m_messages;
+    std::unique_ptr<cardemu::CardThread> m_card;
+    std::unique_ptr<CardMonitor> m_monitor;
+    std::unique_ptr<ProfileStore> m_store;
+    std::unique_ptr<ConnectionService> m_service;
+    FakeBackend *m_backend = nullptr; ///< belongs to the service
+};
+
+QTEST_GUILESS_MAIN(TestNetworkCard)
+#include "tst_networkcard.moc"
