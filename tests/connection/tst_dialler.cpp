@@ -19,6 +19,7 @@
 #include <QJsonDocument>
 #include <QProcess>
 #include <QTest>
+#include <array>
 #include <csignal>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -353,11 +354,19 @@ private:
     }
 
     static QString modemPort() { return QFileInfo(basePath + u"/card/modem"_s).canonicalFilePath(); }
+    /// In this test's own system: others may run the same test.
     static std::vector<pid_t> running(const QByteArray &name)
     {
+        const auto systemOf = [](const QString &process) {
+            std::array<char, 64> link = {};
+            const QByteArray path = "/proc/" + process.toLatin1() + "/ns/mnt";
+            const auto size = readlink(path.constData(), link.data(), link.size());
+            return QByteArray(link.data(), qMax<qsizetype>(size, 0));
+        };
         std::vector<pid_t> pids;
         for (const QString &entry : QDir(u"/proc"_s).entryList(QDir::Dirs))
-            if (const auto stat = processStat(entry.toInt()); stat && stat->name == name && !stat->isZombie())
+            if (const auto stat = processStat(entry.toInt());
+                stat && stat->name == name && !stat->isZombie() && systemOf(entry) == systemOf(u"self"_s))
                 pids.push_back(stat->pid);
         return pids;
     }
