@@ -32,6 +32,8 @@ public:
 
     /// The interface that has an address from here, or is asking for one.
     const QString &leasedInterface() const { return m_leased; }
+    /// Whether the dialler's files hold what was asked for last, and it may be started.
+    bool isWritten() const { return m_isWritten; }
     /// How many requests are not answered yet.
     std::size_t waitingCount() const { return m_requests.size(); }
 
@@ -64,8 +66,8 @@ private:
     std::deque<DialRequest> m_requests; ///< the first is being carried out, while busy
     bool m_isBusy = false;
     bool m_hasSaved = false;
-    bool m_isWritten = false; ///< the dialler's files hold what was asked for last
-    bool m_isLinked = false;  ///< the dialler runs, or an interface has its address from here
+    bool m_isWritten = false;
+    bool m_isLinked = false; ///< the dialler runs, or an interface has its address from here
     bool m_isShuttingDown = false;
 };
 

@@ -217,6 +217,34 @@ private Q_SLOTS:
         QCOMPARE(etcAsText(), m_before);
     }
 
+    /// The question for the password is open, or was answered with "no".
+    void withoutRights_data()
+    {
+        QTest::addColumn<QString>("question");
+        QTest::newRow("refused") << u"echo x >> asked; exit 126"_s;
+        QTest::newRow("cancelled") << u"echo x >> asked; exec sleep 600"_s;
+    }
+    void withoutRights()
+    {
+        QFETCH(QString, question);
+        QFile asked(m_folder->filePath(u"asked"_s));
+        HelperBackend backend({u"sh"_s, u"-c"_s, question});
+        int refused = 0;
+        const auto count = [&refused](const DialResult &result) {
+            refused += result.kind == DialResult::Kind::NoRights ? 1 : 100;
+        };
+        for (int link = 1; link <= 2; ++link) {
+            backend.ask({.verb = DialVerb::Save}, count);
+            QTRY_VERIFY_WITH_TIMEOUT(asked.size() == 2 * link, patience);
+            backend.giveUpAsking();
+            QTRY_COMPARE_WITH_TIMEOUT(refused, 2 * link - 1, patience);
+            backend.ask({.verb = DialVerb::Recover}, count);
+            QTRY_COMPARE_WITH_TIMEOUT(refused, 2 * link, patience);
+            QCOMPARE(asked.size(), qint64(2 * link));
+        }
+        QVERIFY(asked.remove());
+    }
+
     /// The service asks a new helper to put right what the dead one left.
     void helperKilledWhileDialling()
     {

@@ -36,7 +36,8 @@ DialHelper::DialHelper(uid_t caller, int input, int output, int stop)
         say({Kind::Output, {}, chunk});
     });
     connect(&m_work, &DialWork::sigDiallerGone, this, [this] {
-        m_port.release();
+        if (!m_work.isWritten()) // one that has died may be started again
+            m_port.release();
         say({Kind::DiallerGone, {}, {}});
     });
     connect(&m_work, &DialWork::sigShutDown, this, [this] { QCoreApplication::exit(m_exitStatus); });

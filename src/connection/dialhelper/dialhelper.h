@@ -32,7 +32,7 @@ private:
 
     const uid_t m_caller;
     const int m_output;
-    HeldPort m_port; ///< from the writing of the dialler's files until the dialler is gone
+    HeldPort m_port; ///< from the writing of the dialler's files until they go back
     DialWork m_work;
     QSocketNotifier m_input;
     QSocketNotifier m_stop;
