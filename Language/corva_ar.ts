@@ -2075,6 +2075,18 @@
         <source>Fail to connect! exit code is</source>
         <translation>فشل الاتصال! رمز الخروج هو</translation>
     </message>
+    <message>
+        <source>The card&apos;s data port cannot be opened: %1</source>
+        <translation>تعذّر فتح منفذ بيانات البطاقة: %1</translation>
+    </message>
+    <message>
+        <source>The card does not answer on its data port.</source>
+        <translation>لا تجيب البطاقة على منفذ بياناتها.</translation>
+    </message>
+    <message>
+        <source>The card refused a command on its data port.</source>
+        <translation>رفضت البطاقة أمرًا على منفذ بياناتها.</translation>
+    </message>
 </context>
 <context>
     <name>corva::DialWork</name>

@@ -2071,6 +2071,18 @@
         <source>Fail to connect! exit code is</source>
         <translation>¡Error al conectar! El código de salida es</translation>
     </message>
+    <message>
+        <source>The card&apos;s data port cannot be opened: %1</source>
+        <translation>No se puede abrir el puerto de datos de la tarjeta: %1</translation>
+    </message>
+    <message>
+        <source>The card does not answer on its data port.</source>
+        <translation>La tarjeta no responde en su puerto de datos.</translation>
+    </message>
+    <message>
+        <source>The card refused a command on its data port.</source>
+        <translation>La tarjeta rechazó una orden en su puerto de datos.</translation>
+    </message>
 </context>
 <context>
     <name>corva::DialWork</name>

@@ -2071,6 +2071,18 @@
         <source>Fail to connect! exit code is</source>
         <translation>Échec de la connexion ! Le code de sortie est</translation>
     </message>
+    <message>
+        <source>The card&apos;s data port cannot be opened: %1</source>
+        <translation>Le port de données de la carte ne peut pas être ouvert : %1</translation>
+    </message>
+    <message>
+        <source>The card does not answer on its data port.</source>
+        <translation>La carte ne répond pas sur son port de données.</translation>
+    </message>
+    <message>
+        <source>The card refused a command on its data port.</source>
+        <translation>La carte a refusé une commande sur son port de données.</translation>
+    </message>
 </context>
 <context>
     <name>corva::DialWork</name>

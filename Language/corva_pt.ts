@@ -2071,6 +2071,18 @@
         <source>Fail to connect! exit code is</source>
         <translation>Falha ao ligar! O código de saída é</translation>
     </message>
+    <message>
+        <source>The card&apos;s data port cannot be opened: %1</source>
+        <translation>Não é possível abrir a porta de dados da placa: %1</translation>
+    </message>
+    <message>
+        <source>The card does not answer on its data port.</source>
+        <translation>A placa não responde na sua porta de dados.</translation>
+    </message>
+    <message>
+        <source>The card refused a command on its data port.</source>
+        <translation>A placa recusou um comando na sua porta de dados.</translation>
+    </message>
 </context>
 <context>
     <name>corva::DialWork</name>

@@ -2070,6 +2070,18 @@
         <source>Fail to connect! exit code is</source>
         <translation>Bağlanılamadı! Çıkış kodu</translation>
     </message>
+    <message>
+        <source>The card&apos;s data port cannot be opened: %1</source>
+        <translation>Kartın veri bağlantı noktası açılamıyor: %1</translation>
+    </message>
+    <message>
+        <source>The card does not answer on its data port.</source>
+        <translation>Kart, veri bağlantı noktasında yanıt vermiyor.</translation>
+    </message>
+    <message>
+        <source>The card refused a command on its data port.</source>
+        <translation>Kart, veri bağlantı noktasında bir komutu reddetti.</translation>
+    </message>
 </context>
 <context>
     <name>corva::DialWork</name>

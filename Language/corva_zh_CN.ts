@@ -2070,6 +2070,18 @@
         <source>Fail to connect! exit code is</source>
         <translation>连接失败！退出代码为</translation>
     </message>
+    <message>
+        <source>The card&apos;s data port cannot be opened: %1</source>
+        <translation>无法打开网卡的数据端口：%1</translation>
+    </message>
+    <message>
+        <source>The card does not answer on its data port.</source>
+        <translation>网卡在其数据端口上没有应答。</translation>
+    </message>
+    <message>
+        <source>The card refused a command on its data port.</source>
+        <translation>网卡在其数据端口上拒绝了一条命令。</translation>
+    </message>
 </context>
 <context>
     <name>corva::DialWork</name>

@@ -188,7 +188,9 @@ void DataLink::end(const LinkOutcome &why)
     Q_EMIT sigEnding();
     if (before == Stage::Making || before == Stage::Up)
         takeDown();
-    else if (!m_isSavePending) // its answer goes on from here
+    else if (m_isSavePending) // its answer goes on from here
+        m_backend.giveUpAsking();
+    else
         takenDown();
 }
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/dhcpclient.h"
 
+#include "connection/cleanchild.h"
 #include "shell/logging.h"
 
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <csignal>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -17,6 +17,7 @@ namespace
 {
 
 constexpr auto longestStep = 60s;
+constexpr auto longestStepAtTheEnd = 3s;
 
 /// How a client is told to get an address once and go on renewing it, and to give it back. "%1" is the
 /// interface.
@@ -58,19 +59,7 @@ QStringList arguments(const char *form, const QString &interfaceName)
 
 DhcpClient::DhcpClient(QObject *parent) : QObject(parent), m_process(this), m_limit(this)
 {
-    QProcessEnvironment environment;
-    environment.insert(u"PATH"_s, u"/usr/sbin:/usr/bin:/sbin:/bin"_s);
-    m_process.setProcessEnvironment(environment);
-    m_process.setWorkingDirectory(u"/"_s);
-    m_process.setStandardInputFile(QProcess::nullDevice());
-    // Its background part would hold a pipe open for ever.
-    m_process.setStandardOutputFile(QProcess::nullDevice());
-    m_process.setStandardErrorFile(QProcess::nullDevice());
-    m_process.setChildProcessModifier([] { // blocked signals would stay so behind the exec
-        sigset_t none;
-        sigemptyset(&none);
-        sigprocmask(SIG_SETMASK, &none, nullptr);
-    });
+    prepareSystemChild(m_process);
     m_limit.setSingleShot(true);
     m_limit.setInterval(longestStep);
     connect(&m_limit, &QTimer::timeout, &m_process, &QProcess::kill);
@@ -119,6 +108,11 @@ void DhcpClient::release(const QString &interfaceName)
     } else {
         runNext();
     }
+}
+
+void DhcpClient::hurry()
+{
+    m_limit.setInterval(longestStepAtTheEnd); // begins anew for a step that runs
 }
 
 void DhcpClient::runNext()

@@ -23,6 +23,8 @@ public:
     void lease(const QString &interfaceName);
     /// Gives the address back, or ends the asking. `sigDone` follows.
     void release(const QString &interfaceName);
+    /// From now on no step takes longer than 3 s: the program ends.
+    void hurry();
 
     /// Whether the text can be the name of a network interface, and nothing more. Source: the kernel's
     /// dev_valid_name, narrowed to letters, digits and "._-".

@@ -24,14 +24,17 @@ class DiallerBackend : public QObject
 public:
     using Answer = std::function<void(const DialResult &)>;
 
-    /// The longest that `shutDown` takes: a hang-up, and pppd that has to be killed.
-    static constexpr std::chrono::milliseconds longestShutDown{17000};
+    /// The longest that `shutDown` waits: 17 s for a dialler that has to be killed, or three steps of 3 s for
+    /// an address, and the files.
+    static constexpr std::chrono::milliseconds longestShutDown{20000};
 
     using QObject::QObject;
 
     virtual void ask(const DialRequest &request, Answer answer) = 0;
+    /// The person no longer waits for what was asked: a question for rights that is still open is withdrawn.
+    virtual void giveUpAsking() {}
     /// Ends the dialler, puts the system's files back and takes no more requests. Blocks, for as long as pppd
-    /// needs and never longer than some seconds.
+    /// needs and for `longestShutDown` at most.
     virtual void shutDown() = 0;
 
 Q_SIGNALS:

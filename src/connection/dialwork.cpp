@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/dialwork.h"
 
+#include "connection/cleanchild.h"
+#include "connection/rootowned.h"
 #include "shell/logging.h"
 
-#include <QFile>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <algorithm>
-#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -18,21 +19,6 @@ namespace
 {
 
 constexpr auto longestRouteHelper = 10s;
-
-/// Whether nobody but the administrator can have put this program here: neither it nor a folder above it may
-/// be written by others, and none is a link.
-bool isAdministratorsOwn(QString path)
-{
-    while (true) {
-        struct stat status = {};
-        if (lstat(QFile::encodeName(path).constData(), &status) != 0 || S_ISLNK(status.st_mode) ||
-            status.st_uid != 0 || (status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
-            return false;
-        if (path == "/"_L1)
-            return true;
-        path = QFileInfo(path).path();
-    }
-}
 
 bool endsALink(DialVerb verb)
 {
@@ -46,39 +32,51 @@ DialWork::DialWork(const SystemFiles &files, std::function<void()> onRun, Check 
       m_dhcp(this)
 {
     connect(&m_wvdial, &WvdialProcess::sigOutput, this, &DialWork::sigOutput);
-    connect(&m_wvdial, &WvdialProcess::sigStarted, this,
-            [this](bool isRunning) { answer(isRunning, tr("The dialler could not be started.")); });
-    connect(&m_wvdial, &WvdialProcess::sigGone, this, &DialWork::diallerGone);
+    connect(&m_wvdial, &WvdialProcess::sigStarted, this, [this](bool isRunning) {
+        m_isLinked = isRunning;
+        answer(isRunning, tr("The dialler could not be started."));
+    });
+    connect(&m_wvdial, &WvdialProcess::sigGone, this, &DialWork::slotWaitWvdialCloseReconnect);
     connect(&m_dhcp, &DhcpClient::sigDone, this, &DialWork::leaseDone);
+}
+
+bool DialWork::isAskingForLease() const
+{
+    return m_isBusy && m_requests.front().verb == DialVerb::Lease;
+}
+
+bool DialWork::isEndWaiting() const
+{
+    return m_isShuttingDown || std::ranges::any_of(m_requests, endsALink, &DialRequest::verb);
 }
 
 void DialWork::ask(const DialRequest &request)
 {
     if (m_isShuttingDown)
         return;
-    const bool isAskingForLease = !m_requests.empty() && m_requests.front().verb == DialVerb::Lease;
+    const bool endsLease = isAskingForLease() && endsALink(request.verb) && !isEndWaiting();
     m_requests.push_back(request);
-    if (m_requests.size() == 1)
-        carryOutNext();
-    else if (isAskingForLease && endsALink(request.verb))
+    if (endsLease)
         m_dhcp.release(m_leased);
+    else
+        carryOutNext();
 }
 
 void DialWork::shutDown()
 {
     if (m_isShuttingDown)
         return;
-    const bool isIdle = m_requests.empty();
-    const bool isAskingForLease = !isIdle && m_requests.front().verb == DialVerb::Lease;
-    if (!isIdle)
-        m_requests.resize(1);
-    if (!m_leased.isEmpty() && !isAskingForLease)
+    const bool endsLease = isAskingForLease() && !isEndWaiting();
+    const bool hasLease = !m_leased.isEmpty() && !isAskingForLease();
+    m_isShuttingDown = true;
+    m_dhcp.hurry();
+    m_requests.resize(m_isBusy ? 1 : 0);
+    if (hasLease)
         m_requests.push_back({.verb = DialVerb::Release, .interfaceName = m_leased});
     m_requests.push_back({.verb = DialVerb::Recover});
-    m_isShuttingDown = true;
-    if (isAskingForLease)
+    if (endsLease)
         m_dhcp.release(m_leased);
-    else if (isIdle)
+    else
         carryOutNext();
 }
 
@@ -106,44 +104,61 @@ void DialWork::carryOut(DialRequest request)
         if (m_wvdial.isPresent())
             answer(false, tr("The dialler is running already."));
         else
-            endLeftDialler();
+            killWvdialReconnect();
         break;
     case DialVerb::Write:
-        answer(m_files.readDeafaultConfigData(request.profile, request.modemPort, request.options, &error),
-               error);
+        m_isWritten =
+            m_files.readDeafaultConfigData(request.profile, request.modemPort, request.options, &error);
+        answer(m_isWritten, error);
         break;
-    case DialVerb::Dial:
-        if (!m_wvdial.slotStartWvdial(&error))
-            answer(false, error);
-        break;
+    case DialVerb::Dial: dial(); break;
     case DialVerb::NameServers:
-        answer(m_files.saveManualDNS(request.nameServers.value(0), request.nameServers.value(1), &error),
-               error);
+        if (m_isLinked)
+            answer(m_files.saveManualDNS(request.nameServers.value(0), request.nameServers.value(1), &error),
+                   error);
+        else
+            answer(false, tr("The network interface has no address from here."));
         break;
     case DialVerb::RouteHelper: runRouteHelper(); break;
     case DialVerb::HangUp: m_wvdial.slotKillWvdial(); break;
-    case DialVerb::Recover: endLeftDialler(); break;
+    case DialVerb::Recover: killWvdialReconnect(); break;
     case DialVerb::Lease:
+        if (isEndWaiting()) {
+            answer(false, tr("The connection was cancelled."));
+            break;
+        }
         m_leased = request.interfaceName;
         m_dhcp.lease(request.interfaceName);
         break;
     case DialVerb::Release:
         m_leased.clear();
+        m_isLinked = false;
         m_dhcp.release(request.interfaceName);
         break;
     }
 }
 
-/// A dialler that outlived the program which started it still uses the files. `diallerGone` follows.
-void DialWork::endLeftDialler()
+/// The dialler reads whatever stands in its files: nothing but what was written and checked here.
+void DialWork::dial()
 {
+    QString error = QCoreApplication::translate("DiallerFiles", "Read default wvdial config data failed!");
+    if (!m_isWritten || !m_wvdial.slotStartWvdial(&error))
+        answer(false, error);
+}
+
+/// A dialler that outlived the program which started it still uses the files.
+/// `slotWaitWvdialCloseReconnect` follows.
+void DialWork::killWvdialReconnect()
+{
+    m_isWritten = false;
     if (m_files.hasLeftovers()) // nobody who lives has them in hand
         m_wvdial.adoptLeftover();
     m_wvdial.slotKillWvdial();
 }
 
-void DialWork::diallerGone()
+void DialWork::slotWaitWvdialCloseReconnect()
 {
+    m_isLinked = false;
     Q_EMIT sigDiallerGone();
     if (!m_isBusy)
         return;
@@ -159,13 +174,12 @@ void DialWork::leaseDone(const QString &error)
 {
     if (!m_isBusy)
         return;
-    const bool isCancelled =
-        m_requests.front().verb == DialVerb::Lease &&
-        (m_isShuttingDown || std::ranges::any_of(m_requests, endsALink, &DialRequest::verb));
+    const bool isLease = isAskingForLease();
+    const bool isCancelled = isLease && isEndWaiting();
     // The resolver file that stands there now is this link's, and goes with it.
-    const bool isLeased = m_requests.front().verb == DialVerb::Lease && error.isEmpty();
-    if (isLeased && m_hasSaved)
+    if (isLease && error.isEmpty() && m_hasSaved)
         m_files.noteResolver();
+    m_isLinked = isLease && error.isEmpty() && !isCancelled;
     answer(error.isEmpty() && !isCancelled, isCancelled ? tr("The connection was cancelled.") : error);
 }
 
@@ -193,13 +207,12 @@ void DialWork::runRouteHelper()
         return;
     }
     auto *helper = new QProcess(this);
-    QProcessEnvironment environment;
-    environment.insert(u"PATH"_s, u"/usr/sbin:/usr/bin:/sbin:/bin"_s);
-    helper->setProcessEnvironment(environment);
-    helper->setStandardInputFile(QProcess::nullDevice());
-    helper->setStandardOutputFile(QProcess::nullDevice());
-    helper->setStandardErrorFile(QProcess::nullDevice());
+    prepareSystemChild(*helper);
     connect(helper, &QProcess::finished, helper, &QObject::deleteLater);
+    connect(helper, &QProcess::errorOccurred, helper, [helper](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            helper->deleteLater();
+    });
     QTimer::singleShot(longestRouteHelper, helper, &QProcess::kill);
     helper->start(program, QStringList());
     answer(true, {}); // what it does is its own affair: the link does not wait for it

@@ -32,6 +32,10 @@ public:
 
     /// The interface that has an address from here, or is asking for one.
     const QString &leasedInterface() const { return m_leased; }
+    /// Whether the dialler's files hold what was asked for last, and it may be started.
+    bool isWritten() const { return m_isWritten; }
+    /// How many requests are not answered yet.
+    std::size_t waitingCount() const { return m_requests.size(); }
 
 Q_SIGNALS:
     void sigDone(const corva::DialResult &result);
@@ -42,8 +46,11 @@ Q_SIGNALS:
 private:
     void carryOutNext();
     void carryOut(DialRequest request);
-    void endLeftDialler();
-    void diallerGone();
+    bool isAskingForLease() const;
+    bool isEndWaiting() const; ///< what ends a link waits to be carried out
+    void dial();
+    void killWvdialReconnect();
+    void slotWaitWvdialCloseReconnect();
     void leaseDone(const QString &error);
     void saveFiles();
     void recoverFiles();
@@ -56,9 +63,11 @@ private:
     WvdialProcess m_wvdial;
     DhcpClient m_dhcp;
     QString m_leased;
-    std::deque<DialRequest> m_requests; ///< the first is being carried out
+    std::deque<DialRequest> m_requests; ///< the first is being carried out, while busy
     bool m_isBusy = false;
     bool m_hasSaved = false;
+    bool m_isWritten = false;
+    bool m_isLinked = false; ///< the dialler runs, or an interface has its address from here
     bool m_isShuttingDown = false;
 };
 

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/helperbackend.h"
 
+#include "connection/rootowned.h"
 #include "shell/globals.h"
 #include "shell/logging.h"
 #include "shell/updatecfg.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 #include <QThreadPool>
-#include <sys/stat.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -24,13 +24,6 @@ constexpr auto installedHelper = "/usr/libexec/corva/corva-dialhelper"_L1;
 // How pkexec ends when it does not start the program. Source: pkexec(1), "RETURN VALUE".
 constexpr int dismissed = 126;
 constexpr int notAuthorised = 127;
-
-bool isAdministratorsOwn(const QString &path)
-{
-    struct stat status = {};
-    return stat(QFile::encodeName(path).constData(), &status) == 0 && S_ISREG(status.st_mode) &&
-           status.st_uid == 0 && (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
-}
 
 /// The helper says its sentences in English, having no translation of its own.
 QString translated(const QString &sentence)
@@ -57,20 +50,59 @@ HelperBackend::~HelperBackend()
     shutDown();
 }
 
+/// The policy lets the installed path start without a question where an administrator wants it so: what lies
+/// there must be his. Any other path is started by pkexec's own question alone.
 QStringList HelperBackend::installedCommand()
 {
-    const QString helper =
-        isAdministratorsOwn(installedHelper) ? QString(installedHelper) : basePath + u"/corva-dialhelper"_s;
-    return {u"pkexec"_s, helper};
+    if (isAdministratorsOwn(installedHelper))
+        return {u"pkexec"_s, installedHelper};
+    const QString own = QFileInfo(basePath + u"/corva-dialhelper"_s).canonicalFilePath();
+    const bool isOther = !own.isEmpty() && own != installedHelper;
+    return isOther ? QStringList{u"pkexec"_s, own} : QStringList{u"/bin/false"_s};
 }
 
+/// After a refusal the rest of the same link is refused as well, without another question: only the next
+/// saving, with which a link begins, asks again.
 void HelperBackend::ask(const DialRequest &request, Answer answer)
 {
+    if (request.verb == DialVerb::Save)
+        m_refusal.clear();
     m_pending.push_back({request, std::move(answer)});
-    if (!m_process)
+    if (!m_refusal.isEmpty())
+        refusePending();
+    else if (!m_process)
         start();
     else if (m_isReady)
         m_process->write(toLine(request));
+}
+
+void HelperBackend::giveUpAsking()
+{
+    if (!m_process || m_isReady)
+        return;
+    m_refusal = tr("The right to connect was not given. Please connect again and enter the password.");
+    letGo();
+    refusePending();
+}
+
+void HelperBackend::refusePending()
+{
+    const auto answerAll = [pending = std::exchange(m_pending, {}), sentence = m_refusal] {
+        for (const Pending &waiting : pending)
+            waiting.answer({DialResult::Kind::NoRights, sentence});
+    };
+    QMetaObject::invokeMethod(this, answerAll, Qt::QueuedConnection);
+}
+
+/// A pkexec that still asks ends by the signal, and its question with it. One that has just got the rights
+/// cannot be signalled, but the helper ends when nobody speaks to it.
+void HelperBackend::letGo()
+{
+    QProcess *process = m_process.release();
+    process->disconnect(this);
+    connect(process, &QProcess::finished, process, &QObject::deleteLater);
+    process->closeWriteChannel();
+    process->terminate();
 }
 
 void HelperBackend::start()
@@ -130,18 +162,22 @@ void HelperBackend::take(const DialEvent &event)
     }
 }
 
-/// Everything that waits is answered, and the next request starts the helper anew.
+/// Everything that waits is answered, and the next request starts the helper anew, unless the right was
+/// refused.
 void HelperBackend::ended(const QString &sentence)
 {
     qCWarning(lcConnection).noquote() << logTime() + sentence;
-    const bool wasReady = m_isReady;
-    m_isReady = false;
+    const bool wasReady = std::exchange(m_isReady, false);
     m_process.release()->deleteLater(); // it may be speaking now
+    if (!wasReady) {
+        m_refusal = sentence;
+        refusePending();
+        return;
+    }
     const std::deque<Pending> pending = std::exchange(m_pending, {});
-    if (wasReady)
-        Q_EMIT sigLost(sentence);
+    Q_EMIT sigLost(sentence);
     for (const Pending &waiting : pending)
-        waiting.answer({wasReady ? DialResult::Kind::Failed : DialResult::Kind::NoRights, sentence});
+        waiting.answer({DialResult::Kind::Failed, sentence});
 }
 
 void HelperBackend::shutDown()
@@ -149,11 +185,14 @@ void HelperBackend::shutDown()
     m_pending.clear();
     if (!m_process)
         return;
+    if (!m_isReady) {
+        letGo();
+        return;
+    }
     m_process->disconnect(this);
     m_process->closeWriteChannel();
-    const bool isEnded = m_isReady && m_process->waitForFinished(int(longestShutDown.count()));
-    // One that still asks for a password runs with rights that this program cannot end.
-    if (!isEnded)
+    // One that does not end runs with rights that this program cannot end.
+    if (!m_process->waitForFinished(int(longestShutDown.count())))
         (void)m_process.release();
     m_process.reset();
 }

@@ -24,6 +24,7 @@ public:
     ~HelperBackend() override;
 
     void ask(const DialRequest &request, Answer answer) override;
+    void giveUpAsking() override;
     void shutDown() override;
 
     /// "pkexec" and the helper: the installed one, otherwise the one beside this program.
@@ -34,6 +35,8 @@ private:
     void readOutput();
     void take(const DialEvent &event);
     void ended(const QString &sentence);
+    void letGo();
+    void refusePending();
 
     struct Pending {
         DialRequest request;
@@ -45,6 +48,7 @@ private:
     LineCutter m_lines;
     std::deque<Pending> m_pending;
     bool m_isReady = false;
+    QString m_refusal; ///< why the rights were not given; none since the last link began
 };
 
 } // namespace corva

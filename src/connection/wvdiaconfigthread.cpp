@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/wvdiaconfigthread.h"
 
+#include "connection/cleanchild.h"
 #include "shell/logging.h"
 
 #include <array>
 #include <cerrno>
-#include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <sys/socket.h>
-#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -78,12 +77,7 @@ bool makePipe(Descriptor &readEnd, Descriptor &writeEnd)
     if (read(goAhead, &go, 1) != 1)
         _exit(EXIT_FAILURE); // the program died before it had noted this child
 
-    sigset_t none;
-    sigemptyset(&none);
-    sigprocmask(SIG_SETMASK, &none, nullptr);
-    for (int signal = 1; signal < NSIG; ++signal)
-        std::signal(signal, SIG_DFL); // what is ignored would stay so behind the exec
-    umask(022);
+    makeCleanChild();
     dup2(open("/dev/null", O_RDONLY), STDIN_FILENO);
     dup2(output, STDOUT_FILENO);
     dup2(output, STDERR_FILENO);
@@ -140,8 +134,8 @@ void WvdiaConfigThread::run()
         Q_EMIT sigStarted(-1);
         return;
     }
-    Q_EMIT sigStarted(pid);
     send(goAhead.get(), "", 1, MSG_NOSIGNAL); // a child that died meanwhile is seen by its output's end
+    Q_EMIT sigStarted(pid);
     passOutputOn(output.get());
 }
 

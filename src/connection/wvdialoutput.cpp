@@ -44,6 +44,7 @@ constexpr Rule rules[] = {
     {"--> Invalid dial command.", Kind::CommandRefused, Value::None},
     {"--> Maximum Attempts Exceeded", Kind::AttemptsUsedUp, Value::None},
     {"--> The PPP daemon has died: Authentication error", Kind::Refused, Value::None},
+    {"--> Authentication error.", Kind::Refused, Value::None},
     {"--> Auto Reconnect will be attempted", Kind::Reconnecting, Value::None},
     {"--> Disconnecting at ", Kind::Disconnecting, Value::None},
     {"Caught signal ", Kind::Terminating, Value::Number},
@@ -104,6 +105,11 @@ void WvdialOutput::take(const WvdialEvent &event, std::vector<WvdialEvent> &even
             m_phase = row.phase;
     }
     events.push_back(event);
+    // With pppd's option "debug" wvdial has heard of the refusal from pppd, and does not say the status any
+    // more.
+    constexpr int refusedByPeer = 19;
+    if (event.kind == Kind::Refused)
+        take({Kind::PppEnded, {}, refusedByPeer}, events);
 }
 
 void WvdialOutput::takeLine(std::vector<WvdialEvent> &events)

@@ -33,6 +33,8 @@ struct KillStep {
 };
 constexpr KillStep killSteps[] = {
     {0, SIGTERM, "wvdial"}, {90, SIGTERM, "pppd"}, {120, SIGTERM, ""}, {140, SIGKILL, ""}};
+/// The kernel may hold a process for ever, in a driver that waits for the card.
+constexpr int givenUpPoll = 170;
 
 QString sessionFile(const SystemFiles &files)
 {
@@ -81,8 +83,15 @@ bool WvdialProcess::slotStartWvdial(QString *error)
                                                     onRun();
                                                 return true;
                                             });
-    connect(m_thread.get(), &WvdiaConfigThread::sigOutput, this, &WvdialProcess::sigOutput);
-    connect(m_thread.get(), &WvdiaConfigThread::sigOutputEnded, this, [this] {
+    // What an earlier thread said may still be on its way.
+    const int run = ++m_run;
+    connect(m_thread.get(), &WvdiaConfigThread::sigOutput, this, [this, run](const QByteArray &chunk) {
+        if (run == m_run)
+            Q_EMIT sigOutput(chunk);
+    });
+    connect(m_thread.get(), &WvdiaConfigThread::sigOutputEnded, this, [this, run] {
+        if (run != m_run || !isPresent())
+            return;
         m_isOutputEnded = true;
         m_poll.start();
     });
@@ -131,17 +140,22 @@ void WvdialProcess::safeKillWvdail()
 
 void WvdialProcess::slotWaitWvdialClose()
 {
-    if (isGone()) {
-        m_poll.stop();
-        m_child = 0;
-        m_isKilling = false;
-        m_thread.reset();
-        QFile::remove(sessionFile(m_files.files()));
-        Q_EMIT sigGone();
-        return;
-    }
-    if (m_isKilling)
+    const bool isOver = isGone();
+    if (!isOver && m_isKilling)
         takeKillStep();
+    const bool isGivenUp = !isOver && m_isKilling && m_killWvdialCount > givenUpPoll;
+    if (!isOver && !isGivenUp)
+        return;
+    m_poll.stop();
+    if (isOver)
+        QFile::remove(sessionFile(m_files.files()));
+    else // the next start finds it noted
+        qCWarning(lcConnection).noquote() << logTime() + u"the dialler cannot be killed: %1"_s.arg(m_child);
+    m_child = 0;
+    m_isKilling = false;
+    ++m_run;
+    m_thread.reset();
+    Q_EMIT sigGone();
 }
 
 /// Takes the step that is due, and the next one at once when this one met nobody.

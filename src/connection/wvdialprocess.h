@@ -33,7 +33,8 @@ public:
     bool isPresent() const { return m_child > 0; }
     /// False with a sentence when a child is there already or none can be made; then `sigStarted` follows.
     bool slotStartWvdial(QString *error);
-    /// Ends the dialler, gently first. `sigGone` follows, at once when there is none.
+    /// Ends the dialler, gently first. `sigGone` follows, at once when there is none, and
+    /// after 17 s for one that cannot be killed.
     void slotKillWvdial();
     /// Takes the dialler that an earlier run of this program left into this object's care.
     void adoptLeftover();
@@ -58,6 +59,7 @@ private:
     bool m_isReaped = false;
     bool m_isOutputEnded = false;
     bool m_isKilling = false;
+    int m_run = 0;             ///< tells one dialler's signals from the next one's
     int m_killWvdialCount = 0; ///< polls since the kill
     int m_emptyPolls = 0;      ///< polls since nobody was left
     std::size_t m_killStep = 0;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "window/checkpin.h"
 
+#include "shell/whendone.h"
 #include "widgets/buttonkind.h"
 #include "widgets/skin.h"
 #include "widgets/textlabel.h"
-#include "shell/whendone.h"
 #include "window/pinfield.h"
 
 #include <QApplication>

@@ -216,6 +216,34 @@ private Q_SLOTS:
         QCOMPARE(etcAsText(), m_before);
     }
 
+    /// The question for the password is open, or was answered with "no".
+    void withoutRights_data()
+    {
+        QTest::addColumn<QString>("question");
+        QTest::newRow("refused") << u"echo x >> asked; exit 126"_s;
+        QTest::newRow("cancelled") << u"echo x >> asked; exec sleep 600"_s;
+    }
+    void withoutRights()
+    {
+        QFETCH(QString, question);
+        QFile asked(m_folder->filePath(u"asked"_s));
+        HelperBackend backend({u"sh"_s, u"-c"_s, question});
+        int refused = 0;
+        const auto count = [&refused](const DialResult &result) {
+            refused += result.kind == DialResult::Kind::NoRights ? 1 : 100;
+        };
+        for (int link = 1; link <= 2; ++link) {
+            backend.ask({.verb = DialVerb::Save}, count);
+            QTRY_VERIFY_WITH_TIMEOUT(asked.size() == 2 * link, patience);
+            backend.giveUpAsking();
+            QTRY_COMPARE_WITH_TIMEOUT(refused, 2 * link - 1, patience);
+            backend.ask({.verb = DialVerb::Recover}, count);
+            QTRY_COMPARE_WITH_TIMEOUT(refused, 2 * link, patience);
+            QCOMPARE(asked.size(), qint64(2 * link));
+        }
+        QVERIFY(asked.remove());
+    }
+
     /// The service asks a new helper to put right what the dead one left.
     void helperKilledWhileDialling()
     {
@@ -248,7 +276,7 @@ private Q_SLOTS:
     void helperRefuses_data()
     {
         QTest::addColumn<QByteArray>("line");
-        QTest::addColumn<bool>("ends"); // it does not speak on with who speaks like that
+        QTest::addColumn<QString>("sentence"); // none: it does not speak on with who speaks like that
         const auto write = [](const QString &port, ProfileField field, const QString &text) {
             DialRequest hostile = request(DialVerb::Write, {});
             hostile.modemPort = port;
@@ -256,27 +284,37 @@ private Q_SLOTS:
             return toLine(hostile);
         };
         const QString port = u"%PORT%"_s;
+        const QString notYours = u"You may not use this card's data port."_s;
         const QByteArray servers = R"({"verb":"nameServers","servers":["1.1.1.1\nsearch evil"]})";
-        QTest::newRow("an unknown verb") << QByteArray(R"({"verb":"shell","text":"id"})") << true;
+        QTest::newRow("an unknown verb") << QByteArray(R"({"verb":"shell","text":"id"})") << QString();
         QTest::newRow("a path beside a verb")
-            << QByteArray(R"({"verb":"save","path":"/etc/shadow"})") << true;
-        QTest::newRow("no JSON") << QByteArray("save") << true;
-        QTest::newRow("an endless line") << QByteArray(100000, 'x') << true;
+            << QByteArray(R"({"verb":"save","path":"/etc/shadow"})") << QString();
+        QTest::newRow("no JSON") << QByteArray("save") << QString();
+        QTest::newRow("an endless line") << QByteArray(100000, 'x') << QString();
         QTest::newRow("a phone number that is two lines")
-            << write(port, ProfileField::Phone, u"*99#\nInit2 = AT+X"_s) << false;
+            << write(port, ProfileField::Phone, u"*99#\nInit2 = AT+X"_s)
+            << u"A value holds a line break or another control character, or the text \"-|-\"."_s;
         QTest::newRow("an option in the user name")
-            << write(port, ProfileField::UserName, u"a\"\nconnect /bin/sh"_s) << false;
-        QTest::newRow("a disk") << write(u"/dev/null"_s, ProfileField::Name, u"x"_s) << false;
-        QTest::newRow("a console") << write(u"/dev/tty1"_s, ProfileField::Name, u"x"_s) << false;
-        QTest::newRow("no device") << write(u"/etc/passwd"_s, ProfileField::Name, u"x"_s) << false;
+            << write(port, ProfileField::UserName, u"a\" connect /bin/sh"_s)
+            << u"The user name must not hold quotes, backslashes, a brace at its beginning or blanks at its "
+               u"ends, not be a single asterisk, and be 255 bytes long at most."_s;
+        QTest::newRow("a disk") << write(u"/dev/null"_s, ProfileField::Name, u"x"_s) << notYours;
+        QTest::newRow("a console") << write(u"/dev/tty1"_s, ProfileField::Name, u"x"_s) << notYours;
+        QTest::newRow("no device") << write(u"/etc/passwd"_s, ProfileField::Name, u"x"_s) << notYours;
         QTest::newRow("another's network interface")
-            << QByteArray(R"({"verb":"lease","port":"%PORT%","interface":"lo"})") << false;
-        QTest::newRow("servers that are more than that") << servers << false;
+            << QByteArray(R"({"verb":"lease","port":"%PORT%","interface":"lo"})")
+            << u"The network interface does not belong to the card."_s;
+        QTest::newRow("servers that are more than that") << servers << u"The DNS is invalid !"_s;
+        QTest::newRow("servers without a link")
+            << QByteArray(R"({"verb":"nameServers","servers":["1.1.1.1"]})")
+            << u"The network interface has no address from here."_s;
+        QTest::newRow("a dial on no port") << QByteArray(R"({"verb":"dial"})") << notYours;
     }
     void helperRefuses()
     {
         QFETCH(QByteArray, line);
-        QFETCH(bool, ends);
+        QFETCH(QString, sentence);
+        const bool ends = sentence.isEmpty();
         QProcess helper;
         helper.start(helperProgram, QStringList());
         helper.write(toLine(request(DialVerb::Save, {})));
@@ -286,6 +324,8 @@ private Q_SLOTS:
                                      helper.state() == QProcess::NotRunning,
                                  patience);
         QCOMPARE(helper.state() == QProcess::NotRunning, ends);
+        if (!ends)
+            QCOMPARE(eventFromLine(said.trimmed().split('\n').last())->result.error, sentence);
         helper.closeWriteChannel();
         QVERIFY(helper.state() == QProcess::NotRunning || helper.waitForFinished(patience));
         QCOMPARE(helper.exitCode(), ends ? 2 : 0);

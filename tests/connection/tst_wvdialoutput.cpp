@@ -75,6 +75,8 @@ void TestWvdialOutput::realOutput_data()
                                     u" Terminating=15 Disconnecting"_s;
     QTest::newRow("auth-pap-refused")
         << dial + u" Carrier PppStarted=250 Interface=ppp0 Disconnecting Refused PppEnded=19"_s;
+    QTest::newRow("auth-pap-refused-debug")
+        << dial + u" Carrier PppStarted=219 Interface=ppp0 Disconnecting Refused PppEnded=19"_s;
     QTest::newRow("bad-peers-option") << dial + u" Carrier PppStarted=511 Disconnecting PppEnded=2"_s;
     QTest::newRow("busy") << dial + u" Busy Disconnecting"_s;
     QTest::newRow("nocarrier") << dial + u" NoCarrier AttemptsUsedUp Disconnecting"_s;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/dialhelper/dialhelper.h"
 
-#include "connection/dialhelper/callerrights.h"
 #include "connection/networkcard.h"
 #include "connection/profilechecks.h"
 
@@ -20,6 +19,7 @@ namespace
 {
 
 constexpr int notUnderstood = 2;
+constexpr std::size_t mostWaiting = 32;
 
 } // namespace
 
@@ -35,7 +35,11 @@ DialHelper::DialHelper(uid_t caller, int input, int output, int stop)
     connect(&m_work, &DialWork::sigOutput, this, [this](const QByteArray &chunk) {
         say({Kind::Output, {}, chunk});
     });
-    connect(&m_work, &DialWork::sigDiallerGone, this, [this] { say({Kind::DiallerGone, {}, {}}); });
+    connect(&m_work, &DialWork::sigDiallerGone, this, [this] {
+        if (!m_work.isWritten()) // one that has died may be started again
+            m_port.release();
+        say({Kind::DiallerGone, {}, {}});
+    });
     connect(&m_work, &DialWork::sigShutDown, this, [this] { QCoreApplication::exit(m_exitStatus); });
     connect(&m_input, &QSocketNotifier::activated, this, &DialHelper::readInput);
     connect(&m_stop, &QSocketNotifier::activated, this, [this] { end(0); });
@@ -48,14 +52,17 @@ void DialHelper::start()
 
 /// The caller has no more rights here than to what is his: his port, and the network interface of the same
 /// stick.
-QString DialHelper::check(DialRequest &request) const
+QString DialHelper::check(DialRequest &request)
 {
-    const bool namesPort = request.verb == DialVerb::Write || request.verb == DialVerb::Lease ||
-                           request.verb == DialVerb::Release;
-    if (namesPort && request.verb != DialVerb::Release) {
-        request.modemPort = portOfCaller(request.modemPort, m_caller);
-        if (request.modemPort.isEmpty())
-            return DialWork::tr("You may not use this card's data port.");
+    const QString notYours = DialWork::tr("You may not use this card's data port.");
+    if (request.verb == DialVerb::Dial)
+        return m_port.isSame() ? QString() : notYours;
+    HeldPort asked;
+    HeldPort &port = request.verb == DialVerb::Write ? m_port : asked;
+    if (request.verb == DialVerb::Write || request.verb == DialVerb::Lease) {
+        if (!port.take(request.modemPort, m_caller))
+            return notYours;
+        request.modemPort = port.path();
     }
     if (request.verb == DialVerb::Lease && request.interfaceName != networkCardOf(request.modemPort))
         return DialWork::tr("The network interface does not belong to the card.");
@@ -79,7 +86,7 @@ void DialHelper::readInput()
     }
     for (const QByteArray &line : m_lines.feed(QByteArray(chunk.data(), count))) {
         const auto request = requestFromLine(line);
-        if (!request) {
+        if (!request || m_work.waitingCount() >= mostWaiting) {
             end(notUnderstood);
             return;
         }

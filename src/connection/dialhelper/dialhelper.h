@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "connection/dialhelper/callerrights.h"
 #include "connection/dialwire.h"
 #include "connection/dialwork.h"
 
@@ -11,8 +12,8 @@ namespace corva
 {
 
 /// The program's conversation: requests come in on one descriptor, events go out on another. When nobody
-/// speaks any more, or a line is no request, the dialler is ended, the system's files are put back and the
-/// program ends.
+/// speaks any more, or a line is no request, or too many wait, the dialler is ended, the system's files are
+/// put back and the program ends.
 class DialHelper : public QObject
 {
     Q_OBJECT
@@ -24,13 +25,14 @@ public:
     void start();
 
 private:
-    QString check(DialRequest &request) const;
+    QString check(DialRequest &request);
     void readInput();
     void say(const DialEvent &event);
     void end(int exitStatus);
 
     const uid_t m_caller;
     const int m_output;
+    HeldPort m_port; ///< from the writing of the dialler's files until they go back
     DialWork m_work;
     QSocketNotifier m_input;
     QSocketNotifier m_stop;

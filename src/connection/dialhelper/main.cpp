@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "connection/cleanchild.h"
 #include "connection/dialhelper/callerrights.h"
 #include "connection/dialhelper/dialhelper.h"
 
@@ -7,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/signalfd.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -32,15 +34,33 @@ void cleanEnvironment()
         std::exit(noRights);
 }
 
+/// Neither what the caller limits nor what he ignores or blocks says anything here, nor does his terminal.
+/// What cannot be raised stays as it is.
+void cleanProcess()
+{
+    constexpr rlimit unlimited = {RLIM_INFINITY, RLIM_INFINITY};
+    constexpr rlimit files = {1024, 4096};
+    constexpr rlimit none = {0, 0}; // a core would hold passwords
+    setrlimit(RLIMIT_FSIZE, &unlimited);
+    setrlimit(RLIMIT_CPU, &unlimited);
+    setrlimit(RLIMIT_AS, &unlimited);
+    setrlimit(RLIMIT_DATA, &unlimited);
+    setrlimit(RLIMIT_NOFILE, &files);
+    setrlimit(RLIMIT_CORE, &none);
+    setsid();
+    corva::makeCleanChild();
+    for (const int signal : {SIGPIPE, SIGTSTP, SIGTTIN, SIGTTOU})
+        std::signal(signal, SIG_IGN);
+}
+
 /// Readable when the program is asked to end.
 int stopDescriptor()
 {
     sigset_t ends;
     sigemptyset(&ends);
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGQUIT})
         sigaddset(&ends, signal);
     sigprocmask(SIG_BLOCK, &ends, nullptr);
-    std::signal(SIGPIPE, SIG_IGN);
     return signalfd(-1, &ends, SFD_CLOEXEC | SFD_NONBLOCK);
 }
 
@@ -49,6 +69,7 @@ int stopDescriptor()
 int main(int argc, char **argv)
 {
     const auto caller = corva::callerOf(getenv("PKEXEC_UID"));
+    cleanProcess();
     cleanEnvironment();
     if (argc != 1 || !caller || geteuid() != 0) {
         std::fputs("corva-dialhelper is started by Corva, with an administrator's rights.\n", stderr);
