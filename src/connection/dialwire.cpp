@@ -17,20 +17,20 @@ namespace
 enum Member : unsigned { Profile = 1, Port = 2, Options = 4, Servers = 8, Interface = 16 };
 
 struct VerbForm {
-    DialVerb verb;
     QLatin1StringView name;
+    DialVerb verb;
     unsigned members;
 };
 constexpr VerbForm verbs[] = {
-    {DialVerb::Save, "save"_L1, 0},
-    {DialVerb::Write, "write"_L1, Profile | Port | Options},
-    {DialVerb::Dial, "dial"_L1, 0},
-    {DialVerb::NameServers, "nameServers"_L1, Servers},
-    {DialVerb::RouteHelper, "routeHelper"_L1, 0},
-    {DialVerb::HangUp, "hangUp"_L1, 0},
-    {DialVerb::Recover, "recover"_L1, 0},
-    {DialVerb::Lease, "lease"_L1, Port | Interface},
-    {DialVerb::Release, "release"_L1, Port | Interface},
+    {"save"_L1, DialVerb::Save, 0},
+    {"write"_L1, DialVerb::Write, Profile | Port | Options},
+    {"dial"_L1, DialVerb::Dial, 0},
+    {"nameServers"_L1, DialVerb::NameServers, Servers},
+    {"routeHelper"_L1, DialVerb::RouteHelper, 0},
+    {"hangUp"_L1, DialVerb::HangUp, 0},
+    {"recover"_L1, DialVerb::Recover, 0},
+    {"lease"_L1, DialVerb::Lease, Port | Interface},
+    {"release"_L1, DialVerb::Release, Port | Interface},
 };
 
 struct EventForm {
@@ -68,7 +68,7 @@ std::optional<QStringList> textsOf(const QJsonValue &value, qsizetype most)
                           std::all_of(array.begin(), array.end(), [](auto v) { return v.isString(); });
     if (!areTexts)
         return std::nullopt;
-    for (const QJsonValue &text : array)
+    for (const auto &text : array)
         texts += text.toString();
     return texts;
 }

@@ -31,7 +31,7 @@ QString translated(const QString &sentence)
     const QByteArray source = sentence.toUtf8();
     for (const char *context :
          {"DiallerFiles", "corva::DialWork", "corva::DhcpClient", "WvdialProcess", "ProfileChecks"}) {
-        const QString text = QCoreApplication::translate(context, source.constData());
+        QString text = QCoreApplication::translate(context, source.constData());
         if (text != sentence)
             return text;
     }

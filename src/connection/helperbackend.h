@@ -14,7 +14,7 @@ namespace corva
 /// The dialler's side in the helper program, which pkexec starts with the rights that it needs. It is started
 /// with the first request, asks for a password then, and stays until this program ends: a helper whose
 /// program is gone ends the link and puts the system's files back.
-class HelperBackend : public DiallerBackend
+class HelperBackend final : public DiallerBackend
 {
     Q_OBJECT
 

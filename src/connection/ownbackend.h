@@ -12,7 +12,7 @@ namespace corva
 class DialWork;
 
 /// The dialler's side in this process, on a thread of its own: for a program that runs as root.
-class OwnBackend : public DiallerBackend
+class OwnBackend final : public DiallerBackend
 {
     Q_OBJECT
 

@@ -54,7 +54,7 @@ void DialHelper::start()
 /// stick.
 QString DialHelper::check(DialRequest &request)
 {
-    const QString notYours = DialWork::tr("You may not use this card's data port.");
+    QString notYours = DialWork::tr("You may not use this card's data port.");
     if (request.verb == DialVerb::Dial)
         return m_port.isSame() ? QString() : notYours;
     HeldPort asked;
@@ -77,7 +77,7 @@ QString DialHelper::check(DialRequest &request)
 void DialHelper::readInput()
 {
     std::array<char, 4096> chunk;
-    const ssize_t count = read(m_input.socket(), chunk.data(), chunk.size());
+    const ssize_t count = read(int(m_input.socket()), chunk.data(), chunk.size());
     if (count < 0 && (errno == EINTR || errno == EAGAIN))
         return;
     if (count <= 0) {
