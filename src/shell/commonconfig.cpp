@@ -19,6 +19,7 @@ namespace
 {
 
 constexpr qint64 largestFile = 65'536;
+constexpr int largestFont = 24; ///< with which every dialog fits the smallest window
 constexpr auto notSet = "null"_L1;
 
 struct Number {
@@ -74,9 +75,9 @@ const Entry entries[] = {
     {"Disabled text"_L1, &CommonConfig::disabledText},
     {"Text on the selection"_L1, &CommonConfig::onSelection},
     {"Corner radius, pixels"_L1, Number{&CommonConfig::cornerRadius, 0, 16}},
-    {"Size of page titles"_L1, Number{&CommonConfig::titleSize, 6, 72}},
-    {"Size of text"_L1, Number{&CommonConfig::textSize, 6, 72}},
-    {"Size of captions"_L1, Number{&CommonConfig::captionSize, 6, 72}},
+    {"Size of page titles"_L1, Number{&CommonConfig::titleSize, 6, largestFont}},
+    {"Size of text"_L1, Number{&CommonConfig::textSize, 6, largestFont}},
+    {"Size of captions"_L1, Number{&CommonConfig::captionSize, 6, largestFont}},
     {"Contacts read from the card at a time"_L1, Number{&CommonConfig::phonebookBatchSize, 0, 1000}},
     {"Digits compared when a name is looked up"_L1, Number{&CommonConfig::numberMatchingLength, 0, 40}},
     {"Card family: WCDMA, TD-SCDMA or CDMA"_L1, &CommonConfig::cardFamily},

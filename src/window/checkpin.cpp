@@ -7,10 +7,14 @@
 #include "widgets/whendone.h"
 #include "window/pinfield.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -23,15 +27,63 @@ namespace
 constexpr int fewestPinDigits = 4;
 constexpr int pukDigits = 8;
 constexpr int dialogWidth = 400;
+constexpr int smallestWindowHeight = 520;
 
 } // namespace
 
+/// The fields and texts above the buttons: as large as they are while the dialog fits into the window, then
+/// they scroll.
+class FormScroller final : public QScrollArea
+{
+public:
+    explicit FormScroller(QWidget *parent) : QScrollArea(parent)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setFocusPolicy(Qt::NoFocus);
+        setWidgetResizable(true);
+        viewport()->setAutoFillBackground(false);
+    }
+
+    QSize sizeHint() const override
+    {
+        const QLayout *form = widget()->layout();
+        const int width = form->totalMinimumSize().width();
+        const int height =
+            form->hasHeightForWidth() ? form->totalHeightForWidth(width) : form->totalSizeHint().height();
+        const int room = mostHeight();
+        return height <= room ? QSize(width, height)
+                              : QSize(width + verticalScrollBar()->sizeHint().width(), room);
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
+
+private:
+    /// What the window leaves above the buttons.
+    int mostHeight() const
+    {
+        const QWidget *behind = window()->parentWidget();
+        const int window = behind ? behind->window()->height() : 0;
+        const int button = std::max(metrics::ControlHeight, 2 * fontMetrics().height());
+        const int gaps = 3 * metrics::RowGap + 2 * metrics::PageMargin;
+        return std::max(window, smallestWindowHeight) - button - gaps;
+    }
+};
+
 CheckPIN::CheckPIN(CardMonitor *monitor, QWidget *parent)
-    : QDialog(parent), m_monitor(monitor), m_title(new TextLabel(TextRole::Title, this)),
-      m_about(new TextLabel(TextRole::Text, this)), m_attempts(new TextLabel(TextRole::Text, this)),
-      m_result(new TextLabel(TextRole::Text, this)), m_puk(new PinField(u"puk"_s, this)),
-      m_pin(new PinField(u"pin"_s, this)), m_repeat(new PinField(u"pinRepeat"_s, this)),
-      m_show(new QCheckBox(tr("&Show the digits"), this)), m_unlock(new QPushButton(this))
+    : QDialog(parent), m_monitor(monitor), m_form(new FormScroller(this)),
+      m_title(new TextLabel(TextRole::Title, this)), m_about(new TextLabel(TextRole::Text, this)),
+      m_attempts(new TextLabel(TextRole::Text, this)), m_result(new TextLabel(TextRole::Text, this)),
+      m_puk(new PinField(u"puk"_s, this)), m_pin(new PinField(u"pin"_s, this)),
+      m_repeat(new PinField(u"pinRepeat"_s, this)), m_show(new QCheckBox(tr("&Show the digits"), this)),
+      m_unlock(new QPushButton(this))
 {
     setObjectName(u"checkPin"_s);
     build();
@@ -42,6 +94,7 @@ CheckPIN::CheckPIN(CardMonitor *monitor, QWidget *parent)
 
 void CheckPIN::build()
 {
+    m_title->setWordWrap(true);
     m_about->setWordWrap(true);
     m_about->setMuted(true);
     m_attempts->setObjectName(u"attempts"_s);
@@ -61,16 +114,25 @@ void CheckPIN::build()
     buttons->addWidget(cancel);
     buttons->addWidget(m_unlock);
 
+    auto *form = new QWidget(m_form);
+    auto *rows = new QVBoxLayout(form);
+    rows->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, 0); // for the focus ring
+    rows->setSpacing(metrics::RowGap);
+    rows->addWidget(m_title);
+    rows->addWidget(m_about);
+    rows->addSpacing(metrics::Grid);
+    for (PinField *field : {m_puk, m_pin, m_repeat})
+        rows->addWidget(field);
+    rows->addWidget(m_show);
+    rows->addWidget(m_attempts);
+    rows->addWidget(m_result);
+    rows->addStretch(1);
+    m_form->setWidget(form);
+    form->setAutoFillBackground(false);
+
     auto *layout = new QVBoxLayout(this);
     layout->setSpacing(metrics::RowGap);
-    layout->addWidget(m_title);
-    layout->addWidget(m_about);
-    layout->addSpacing(metrics::Grid);
-    for (PinField *field : {m_puk, m_pin, m_repeat})
-        layout->addWidget(field);
-    layout->addWidget(m_show);
-    layout->addWidget(m_attempts);
-    layout->addWidget(m_result);
+    layout->addWidget(m_form);
     layout->addSpacing(metrics::Grid);
     layout->addLayout(buttons);
     layout->setSizeConstraint(QLayout::SetFixedSize);
@@ -79,6 +141,10 @@ void CheckPIN::build()
     connect(m_show, &QCheckBox::toggled, this, [this](bool shown) {
         for (PinField *field : {m_puk, m_pin, m_repeat})
             field->setDigitsShown(shown);
+    });
+    connect(qApp, &QApplication::focusChanged, this, [this, form](QWidget *, QWidget *now) {
+        if (now && form->isAncestorOf(now))
+            m_form->ensureWidgetVisible(now);
     });
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(m_unlock, &QPushButton::clicked, this, &CheckPIN::submit);
@@ -155,7 +221,7 @@ void CheckPIN::submit()
     if (m_isBusy || !checkFields())
         return;
     setBusy(true);
-    m_result->setText(tr("Asking the SIM card"));
+    say(tr("Asking the SIM card"));
     const QFuture<PinOutcome> answer = m_asksForPuk ? m_monitor->enterPuk(m_puk->digits(), m_pin->digits())
                                                     : m_monitor->enterPin(m_pin->digits());
     whenDone(answer, this, [this, askedForPuk = m_asksForPuk](const std::optional<PinOutcome> &outcome) {
@@ -197,23 +263,26 @@ void CheckPIN::takeOutcome(PinOutcome outcome)
             setAsksForPuk(true);
         break;
     case PinOutcome::SimFailure:
-        m_result->setText(tr("The SIM card cannot be read. Take it out and put it in again."));
+        say(tr("The SIM card cannot be read. Take it out and put it in again."));
         break;
-    case PinOutcome::SimBusy:
-        m_result->setText(tr("The SIM card is still starting. Try again in a moment."));
-        break;
-    case PinOutcome::Refused:
-        m_result->setText(tr("The card refused the entry, without saying that it is wrong."));
-        break;
+    case PinOutcome::SimBusy: say(tr("The SIM card is still starting. Try again in a moment.")); break;
+    case PinOutcome::Refused: say(tr("The card refused the entry, without saying that it is wrong.")); break;
     case PinOutcome::NoAnswer:
     case PinOutcome::Accepted:
-        m_result->setText(
-            tr("The card did not answer in time. It is not known whether it took the entry; the "
+        say(tr("The card did not answer in time. It is not known whether it took the entry; the "
                "attempts left are shown as far as the card tells them."));
         break;
     }
     // A wrong attempt costs one, and the last one turns the PIN into the PUK: the card knows.
     m_monitor->refreshNow();
+}
+
+void CheckPIN::say(const QString &sentence)
+{
+    m_result->setText(sentence);
+    // Behind the new layout, which the text has only asked for.
+    QMetaObject::invokeMethod(
+        m_form, [this] { m_form->ensureWidgetVisible(m_result); }, Qt::QueuedConnection);
 }
 
 void CheckPIN::clearFields()

@@ -12,6 +12,7 @@ class QPushButton;
 namespace corva
 {
 
+class FormScroller;
 class PinField;
 class TextLabel;
 
@@ -34,10 +35,12 @@ private:
     void setBusy(bool busy);
     void takeOutcome(PinOutcome outcome);
     void clearFields();
+    void say(const QString &sentence);
 
     CardMonitor *m_monitor;
     bool m_asksForPuk = false;
     bool m_isBusy = false;
+    FormScroller *m_form;
     TextLabel *m_title;
     TextLabel *m_about;
     TextLabel *m_attempts;

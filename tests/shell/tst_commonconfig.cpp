@@ -172,6 +172,7 @@ private Q_SLOTS:
         row("no number", 1, {"wide"}, [](CommonConfig &) {});
         row("number too small", 1, {"-5"}, [](CommonConfig &c) { c.windowWidth = 320; });
         row("number beyond counting", 1, {"99999999999999999999"}, [](CommonConfig &) {});
+        row("size of text beyond what fits", 114, {"72"}, [](CommonConfig &c) { c.textSize = 24; });
         row("colour", 5, {"1", "2", "3"}, [](CommonConfig &c) { c.window = QColor(1, 2, 3); });
         row("colour out of range", 5, {"-1", "256", "3"},
             [](CommonConfig &c) { c.window = QColor(0, 255, 3); });

@@ -13,6 +13,8 @@ class TestCheckPin : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { installCdeStyle(); }
+
     void init()
     {
         m_monitor = std::make_unique<CardMonitor>(nullptr);
@@ -166,6 +168,36 @@ private Q_SLOTS:
         m_dialog.reset(); // the answer that comes after finds nobody, and nothing happens
         fakecard::answerPin(PinOutcome::Wrong);
         QCoreApplication::processEvents();
+    }
+
+    void fitsTheSmallestWindowAtTheLargestSize()
+    {
+        const CommonConfig before = comcfg;
+        const QScopeGuard back([&] {
+            comcfg = before;
+            applySkin();
+        });
+        comcfg.titleSize = comcfg.textSize = comcfg.captionSize = 24;
+        applySkin();
+        CardState state = fakecard::namedState(u"puk"_s);
+        state.pukAttempts = 1;
+        fakecard::put(state);
+        type(u"puk"_s, u"12345678"_s);
+        type(u"pin"_s, u"1111"_s);
+        type(u"pinRepeat"_s, u"1111"_s);
+        unlock();
+        fakecard::answerPin(PinOutcome::NoAnswer);
+        QTRY_VERIFY(said(m_dialog.get(), u"pinResult"_s).contains(u"not known whether"_s));
+        QTRY_VERIFY2(m_dialog->width() <= 800 && m_dialog->height() <= 520,
+                     qPrintable(QDebug::toString(m_dialog->size())));
+        QVERIFY(!m_dialog->findChild<QWidget *>(u"unlock"_s)->visibleRegion().isEmpty());
+        const auto *result = m_dialog->findChild<QWidget *>(u"pinResult"_s);
+        QTRY_COMPARE(result->visibleRegion().boundingRect().bottom(), result->rect().bottom());
+        for (const auto &name : {u"puk"_s, u"pin"_s, u"pinRepeat"_s}) {
+            field(name)->clearFocus();
+            field(name)->setFocus();
+            QTRY_COMPARE(field(name)->visibleRegion().boundingRect(), field(name)->rect());
+        }
     }
 
     void digitsAreHiddenUntilAskedFor()
