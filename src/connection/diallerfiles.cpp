@@ -39,6 +39,7 @@ constexpr const char *recoverFailed = QT_TRANSLATE_NOOP("DiallerFiles", "Recover
 constexpr const char *dnsInvalid = QT_TRANSLATE_NOOP("DiallerFiles", "The DNS is invalid !");
 
 constexpr qint64 longestResolver = 64LL * 1024;
+constexpr qint64 longestJournal = 1024LL * 1024;
 
 bool removeFile(const QString &path)
 {
@@ -74,7 +75,7 @@ public:
     {
     }
 
-    bool fail(const char *sentence, const QString &what, QString *error);
+    bool fail(const char *sentence, const QString &what, QString *error, const QString &file = {});
     bool takeInHand();
     bool note(Phase phase);
     void forget();
@@ -89,14 +90,18 @@ public:
     DiallerJournal journal;
     std::array<KeptFile, 6> kept;
     QString detail;
+    QString setAside; ///< a copy that was put out of the way by the last putting back
 };
 
-bool DiallerFiles::Private::fail(const char *sentence, const QString &what, QString *error)
+/// A person who can do something about a file is told which it is, on a line of its own.
+bool DiallerFiles::Private::fail(const char *sentence, const QString &what, QString *error,
+                                 const QString &file)
 {
     if (!what.isEmpty())
         detail = what;
     if (error)
-        *error = QCoreApplication::translate("DiallerFiles", sentence);
+        *error = QCoreApplication::translate("DiallerFiles", sentence) +
+                 (file.isEmpty() ? QString() : u'\n' + file);
     return false;
 }
 
@@ -109,9 +114,11 @@ bool DiallerFiles::Private::takeInHand()
         detail = u"another program has the dialler's files in hand"_s;
         return false;
     }
-    constexpr qint64 longestJournal = 1024LL * 1024;
     removeUnfinishedFiles(files.journal);
+    removeUnfinishedFiles(files.lost);
     journal = DiallerJournal::fromJson(contentOf(files.journal, longestJournal));
+    if (journal.phase == Phase::None)
+        journal.files = DiallerJournal::fromJson(contentOf(files.lost, longestJournal)).files;
     return true;
 }
 
@@ -124,8 +131,10 @@ bool DiallerFiles::Private::note(Phase phase)
 void DiallerFiles::Private::forget()
 {
     journal = {};
-    if (!removeFile(files.journal))
-        detail = systemError(files.journal);
+    for (const QString &file : {files.journal, files.lost}) {
+        if (!removeFile(file))
+            detail = systemError(file);
+    }
 }
 
 /// The copy of the resolver file alone is none: it may be old, and others keep that file up to date.
@@ -137,6 +146,7 @@ bool DiallerFiles::Private::isLeftOver() const
 
 bool DiallerFiles::Private::save()
 {
+    setAside.clear();
     if (isLeftOver() && !putAllBack(true))
         return false;
     // Hashes of the program's own that still stand in a place are known from the last journal.
@@ -159,21 +169,24 @@ Result DiallerFiles::Private::putOneBack(const KeptFile &file, Phase before)
     return file.putBack(journal.files[file.name()], before == Phase::Restoring, &detail);
 }
 
-/// Every file is tried. What is known of a file whose copy is lost stays in the journal: the program's own
-/// that stands in its place must not be saved as the person's next time.
+/// Every file is tried. What is known of a file whose copy is lost is kept, apart from the journal: the
+/// program's own that stands in its place must not be saved as the person's next time.
 bool DiallerFiles::Private::putAllBack(bool copiesMayBeMissing)
 {
     const Phase before = journal.phase;
     if (before == Phase::Saved && !note(Phase::Restoring))
         return false;
     DiallerJournal lost;
+    setAside.clear();
     bool isAllBack = true;
     bool isAllTried = true;
     for (const KeptFile &file : kept) {
         const Result result = putOneBack(file, before);
         if (result == Result::Lost && (before != Phase::None || journal.files.contains(file.name())))
             lost.files[file.name()].written = journal.files[file.name()].written;
-        isAllTried = isAllTried && result != Result::Failed;
+        if (result == Result::SetAside)
+            setAside = detail;
+        isAllTried = isAllTried && result != Result::Failed && result != Result::SetAside;
         isAllBack = isAllBack && (result == Result::Done || (result == Result::Lost && copiesMayBeMissing));
     }
     if (!isAllTried)
@@ -183,7 +196,7 @@ bool DiallerFiles::Private::putAllBack(bool copiesMayBeMissing)
         return isAllBack;
     }
     journal = lost;
-    return note(Phase::None) && isAllBack;
+    return writeFileSafely(files.lost, lost.toJson(), &detail) && removeFile(files.journal) && isAllBack;
 }
 
 bool DiallerFiles::Private::writeOurs(const KeptFile &file, const QByteArray &content)
@@ -213,10 +226,11 @@ bool DiallerFiles::saveConfigData(QString *error)
     if (d->save())
         return true;
     const QString why = d->detail;
+    const QString file = d->setAside;
     if (d->journal.phase == Phase::Saving)
         d->putAllBack(true);
     d->lock.release();
-    return d->fail(saveFailed, why, error);
+    return d->fail(saveFailed, why, error, file);
 }
 
 bool DiallerFiles::readDeafaultConfigData(const ConnectionProfile &profile, const QString &modemPort,
@@ -241,9 +255,9 @@ bool DiallerFiles::readDeafaultConfigData(const ConnectionProfile &profile, cons
                                    peerText(isSuse())};
     for (std::size_t i = 0; i < std::size(contents); ++i) {
         if (!QFileInfo::exists(QFileInfo(d->kept[i].path()).path()))
-            return d->fail(openFailed, d->kept[i].path() + u": no such folder"_s, error);
+            return d->fail(openFailed, d->kept[i].path() + u": no such folder"_s, error, d->kept[i].path());
         if (!d->writeOurs(d->kept[i], contents[i]))
-            return d->fail(openFailed, {}, error);
+            return d->fail(openFailed, {}, error, d->kept[i].path());
     }
     return true;
 }
@@ -254,15 +268,18 @@ bool DiallerFiles::recoverConfigData(QString *error)
         return d->fail(recoverFailed, {}, error);
     const bool isBack = d->putAllBack(false);
     d->lock.release();
-    return isBack || d->fail(recoverFailed, {}, error);
+    return isBack || d->fail(recoverFailed, {}, error, d->setAside);
 }
 
 bool DiallerFiles::deleteTmpFile()
 {
+    const bool wasInHand = d->lock.isHeld();
+    if (!d->takeInHand())
+        return false;
     const bool isRemoved = removeFile(d->files.connectInfo);
     if (!isRemoved)
         d->detail = systemError(d->files.connectInfo);
-    if (d->lock.isHeld() || !d->takeInHand())
+    if (wasInHand)
         return isRemoved;
     if (!d->isLeftOver()) {
         for (const KeptFile &file : d->kept)
@@ -276,11 +293,10 @@ bool DiallerFiles::hasLeftovers() const
 {
     if (d->lock.isHeld() || d->lock.isHeldElsewhere())
         return false;
-    // The journal of a file that was lost says so, and is nothing to put back.
     const QFileInfo info(d->files.journal);
     if (info.exists() && !info.isReadable())
         return true;
-    d->journal = DiallerJournal::fromJson(contentOf(d->files.journal, info.size()));
+    d->journal = DiallerJournal::fromJson(contentOf(d->files.journal, longestJournal));
     return d->isLeftOver();
 }
 
@@ -291,12 +307,13 @@ bool DiallerFiles::recoverLeftovers(QString *error)
     if (!d->takeInHand())
         return d->fail(recoverFailed, {}, error);
     bool isBack = true;
+    d->setAside.clear();
     if (d->isLeftOver()) {
         isBack = d->putAllBack(d->journal.phase == Phase::None);
         removeFile(d->files.connectInfo);
     }
     d->lock.release();
-    return isBack || d->fail(recoverFailed, {}, error);
+    return isBack || d->fail(recoverFailed, {}, error, d->setAside);
 }
 
 bool DiallerFiles::noteResolver()
@@ -331,37 +348,19 @@ bool DiallerFiles::saveManualDNS(const QString &preferred, const QString &altern
     d->journal.files[resolver.name()].written += DiallerJournal::hashOf(content);
     const bool isWritten =
         d->note(Phase::Saved) && writeFileSafely(resolver.path(), content, rights, &d->detail);
-    return isWritten || d->fail(openFailed, {}, error);
+    return isWritten || d->fail(openFailed, {}, error, resolver.path());
 }
 
 bool DiallerFiles::makeConnectInfo(QString *error)
 {
     if (!removeFile(d->files.connectInfo))
-        return d->fail(openFailed, systemError(d->files.connectInfo), error);
+        return d->fail(openFailed, systemError(d->files.connectInfo), error, d->files.connectInfo);
     const int descriptor = ::open(QFile::encodeName(d->files.connectInfo).constData(),
                                   O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (descriptor < 0)
-        return d->fail(openFailed, systemError(d->files.connectInfo), error);
+        return d->fail(openFailed, systemError(d->files.connectInfo), error, d->files.connectInfo);
     ::close(descriptor);
     return true;
-}
-
-QByteArray DiallerFiles::connectInfo() const
-{
-    constexpr qint64 most = 1024LL * 1024;
-    const int descriptor = ::open(QFile::encodeName(d->files.connectInfo).constData(),
-                                  O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0)
-        return {};
-    struct stat status = {};
-    const bool isOwn =
-        ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == ::geteuid();
-    QFile file;
-    if (!file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle)) {
-        ::close(descriptor);
-        return {};
-    }
-    return isOwn && file.seek(qMax<qint64>(0, status.st_size - most)) ? file.read(most) : QByteArray();
 }
 
 bool DiallerFiles::isOSDistro(const QString &name) const

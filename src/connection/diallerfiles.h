@@ -19,7 +19,8 @@ namespace corva
 /// object has the files in hand (from the saving to the putting back), others are refused.
 ///
 /// Verbs return false with a sentence for people in `error`, and say more in `detail()`, for the log. No
-/// sentence and no detail contains a password.
+/// sentence and no detail contains a password. A sentence that is about a file that stands in the way names
+/// it on a second line.
 class DiallerFiles
 {
 public:
@@ -44,7 +45,8 @@ public:
     /// `saveManualDNS` wrote. "Recover wvdial config data failed!"
     bool recoverConfigData(QString *error = nullptr);
 
-    /// Removes "/tmp/connect_info", and copies of files that are in their place again.
+    /// Removes "/tmp/connect_info", unless another program has the files in hand, and copies of files that
+    /// are in their place again.
     bool deleteTmpFile();
 
     /// Whether a run that is over left the system's files saved. False while another program has them in
@@ -63,8 +65,6 @@ public:
 
     /// Makes "/tmp/connect_info" anew, empty, with mode 0600, never through a link or into another's file.
     bool makeConnectInfo(QString *error = nullptr);
-    /// The dialler's output so far, its last mebibyte at most.
-    QByteArray connectInfo() const;
 
     /// Whether "/etc/issue" names the distribution, in any letter case.
     bool isOSDistro(const QString &name) const;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/diallertexts.h"
 
-#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -120,16 +119,6 @@ QByteArray resolverText(const QByteArray &old, const QStringList &nameServers)
             text += line + '\n';
     }
     return text;
-}
-
-std::optional<int> exitCodeIn(const QByteArray &connectInfo)
-{
-    static const QRegularExpression mark(u"exit code = ?([0-9]{1,3})(?![0-9])"_s);
-    std::optional<int> code;
-    auto matches = mark.globalMatch(QString::fromLatin1(connectInfo));
-    while (matches.hasNext())
-        code = matches.next().capturedView(1).toInt();
-    return code;
 }
 
 } // namespace corva

@@ -5,7 +5,6 @@
 #include "connection/pppoptions.h"
 
 #include <QByteArray>
-#include <optional>
 
 namespace corva
 {
@@ -22,8 +21,5 @@ QByteArray dialledPassword(const ConnectionProfile &profile);
 
 /// The resolver file `old` with these name servers in place of its own. Source: resolv.conf(5).
 QByteArray resolverText(const QByteArray &old, const QStringList &nameServers);
-
-/// The number behind the last "exit code =" in the dialler's output.
-std::optional<int> exitCodeIn(const QByteArray &connectInfo);
 
 } // namespace corva

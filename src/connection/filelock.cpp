@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/filelock.h"
 
+#include "connection/processsession.h"
+#include "shell/safefile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -8,6 +11,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace corva
@@ -35,13 +39,18 @@ bool FileLock::acquire()
         return false;
     }
     m_descriptor = descriptor;
+    const FileRights forAll{S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH, ::geteuid(), ::getegid(), {0, UTIME_NOW}};
+    if (const auto self = processStat(::getpid()))
+        writeFileSafely(holderFile(), processNote(*self), forAll);
     return true;
 }
 
 void FileLock::release()
 {
-    if (isHeld())
-        ::close(m_descriptor);
+    if (!isHeld())
+        return;
+    QFile::remove(holderFile());
+    ::close(m_descriptor);
     m_descriptor = -1;
 }
 
@@ -51,7 +60,7 @@ bool FileLock::isHeldElsewhere() const
         return false;
     const int descriptor = openLock(m_path, O_RDONLY);
     if (descriptor < 0)
-        return false;
+        return errno == EACCES && isNotedProcess(holderFile());
     const bool isHeld = ::flock(descriptor, LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
     ::close(descriptor);
     return isHeld;

@@ -6,7 +6,8 @@
 namespace corva
 {
 
-/// A lock between programs that ends with its process. The file stays.
+/// A lock between programs that ends with its process. The file stays; only its owner may open it, or anybody
+/// could hold it. Who holds it is told to everybody by a file beside it, "<path>.holder".
 class FileLock
 {
 public:
@@ -22,6 +23,8 @@ public:
     bool isHeldElsewhere() const;
 
 private:
+    QString holderFile() const { return m_path + QStringLiteral(".holder"); }
+
     QString m_path;
     int m_descriptor = -1;
 };

@@ -28,12 +28,13 @@ constexpr int notAuthorised = 127;
 /// The helper says its sentences in English, having no translation of its own.
 QString translated(const QString &sentence)
 {
-    const QByteArray source = sentence.toUtf8();
+    const QString file = sentence.section(u'\n', 1); // on a line of its own
+    const QByteArray source = sentence.section(u'\n', 0, 0).toUtf8();
     for (const char *context :
          {"DiallerFiles", "corva::DialWork", "corva::DhcpClient", "WvdialProcess", "ProfileChecks"}) {
         QString text = QCoreApplication::translate(context, source.constData());
-        if (text != sentence)
-            return text;
+        if (text.toUtf8() != source)
+            return file.isEmpty() ? text : text + u'\n' + file;
     }
     return sentence;
 }

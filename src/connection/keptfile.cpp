@@ -4,6 +4,7 @@
 #include "connection/secretslines.h"
 #include "shell/safefile.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 
@@ -91,6 +92,16 @@ bool KeptFile::write(const QByteArray &content, QString *detail) const
     return writeFileSafely(m_path, content, detail);
 }
 
+/// It may be anything, a folder too, and would be in the way for ever.
+bool KeptFile::setUnreadableCopyAside(QString *detail) const
+{
+    const Reading copy = read(m_copy);
+    if (!copy.exists || copy.content)
+        return false;
+    *detail = m_copy + u".unreadable-"_s + QDateTime::currentDateTime().toString(u"yyyyMMdd-hhmmss"_s);
+    return ::rename(QFile::encodeName(m_copy).constData(), QFile::encodeName(*detail).constData()) == 0;
+}
+
 bool KeptFile::replace(QString *detail) const
 {
     const Reading copy = read(m_copy);
@@ -159,6 +170,8 @@ KeptFile::Result KeptFile::takeLinesOut(const DiallerJournal::File &state, bool 
 
 KeptFile::Result KeptFile::putBack(const DiallerJournal::File &state, bool isResumed, QString *detail) const
 {
+    if (setUnreadableCopyAside(detail))
+        return Result::SetAside;
     if (m_putBack == PutBack::Secrets)
         return takeLinesOut(state, isResumed, detail);
     const Reading now = read(m_path);
@@ -179,6 +192,8 @@ KeptFile::Result KeptFile::putBack(const DiallerJournal::File &state, bool isRes
 
 KeptFile::Result KeptFile::putBackUnknown(QString *detail) const
 {
+    if (setUnreadableCopyAside(detail))
+        return Result::SetAside;
     if (m_putBack == PutBack::IfOurs)
         return tidy() ? Result::Done : Result::Failed;
     if (!hasCopy()) {

@@ -19,8 +19,9 @@ public:
     };
     enum class Result {
         Done,
-        Lost,  ///< there is no copy, and what stands in the place is not the original
-        Failed ///< see `detail`
+        Lost,     ///< there is no copy, and what stands in the place is not the original
+        SetAside, ///< the copy cannot be read; under the name in `detail` it is out of the way next time
+        Failed    ///< see `detail`
     };
 
     KeptFile(const QString &name, const QString &path, const QString &copy, PutBack putBack)
@@ -48,6 +49,7 @@ public:
     Result putBackUnknown(QString *detail) const;
 
 private:
+    bool setUnreadableCopyAside(QString *detail) const;
     bool replace(QString *detail) const;
     Result takeLinesOut(const DiallerJournal::File &state, bool isResumed, QString *detail) const;
     bool removeOrKeep(bool isOurs, QString *detail) const;

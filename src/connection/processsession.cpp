@@ -20,6 +20,19 @@ constexpr int stateField = 0;
 constexpr int sessionField = 3;
 constexpr int startTimeField = 19;
 
+struct Note {
+    pid_t pid = 0; ///< 0 where there is none
+    quint64 startTime = 0;
+};
+
+Note noteIn(const QString &path)
+{
+    QFile file(path);
+    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.read(64) : QByteArray();
+    const QList<QByteArray> words = text.simplified().split(' ');
+    return {words.at(0).toInt(), words.value(1).toULongLong()};
+}
+
 } // namespace
 
 std::optional<ProcessStat> parseProcessStat(const QByteArray &line)
@@ -71,23 +84,30 @@ int signalSession(pid_t session, int signal, const QByteArray &name)
     return count;
 }
 
+QByteArray processNote(const ProcessStat &process)
+{
+    return QByteArray::number(process.pid) + ' ' + QByteArray::number(qulonglong(process.startTime)) + '\n';
+}
+
+bool isNotedProcess(const QString &path)
+{
+    const Note note = noteIn(path);
+    const auto now = note.pid > 1 ? processStat(note.pid) : std::nullopt;
+    return now && !now->isZombie() && now->startTime == note.startTime;
+}
+
 bool noteSession(const QString &path, pid_t leader)
 {
     const auto stat = processStat(leader);
-    return stat && writeFileSafely(path, QByteArray::number(leader) + ' ' +
-                                             QByteArray::number(qulonglong(stat->startTime)) + '\n');
+    return stat && writeFileSafely(path, processNote(*stat));
 }
 
 pid_t notedSession(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    const QList<QByteArray> words = file.read(64).simplified().split(' ');
-    const pid_t leader = words.at(0).toInt();
-    const auto now = leader > 1 ? processStat(leader) : std::nullopt;
-    const bool isStranger = now && (words.size() < 2 || now->startTime != words.at(1).toULongLong());
-    return isStranger || membersOfSession(leader).empty() ? 0 : leader;
+    const Note note = noteIn(path);
+    const auto now = note.pid > 1 ? processStat(note.pid) : std::nullopt;
+    const bool isStranger = now && now->startTime != note.startTime;
+    return isStranger || membersOfSession(note.pid).empty() ? 0 : note.pid;
 }
 
 } // namespace corva

@@ -32,8 +32,14 @@ std::vector<ProcessStat> membersOfSession(pid_t session);
 /// Sends `signal` to those of that name, or to all with an empty name. How many there were.
 int signalSession(pid_t session, int signal, const QByteArray &name = {});
 
-/// A session that this program started, kept in a file for the next start of the program should this one die:
-/// "<pid> <start time>".
+/// A process as a file names it for other programs: "<pid> <start time>".
+QByteArray processNote(const ProcessStat &process);
+/// Whether the process that the file names lives. A stranger that got the same process id meanwhile is
+/// another.
+bool isNotedProcess(const QString &path);
+
+/// A session that this program started, kept in a file for the next start of the program should this one die,
+/// as a note of its leader.
 bool noteSession(const QString &path, pid_t leader);
 /// The session noted in the file when members of it still live; 0 otherwise. A stranger that got the same
 /// process id meanwhile is none.

@@ -14,7 +14,7 @@ SystemFiles SystemFiles::below(const QString &root)
         &files.peer,           &files.savedPeer,       &files.resolvConf,  &files.savedResolvConf,
         &files.papSecrets,     &files.savedPapSecrets, &files.chapSecrets, &files.savedChapSecrets,
         &files.resolvconfFile, &files.pppResolvConf,   &files.routeHelper, &files.connectInfo,
-        &files.issue,          &files.journal,         &files.lock};
+        &files.issue,          &files.journal,         &files.lost,        &files.lock};
     for (QString *path : paths)
         path->prepend(root);
     for (QString &path : files.pppLinkFiles)

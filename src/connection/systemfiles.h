@@ -39,6 +39,8 @@ struct SystemFiles {
 
     /// What `DiallerFiles` has done so far; there only while files are saved.
     QString journal = QStringLiteral("/etc/ppp/corva-saved.json");
+    /// What is known of files whose copies were lost: a note for the next saving, and nothing to put back.
+    QString lost = QStringLiteral("/etc/ppp/corva-lost.json");
     /// Locked while a program has the files in hand.
     QString lock = QStringLiteral("/run/corva-dialler.lock");
 

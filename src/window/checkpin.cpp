@@ -94,6 +94,7 @@ CheckPIN::CheckPIN(CardMonitor *monitor, QWidget *parent)
 
 void CheckPIN::build()
 {
+    m_title->setWordWrap(true);
     m_about->setWordWrap(true);
     m_about->setMuted(true);
     m_attempts->setObjectName(u"attempts"_s);

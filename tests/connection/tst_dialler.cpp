@@ -436,7 +436,11 @@ static int dialAndDie(const QString &port)
             if (!result.isDone())
                 QCoreApplication::exit(1);
         });
-    QObject::connect(&backend, &DiallerBackend::sigOutput, [] { raise(SIGKILL); });
+    // Silent from then on: what it wrote to nobody would end it.
+    QObject::connect(&backend, &DiallerBackend::sigOutput, [](const QByteArray &chunk) {
+        if (chunk.contains("Waiting for carrier"))
+            raise(SIGKILL);
+    });
     return QCoreApplication::exec();
 }
 

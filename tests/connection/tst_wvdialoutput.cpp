@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "connection/diallertexts.h"
 #include "connection/ppperrors.h"
 #include "connection/wvdialoutput.h"
 
@@ -61,8 +60,6 @@ private Q_SLOTS:
     void hostileOutput();
     void phase();
     void exitTexts();
-    void exitCode_data();
-    void exitCode();
 };
 
 void TestWvdialOutput::realOutput_data()
@@ -162,23 +159,6 @@ void TestWvdialOutput::exitTexts()
     QCOMPARE(getPppErrorInfo(19), u"We failed to authenticate ourselves to the peer."_s);
     QCOMPARE(getPppErrorInfo(20), QString());
     QCOMPARE(getPppErrorInfo(-1), QString());
-}
-
-void TestWvdialOutput::exitCode_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("refused") << transcript("auth-pap-refused") << 19;
-    QTest::newRow("none") << transcript("busy") << -1;
-    QTest::newRow("the last of two") << QByteArray("(exit code = 16)\n(exit code = 4)") << 4;
-    QTest::newRow("no status of a process") << QByteArray("exit code = 12345") << -1;
-}
-
-void TestWvdialOutput::exitCode()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(int, expected);
-    QCOMPARE(exitCodeIn(text).value_or(-1), expected);
 }
 
 QTEST_APPLESS_MAIN(TestWvdialOutput)

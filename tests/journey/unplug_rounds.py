@@ -27,6 +27,11 @@ def main():
         program.start()
         program.wait_text("Test Network", 30)
         time.sleep(5)  # the echo is set, the first polls are through
+        card.say("unplug")
+        program.wait_text("No card", 10)
+        card.say("plug")  # threads that are made when they are first needed are there after this
+        program.wait_text("Test Network", 10)
+        time.sleep(2)
         before = {what: count(program.process.pid, what) for what in ("task", "fd")}
         for number in range(rounds):
             time.sleep(chance.uniform(0, 0.4))  # also in the middle of a poll or of the first reading

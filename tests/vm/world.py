@@ -48,17 +48,27 @@ class Etc:
     def look():
         for folder, _, names in os.walk("/etc"):
             for path in (folder, *(os.path.join(folder, name) for name in names)):
-                if path == Etc.LEFT_BY_PPPD:
-                    continue
-                about = os.lstat(path)
-                content = ""
-                if stat.S_ISLNK(about.st_mode):
-                    content = os.readlink(path)
-                    if path == "/etc/resolv.conf":
-                        content += pathlib.Path(path).read_text()
-                elif stat.S_ISREG(about.st_mode):
-                    content = hashlib.sha256(pathlib.Path(path).read_bytes()).hexdigest()
-                yield path, (about.st_mode, about.st_uid, about.st_gid, content)
+                if path != Etc.LEFT_BY_PPPD:
+                    yield path, Etc.look_at(path)
+
+    @staticmethod
+    def look_at(path):
+        about = os.lstat(path)
+        content = ""
+        if stat.S_ISLNK(about.st_mode):
+            content = os.readlink(path)
+            if path == "/etc/resolv.conf":
+                content += pathlib.Path(path).read_text()
+        elif stat.S_ISREG(about.st_mode):
+            content = hashlib.sha256(pathlib.Path(path).read_bytes()).hexdigest()
+        return about.st_mode, about.st_uid, about.st_gid, content
+
+    def has_diallers_files(self):
+        """Whether the files that a connection changes are as before. Soon answered, for times."""
+        with contextlib.suppress(OSError):
+            return not any(map(os.path.exists, COPIES)) and all(
+                self.look_at(path) == self.files[path] for path in OWN_FILES)
+        return False
 
     def differences(self):
         now = dict(self.look())
@@ -331,11 +341,16 @@ class Internet(Program):
         self.process.wait()
 
 
+COPIES = ["/etc/tmpwvdial.conf", "/etc/tmpresolv.conf", "/etc/ppp/tmpoptions", "/etc/ppp/peers/tmpwvdial",
+          "/etc/ppp/corva-saved.json"]
+OWN_FILES = ["/etc/wvdial.conf", "/etc/ppp/options", "/etc/ppp/peers/wvdial", "/etc/ppp/pap-secrets", "/etc/ppp/chap-secrets",
+             "/etc/resolv.conf"]
+
+
 def prepare_system():
     """The system's own dialler files, with contents, modes and owners that a careless restore would not bring back."""
     dip = int(run("getent", "group", "dip").split(":")[2])
-    for left in ("/etc/tmpwvdial.conf", "/etc/tmpresolv.conf", "/etc/ppp/tmpoptions", "/etc/ppp/peers/tmpwvdial",
-                 "/etc/ppp/corva-saved.json"):
+    for left in COPIES:
         pathlib.Path(left).unlink(missing_ok=True)
     for path, text, mode, group in (
             ("/etc/wvdial.conf", "[Dialer Defaults]\nModem = /dev/modem\nPhone = 5550100\n", 0o640, dip),
