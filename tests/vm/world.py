@@ -6,6 +6,7 @@ import json
 import os
 import pathlib
 import re
+import shutil
 import signal
 import stat
 import subprocess
@@ -407,6 +408,7 @@ class World:
             raise
         finally:
             program.end()
+            shutil.rmtree(program.folder, ignore_errors=True)  # all is memory here
 
     def keep_evidence(self, program):
         with contextlib.suppress(Exception):
@@ -436,3 +438,5 @@ class World:
             for pid in pids(name):
                 with contextlib.suppress(ProcessLookupError):
                     os.kill(pid, signal.SIGKILL)
+        for step in ("unplug", "remove"):
+            subprocess.run([HERE / "gadget", step], capture_output=True)
