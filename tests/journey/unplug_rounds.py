@@ -17,6 +17,14 @@ def count(pid, what):
     return len(list(pathlib.Path(f"/proc/{pid}/{what}").iterdir()))
 
 
+def show(pid):
+    """What there is, for whoever has to find what was left over."""
+    for task in pathlib.Path(f"/proc/{pid}/task").iterdir():
+        print("thread", (task / "comm").read_text().strip())
+    for descriptor in pathlib.Path(f"/proc/{pid}/fd").iterdir():
+        print("descriptor", descriptor.readlink())
+
+
 def main():
     rounds = int(sys.argv[1]) if len(sys.argv) > 1 else 20
     seed = int(sys.argv[2]) if len(sys.argv) > 2 else random.randrange(1 << 30)
@@ -42,8 +50,13 @@ def main():
             card.say("plug")
             if chance.random() < 0.7 or number == rounds - 1:
                 program.wait_text("Test Network", 10)
-        time.sleep(1)
-        after = {what: count(program.process.pid, what) for what in ("task", "fd")}
+        for _ in range(45):  # work that is under way ends, and so does a thread that waits for more of it
+            time.sleep(1)
+            after = {what: count(program.process.pid, what) for what in ("task", "fd")}
+            if after["task"] <= before["task"] and after["fd"] <= before["fd"]:
+                break
+        else:
+            show(program.process.pid)
         assert after["task"] <= before["task"] and after["fd"] <= before["fd"], f"left over: {before} -> {after}"
         program.keys("ctrl+q")
         status = program.process.wait(60)

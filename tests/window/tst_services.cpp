@@ -106,6 +106,7 @@ private Q_SLOTS:
 
     void aVolumeThatIsUsedUpEndsTheNextLinkAtOnce()
     {
+        cmcfg.setValue(u"statistics_widget"_s, u"usage_statistic_enabled"_s, u"1"_s);
         cmcfg.setValue(u"statistics"_s, u"quota_mb"_s, u"1"_s);
         cmcfg.setValue(u"statistics"_s, u"end_at_quota"_s, u"1"_s);
         start({profile(u"Mine"_s)});
