@@ -4,8 +4,8 @@
 #include <QLoggingCategory>
 #include <QString>
 
-/// Categories of the debug output: "corva.link" (which carries the wire trace), "corva.device", "corva.shell",
-/// "corva.window" and "corva.connection". QT_LOGGING_RULES="corva.link=false" silences one.
+/// Categories of the debug output: "corva.link" (which carries the wire trace), "corva.device",
+/// "corva.shell", "corva.window" and "corva.connection". QT_LOGGING_RULES="corva.link=false" silences one.
 Q_DECLARE_LOGGING_CATEGORY(lcLink)
 Q_DECLARE_LOGGING_CATEGORY(lcDevice)
 Q_DECLARE_LOGGING_CATEGORY(lcShell)
