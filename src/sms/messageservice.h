@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "sms/message.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace corva
+{
+
+class CardMonitor;
+class MessageStore;
+class ReportHub;
+
+/// A message as the composer hands it over: numbers already checked, each without blanks and hyphens.
+struct OutgoingSms {
+    QStringList recipients;
+    QString text;
+    bool asksReport = false;
+    QString draftId; ///< the draft that it was, which goes once the message is queued; may be empty
+};
+
+/// How far the sending has come.
+struct SendProgress {
+    bool isActive = false;
+    QString recipient; ///< of the part that is on its way
+    int sentParts = 0; ///< of all messages of this run, failed ones included
+    int totalParts = 0;
+    bool operator==(const SendProgress &) const = default;
+};
+
+/// Room in one of the card's stores.
+struct StoreCapacity {
+    int used = 0;
+    int total = 0;
+    bool operator==(const StoreCapacity &) const = default;
+};
+
+/// What is known of one place on the card.
+struct PlaceState {
+    bool isLoading = false;
+    bool isRead = false; ///< listed at least once since the card was found
+    QString error;       ///< why the last listing failed, for the person; empty when it did not
+    std::optional<StoreCapacity> capacity;
+    bool operator==(const PlaceState &) const = default;
+};
+
+/// The messages' traffic between the card and the store: receives, lists, sends, moves, deletes. Lives on the
+/// GUI thread and never waits there: what concerns the card runs on the card worker.
+///
+/// A message leaves the card only after the store has it on disk; a message that is to be sent is on disk
+/// before its first part goes out, and each part's outcome before the next.
+class MessageService : public QObject
+{
+    Q_OBJECT
+
+public:
+    MessageService(CardMonitor *monitor, ReportHub *reports, MessageStore *store, QObject *parent = nullptr);
+    ~MessageService() override;
+
+    MessageStore *store() const;
+
+    /// The phonebook's name for a number; the number itself where there is none.
+    QString nameFor(const QString &number) const;
+    using NameLookup = std::function<QString(const QString &number)>;
+    void setNameLookup(NameLookup lookup);
+
+    /// Queues one message for each recipient; they wait in the outbox, also over a restart.
+    void send(const OutgoingSms &sms);
+    /// Ends the run behind the part that is on its way. What was not sent stays in the outbox as failed.
+    void cancelSending();
+    /// Sends again what failed of these messages, whole ones and single parts.
+    void retry(const QStringList &ids);
+    const SendProgress &sending() const;
+
+    /// Lists the SIM or the card anew. Does nothing for the computer.
+    void refreshPlace(MessagePlace place);
+    const PlaceState &place(MessagePlace place) const;
+    /// Whether the card has a message store of its own beside the SIM's.
+    bool hasCardStore() const;
+
+    void copyTo(const QStringList &ids, MessagePlace place);
+    void moveTo(const QStringList &ids, MessagePlace place);
+    /// Into the deleted box; what lies on the SIM or the card is kept there first and then taken from it.
+    void removeMessages(const QStringList &ids);
+    /// Takes the last removal back. Returns false when there is none.
+    bool undoRemoval();
+    void setRead(const QStringList &ids, bool isRead);
+
+    /// The channels of cell broadcast that are listened to, e.g. {50, 919}.
+    QList<int> broadcastChannels() const;
+    void setBroadcastChannels(const QList<int> &channels);
+
+    /// The service centre's number as the SIM holds it; empty while unknown.
+    QString serviceCentre() const;
+    /// Stores another one on the SIM; `sigNotice` says how that went.
+    void setServiceCentre(const QString &number);
+
+Q_SIGNALS:
+    void sigSending(const corva::SendProgress &progress);
+    /// The end of a run: parts... of messages that went out, and that did not.
+    void sigSendSummary(int sent, int failed);
+    void sigPlaceChanged(corva::MessagePlace place);
+    /// A message came in. Of a long one: its first part, and no more for the others.
+    void sigNewMessage(const QString &id);
+    void sigClass0(const QString &sender, const QString &text, const QString &pdu);
+    /// "Message was successfully sent to ...", or what else a delivery report says.
+    void sigDelivered(const QString &sentence);
+    void sigBroadcast(const QString &id);
+    /// A sentence for the person: a refusal in words, a store that fills up.
+    void sigNotice(const QString &sentence);
+    void sigServiceCentreChanged(const QString &number);
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace corva
