@@ -19,7 +19,7 @@ namespace corva
 {
 class ReplyReader;
 struct StoreFill;
-}
+} // namespace corva
 
 /// True once the search has found and confirmed the AT port. Cleared by whoever notices that the card has
 /// gone.

@@ -69,7 +69,7 @@ void CardPlaces::forget()
 
 const PlaceState &CardPlaces::state(MessagePlace place) const
 {
-    static const PlaceState computer{.isRead = true};
+    static const PlaceState computer{false, true, {}, {}};
     return place == MessagePlace::Computer ? computer : m_states[slot(place)];
 }
 
@@ -102,8 +102,7 @@ void CardPlaces::refresh(MessagePlace place)
     PlaceState loading = state(place);
     loading.isLoading = true;
     change(place, loading);
-    const auto job =
-        m_worker.submit([place](SerialThread &link) { return smsjobs::list(link, place); });
+    const auto job = m_worker.submit([place](SerialThread &link) { return smsjobs::list(link, place); });
     whenDone(job, this, [this, place](std::optional<smsjobs::Listing> listing) {
         took(place, std::move(listing).value_or(smsjobs::Listing()));
     });
@@ -146,7 +145,8 @@ void CardPlaces::takeFill(MessagePlace place, const std::optional<StoreFill> &fi
 void CardPlaces::warnBeforeFull(MessagePlace place, const StoreCapacity &now)
 {
     const int left = now.total - now.used;
-    const bool isNearlyFull = left <= std::min(warningPlaces, now.total / 2) || left * warningShare < now.total;
+    const bool isNearlyFull =
+        left <= std::min(warningPlaces, now.total / 2) || left * warningShare < now.total;
     if (left <= 0 && place == MessagePlace::Sim && cmcfg.getNumber(u"sms"_s, u"deleteSimSmsWhenFull"_s) == 1)
         makeRoom(place);
     if (isNearlyFull && !m_hasWarned[slot(place)]) {
@@ -225,8 +225,8 @@ QStringList CardPlaces::moveToDeleted(const std::vector<Message> &messages)
 std::vector<smsjobs::CardEntry> CardPlaces::entriesOf(const Message &message) const
 {
     std::vector<smsjobs::CardEntry> entries;
-    const int status = statusOfBox(message.box == MessageBox::Deleted ? message.deletedFrom : message.box,
-                                   message.isRead);
+    const int status =
+        statusOfBox(message.box == MessageBox::Deleted ? message.deletedFrom : message.box, message.isRead);
     for (const MessagePart &part : message.parts) {
         if (!part.pdu.isEmpty())
             entries.push_back({part.pdu, status});
@@ -256,8 +256,9 @@ void CardPlaces::wroteToCard(const Message &message, MessagePlace to, After afte
                              const std::optional<QString> &fault)
 {
     if (fault) {
-        Q_EMIT sigNotice(to == MessagePlace::Sim ? tr("The message was not written to the SIM: %1").arg(*fault)
-                                                 : tr("The message was not written to the card: %1").arg(*fault));
+        Q_EMIT sigNotice(to == MessagePlace::Sim
+                             ? tr("The message was not written to the SIM: %1").arg(*fault)
+                             : tr("The message was not written to the card: %1").arg(*fault));
         return;
     }
     if (after == After::Keep)
@@ -285,7 +286,8 @@ void CardPlaces::removePart(MessagePlace place, int index, const QString &pdu)
         [place, index, pdu](SerialThread &link) { return smsjobs::remove(link, place, index, pdu); });
     whenDone(job, this, [this, place](std::optional<smsjobs::Removal> removal) {
         if (removal.value_or(smsjobs::Removal::Failed) == smsjobs::Removal::Failed)
-            Q_EMIT sigNotice(tr("A message could not be deleted from the card. It is kept on the computer as well."));
+            Q_EMIT sigNotice(
+                tr("A message could not be deleted from the card. It is kept on the computer as well."));
         if (--m_removals[slot(place)] == 0)
             refresh(place);
     });

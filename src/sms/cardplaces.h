@@ -35,7 +35,8 @@ public:
 
     void copy(const QStringList &ids, MessagePlace to) { transfer(ids, to, After::Keep); }
     void move(const QStringList &ids, MessagePlace to) { transfer(ids, to, After::Remove); }
-    /// Copies into the computer's deleted box, then takes the originals from the card. Returns the copies' ids.
+    /// Copies into the computer's deleted box, then takes the originals from the card. Returns the copies'
+    /// ids.
     QStringList moveToDeleted(const std::vector<Message> &messages);
     /// Takes one part from the card, if it is still that one; lists the place anew.
     void removePart(MessagePlace place, int index, const QString &pdu);

@@ -99,7 +99,8 @@ constexpr auto statuses = std::to_array<CodeText>({
     {0x01, QT_TRANSLATE_NOOP("CmsErrors", "The message was delivered.")},
     {0x02, QT_TRANSLATE_NOOP("CmsErrors", "The message was replaced by a newer one.")},
     {0x1F, QT_TRANSLATE_NOOP("CmsErrors", "The message was delivered.")},
-    {0x3F, QT_TRANSLATE_NOOP("CmsErrors", "The message could not be delivered yet; the network goes on trying.")},
+    {0x3F,
+     QT_TRANSLATE_NOOP("CmsErrors", "The message could not be delivered yet; the network goes on trying.")},
     {0x40, QT_TRANSLATE_NOOP("CmsErrors", "The recipient's network failed.")},
     {0x41, QT_TRANSLATE_NOOP("CmsErrors", "The recipient's device cannot take the message.")},
     {0x42, QT_TRANSLATE_NOOP("CmsErrors", "The recipient's device refused the message.")},
@@ -148,7 +149,8 @@ QString cmsErrorText(const CmsError &error)
 
 QString deliveryStatusText(int status)
 {
-    const auto *row = std::ranges::find_if(statuses, [&](const CodeText &each) { return status <= each.code; });
+    const auto *row =
+        std::ranges::find_if(statuses, [&](const CodeText &each) { return status <= each.code; });
     return translated(row == statuses.end() ? statuses.back().text : row->text);
 }
 

@@ -160,11 +160,10 @@ void MessageService::Private::setServiceCentre(const QString &number)
 void MessageService::Private::sendChannels()
 {
     const QByteArray channels = channelText(q->broadcastChannels());
-    const auto job =
-        monitor->worker().submit([channels](SerialThread &link) -> std::optional<QString> {
-            return link.setBroadcastChannels(channels) == 1 ? std::nullopt
-                                                            : std::optional(smsjobs::whyFailed(link));
-        });
+    const auto job = monitor->worker().submit([channels](SerialThread &link) -> std::optional<QString> {
+        return link.setBroadcastChannels(channels) == 1 ? std::nullopt
+                                                        : std::optional(smsjobs::whyFailed(link));
+    });
     whenDone(job, q, [this](const std::optional<std::optional<QString>> &fault) {
         if (fault && *fault)
             Q_EMIT q->sigNotice(tr("The card did not take the broadcast channels: %1").arg(**fault));

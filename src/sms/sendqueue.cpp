@@ -4,7 +4,7 @@
 #include "link/cardworker.h"
 #include "shell/commoncfg.h"
 #include "shell/whendone.h"
-#include "sms/concatid.h"
+#include "sms/concatreference.h"
 #include "sms/messagestore.h"
 
 #include <algorithm>
@@ -73,7 +73,8 @@ smsjobs::OutgoingPart outgoing(const Message &message, int part, const QString &
 bool isSplitAsQueued(const Message &message, int part, const SplitText &split)
 {
     const MessagePart &chosen = message.parts[std::size_t(part)];
-    return int(split.parts.size()) == message.total && split.parts[std::size_t(chosen.sequence - 1)] == chosen.text;
+    return int(split.parts.size()) == message.total &&
+           split.parts[std::size_t(chosen.sequence - 1)] == chosen.text;
 }
 
 /// What was not sent of a recipient's message stays unsent when one of its parts failed: half a message helps
@@ -115,7 +116,8 @@ std::vector<smsjobs::OutgoingPart> draftParts(const Message &message, const QStr
     const SplitText split = splitText(message.text(), configuredCoding());
     const int reference = split.parts.size() > 1 ? nextConcatReference() : 0;
     for (int i = 0; split.isSendable() && i < int(split.parts.size()); ++i)
-        parts.push_back({split, i, message.recipients.value(0), serviceCentre, reference, message.asksReport});
+        parts.push_back(
+            {split, i, message.recipients.value(0), serviceCentre, reference, message.asksReport});
     return parts;
 }
 
@@ -291,8 +293,8 @@ void SendQueue::took(const Target &target, const smsjobs::SentPart &sent)
     }
     const int recipient = before->parts[std::size_t(target.part)].recipient;
     const int left = countOf(*before, DeliveryState::Queued);
-    const auto stored = m_store->change(
-        target.id, [&](Message &message) { takeOutcome(message, target.part, sent); });
+    const auto stored =
+        m_store->change(target.id, [&](Message &message) { takeOutcome(message, target.part, sent); });
     const auto after = m_store->find(target.id);
     m_progress.sentParts += 1 + left - (after ? countOf(*after, DeliveryState::Queued) : 0);
     if (sent.isSent) {

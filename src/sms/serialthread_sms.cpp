@@ -4,7 +4,7 @@
 #include "link/replyreader.h"
 #include "shell/commoncfg.h"
 #include "shell/logging.h"
-#include "sms/smsparam.h"
+#include "sms/smparam.h"
 #include "sms/smsreplies.h"
 
 #include <QScopeGuard>
@@ -23,6 +23,7 @@ constexpr auto shortWait = 3s;
 constexpr auto listWait = 15s;
 /// The network's acceptance of a message. "send_atcommand_timer" does not shorten it.
 constexpr auto sendWait = 30s;
+constexpr std::size_t pduTextSize = 1024; ///< the longest PDU has 360 characters
 constexpr char endOfPdu = '\x1a';
 
 /// Where new messages go, "newsmsLocation".
@@ -207,8 +208,8 @@ int SerialThread::gsmSendMessage(SM_PARAM *message, QString text, int *tpduLengt
         return 0;
     const auto free = qScopeGuard([this] { m_isSending = false; });
 
-    std::array<char, corva::pduTextSize> whole{};
-    std::array<char, corva::pduTextSize> ucs2{};
+    std::array<char, pduTextSize> whole{};
+    std::array<char, pduTextSize> ucs2{};
     if (gsmEncodePdu(message, whole.data(), text, ucs2.data()) <= 0)
         return 0;
     QByteArray hex(whole.data());
@@ -256,11 +257,12 @@ bool SerialThread::moveMsgCMGWCmd(int length, int stat, const char *pdu)
 int SerialThread::deleteMessage(int storage, int index, const char *what)
 {
     // The index means another message in another store.
-    const int result = setShortMsgStorageMode(storage) != 1
-                           ? -1
-                           : outcome(transactMessage("AT+CMGD=" + QByteArray::number(index) + "\r\n", shortWait));
-    qCDebug(corva::lcSms).noquote()
-        << u"=====Delete %1 %2====="_s.arg(QLatin1StringView(what), result == 1 ? "OK"_L1 : "ERROR"_L1);
+    const int result =
+        setShortMsgStorageMode(storage) != 1
+            ? -1
+            : outcome(transactMessage("AT+CMGD=" + QByteArray::number(index) + "\r\n", shortWait));
+    qCDebug(lcSms).noquote() << u"=====Delete %1 %2====="_s.arg(QLatin1StringView(what),
+                                                                       result == 1 ? "OK"_L1 : "ERROR"_L1);
     return result;
 }
 

@@ -204,7 +204,8 @@ std::optional<QString> write(SerialThread &link, MessagePlace place, const std::
     for (const auto &[pdu, status] : entries) {
         const int length = tpduLength(pdu);
         if (length < 0)
-            return QCoreApplication::translate("SmsJobs", "The message has no content that the card could keep.");
+            return QCoreApplication::translate("SmsJobs",
+                                               "The message has no content that the card could keep.");
         if (!link.moveMsgCMGWCmd(length, status, pdu.toLatin1().constData()))
             return whyFailed(link);
     }
@@ -234,8 +235,9 @@ SentPart send(SerialThread &link, const OutgoingPart &part)
 
 QString encode(SerialThread &link, const OutgoingPart &part)
 {
-    SM_PARAM record = smParamFor(part.split, part.index, part.recipient,
-                                 QString(part.serviceCentre).remove(u'+'), part.concatReference, part.asksReport);
+    SM_PARAM record =
+        smParamFor(part.split, part.index, part.recipient, QString(part.serviceCentre).remove(u'+'),
+                   part.concatReference, part.asksReport);
     gUnicodeFlag = part.split.alphabet == Alphabet::Ucs2;
     std::array<char, pduTextSize> whole{};
     std::array<char, pduTextSize> ucs2{};

@@ -90,13 +90,16 @@ FiledSms fileSms(const ListedSms &listed, MessagePlace place, const QDateTime &a
     message.place = place;
     message.time = message.arrived = arrived;
     message.isRead = listed.status != 0;
-    message.parts.push_back({.pdu = QString::fromLatin1(listed.pdu), .storageIndex = listed.index});
+    MessagePart &part = message.parts.emplace_back();
+    part.pdu = QString::fromLatin1(listed.pdu);
+    part.storageIndex = listed.index;
     const SmsResult result = decodeSms(listed.pdu, SmsDirection::OnCard);
     if (const auto *error = std::get_if<PduError>(&result)) {
         message.box = MessageBox::Inbox;
-        message.error = listed.pdu.isEmpty()
-                            ? sentence(QT_TRANSLATE_NOOP("SmsFiling", "The card lists the message without its content."))
-                            : error->text();
+        message.error =
+            listed.pdu.isEmpty()
+                ? sentence(QT_TRANSLATE_NOOP("SmsFiling", "The card lists the message without its content."))
+                : error->text();
         return message;
     }
     const auto &sms = std::get<DecodedSms>(result);
@@ -111,7 +114,9 @@ Message fileBroadcast(const QByteArray &pdu, const QDateTime &arrived)
     Message message;
     message.isBroadcast = true;
     message.time = message.arrived = arrived;
-    message.parts.push_back({.pdu = QString::fromLatin1(pdu), .sent = arrived});
+    MessagePart &part = message.parts.emplace_back();
+    part.pdu = QString::fromLatin1(pdu);
+    part.sent = arrived;
     const auto result = decodeBroadcast(pdu);
     if (const auto *error = std::get_if<PduError>(&result)) {
         message.error = error->text();
@@ -123,8 +128,8 @@ Message fileBroadcast(const QByteArray &pdu, const QDateTime &arrived)
     message.total = page.pages;
     message.concatReference = page.pages > 1 ? page.code * updates + page.update : -1;
     message.is16Bit = true;
-    message.parts.front().sequence = page.page;
-    message.parts.front().text = page.text;
+    part.sequence = page.page;
+    part.text = page.text;
     return message;
 }
 

@@ -205,8 +205,7 @@ void SmsReception::fileReport(const StatusReport &report, int index)
 
 void SmsReception::removeReport(int index, const QString &pdu)
 {
-    m_worker.submit(
-        [index, pdu](SerialThread &link) { smsjobs::removeReport(link, index, pdu.toLatin1()); });
+    m_worker.submit([index, pdu](SerialThread &link) { smsjobs::removeReport(link, index, pdu.toLatin1()); });
 }
 
 QString SmsReception::sentenceFor(const StatusReport &report) const
