@@ -10,6 +10,7 @@ Q_LOGGING_CATEGORY(lcDevice, "corva.device")
 Q_LOGGING_CATEGORY(lcShell, "corva.shell")
 Q_LOGGING_CATEGORY(lcWindow, "corva.window")
 Q_LOGGING_CATEGORY(lcConnection, "corva.connection")
+Q_LOGGING_CATEGORY(lcSms, "corva.sms")
 
 namespace corva
 {

@@ -5,12 +5,14 @@
 #include <QString>
 
 /// Categories of the debug output: "corva.link" (which carries the wire trace), "corva.device",
-/// "corva.shell", "corva.window" and "corva.connection". QT_LOGGING_RULES="corva.link=false" silences one.
+/// "corva.shell", "corva.window", "corva.connection" and "corva.sms". QT_LOGGING_RULES="corva.link=false"
+/// silences one.
 Q_DECLARE_LOGGING_CATEGORY(lcLink)
 Q_DECLARE_LOGGING_CATEGORY(lcDevice)
 Q_DECLARE_LOGGING_CATEGORY(lcShell)
 Q_DECLARE_LOGGING_CATEGORY(lcWindow)
 Q_DECLARE_LOGGING_CATEGORY(lcConnection)
+Q_DECLARE_LOGGING_CATEGORY(lcSms)
 
 namespace corva
 {
