@@ -68,16 +68,6 @@ const StateRow *rowOf(DeliveryState state)
     return row == std::end(stateRows) ? nullptr : row;
 }
 
-/// How much a state says about the whole: the highest of the parts' wins.
-int weightOf(DeliveryState state)
-{
-    constexpr DeliveryState ascending[] = {DeliveryState::None,        DeliveryState::Delivered,
-                                           DeliveryState::Sent,        DeliveryState::StillTrying,
-                                           DeliveryState::Queued,      DeliveryState::Sending,
-                                           DeliveryState::Failed};
-    return int(std::find(std::begin(ascending), std::end(ascending), state) - std::begin(ascending));
-}
-
 QString partDetails(const Message &message, const MessagePart &part)
 {
     const QString state = stateTitle(part.state);
@@ -121,12 +111,6 @@ QString peopleOf(const Message &message, const NameOf &nameOf)
     return names.join(text(QT_TRANSLATE_NOOP("Messages", ", ")));
 }
 
-bool isOwn(const Message &message)
-{
-    const MessageBox box = message.box == MessageBox::Deleted ? message.deletedFrom : message.box;
-    return box == MessageBox::Outbox || box == MessageBox::Sent || box == MessageBox::Drafts;
-}
-
 QString previewOf(const Message &message)
 {
     if (!message.error.isEmpty())
@@ -142,15 +126,6 @@ QString partsNote(const Message &message)
         return {};
     return text(QT_TRANSLATE_NOOP("Messages", "%1 of %2"))
         .arg(QLocale().toString(message.total - missing), QLocale().toString(message.total));
-}
-
-DeliveryState stateOf(const Message &message)
-{
-    DeliveryState whole = DeliveryState::None;
-    for (const MessagePart &part : message.parts)
-        if (weightOf(part.state) > weightOf(whole))
-            whole = part.state;
-    return whole;
 }
 
 QString stateTitle(DeliveryState state)

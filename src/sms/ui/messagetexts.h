@@ -15,15 +15,11 @@ QString placeTitle(MessagePlace place);
 
 /// Who is on the other side: the sender, or everybody whom it is for.
 QString peopleOf(const Message &message, const NameOf &nameOf);
-/// Whether the person here wrote it.
-bool isOwn(const Message &message);
 /// One line of what it says; what stands in for the text where there is none.
 QString previewOf(const Message &message);
 /// "2 of 3" while parts of a long message are missing; else empty.
 QString partsNote(const Message &message);
 
-/// The state of the whole: failed when one part failed, delivered when every part was.
-DeliveryState stateOf(const Message &message);
 /// In a word or two; empty for DeliveryState::None.
 QString stateTitle(DeliveryState state);
 /// The state of each part in a sentence, with when and why where that is known. Empty for what was received.

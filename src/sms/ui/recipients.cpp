@@ -19,9 +19,13 @@ constexpr qsizetype longestNumber = 15;
 bool isLeftOut(char32_t character)
 {
     constexpr char32_t minus = 0x2212;
-    const QChar::Category category = QChar::category(character);
-    return QChar::isSpace(character) || category == QChar::Punctuation_Dash ||
-           category == QChar::Other_Format || character == minus;
+    switch (QChar::category(character)) {
+    case QChar::Punctuation_Dash:
+    case QChar::Punctuation_Open:
+    case QChar::Punctuation_Close:
+    case QChar::Other_Format: return true; // marks of writing direction, which come with pasted numbers
+    default: return QChar::isSpace(character) || character == minus || character == U'.';
+    }
 }
 
 /// The character as it is dialled; none when a number cannot hold it there.

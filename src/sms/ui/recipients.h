@@ -16,7 +16,7 @@ struct Recipients {
     bool operator==(const Recipients &) const = default;
 };
 
-/// Numbers parted by commas or semicolons. Blanks, hyphens and marks of writing direction between the digits
+/// Numbers parted by commas or semicolons. Blanks, hyphens, brackets, dots and marks of writing direction
 /// are left out, digits of other scripts become those of ASCII; anything else is refused.
 Recipients readRecipients(const QString &text);
 
