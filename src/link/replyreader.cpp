@@ -65,6 +65,10 @@ bool ReplyReader::take(char byte)
             if (then == Then::Done)
                 return true;
         }
+        if (m_endsOnCmsError && byte == '\n' && endsCmsErrorLine()) {
+            keepText();
+            return true;
+        }
     }
     if (byte >= '0' && byte <= '3') {
         for (const auto &[report, line] : dataCallReports) {
@@ -88,6 +92,15 @@ bool ReplyReader::endsContinuation(char byte)
         note("******3 JPDPACT!");
     m_reply += m_text;
     return true;
+}
+
+/// Whether the line that ends here is the refusal of a message operation.
+bool ReplyReader::endsCmsErrorLine() const
+{
+    if (m_text.size() < 2)
+        return false;
+    const qsizetype begin = m_text.lastIndexOf('\n', -2) + 1;
+    return QByteArrayView(m_text).sliced(begin).startsWith("+CMS ERROR");
 }
 
 ReplyReader::Then ReplyReader::act(const Mark &mark)

@@ -26,6 +26,14 @@ public:
     /// ever.
     static constexpr qsizetype capacity = 102400 - 1;
 
+    /// What ends a reply beside the marks above.
+    enum class Also {
+        Nothing,
+        CmsError ///< a whole line "+CMS ERROR...", which holds none of the marks when a code follows
+    };
+
+    explicit ReplyReader(Also also = Also::Nothing) : m_endsOnCmsError(also == Also::CmsError) {}
+
     enum class Status { More, Complete, TooLong };
     struct Progress {
         Status status;
@@ -46,6 +54,7 @@ private:
 
     bool take(char byte);
     bool endsContinuation(char byte);
+    bool endsCmsErrorLine() const;
     Then act(const Mark &mark);
     Then actOnCmeError();
     void keepText();
@@ -58,6 +67,7 @@ private:
     qsizetype m_taken = 0;
     bool m_continuation = false; ///< "+CME ERROR" was seen, its line is not at its end
     bool m_noNetworkService = false;
+    bool m_endsOnCmsError;
 };
 
 } // namespace corva

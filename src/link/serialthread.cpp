@@ -172,11 +172,16 @@ int SerialThread::resAtStr(int fd, char *reply, int seconds, int microseconds)
 
 int SerialThread::collectReply(int fd, QByteArray &reply, seconds whole, microseconds rest)
 {
+    return collectReply(fd, reply, whole, rest, corva::ReplyReader());
+}
+
+int SerialThread::collectReply(int fd, QByteArray &reply, seconds whole, microseconds rest,
+                               corva::ReplyReader reader)
+{
     reply.clear();
     if (receive_flag.exchange(true))
         return 0;
 
-    corva::ReplyReader reader;
     const std::chrono::microseconds timeout = whole + rest;
     Budget budget{std::max<qint64>(timeout / round100ms, 0),
                   steady_clock::now() +
@@ -280,10 +285,24 @@ void SerialThread::purgeComData()
 
 std::optional<QByteArray> SerialThread::transact(const QByteArray &cmd, std::chrono::microseconds timeout)
 {
+    return writeAndCollect(cmd, timeout, corva::ReplyReader());
+}
+
+std::optional<QByteArray> SerialThread::transactMessage(const QByteArray &cmd,
+                                                        std::chrono::microseconds timeout)
+{
+    return writeAndCollect(cmd, timeout, corva::ReplyReader(corva::ReplyReader::Also::CmsError));
+}
+
+std::optional<QByteArray> SerialThread::writeAndCollect(const QByteArray &cmd,
+                                                        std::chrono::microseconds timeout,
+                                                        corva::ReplyReader reader)
+{
     m_lastReply.clear();
     purgeComData();
     const auto whole = floor<seconds>(timeout);
-    if (!excuteAtStr(cmd.constData()) || collectReply(m_fd, m_lastReply, whole, timeout - whole) == -1)
+    if (!excuteAtStr(cmd.constData()) ||
+        collectReply(m_fd, m_lastReply, whole, timeout - whole, std::move(reader)) == -1)
         return std::nullopt;
     return m_lastReply;
 }

@@ -13,10 +13,13 @@
 
 class LinkOwner;
 
+struct SM_PARAM;
+
 namespace corva
 {
 class ReplyReader;
-}
+struct StoreFill;
+} // namespace corva
 
 /// True once the search has found and confirmed the AT port. Cleared by whoever notices that the card has
 /// gone.
@@ -125,6 +128,8 @@ public:
     int sendNULL_ATCmd();
     /// Drain, write and read with the caller's own time-out; nullopt when any of them failed.
     std::optional<QByteArray> transact(const QByteArray &cmd, std::chrono::microseconds timeout);
+    /// The same for the message operations: a line "+CMS ERROR: <code>" ends the reply as well.
+    std::optional<QByteArray> transactMessage(const QByteArray &cmd, std::chrono::microseconds timeout);
     /// The reply of the last `sendCmdAndRec` or `transact`; empty when there was none.
     const QByteArray &lastReply() const { return m_lastReply; }
 
@@ -251,6 +256,73 @@ public:
     /// "AT+CGACT=<1|0>,<cid>". 3GPP TS 27.007 10.1.10.
     int activatePdpContext(int cid, bool up);
 
+    // --- Messages: 3GPP TS 27.005, PDU mode
+    // ------------------------------------------------------------------------
+
+    /// Selects the store that is read, written and deleted from: 1 the card's own memory, 2 the delivery
+    /// reports, anything else the SIM.
+    int setShortMsgStorageMode(int storage);
+    /// Where the card keeps new messages: the maker's "AT+JSMSD=<0..3>".
+    int setNewSmsPreferNetworkStorage();
+    int setNewSmsPreferSIMStorage();
+    int setNewSmsPreferNVStorage();
+    int setNewSmsPreferMEStorage();
+    /// 0, 1, 2, or -1 for anything else.
+    int getNewSmsPreferStorage();
+    /// Chooses one of the four by "newsmsLocation" and "modemSide_enabled".
+    int setNewSmsStorageLocation();
+    /// "AT+CNMI" by "newsmsLocation", "modemSide_enabled" and "cell_board_enabled".
+    int setNewMsgNoticeMode();
+    /// The modes that the card knows, the raw reply of "AT+CNMI=?"; empty without one.
+    QByteArray getNewMsgNoticeModes();
+    /// "AT+CNMI=<mode>,<mt>,<bm>,<ds>,<bfr>".
+    int setNewMsgNoticeMode(const QByteArray &values);
+    /// "AT+CSCB=0,"<channels>"": the cell broadcast channels that are wanted; none of them for an empty text.
+    int setBroadcastChannels(const QByteArray &channels);
+
+    /// 0 PDU mode, 1 text mode, -1 unknown.
+    int getMsgFormat();
+    /// Sends "AT+CMGF=" as it stands, without value and line end: nothing relies on it. See `setPduMode`.
+    int setMsgFormat(int format);
+    /// Makes sure that messages travel as PDUs.
+    int setPduMode();
+
+    /// The raw reply with every message of `storage` (numbers as above) that has the status `stat`: 0
+    /// received unread, 1 received read, 2 stored unsent, 3 stored sent, 4 all. Empty when the store could
+    /// not be selected or no reply came.
+    QByteArray getSmsContent(int stat, int storage);
+    /// The raw reply with one message of the store that is selected; empty when no reply came.
+    QByteArray getIndexSms(const char *index);
+
+    /// Builds the PDU of a part and sends it. 1 sent, 0 not, also at once while another is being sent.
+    /// `tpduLength` receives the octets without the service centre, `pdu` the hexadecimal text with Ctrl-Z;
+    /// both may be null.
+    int gsmSendMessage(SM_PARAM *message, QString text, int *tpduLength, QString *pdu);
+    /// Asks for the prompt and sends `pdu`, which ends in Ctrl-Z. 1 sent, -1 not; `lastReply` says why.
+    int sendMsgCMGSCmd(int length, const char *pdu);
+    /// Writes the PDU behind the prompt and waits for "+CMGS: <mr>". 1 or -1.
+    int sendPDU(const char *pdu);
+    /// Writes a message with that status into the selected store, as it was listed or encoded; Ctrl-Z is
+    /// added where it lacks. Whether it is there.
+    bool moveMsgCMGWCmd(int length, int stat, const char *pdu);
+    /// Select the store, then delete. -1 and nothing deleted when the store cannot be selected.
+    int deleteSimSMS(int index);
+    int deleteMeSMS(int index);
+    int deleteSmsStatusReport(int index);
+
+    /// The raw reply of "AT+CSCA?". 1, or -1 without one.
+    int get_sms_number(char *text);
+    /// Stores the service centre's number on the SIM. -1 and nothing sent for a text that could break out of
+    /// its quotes. Afterwards the character set is "UCS2", whatever came of it.
+    int set_sms_number(QString number);
+    /// Room on the SIM and in the card's memory, where "AT+CPMS?" names that store. See
+    /// `setShortMsgStorageMode`: the card only tells of those that are selected.
+    std::optional<corva::StoreFill> getSmsMem();
+    std::optional<corva::StoreFill> getModemSmsMem();
+    /// The same from cards that leave the stores' names out: the figures of the store that is read.
+    std::optional<corva::StoreFill> getSimSmsMem2();
+    std::optional<corva::StoreFill> getModemSmsMem2();
+
 protected:
     void run() override;
 
@@ -271,6 +343,10 @@ private:
     bool writeCommand(const char *cmd, bool isLogged);
     bool waitForLockAndWrite(const char *cmd);
     int collectReply(int fd, QByteArray &reply, std::chrono::seconds whole, std::chrono::microseconds rest);
+    int collectReply(int fd, QByteArray &reply, std::chrono::seconds whole, std::chrono::microseconds rest,
+                     corva::ReplyReader reader);
+    std::optional<QByteArray> writeAndCollect(const QByteArray &cmd, std::chrono::microseconds timeout,
+                                              corva::ReplyReader reader);
     QString readReply(int fd, corva::ReplyReader &reader, Budget &budget);
     QString waitForBytes(int fd, Budget &budget);
     std::optional<QByteArray> drain();
@@ -281,6 +357,8 @@ private:
                      std::chrono::microseconds timeout);
     int simFile(const QByteArray &cmd, char *text);
     int phonebookCapacity(const char *store);
+    bool writePdu(const QByteArray &command, QByteArray pdu);
+    int deleteMessage(int storage, int index, const char *what);
 
     LinkOwner *const m_owner;
     std::atomic<int> m_fd = -1;
@@ -290,6 +368,7 @@ private:
     std::atomic<bool> m_probing = false;
     std::atomic<bool> m_portLost = false;
     std::atomic<bool> m_stop = false;
+    std::atomic<bool> m_isSending = false;
     std::atomic<int> m_dataCallState = 0;
     std::atomic<int> m_latestDataCallState = 0;
     std::atomic<corva::CardFamily> m_family;

@@ -15,7 +15,6 @@ namespace corva
 
 class CardMonitor;
 class MessageStore;
-class ReportHub;
 
 /// A message as the composer hands it over: numbers already checked, each without blanks and hyphens.
 struct OutgoingSms {
@@ -29,7 +28,7 @@ struct OutgoingSms {
 struct SendProgress {
     bool isActive = false;
     QString recipient; ///< of the part that is on its way
-    int sentParts = 0; ///< of all messages of this run, failed ones included
+    int sentParts = 0; ///< of this run, failed ones included
     int totalParts = 0;
     bool operator==(const SendProgress &) const = default;
 };
@@ -60,7 +59,7 @@ class MessageService : public QObject
     Q_OBJECT
 
 public:
-    MessageService(CardMonitor *monitor, ReportHub *reports, MessageStore *store, QObject *parent = nullptr);
+    MessageService(CardMonitor *monitor, MessageStore *store, QObject *parent = nullptr);
     ~MessageService() override;
 
     MessageStore *store() const;
@@ -70,8 +69,16 @@ public:
     using NameLookup = std::function<QString(const QString &number)>;
     void setNameLookup(NameLookup lookup);
 
-    /// Queues one message for each recipient; they wait in the outbox, also over a restart.
-    void send(const OutgoingSms &sms);
+    /// Texts in which the card reported messages ("+CMTI:", "+CMT:"), delivery reports ("+CDSI:"), immediate
+    /// messages ("+JCLAS:") and cell broadcasts ("+CBM:"). What a text brings twice is filed once.
+    void takeMessages(const QString &text);
+    void takeDeliveryReports(const QString &text);
+    void takeImmediate(const QString &text);
+    void takeBroadcasts(const QString &text);
+
+    /// Queues the message in the outbox, where it waits also over a restart. False, with a notice, for a text
+    /// that no message can carry.
+    bool send(const OutgoingSms &sms);
     /// Ends the run behind the part that is on its way. What was not sent stays in the outbox as failed.
     void cancelSending();
     /// Sends again what failed of these messages, whole ones and single parts.
@@ -103,11 +110,13 @@ public:
 
 Q_SIGNALS:
     void sigSending(const corva::SendProgress &progress);
-    /// The end of a run: parts... of messages that went out, and that did not.
+    /// The end of a run: messages that went out, and that did not, each recipient's counted by itself.
     void sigSendSummary(int sent, int failed);
     void sigPlaceChanged(corva::MessagePlace place);
     /// A message came in. Of a long one: its first part, and no more for the others.
     void sigNewMessage(const QString &id);
+    /// Once after the start, when messages wait unread and are to be announced.
+    void sigUnreadAtStart(int count);
     void sigClass0(const QString &sender, const QString &text, const QString &pdu);
     /// "Message was successfully sent to ...", or what else a delivery report says.
     void sigDelivered(const QString &sentence);

@@ -1,0 +1,296 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sms/cardplaces.h"
+
+#include "link/cardworker.h"
+#include "shell/commoncfg.h"
+#include "shell/whendone.h"
+#include "sms/messagestore.h"
+#include "sms/sendqueue.h"
+#include "sms/smsfiling.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+namespace
+{
+
+/// A store is told to be nearly full when less than this share of it is left, or this many places.
+constexpr int warningShare = 10;
+constexpr int warningPlaces = 2;
+/// Read messages that leave a full SIM at once.
+constexpr std::size_t roomToMake = 5;
+
+std::size_t slot(MessagePlace place)
+{
+    return place == MessagePlace::Card ? 1 : 0;
+}
+
+bool isOnCard(const Message &message)
+{
+    return message.place != MessagePlace::Computer;
+}
+
+/// The message as the computer keeps it.
+Message copyForComputer(Message message, MessageBox box)
+{
+    message.id.clear();
+    message.place = MessagePlace::Computer;
+    message.deletedFrom = message.box == MessageBox::Outbox ? MessageBox::Sent : message.box;
+    message.box = box;
+    for (MessagePart &part : message.parts)
+        part.storageIndex = -1;
+    return message;
+}
+
+/// What was sent from elsewhere is sent; our own outbox is for what goes out from here.
+MessageBox boxOnComputer(const Message &message)
+{
+    return message.box == MessageBox::Outbox ? MessageBox::Sent : message.box;
+}
+
+} // namespace
+
+CardPlaces::CardPlaces(CardWorker &worker, MessageStore *store, QObject *parent)
+    : QObject(parent), m_worker(worker), m_store(store)
+{
+}
+
+void CardPlaces::forget()
+{
+    m_isCardStoreMissing = false;
+    m_hasWarned = {};
+    for (const MessagePlace place : {MessagePlace::Sim, MessagePlace::Card})
+        change(place, {});
+}
+
+const PlaceState &CardPlaces::state(MessagePlace place) const
+{
+    static const PlaceState computer{false, true, {}, {}};
+    return place == MessagePlace::Computer ? computer : m_states[slot(place)];
+}
+
+PlaceState &CardPlaces::stateOf(MessagePlace place)
+{
+    return m_states[slot(place)];
+}
+
+void CardPlaces::change(MessagePlace place, const PlaceState &state)
+{
+    if (stateOf(place) == state)
+        return;
+    stateOf(place) = state;
+    Q_EMIT sigChanged(place);
+}
+
+bool CardPlaces::hasCardStore() const
+{
+    return cmcfg.getNumber(u"function"_s, u"modemSide_enabled"_s) == 1 && !m_isCardStoreMissing;
+}
+
+// --- Listing
+// -----------------------------------------------------------------------------------------------------
+
+void CardPlaces::refresh(MessagePlace place)
+{
+    if (place == MessagePlace::Computer || !m_isReady || state(place).isLoading ||
+        (place == MessagePlace::Card && !hasCardStore()))
+        return;
+    PlaceState loading = state(place);
+    loading.isLoading = true;
+    change(place, loading);
+    const auto job = m_worker.submit([place](SerialThread &link) { return smsjobs::list(link, place); });
+    whenDone(job, this, [this, place](std::optional<smsjobs::Listing> listing) {
+        took(place, std::move(listing).value_or(smsjobs::Listing()));
+    });
+}
+
+void CardPlaces::took(MessagePlace place, smsjobs::Listing listing)
+{
+    if (place == MessagePlace::Card)
+        m_isCardStoreMissing = listing.isMissing;
+    PlaceState now = state(place);
+    now.isLoading = false;
+    now.error = listing.fault;
+    now.isRead = listing.isRead;
+    change(place, now);
+    if (!listing.isRead)
+        return;
+    for (const StatusReport &report : listing.reports)
+        m_store->applyReport(report);
+    m_store->replaceMirror(place, std::move(listing.messages));
+    takeFill(place, listing.fill);
+    QStringList unread;
+    for (const QString &id : m_store->ids(MessageBox::Inbox, place)) {
+        if (const auto message = m_store->find(id); message && !message->isRead)
+            unread.append(id);
+    }
+    if (!unread.isEmpty())
+        Q_EMIT sigUnreadListed(unread);
+}
+
+void CardPlaces::takeFill(MessagePlace place, const std::optional<StoreFill> &fill)
+{
+    if (!fill || fill->total <= 0)
+        return;
+    PlaceState now = state(place);
+    now.capacity = StoreCapacity{fill->used, fill->total};
+    change(place, now);
+    warnBeforeFull(place, *now.capacity);
+}
+
+void CardPlaces::warnBeforeFull(MessagePlace place, const StoreCapacity &now)
+{
+    const int left = now.total - now.used;
+    const bool isNearlyFull =
+        left <= std::min(warningPlaces, now.total / 2) || left * warningShare < now.total;
+    if (left <= 0 && place == MessagePlace::Sim && cmcfg.getNumber(u"sms"_s, u"deleteSimSmsWhenFull"_s) == 1)
+        makeRoom(place);
+    if (isNearlyFull && !m_hasWarned[slot(place)]) {
+        const QString fill = tr("%1 of %2").arg(now.used).arg(now.total);
+        Q_EMIT sigNotice(place == MessagePlace::Sim
+                             ? tr("The SIM's memory for messages is nearly full: %1").arg(fill)
+                             : tr("The card's memory for messages is nearly full: %1").arg(fill));
+    }
+    m_hasWarned[slot(place)] = isNearlyFull;
+}
+
+/// The oldest messages that were read go to the computer, and only then from the SIM.
+void CardPlaces::makeRoom(MessagePlace place)
+{
+    std::vector<Message> oldest = m_store->messages(m_store->ids(MessageBox::Inbox, place));
+    std::erase_if(oldest, [](const Message &message) { return !message.isRead || !message.error.isEmpty(); });
+    std::ranges::sort(oldest, {}, &Message::time);
+    if (oldest.size() > roomToMake)
+        oldest.resize(roomToMake);
+    toComputer(oldest, After::Remove);
+}
+
+// --- Copying and moving
+// -----------------------------------------------------------------------------------------
+
+void CardPlaces::transfer(const QStringList &ids, MessagePlace to, After after)
+{
+    std::vector<Message> messages = m_store->messages(ids);
+    std::erase_if(messages, [&](const Message &message) { return message.place == to; });
+    if (to == MessagePlace::Computer) {
+        toComputer(messages, after);
+        return;
+    }
+    if (!m_isReady) {
+        Q_EMIT sigNotice(tr("There is no card that takes messages."));
+        return;
+    }
+    for (const Message &message : messages)
+        toCard(message, to, after);
+    if (!messages.empty())
+        refresh(to);
+}
+
+void CardPlaces::toComputer(const std::vector<Message> &messages, After after)
+{
+    if (messages.empty())
+        return;
+    std::vector<Message> copies;
+    for (const Message &message : messages)
+        copies.push_back(copyForComputer(message, boxOnComputer(message)));
+    const auto stored = m_store->insert(std::move(copies), MessageStore::DeletedOnes::ComeBack).stored;
+    whenDone(stored, this, [this, messages, after](std::optional<bool> isStored) {
+        if (!isStored.value_or(false))
+            Q_EMIT sigNotice(tr("The messages could not be written to disk and stay on the card."));
+        else if (after == After::Remove)
+            removeParts(messages);
+    });
+}
+
+QStringList CardPlaces::moveToDeleted(const std::vector<Message> &messages)
+{
+    std::vector<Message> copies;
+    for (const Message &message : messages)
+        copies.push_back(copyForComputer(message, MessageBox::Deleted));
+    const MessageStore::Added added = m_store->insert(std::move(copies));
+    whenDone(added.stored, this, [this, messages](std::optional<bool> isStored) {
+        if (isStored.value_or(false))
+            removeParts(messages);
+        else
+            Q_EMIT sigNotice(tr("The messages could not be written to disk and stay on the card."));
+    });
+    return added.made;
+}
+
+/// The parts as the card is to keep them: what came or went as it was, a draft as it would go out.
+std::vector<smsjobs::CardEntry> CardPlaces::entriesOf(const Message &message) const
+{
+    std::vector<smsjobs::CardEntry> entries;
+    const int status =
+        statusOfBox(message.box == MessageBox::Deleted ? message.deletedFrom : message.box, message.isRead);
+    for (const MessagePart &part : message.parts) {
+        if (!part.pdu.isEmpty())
+            entries.push_back({part.pdu, status});
+    }
+    return entries;
+}
+
+void CardPlaces::toCard(const Message &message, MessagePlace to, After after)
+{
+    if (message.isBroadcast || message.box == MessageBox::Reports) {
+        Q_EMIT sigNotice(tr("Only short messages can be kept on the card."));
+        return;
+    }
+    const auto drafted = draftParts(message, m_serviceCentre);
+    const auto job = m_worker.submit([to, drafted, entries = entriesOf(message)](SerialThread &link) mutable {
+        constexpr int unsent = 2;
+        for (const smsjobs::OutgoingPart &part : drafted)
+            entries.push_back({smsjobs::encode(link, part), unsent});
+        return smsjobs::write(link, to, entries);
+    });
+    whenDone(job, this, [this, message, to, after](const std::optional<std::optional<QString>> &result) {
+        wroteToCard(message, to, after, result.value_or(tr("The card is gone.")));
+    });
+}
+
+void CardPlaces::wroteToCard(const Message &message, MessagePlace to, After after,
+                             const std::optional<QString> &fault)
+{
+    if (fault) {
+        Q_EMIT sigNotice(to == MessagePlace::Sim
+                             ? tr("The message was not written to the SIM: %1").arg(*fault)
+                             : tr("The message was not written to the card: %1").arg(*fault));
+        return;
+    }
+    if (after == After::Keep)
+        return;
+    if (isOnCard(message))
+        removeParts({message});
+    else
+        m_store->purge({message.id});
+}
+
+void CardPlaces::removeParts(const std::vector<Message> &messages)
+{
+    for (const Message &message : messages) {
+        for (const MessagePart &part : message.parts) {
+            if (part.storageIndex >= 0)
+                removePart(message.place, part.storageIndex, part.pdu);
+        }
+    }
+}
+
+void CardPlaces::removePart(MessagePlace place, int index, const QString &pdu)
+{
+    ++m_removals[slot(place)];
+    const auto job = m_worker.submit(
+        [place, index, pdu](SerialThread &link) { return smsjobs::remove(link, place, index, pdu); });
+    whenDone(job, this, [this, place](std::optional<smsjobs::Removal> removal) {
+        if (removal.value_or(smsjobs::Removal::Failed) == smsjobs::Removal::Failed)
+            Q_EMIT sigNotice(
+                tr("A message could not be deleted from the card. It is kept on the computer as well."));
+        if (--m_removals[slot(place)] == 0)
+            refresh(place);
+    });
+}
+
+} // namespace corva

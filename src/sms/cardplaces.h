@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "sms/messageservice.h"
+#include "sms/smscardjobs.h"
+
+#include <QObject>
+#include <array>
+
+namespace corva
+{
+
+class CardWorker;
+class MessageStore;
+
+/// The messages on the SIM and in the card's memory: listed into the store's mirror, copied, moved, taken
+/// away. Nothing is taken from the card before its copy is on the computer's disk.
+class CardPlaces final : public QObject
+{
+    Q_OBJECT
+
+public:
+    CardPlaces(CardWorker &worker, MessageStore *store, QObject *parent);
+
+    /// The card is gone, or another one: nothing is known of it.
+    void forget();
+    void setReady(bool isReady) { m_isReady = isReady; }
+    void setServiceCentre(const QString &number) { m_serviceCentre = number; }
+
+    void refresh(MessagePlace place);
+    const PlaceState &state(MessagePlace place) const;
+    bool hasCardStore() const;
+    /// What the card told of its room beside an answer.
+    void takeFill(MessagePlace place, const std::optional<StoreFill> &fill);
+
+    void copy(const QStringList &ids, MessagePlace to) { transfer(ids, to, After::Keep); }
+    void move(const QStringList &ids, MessagePlace to) { transfer(ids, to, After::Remove); }
+    /// Copies into the computer's deleted box, then takes the originals from the card. Returns the copies'
+    /// ids.
+    QStringList moveToDeleted(const std::vector<Message> &messages);
+    /// Takes one part from the card, if it is still that one; lists the place anew.
+    void removePart(MessagePlace place, int index, const QString &pdu);
+
+Q_SIGNALS:
+    void sigChanged(corva::MessagePlace place);
+    void sigNotice(const QString &sentence);
+    /// Messages on the card that nobody has read, as a listing met them.
+    void sigUnreadListed(const QStringList &ids);
+
+private:
+    enum class After { Keep, Remove };
+
+    void transfer(const QStringList &ids, MessagePlace to, After after);
+    void toComputer(const std::vector<Message> &messages, After after);
+    void toCard(const Message &message, MessagePlace to, After after);
+    std::vector<smsjobs::CardEntry> entriesOf(const Message &message) const;
+    void wroteToCard(const Message &message, MessagePlace to, After after,
+                     const std::optional<QString> &fault);
+    void removeParts(const std::vector<Message> &messages);
+    void took(MessagePlace place, smsjobs::Listing listing);
+    void warnBeforeFull(MessagePlace place, const StoreCapacity &now);
+    void makeRoom(MessagePlace place);
+    PlaceState &stateOf(MessagePlace place);
+    void change(MessagePlace place, const PlaceState &state);
+
+    CardWorker &m_worker;
+    MessageStore *m_store;
+    QString m_serviceCentre;
+    std::array<PlaceState, 2> m_states; ///< SIM, card
+    std::array<bool, 2> m_hasWarned{};
+    std::array<int, 2> m_removals{}; ///< under way; the place is listed anew behind the last
+    bool m_isCardStoreMissing = false;
+    bool m_isReady = false;
+};
+
+} // namespace corva

@@ -1,0 +1,337 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sms/messageservice.h"
+
+#include "device/cardmonitor.h"
+#include "link/cardworker.h"
+#include "link/serialthread.h"
+#include "shell/commoncfg.h"
+#include "shell/whendone.h"
+#include "sms/cardplaces.h"
+#include "sms/messagestore.h"
+#include "sms/sendqueue.h"
+#include "sms/smsreception.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+namespace
+{
+
+bool takesMessages(const CardState &card)
+{
+    return card.modemReady && card.sim == SimState::Ready;
+}
+
+/// "50,919": what a person chose.
+QByteArray channelText(const QList<int> &channels)
+{
+    QByteArrayList texts;
+    for (const int channel : channels)
+        texts.append(QByteArray::number(channel));
+    return texts.join(',');
+}
+
+} // namespace
+
+class MessageService::Private
+{
+public:
+    Private(MessageService *service, CardMonitor *cardMonitor, MessageStore *messageStore);
+
+    void connectParts();
+    void takeCard(const CardState &card);
+    void prepare();
+    void prepared(const smsjobs::Preparation &made);
+    void listAll();
+    void takeUnread(const QStringList &ids);
+    void setServiceCentre(const QString &number);
+    void sendChannels();
+
+    MessageService *q;
+    CardMonitor *monitor;
+    MessageStore *store;
+    CardPlaces places;
+    SmsReception reception;
+    SendQueue queue;
+    NameLookup lookup;
+    QString serviceCentre;
+    QStringList lastRemoved; ///< the copies of what was taken from the card last
+    bool isReady = false;
+    bool hasAnnouncedUnread = false;
+};
+
+MessageService::Private::Private(MessageService *service, CardMonitor *cardMonitor,
+                                 MessageStore *messageStore)
+    : q(service), monitor(cardMonitor), store(messageStore), places(monitor->worker(), store, q),
+      reception(monitor->worker(), store, &places, q), queue(monitor->worker(), store, q)
+{
+    reception.setNameLookup([this](const QString &number) { return q->nameFor(number); });
+}
+
+void MessageService::Private::connectParts()
+{
+    connect(monitor, &CardMonitor::sigStateChanged, q, [this](const CardState &card) { takeCard(card); });
+    connect(store, &MessageStore::sigLoaded, q, [this] {
+        queue.resume();
+        takeCard(monitor->state());
+    });
+    connect(store, &MessageStore::sigError, q, &MessageService::sigNotice);
+    connect(&queue, &SendQueue::sigProgress, q, &MessageService::sigSending);
+    connect(&queue, &SendQueue::sigSummary, q, &MessageService::sigSendSummary);
+    connect(&queue, &SendQueue::sigRefused, q, &MessageService::sigNotice);
+    connect(&places, &CardPlaces::sigChanged, q, &MessageService::sigPlaceChanged);
+    connect(&places, &CardPlaces::sigNotice, q, &MessageService::sigNotice);
+    connect(&places, &CardPlaces::sigUnreadListed, q, [this](const QStringList &ids) { takeUnread(ids); });
+    connect(&reception, &SmsReception::sigNewMessage, q, &MessageService::sigNewMessage);
+    connect(&reception, &SmsReception::sigClass0, q, &MessageService::sigClass0);
+    connect(&reception, &SmsReception::sigDelivered, q, &MessageService::sigDelivered);
+    connect(&reception, &SmsReception::sigBroadcast, q, &MessageService::sigBroadcast);
+    connect(&reception, &SmsReception::sigNotice, q, &MessageService::sigNotice);
+}
+
+/// The card is asked for messages once the store knows what is here already.
+void MessageService::Private::takeCard(const CardState &card)
+{
+    const bool isNow = takesMessages(card) && store->isLoaded();
+    if (isNow == isReady)
+        return;
+    isReady = isNow;
+    if (isReady) {
+        prepare();
+        return;
+    }
+    queue.setReady(false);
+    places.setReady(false);
+    places.forget();
+    setServiceCentre({});
+}
+
+void MessageService::Private::prepare()
+{
+    whenDone(monitor->worker().submit(smsjobs::prepare), q,
+             [this](const std::optional<smsjobs::Preparation> &made) {
+                 if (made && isReady)
+                     prepared(*made);
+             });
+}
+
+void MessageService::Private::prepared(const smsjobs::Preparation &made)
+{
+    if (!made.fault.isEmpty())
+        Q_EMIT q->sigNotice(made.fault);
+    if (!made.isReady)
+        return;
+    setServiceCentre(made.serviceCentre);
+    places.setReady(true);
+    listAll();
+    if (cmcfg.getNumber(u"function"_s, u"cell_board_enabled"_s) == 1)
+        sendChannels();
+    queue.setReady(true);
+}
+
+void MessageService::Private::listAll()
+{
+    places.refresh(MessagePlace::Sim);
+    places.refresh(MessagePlace::Card);
+    reception.readKeptReports();
+}
+
+void MessageService::Private::takeUnread(const QStringList &ids)
+{
+    reception.takeOver(ids);
+    if (std::exchange(hasAnnouncedUnread, true) ||
+        cmcfg.getNumber(u"sms"_s, u"newSmsNoticeShowWhenProgramStart"_s) != 1)
+        return;
+    Q_EMIT q->sigUnreadAtStart(int(ids.size()));
+}
+
+void MessageService::Private::setServiceCentre(const QString &number)
+{
+    queue.setServiceCentre(number);
+    places.setServiceCentre(number);
+    if (std::exchange(serviceCentre, number) != number)
+        Q_EMIT q->sigServiceCentreChanged(number);
+}
+
+void MessageService::Private::sendChannels()
+{
+    const QByteArray channels = channelText(q->broadcastChannels());
+    const auto job = monitor->worker().submit([channels](SerialThread &link) -> std::optional<QString> {
+        return link.setBroadcastChannels(channels) == 1 ? std::nullopt
+                                                        : std::optional(smsjobs::whyFailed(link));
+    });
+    whenDone(job, q, [this](const std::optional<std::optional<QString>> &fault) {
+        if (fault && *fault)
+            Q_EMIT q->sigNotice(tr("The card did not take the broadcast channels: %1").arg(**fault));
+    });
+}
+
+MessageService::MessageService(CardMonitor *monitor, MessageStore *store, QObject *parent)
+    : QObject(parent), d(std::make_unique<Private>(this, monitor, store))
+{
+    d->connectParts();
+    if (store->isLoaded())
+        d->queue.resume();
+    d->takeCard(monitor->state());
+}
+
+MessageService::~MessageService() = default;
+
+MessageStore *MessageService::store() const
+{
+    return d->store;
+}
+
+QString MessageService::nameFor(const QString &number) const
+{
+    const QString name = d->lookup ? d->lookup(number) : QString();
+    return name.isEmpty() ? number : name;
+}
+
+void MessageService::setNameLookup(NameLookup lookup)
+{
+    d->lookup = lookup;
+    d->store->setNameLookup(std::move(lookup));
+}
+
+void MessageService::takeMessages(const QString &text)
+{
+    d->reception.takeMessages(text.toLatin1());
+}
+
+void MessageService::takeDeliveryReports(const QString &text)
+{
+    d->reception.takeDeliveryReports(text.toLatin1());
+}
+
+void MessageService::takeImmediate(const QString &text)
+{
+    d->reception.takeImmediate(text.toLatin1());
+}
+
+void MessageService::takeBroadcasts(const QString &text)
+{
+    d->reception.takeBroadcasts(text.toLatin1());
+}
+
+bool MessageService::send(const OutgoingSms &sms)
+{
+    if (d->queue.add(sms))
+        return true;
+    Q_EMIT sigNotice(tr("The text is too long for one message."));
+    return false;
+}
+
+void MessageService::cancelSending()
+{
+    d->queue.cancel();
+}
+
+void MessageService::retry(const QStringList &ids)
+{
+    d->queue.retry(ids);
+}
+
+const SendProgress &MessageService::sending() const
+{
+    return d->queue.progress();
+}
+
+void MessageService::refreshPlace(MessagePlace place)
+{
+    d->places.refresh(place);
+}
+
+const PlaceState &MessageService::place(MessagePlace place) const
+{
+    return d->places.state(place);
+}
+
+bool MessageService::hasCardStore() const
+{
+    return d->places.hasCardStore();
+}
+
+void MessageService::copyTo(const QStringList &ids, MessagePlace place)
+{
+    d->places.copy(ids, place);
+}
+
+void MessageService::moveTo(const QStringList &ids, MessagePlace place)
+{
+    d->places.move(ids, place);
+}
+
+void MessageService::removeMessages(const QStringList &ids)
+{
+    QStringList here;
+    std::vector<Message> onCard;
+    for (const Message &message : d->store->messages(ids)) {
+        if (message.place == MessagePlace::Computer)
+            here.append(message.id);
+        else
+            onCard.push_back(message);
+    }
+    if (!here.isEmpty())
+        d->store->remove(here);
+    d->lastRemoved = onCard.empty() ? QStringList() : d->places.moveToDeleted(onCard);
+}
+
+bool MessageService::undoRemoval()
+{
+    const QStringList copies = std::exchange(d->lastRemoved, {});
+    if (!copies.isEmpty())
+        d->store->restore(copies);
+    return !copies.isEmpty() || !d->store->undo().isEmpty();
+}
+
+void MessageService::setRead(const QStringList &ids, bool isRead)
+{
+    d->store->setRead(ids, isRead);
+}
+
+QList<int> MessageService::broadcastChannels() const
+{
+    QList<int> channels;
+    for (const QString &text : cmcfg.getValue(u"sms"_s, u"broadcastChannels"_s).split(u',')) {
+        bool isNumber = false;
+        const int channel = text.trimmed().toInt(&isNumber);
+        if (isNumber && channel >= 0 && channel <= 0xFFFF)
+            channels.append(channel);
+    }
+    return channels;
+}
+
+void MessageService::setBroadcastChannels(const QList<int> &channels)
+{
+    cmcfg.setValue(u"sms"_s, u"broadcastChannels"_s, QString::fromLatin1(channelText(channels)));
+    if (d->isReady)
+        d->sendChannels();
+}
+
+QString MessageService::serviceCentre() const
+{
+    return d->serviceCentre;
+}
+
+void MessageService::setServiceCentre(const QString &number)
+{
+    const auto job = d->monitor->worker().submit([number](SerialThread &link) -> std::optional<QString> {
+        return link.set_sms_number(number) == 1 ? std::nullopt : std::optional(smsjobs::whyFailed(link));
+    });
+    whenDone(job, this, [this, number](const std::optional<std::optional<QString>> &fault) {
+        if (!fault || *fault) {
+            Q_EMIT sigNotice(tr("The service centre's number was not stored: %1")
+                                 .arg(fault ? **fault : tr("The card is gone.")));
+            return;
+        }
+        d->setServiceCentre(number);
+        Q_EMIT sigNotice(tr("The service centre's number was stored."));
+    });
+}
+
+} // namespace corva

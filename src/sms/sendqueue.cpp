@@ -1,0 +1,349 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sms/sendqueue.h"
+
+#include "link/cardworker.h"
+#include "shell/commoncfg.h"
+#include "shell/whendone.h"
+#include "sms/concatreference.h"
+#include "sms/messagestore.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+namespace
+{
+
+TextCoding configuredCoding()
+{
+    return TextCoding::fromSpecialCode(cmcfg.getValue(u"sms"_s, u"specialcode"_s));
+}
+
+/// One part for each recipient and piece of the text.
+std::vector<MessagePart> partsFor(const OutgoingSms &sms, const SplitText &split)
+{
+    std::vector<MessagePart> parts;
+    for (int recipient = 0; recipient < int(sms.recipients.size()); ++recipient) {
+        for (int i = 0; i < int(split.parts.size()); ++i) {
+            MessagePart part;
+            part.sequence = i + 1;
+            part.recipient = recipient;
+            part.text = split.parts[std::size_t(i)];
+            part.asksReport = sms.asksReport && i + 1 == int(split.parts.size());
+            part.state = DeliveryState::Queued;
+            parts.push_back(part);
+        }
+    }
+    return parts;
+}
+
+int countOf(const Message &message, DeliveryState state)
+{
+    return int(std::ranges::count(message.parts, state, &MessagePart::state));
+}
+
+/// The whole text, as it was split.
+QString wholeText(const Message &message, int recipient)
+{
+    QString text;
+    for (const MessagePart &part : message.parts) {
+        if (part.recipient == recipient)
+            text += part.text;
+    }
+    return text;
+}
+
+smsjobs::OutgoingPart outgoing(const Message &message, int part, const QString &serviceCentre)
+{
+    const MessagePart &chosen = message.parts[std::size_t(part)];
+    return {
+        .split = splitText(wholeText(message, chosen.recipient), configuredCoding()),
+        .index = chosen.sequence - 1,
+        .recipient = message.recipients.value(chosen.recipient),
+        .serviceCentre = serviceCentre,
+        .concatReference = std::max(message.concatReference, 0),
+        .asksReport = chosen.asksReport,
+    };
+}
+
+/// Whether the text still splits as it did when it was queued: the national tables may have changed since.
+bool isSplitAsQueued(const Message &message, int part, const SplitText &split)
+{
+    const MessagePart &chosen = message.parts[std::size_t(part)];
+    return int(split.parts.size()) == message.total &&
+           split.parts[std::size_t(chosen.sequence - 1)] == chosen.text;
+}
+
+/// What was not sent of a recipient's message stays unsent when one of its parts failed: half a message helps
+/// nobody.
+void failRest(Message &message, int recipient)
+{
+    for (MessagePart &part : message.parts) {
+        if (part.recipient == recipient && part.state == DeliveryState::Queued)
+            part.state = DeliveryState::Failed;
+    }
+}
+
+void takeOutcome(Message &message, int part, const smsjobs::SentPart &sent)
+{
+    MessagePart &chosen = message.parts[std::size_t(part)];
+    chosen.pdu = sent.pdu;
+    chosen.state = sent.isSent ? DeliveryState::Sent : DeliveryState::Failed;
+    chosen.reference = sent.reference;
+    chosen.errorCode = sent.error.code;
+    if (sent.isSent)
+        chosen.sent = message.time = QDateTime::currentDateTime();
+    else
+        failRest(message, chosen.recipient);
+    const auto isOut = [](const MessagePart &each) {
+        return each.state == DeliveryState::Sent || each.state == DeliveryState::Delivered ||
+               each.state == DeliveryState::StillTrying;
+    };
+    if (std::ranges::all_of(message.parts, isOut))
+        message.box = MessageBox::Sent;
+}
+
+} // namespace
+
+std::vector<smsjobs::OutgoingPart> draftParts(const Message &message, const QString &serviceCentre)
+{
+    std::vector<smsjobs::OutgoingPart> parts;
+    if (std::ranges::any_of(message.parts, [](const MessagePart &part) { return !part.pdu.isEmpty(); }))
+        return parts;
+    const SplitText split = splitText(message.text(), configuredCoding());
+    const int reference = split.parts.size() > 1 ? nextConcatReference() : 0;
+    for (int i = 0; split.isSendable() && i < int(split.parts.size()); ++i)
+        parts.push_back(
+            {split, i, message.recipients.value(0), serviceCentre, reference, message.asksReport});
+    return parts;
+}
+
+SendQueue::SendQueue(CardWorker &worker, MessageStore *store, QObject *parent)
+    : QObject(parent), m_worker(worker), m_store(store)
+{
+}
+
+void SendQueue::resume()
+{
+    QStringList ids = m_store->ids(MessageBox::Outbox);
+    std::ranges::reverse(ids);
+    for (const QString &id : ids) {
+        m_store->change(id, [](Message &message) {
+            for (MessagePart &part : message.parts) {
+                if (part.state == DeliveryState::Sending) { // it may have gone out
+                    part.state = DeliveryState::Failed;
+                    failRest(message, part.recipient);
+                }
+            }
+        });
+        enqueue(id);
+    }
+    pump();
+}
+
+void SendQueue::setReady(bool isReady)
+{
+    m_isReady = isReady;
+    pump();
+}
+
+bool SendQueue::add(const OutgoingSms &sms)
+{
+    const SplitText split = splitText(sms.text, configuredCoding());
+    if (!split.isSendable() || sms.recipients.isEmpty())
+        return false;
+    Message message;
+    message.box = MessageBox::Outbox;
+    message.recipients = sms.recipients;
+    message.time = message.arrived = QDateTime::currentDateTime();
+    message.isRead = true;
+    message.total = int(split.parts.size());
+    message.asksReport = sms.asksReport;
+    message.parts = partsFor(sms, split);
+    if (message.total > 1)
+        message.concatReference = nextConcatReference();
+    const MessageStore::Added added = m_store->insert({message});
+    whenDone(added.stored, this, [this, ids = added.ids, draft = sms.draftId](std::optional<bool> isStored) {
+        if (!isStored.value_or(false)) {
+            Q_EMIT sigRefused(tr("The message could not be written to disk and is not sent."));
+            return;
+        }
+        if (!draft.isEmpty())
+            m_store->purge({draft});
+        for (const QString &id : ids)
+            enqueue(id);
+        pump();
+    });
+    return true;
+}
+
+void SendQueue::cancel()
+{
+    m_isCancelled = m_progress.isActive;
+    if (!m_isBusy)
+        pump();
+}
+
+void SendQueue::retry(const QStringList &ids)
+{
+    for (const QString &id : ids) {
+        const auto message = m_store->find(id);
+        if (!message || message->box != MessageBox::Outbox)
+            continue;
+        m_store->change(id, [](Message &failed) {
+            for (MessagePart &part : failed.parts) {
+                if (part.state == DeliveryState::Failed) {
+                    part.state = DeliveryState::Queued;
+                    part.errorCode = -1;
+                }
+            }
+        });
+        enqueue(id);
+    }
+    pump();
+}
+
+void SendQueue::enqueue(const QString &id)
+{
+    const auto message = m_store->find(id);
+    const int parts = message ? countOf(*message, DeliveryState::Queued) : 0;
+    if (parts == 0 || std::ranges::find(m_waiting, id) != m_waiting.end())
+        return;
+    m_waiting.push_back(id);
+    m_progress.totalParts += parts;
+}
+
+SendQueue::Target SendQueue::next()
+{
+    while (!m_waiting.empty()) {
+        const QString id = m_waiting.front();
+        if (const auto message = m_store->find(id); message && message->box == MessageBox::Outbox) {
+            const auto part = std::ranges::find(message->parts, DeliveryState::Queued, &MessagePart::state);
+            if (part != message->parts.end())
+                return {id, int(part - message->parts.begin())};
+        }
+        m_waiting.pop_front();
+    }
+    return {};
+}
+
+void SendQueue::pump()
+{
+    if (m_isBusy)
+        return;
+    if (m_isCancelled)
+        giveUpWaiting();
+    const Target target = m_isReady ? next() : Target();
+    if (target.part >= 0)
+        sendOne(target);
+    else if (m_waiting.empty() && m_progress.totalParts > 0)
+        endRun();
+}
+
+void SendQueue::sendOne(const Target &target)
+{
+    m_isBusy = true;
+    const auto message = m_store->find(target.id);
+    const int recipient = message->parts[std::size_t(target.part)].recipient;
+    m_progress.isActive = true;
+    m_progress.recipient = message->recipients.value(recipient);
+    tell();
+    const auto marked = m_store->change(target.id, [part = target.part](Message &changed) {
+        changed.parts[std::size_t(part)].state = DeliveryState::Sending;
+    });
+    whenDone(marked, this, [this, target](std::optional<bool> isMarked) {
+        const auto current = m_store->find(target.id);
+        if (!isMarked.value_or(false) || !current) {
+            refuse(target, tr("The message could not be written to disk."));
+            return;
+        }
+        const auto part = outgoing(*current, target.part, m_serviceCentre);
+        if (!isSplitAsQueued(*current, target.part, part.split)) {
+            refuse(target, tr("The alphabet's settings have changed since it was written."));
+            return;
+        }
+        const auto job = m_worker.submit([part](SerialThread &link) { return smsjobs::send(link, part); });
+        whenDone(job, this, [this, target](const std::optional<smsjobs::SentPart> &sent) {
+            if (sent)
+                took(target, *sent);
+            else
+                refuse(target, tr("The card is gone."));
+        });
+    });
+}
+
+/// The part cannot even be tried.
+void SendQueue::refuse(const Target &target, const QString &why)
+{
+    smsjobs::SentPart unsent;
+    unsent.fault = why;
+    took(target, unsent);
+}
+
+void SendQueue::took(const Target &target, const smsjobs::SentPart &sent)
+{
+    const auto before = m_store->find(target.id);
+    if (!before) { // purged meanwhile
+        m_isBusy = false;
+        pump();
+        return;
+    }
+    const int recipient = before->parts[std::size_t(target.part)].recipient;
+    const int left = countOf(*before, DeliveryState::Queued);
+    const auto stored =
+        m_store->change(target.id, [&](Message &message) { takeOutcome(message, target.part, sent); });
+    const auto after = m_store->find(target.id);
+    m_progress.sentParts += 1 + left - (after ? countOf(*after, DeliveryState::Queued) : 0);
+    if (sent.isSent) {
+        m_sent.insert({target.id, recipient});
+    } else {
+        m_failed.insert({target.id, recipient});
+        Q_EMIT sigRefused(
+            tr("The message to %1 was not sent: %2").arg(before->recipients.value(recipient), sent.fault));
+    }
+    tell();
+    whenDone(stored, this, [this](std::optional<bool>) {
+        m_isBusy = false;
+        pump();
+    });
+}
+
+void SendQueue::giveUpWaiting()
+{
+    m_isCancelled = false;
+    for (const QString &id : m_waiting) {
+        m_store->change(id, [&](Message &message) {
+            for (MessagePart &part : message.parts) {
+                if (part.state == DeliveryState::Queued) {
+                    m_failed.insert({id, part.recipient});
+                    part.state = DeliveryState::Failed;
+                }
+            }
+        });
+    }
+    m_waiting.clear();
+}
+
+void SendQueue::endRun()
+{
+    int sent = 0;
+    for (const auto &each : m_sent)
+        sent += m_failed.contains(each) ? 0 : 1;
+    const int failed = int(m_failed.size());
+    m_sent.clear();
+    m_failed.clear();
+    m_progress = {};
+    tell();
+    if (sent + failed > 0)
+        Q_EMIT sigSummary(sent, failed);
+}
+
+void SendQueue::tell()
+{
+    Q_EMIT sigProgress(m_progress);
+}
+
+} // namespace corva

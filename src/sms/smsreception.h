@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "sms/message.h"
+#include "sms/smscardjobs.h"
+
+#include <QObject>
+#include <functional>
+
+namespace corva
+{
+
+class CardPlaces;
+class CardWorker;
+class MessageStore;
+
+/// Files what the card reports: messages, announced or delivered, delivery reports, immediate messages, cell
+/// broadcasts. A text from the card may come more than once; what it brings is filed once.
+class SmsReception final : public QObject
+{
+    Q_OBJECT
+
+public:
+    using NameLookup = std::function<QString(const QString &number)>;
+
+    SmsReception(CardWorker &worker, MessageStore *store, CardPlaces *places, QObject *parent);
+    void setNameLookup(NameLookup lookup) { m_nameFor = std::move(lookup); }
+
+    /// "+CMTI:" and "+CMT:".
+    void takeMessages(const QByteArray &text);
+    /// "+CDSI:".
+    void takeDeliveryReports(const QByteArray &text);
+    /// "+JCLAS:".
+    void takeImmediate(const QByteArray &text);
+    /// "+CBM:".
+    void takeBroadcasts(const QByteArray &text);
+
+    /// What came into the report store while nobody looked.
+    void readKeptReports();
+    /// Unread messages of the SIM or the card that belong on the computer.
+    void takeOver(const QStringList &ids);
+
+Q_SIGNALS:
+    void sigNewMessage(const QString &id);
+    void sigClass0(const QString &sender, const QString &text, const QString &pdu);
+    void sigDelivered(const QString &sentence);
+    void sigBroadcast(const QString &id);
+    void sigNotice(const QString &sentence);
+
+private:
+    void fileDelivered(const std::vector<ReportedPdu> &reports);
+    void fetch(MessagePlace place, int index);
+    void took(MessagePlace place, int index, const smsjobs::Fetched &fetched);
+    /// Files the message on the computer; then takes it from where it was.
+    void keep(const Message &message);
+    void announce(const QStringList &ids);
+    void fileReport(const StatusReport &report, int index);
+    QString sentenceFor(const StatusReport &report) const;
+    void fetchReport(int index);
+    void removeReport(int index, const QString &pdu);
+
+    CardWorker &m_worker;
+    MessageStore *m_store;
+    CardPlaces *m_places;
+    NameLookup m_nameFor;
+};
+
+} // namespace corva
