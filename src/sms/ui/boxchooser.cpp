@@ -65,8 +65,8 @@ BoxChooser::BoxChooser(MessageService *service, QWidget *parent) : QComboBox(par
 std::vector<MessageView> BoxChooser::offered() const
 {
     std::vector<MessageView> views{{.isByPerson = true}};
-    for (const MessageBox box : {MessageBox::Inbox, MessageBox::Outbox, MessageBox::Sent, MessageBox::Drafts,
-                                 MessageBox::Deleted})
+    for (const MessageBox box :
+         {MessageBox::Inbox, MessageBox::Outbox, MessageBox::Sent, MessageBox::Drafts, MessageBox::Deleted})
         views.push_back(boxView(box));
     if (cmcfg.getNumber(u"sms"_s, u"deliveryReportBoxShow"_s) == 1)
         views.push_back(boxView(MessageBox::Reports));

@@ -100,9 +100,9 @@ void BubbleDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
 
     painter->save();
     const QColor line = index.data(ThreadModel::FailedRole).toBool() ? skinColor(SkinRole::Bad)
-                        : isSelected                                ? skinColor(SkinRole::Accent)
-                        : isOwn                                     ? QColor()
-                                                                    : skinColor(SkinRole::Line);
+                        : isSelected                                 ? skinColor(SkinRole::Accent)
+                        : isOwn                                      ? QColor()
+                                                                     : skinColor(SkinRole::Line);
     paint::box(*painter, place, skinColor(isOwn ? SkinRole::Selection : SkinRole::Surface), line);
     const QColor ink = skinColor(isOwn ? SkinRole::OnSelection : SkinRole::Text);
     bubble.paint(*painter, place, ink, isOwn ? ink : skinColor(SkinRole::MutedText));

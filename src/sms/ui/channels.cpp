@@ -36,12 +36,13 @@ Channels readChannels(const QString &written)
         const int first = match.captured(1).toInt();
         const int last = match.hasCaptured(2) ? match.captured(2).toInt() : first;
         if (!match.hasMatch() || last < first || last > highest)
-            return {{}, text(QT_TRANSLATE_NOOP("Channels", "\"%1\" is no channel. Channels are numbers from 0 to "
-                                                           "65535, or ranges as 10-15."))
-                            .arg(entry)};
+            return {{},
+                    text(QT_TRANSLATE_NOOP("Channels", "\"%1\" is no channel. Channels are numbers from 0 to "
+                                                       "65535, or ranges as 10-15."))
+                        .arg(entry)};
         if (last - first >= mostNumbers || channels.numbers.size() + last - first >= mostNumbers)
-            return {{}, text(QT_TRANSLATE_NOOP("Channels", "These are more than %1 channels."))
-                            .arg(mostNumbers)};
+            return {{},
+                    text(QT_TRANSLATE_NOOP("Channels", "These are more than %1 channels.")).arg(mostNumbers)};
         for (int number = first; number <= last; ++number)
             channels.numbers += number;
     }

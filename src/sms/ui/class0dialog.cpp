@@ -30,7 +30,10 @@ Message keptMessage(const Class0Dialog::Entry &entry)
     message.recipients = {entry.number};
     message.time = message.arrived = QDateTime::currentDateTime();
     message.isRead = true;
-    message.parts = {MessagePart{.pdu = entry.pdu, .text = entry.text}};
+    MessagePart part;
+    part.pdu = entry.pdu;
+    part.text = entry.text;
+    message.parts = {part};
     return message;
 }
 

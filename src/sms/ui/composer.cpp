@@ -118,9 +118,8 @@ void Composer::connectParts()
 {
     connect(m_recipients->edit(), &QLineEdit::textChanged, this, &Composer::takeEdit);
     connect(m_recipients->edit(), &QLineEdit::textChanged, this, &Composer::showNames);
-    connect(m_recipients->edit(), &QLineEdit::editingFinished, this, [this] {
-        m_recipients->setError(readRecipients(m_recipients->text()).error);
-    });
+    connect(m_recipients->edit(), &QLineEdit::editingFinished, this,
+            [this] { m_recipients->setError(readRecipients(m_recipients->text()).error); });
     connect(m_text, &QPlainTextEdit::textChanged, this, &Composer::takeEdit);
     connect(m_text, &MyTextEdit::sigCounted, this, &Composer::showCount);
     connect(m_report, &QCheckBox::toggled, this, &Composer::takeEdit);
@@ -260,9 +259,9 @@ void Composer::send()
     if (!m_text->split().isSendable())
         return;
     m_draft.flush();
-    const QString draft = m_draft.id();
+    if (!m_service->send({recipients.numbers, text, m_report->isChecked(), m_draft.id()}))
+        return; // it stays a draft, and the service says why
     m_draft.release();
-    m_service->send({recipients.numbers, text, m_report->isChecked(), draft});
     Q_EMIT sigClosed();
 }
 

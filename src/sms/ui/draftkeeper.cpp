@@ -19,7 +19,9 @@ void put(const DraftKeeper::Content &content, Message &draft)
     draft.asksReport = content.asksReport;
     draft.time = QDateTime::currentDateTime();
     draft.total = 1;
-    draft.parts = {MessagePart{.text = content.text}};
+    MessagePart part;
+    part.text = content.text;
+    draft.parts = {part};
 }
 
 Message newDraft()

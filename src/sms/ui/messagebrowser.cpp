@@ -41,9 +41,10 @@ constexpr EmptyRow emptyRows[] = {
 } // namespace
 
 MessageBrowser::MessageBrowser(MessageService *service, MessageActions *actions, QWidget *parent)
-    : QWidget(parent), m_service(service), m_actions(actions), m_messages(new MessageListModel(service, this)),
-      m_persons(new ConversationModel(service, this)), m_stack(new QStackedWidget(this)),
-      m_list(new QListView(this)), m_empty(new TextLabel(TextRole::Text, this))
+    : QWidget(parent), m_service(service), m_actions(actions),
+      m_messages(new MessageListModel(service, this)), m_persons(new ConversationModel(service, this)),
+      m_stack(new QStackedWidget(this)), m_list(new QListView(this)),
+      m_empty(new TextLabel(TextRole::Text, this))
 {
     build(actions);
     useModel(m_messages);

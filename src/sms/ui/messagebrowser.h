@@ -64,8 +64,8 @@ private:
     QStackedWidget *m_stack;
     QListView *m_list;
     TextLabel *m_empty;
-    QString m_chosen;          ///< id or key of the current row
-    bool m_isKeeping = false;  ///< the list changes: what is chosen stays
+    QString m_chosen;         ///< id or key of the current row
+    bool m_isKeeping = false; ///< the list changes: what is chosen stays
     bool m_wasChosen = false;
 };
 

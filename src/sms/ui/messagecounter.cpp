@@ -41,12 +41,13 @@ QString lengthNotice(const SplitText &split)
             .arg(SplitText::mostParts);
     QStringList sentences;
     if (split.alphabet == Alphabet::Ucs2)
-        sentences += text(QT_TRANSLATE_NOOP("MessageCounter",
-                                            "Because of \"%1\" a message holds 70 characters instead of 160."))
-                         .arg(shownCharacter(split.whyUcs2));
+        sentences +=
+            text(QT_TRANSLATE_NOOP("MessageCounter",
+                                   "Because of \"%1\" a message holds 70 characters instead of 160."))
+                .arg(shownCharacter(split.whyUcs2));
     else if (split.isNational)
-        sentences += text(QT_TRANSLATE_NOOP("MessageCounter",
-                                            "National letters leave 155 characters of 160."));
+        sentences +=
+            text(QT_TRANSLATE_NOOP("MessageCounter", "National letters leave 155 characters of 160."));
     if (int(split.parts.size()) != split.formulaParts)
         sentences += text(QT_TRANSLATE_NOOP("MessageCounter", "It is sent in %1 parts."))
                          .arg(QLocale().toString(split.parts.size()));

@@ -52,7 +52,7 @@ MessageDesk::MessageDesk(MessageService *service, MessageQueue *messages, QWidge
     connect(&m_counting, &QTimer::timeout, this, &MessageDesk::showBadge);
     for (const auto signal : {&MessageStore::sigAdded, &MessageStore::sigChanged, &MessageStore::sigRemoved})
         connect(m_store, signal, &m_counting, qOverload<>(&QTimer::start));
-    connect(m_store, &MessageStore::sigLoaded, this, &MessageDesk::tellAtStart);
+    connect(m_store, &MessageStore::sigLoaded, &m_counting, qOverload<>(&QTimer::start));
     connect(m_store, &MessageStore::sigError, m_messages, &MessageQueue::tell);
     connectService();
     if (m_store->isLoaded())
@@ -61,6 +61,7 @@ MessageDesk::MessageDesk(MessageService *service, MessageQueue *messages, QWidge
 
 void MessageDesk::connectService()
 {
+    connect(m_service, &MessageService::sigUnreadAtStart, this, &MessageDesk::tellUnread);
     connect(m_service, &MessageService::sigNewMessage, this, &MessageDesk::tellNew);
     connect(m_service, &MessageService::sigBroadcast, this, &MessageDesk::tellBroadcast);
     connect(m_service, &MessageService::sigClass0, this, &MessageDesk::showClass0);
@@ -80,13 +81,9 @@ void MessageDesk::showBadge()
         Q_EMIT sigNotificationEnded(messageKey);
 }
 
-void MessageDesk::tellAtStart()
+void MessageDesk::tellUnread(int count)
 {
-    showBadge();
-    const int unread = unreadOf(*m_store);
-    if (unread == 0 || !isOn(u"newSmsNoticeShowWhenProgramStart"_s))
-        return;
-    const QString sentence = tr("%n messages are unread.", nullptr, unread);
+    const QString sentence = tr("%n messages are unread.", nullptr, count);
     Q_EMIT sigSaid(sentence);
     Q_EMIT sigNotify(messageKey, tr("Messages"), sentence);
 }

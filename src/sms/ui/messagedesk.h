@@ -41,7 +41,7 @@ Q_SIGNALS:
 private:
     void connectService();
     void showBadge();
-    void tellAtStart();
+    void tellUnread(int count);
     void tellNew(const QString &id);
     void tellBroadcast(const QString &id);
     void tellDelivered(const QString &sentence);

@@ -27,8 +27,8 @@ struct IconRow {
 };
 
 constexpr IconRow stateIcons[] = {
-    {DeliveryState::Queued, "pending"_L1}, {DeliveryState::Sending, "running"_L1},
-    {DeliveryState::Sent, "sent"_L1},      {DeliveryState::Delivered, "delivered"_L1},
+    {DeliveryState::Queued, "pending"_L1},   {DeliveryState::Sending, "running"_L1},
+    {DeliveryState::Sent, "sent"_L1},        {DeliveryState::Delivered, "delivered"_L1},
     {DeliveryState::StillTrying, "sent"_L1}, {DeliveryState::Failed, "problem"_L1},
 };
 

@@ -22,7 +22,7 @@ struct MessageFilter {
     Kind kind = Kind::Box;
     MessageBox box = MessageBox::Inbox;
     MessagePlace place = MessagePlace::Computer;
-    QString words; ///< when not empty: what is found everywhere, and nothing else counts
+    QString words = {}; ///< when not empty: what is found everywhere, and nothing else counts
 
     bool operator==(const MessageFilter &) const = default;
 };

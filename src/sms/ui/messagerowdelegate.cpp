@@ -90,8 +90,8 @@ void paintGround(QPainter &painter, const QStyleOptionViewItem &option)
     if (isSelected)
         paint::box(painter, option.rect, skinColor(SkinRole::Selection), QColor());
     else if (isUnderMouse)
-        paint::box(painter, option.rect,
-                   blend(skinColor(SkinRole::Surface), skinColor(SkinRole::Text), 0.06), QColor());
+        paint::box(painter, option.rect, blend(skinColor(SkinRole::Surface), skinColor(SkinRole::Text), 0.06),
+                   QColor());
     if (option.state.testFlag(QStyle::State_HasFocus))
         paint::focusRing(option, painter, option.widget);
 }
@@ -152,8 +152,8 @@ void MessageRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &op
 
 QSize MessageRowDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
 {
-    const int lines = QFontMetrics(skinFont(TextRole::Strong)).height() +
-                      QFontMetrics(skinFont(TextRole::Text)).height();
+    const int lines =
+        QFontMetrics(skinFont(TextRole::Strong)).height() + QFontMetrics(skinFont(TextRole::Text)).height();
     return {0, qMax(smallestHeight, lines + metrics::Grid + metrics::HalfGrid)};
 }
 

@@ -84,7 +84,8 @@ void MessageSettings::buildTelling(QVBoxLayout *layout)
     addSwitch(layout, tr("Messages that cells &broadcast to everybody"), {function, u"cell_board_enabled"_s});
     layout->addWidget(captioned(
         tr("&Immediate messages show"),
-        settingNumber({{sms, u"class0SmsDlgSize"_s}, fewestLines, mostLines, usualLines, tr(" lines")}), this));
+        settingNumber({{sms, u"class0SmsDlgSize"_s}, fewestLines, mostLines, usualLines, tr(" lines")}),
+        this));
 }
 
 QComboBox *MessageSettings::settingChoice(const SettingKey &key, const std::vector<Choice> &choices,

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sms/ui/messagetexts.h"
 
+#include "sms/cmserrors.h"
+
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QLocale>
@@ -76,9 +78,13 @@ QString partDetails(const Message &message, const MessagePart &part)
     const QDateTime time = part.reported.isValid() ? part.reported : part.sent;
     const QString stateAndTime =
         time.isValid() ? text(QT_TRANSLATE_NOOP("Messages", "%1, %2")).arg(state, fullWhen(time)) : state;
-    return message.total > 1 ? text(QT_TRANSLATE_NOOP("Messages", "Part %1: %2"))
-                                   .arg(QLocale().toString(part.sequence), stateAndTime)
-                             : stateAndTime;
+    const QString line = message.total > 1 ? text(QT_TRANSLATE_NOOP("Messages", "Part %1: %2"))
+                                                 .arg(QLocale().toString(part.sequence), stateAndTime)
+                                           : stateAndTime;
+    const QString reason = part.errorCode >= 0     ? cmsErrorText({part.errorCode, {}})
+                           : part.statusOctet >= 0 ? deliveryStatusText(part.statusOctet)
+                                                   : QString();
+    return reason.isEmpty() ? line : text(QT_TRANSLATE_NOOP("Messages", "%1. %2")).arg(line, reason);
 }
 
 QString dayAndMonth(QDate day)
@@ -105,9 +111,8 @@ QString peopleOf(const Message &message, const NameOf &nameOf)
     for (const QString &recipient : message.recipients)
         names += nameOf(recipient).simplified();
     if (names.isEmpty())
-        return message.box == MessageBox::Drafts
-                   ? text(QT_TRANSLATE_NOOP("Messages", "Nobody yet"))
-                   : text(QT_TRANSLATE_NOOP("Messages", "Unknown sender"));
+        return message.box == MessageBox::Drafts ? text(QT_TRANSLATE_NOOP("Messages", "Nobody yet"))
+                                                 : text(QT_TRANSLATE_NOOP("Messages", "Unknown sender"));
     return names.join(text(QT_TRANSLATE_NOOP("Messages", ", ")));
 }
 
@@ -153,8 +158,7 @@ QString shortWhen(const QDateTime &time, const QDateTime &now)
         return QLocale().toString(time.toLocalTime().time(), QLocale::ShortFormat);
     if (daysAgo == 1)
         return text(QT_TRANSLATE_NOOP("Messages", "Yesterday"));
-    return day.year() == now.date().year() ? dayAndMonth(day)
-                                           : QLocale().toString(day, QLocale::ShortFormat);
+    return day.year() == now.date().year() ? dayAndMonth(day) : QLocale().toString(day, QLocale::ShortFormat);
 }
 
 QString fullWhen(const QDateTime &time)

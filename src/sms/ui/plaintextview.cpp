@@ -37,8 +37,8 @@ void PlainTextView::markLinks()
     QList<QTextEdit::ExtraSelection> marks;
     const QStringList links = linksIn(toPlainText());
     for (const QString &link : links)
-        for (QTextCursor found = document()->find(link, 0, QTextDocument::FindCaseSensitively); !found.isNull();
-             found = document()->find(link, found, QTextDocument::FindCaseSensitively))
+        for (QTextCursor found = document()->find(link, 0, QTextDocument::FindCaseSensitively);
+             !found.isNull(); found = document()->find(link, found, QTextDocument::FindCaseSensitively))
             marks += {found, format};
     setExtraSelections(marks);
 }

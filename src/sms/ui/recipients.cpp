@@ -62,7 +62,8 @@ QString addNumber(const QString &written, QStringList &to)
         return text(QT_TRANSLATE_NOOP("Recipients", "\"%1\" is no number: the digits are missing."))
             .arg(written);
     if (!isSoundLength(number))
-        return text(QT_TRANSLATE_NOOP("Recipients", "\"%1\" is too long: a number has %2 characters at most."))
+        return text(
+                   QT_TRANSLATE_NOOP("Recipients", "\"%1\" is too long: a number has %2 characters at most."))
             .arg(written, QString::number(longestNumber));
     if (!number.isEmpty() && !to.contains(number))
         to += number;

@@ -39,10 +39,11 @@ SendBar::SendBar(MessageService *service, MessageQueue *messages, QWidget *paren
 void SendBar::follow()
 {
     const SendProgress &progress = m_service->sending();
-    m_text->setText(inLayoutDirection(
-        progress.totalParts > 1 ? tr("%1 %2 of %3").arg(tr("Sending ..."), QString::number(progress.sentParts),
-                                                         QString::number(progress.totalParts))
-                                : tr("Sending ...")));
+    m_text->setText(inLayoutDirection(progress.totalParts > 1
+                                          ? tr("%1 %2 of %3")
+                                                .arg(tr("Sending ..."), QString::number(progress.sentParts),
+                                                     QString::number(progress.totalParts))
+                                          : tr("Sending ...")));
     m_progress->setMaximum(qMax(1, progress.totalParts));
     m_progress->setValue(progress.sentParts);
     setVisible(progress.isActive);
@@ -50,7 +51,8 @@ void SendBar::follow()
 
 void SendBar::askToCancel()
 {
-    m_messages->ask(tr("Do you want to cancel sending the rest SMS?"), [this] { m_service->cancelSending(); });
+    m_messages->ask(tr("Do you want to cancel sending the rest SMS?"),
+                    [this] { m_service->cancelSending(); });
 }
 
 } // namespace corva

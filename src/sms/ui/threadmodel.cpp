@@ -23,8 +23,8 @@ ThreadModel::ThreadModel(MessageService *service, QObject *parent)
 
 void ThreadModel::setMessages(const QStringList &ids, bool isOther)
 {
-    const bool isMore = !isOther && !m_ids.isEmpty() && ids.size() > m_ids.size() &&
-                        ids.first(m_ids.size()) == m_ids;
+    const bool isMore =
+        !isOther && !m_ids.isEmpty() && ids.size() > m_ids.size() && ids.first(m_ids.size()) == m_ids;
     if (isMore) {
         append(ids.sliced(m_ids.size()));
     } else if (isOther || ids != m_ids) {
