@@ -12,8 +12,8 @@
 #include <optional>
 
 class LinkOwner;
-
 struct SM_PARAM;
+
 
 namespace corva
 {
@@ -322,6 +322,24 @@ public:
     /// The same from cards that leave the stores' names out: the figures of the store that is read.
     std::optional<corva::StoreFill> getSimSmsMem2();
     std::optional<corva::StoreFill> getModemSmsMem2();
+    // --- Message PDUs
+    // --------------------------------------------------------------------------------------------
+
+    // Text in, text out: what is written, without the NUL that follows it, is what is returned.
+
+    /// `n` octets as upper-case hex.
+    static int gsmBytes2String(const unsigned char *src, char *dst, int n);
+    /// `n` hex characters of either case as octets; half an octet at the end is left out.
+    static int gsmString2Bytes(const char *src, char *dst, int n);
+    /// Swaps each pair of `n` digits, an odd one at the end with "F".
+    static int gsmInvertNumbers(const char *src, char *dst, int n);
+    /// Packs `n` septets into as many octets as their bits need. 3GPP TS 23.038 6.1.2.1.
+    static int gsmEncode7bit(const char *src, unsigned char *dst, int n);
+    /// The first `n` code units of `text`: as lower-case hex in `hex`, as octets in `dst`. Octets, 2n.
+    static int gsmEncodeUcs2(const char *src, char *dst, int n, QString text, char *hex);
+    /// The SUBMIT of `src`, in UCS2 of `text` while `gUnicodeFlag` is set; its text's hex in `hex` then. Both
+    /// need room for 1024 characters. Takes a leading "+" off `src->TPA`: fill it anew for each call.
+    static int gsmEncodePdu(SM_PARAM *src, char *dst, QString text, char *hex);
 
 protected:
     void run() override;

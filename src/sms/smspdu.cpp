@@ -53,7 +53,8 @@ void readContent(OctetReader &reader, quint8 first, DecodedSms &sms, Between bet
     const CodingScheme scheme = codingScheme(dcs);
     takeScheme(dcs, scheme, sms);
     between();
-    readUserData(reader, scheme, first & headerBit, sms);
+    sms.hasHeader = first & headerBit;
+    readUserData(reader, scheme, sms);
 }
 
 /// 3GPP TS 23.040 9.2.2.1.

@@ -61,6 +61,7 @@ struct DecodedSms {
     bool asksReport = false;    ///< TP-SRI or TP-SRR
     int singleShift = 0;        ///< national language identifiers of the header, 0 none
     int lockingShift = 0;
+    bool hasHeader = false; ///< TP-UDHI
     std::optional<Concatenation> concatenation;
     std::optional<MessageWaiting> waiting;
     int tpduLength = 0; ///< octets behind the service centre part, as AT+CMGW and AT+CMGS count them

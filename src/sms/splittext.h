@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "sms/gsmtext.h"
 #include "sms/smparam.h"
 #include "sms/smspdu.h"
 
@@ -40,6 +41,9 @@ struct SplitText {
 /// Chooses the alphabet, counts and cuts: the default alphabet if it will do, then the national tables (the
 /// one that takes less room), else UCS2.
 SplitText splitText(const QString &text, const TextCoding &coding);
+
+/// The tables that the septets of such a text are made with.
+GsmCoding gsmCodingOf(const SplitText &split);
 
 /// The record of part `index` for the encoder, to be made anew for each sending. `number` as `sendableNumber`
 /// gives it, `serviceCentre` digits only. A report is asked for on the last part only. The text for the

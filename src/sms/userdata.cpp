@@ -105,7 +105,7 @@ UserDataHeader readHeader(OctetReader &reader, OctetView data, qsizetype offset)
     return header;
 }
 
-void readUserData(OctetReader &reader, const CodingScheme &scheme, bool hasHeader, DecodedSms &sms)
+void readUserData(OctetReader &reader, const CodingScheme &scheme, DecodedSms &sms)
 {
     const qsizetype lengthAt = reader.offset();
     const qsizetype length = reader.octet(lengthField);
@@ -115,7 +115,7 @@ void readUserData(OctetReader &reader, const CodingScheme &scheme, bool hasHeade
         reader.fail(lengthField, lengthAt, PduFault::LengthPastEnd);
     const qsizetype dataAt = reader.offset();
     const OctetView data = reader.octets(dataField, size);
-    const UserDataHeader header = hasHeader ? readHeader(reader, data, dataAt) : UserDataHeader();
+    const UserDataHeader header = sms.hasHeader ? readHeader(reader, data, dataAt) : UserDataHeader();
     if (reader.hasFailed())
         return;
     sms.userDataLength = int(length);

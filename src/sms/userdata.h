@@ -19,8 +19,9 @@ struct UserDataHeader {
 /// that is not theirs are passed over, except a broken part of a long message, which is a fault.
 UserDataHeader readHeader(OctetReader &reader, OctetView data, qsizetype offset);
 
-/// TP-UDL and TP-UD into the members of `sms` that tell of them.
-void readUserData(OctetReader &reader, const CodingScheme &scheme, bool hasHeader, DecodedSms &sms);
+/// TP-UDL and TP-UD into the members of `sms` that tell of them; whether a header comes first is set there
+/// already.
+void readUserData(OctetReader &reader, const CodingScheme &scheme, DecodedSms &sms);
 
 /// Text of big-endian code units; half a unit at the end is left out.
 QString textOfUcs2(OctetView octets);

@@ -15,7 +15,8 @@ struct Outcome {
     bool operator==(const Outcome &) const = default;
 };
 
-inline Outcome read(const QByteArray &stream)
+/// `endsOnCmsError`: a whole line that begins with "+CMS ERROR" is an end as well.
+inline Outcome read(const QByteArray &stream, bool endsOnCmsError = false)
 {
     const char *const ends[] = {"> ", "not support\r\n", "CONNECT\r\n", "OK\r\n", "NO CARRIER"};
     const char *const reports[] = {"+JPDPACT: 1,1", "+JPDPACT: 1,2", "+JPDPACT: 1,0", "+JPDPACT: 1,3"};
@@ -39,6 +40,9 @@ inline Outcome read(const QByteArray &stream)
             }
             for (const char *end : ends)
                 done = done || text.contains(end);
+            const qsizetype line = (QByteArray("\n") + text).lastIndexOf("\n+CMS ERROR");
+            done = done || (endsOnCmsError && line >= 0 && text.indexOf("\r\n", line) >= 0 &&
+                            text.indexOf("\r\n", line) == text.indexOf('\n', line) - 1);
             done = done || (text.contains("ERROR\r\n") && !text.contains("+CME ERROR"));
             if (done)
                 reply = text;
