@@ -63,8 +63,9 @@ struct Message {
 
     bool operator==(const Message &) const = default;
 
-    /// Came from the network, and is no report of ours.
-    bool isReceived() const;
+    /// Where it belongs: of a deleted one the box that it was deleted from.
+    MessageBox home() const;
+    bool isReceived() const { return home() == MessageBox::Inbox; }
     /// The parts to the first recipient in their order, each gap of missing ones marked by "[…]".
     QString text() const;
     /// To the first recipient; 0 when complete.

@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sms/messagetable.h"
+
+#include "sms/numbermatch.h"
+#include "sms/pduidentity.h"
+#include "sms/textfold.h"
+
+#include <QSet>
+#include <QUuid>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+namespace
+{
+
+QStringList personsOf(const Message &message, int matchingLength)
+{
+    QStringList persons;
+    for (const QString &number : message.recipients)
+        persons += personKeyOf(number, matchingLength);
+    return persons;
+}
+
+QString searchedText(const Message &message)
+{
+    return foldedText(message.recipients.join(u'\n') + u'\n' + message.text());
+}
+
+/// The newest first; the id decides between those of one moment.
+bool isAhead(const RecordPtr &one, const RecordPtr &other)
+{
+    return one->when != other->when ? one->when > other->when : one->message.id < other->message.id;
+}
+
+bool isLong(const Message &message)
+{
+    return message.total > 1 && message.concatReference >= 0;
+}
+
+bool hasSameText(const Message &one, const Message &other)
+{
+    return one.recipients == other.recipients && one.total == other.total &&
+           std::ranges::equal(one.parts, other.parts, [](const MessagePart &part, const MessagePart &like) {
+               return part.sequence == like.sequence && part.recipient == like.recipient &&
+                      part.text == like.text;
+           });
+}
+
+} // namespace
+
+MessageRecord::MessageRecord(Message with, int matchingLength, const MessageRecord *before)
+    : message(std::move(with)), when(message.time.isValid() ? message.time.toMSecsSinceEpoch() : 0),
+      persons(personsOf(message, matchingLength)),
+      folded(before && hasSameText(before->message, message) ? before->folded : searchedText(message))
+{
+}
+
+QString newMessageId()
+{
+    return QUuid::createUuid().toString(QUuid::Id128);
+}
+
+QString partIdentity(const Message &message, const MessagePart &part)
+{
+    // A page of a broadcast has no service centre's address ahead.
+    return message.isBroadcast ? part.pdu.toUpper() : pduIdentity(part.pdu);
+}
+
+bool isRecognisable(const Message &message)
+{
+    return message.home() == MessageBox::Inbox || message.home() == MessageBox::Reports;
+}
+
+MessageTable::MessageTable(std::vector<Message> messages, int matchingLength)
+    : m_matchingLength(matchingLength)
+{
+    m_records.reserve(qsizetype(messages.size()));
+    m_byId.reserve(qsizetype(messages.size()));
+    for (Message &message : messages) {
+        if (message.id.isEmpty() || m_byId.contains(message.id))
+            message.id = newMessageId();
+        m_records += std::make_shared<const MessageRecord>(std::move(message), m_matchingLength);
+        enter(m_records.last());
+    }
+    std::ranges::sort(m_records, isAhead);
+}
+
+MessageTable::Place MessageTable::placeOf(const RecordPtr &record)
+{
+    return std::ranges::lower_bound(m_records, record, isAhead);
+}
+
+void MessageTable::put(Message message)
+{
+    const RecordPtr before = find(message.id);
+    const auto record =
+        std::make_shared<const MessageRecord>(std::move(message), m_matchingLength, before.get());
+    if (before)
+        leave(before);
+    if (before && before->when == record->when) {
+        *placeOf(record) = record;
+    } else {
+        if (before)
+            m_records.erase(placeOf(before));
+        m_records.insert(placeOf(record), record);
+    }
+    enter(record);
+}
+
+void MessageTable::remove(const QStringList &ids)
+{
+    QSet<QString> gone;
+    for (const QString &id : ids) {
+        if (const RecordPtr record = find(id)) {
+            leave(record);
+            gone += id;
+        }
+    }
+    if (!gone.isEmpty())
+        m_records.removeIf([&](const RecordPtr &record) { return gone.contains(record->message.id); });
+}
+
+QList<RecordPtr> MessageTable::atTime(qint64 when) const
+{
+    const auto range =
+        std::ranges::equal_range(m_records, when, std::ranges::greater(), &MessageRecord::when);
+    return {range.begin(), range.end()};
+}
+
+QString MessageTable::longKey(const Message &message) const
+{
+    const QString sender = personKeyOf(message.recipients.value(0), m_matchingLength);
+    return u"%1/%2/%3/%4/%5"_s.arg(int(message.home()))
+        .arg(message.concatReference)
+        .arg(message.is16Bit)
+        .arg(message.total)
+        .arg(sender);
+}
+
+void MessageTable::enter(const RecordPtr &record)
+{
+    const Message &message = record->message;
+    m_byId.insert(message.id, record);
+    if (isLong(message))
+        m_byLong.insert(longKey(message), message.id);
+    if (!isRecognisable(message))
+        return;
+    for (const MessagePart &part : message.parts)
+        m_byPart.insert(qHash(partIdentity(message, part)), message.id);
+}
+
+void MessageTable::leave(const RecordPtr &record)
+{
+    const Message &message = record->message;
+    m_byId.remove(message.id);
+    if (isLong(message))
+        m_byLong.remove(longKey(message), message.id);
+    if (!isRecognisable(message))
+        return;
+    for (const MessagePart &part : message.parts)
+        m_byPart.remove(qHash(partIdentity(message, part)), message.id);
+}
+
+QList<RecordPtr> MessageTable::withPart(const QString &identity) const
+{
+    QList<RecordPtr> found;
+    for (const QString &id : m_byPart.values(qHash(identity))) {
+        const RecordPtr record = find(id);
+        const auto hasIdentity = [&](const MessagePart &part) {
+            return partIdentity(record->message, part) == identity;
+        };
+        if (std::ranges::any_of(record->message.parts, hasIdentity))
+            found += record;
+    }
+    return found;
+}
+
+QList<RecordPtr> MessageTable::likeLong(const Message &message) const
+{
+    QList<RecordPtr> found;
+    if (isLong(message)) {
+        for (const QString &id : m_byLong.values(longKey(message)))
+            found += find(id);
+    }
+    return found;
+}
+
+} // namespace corva
