@@ -14,6 +14,7 @@ class ConnectionService;
 class Connector;
 class LinkMeter;
 class Mender;
+class MessageService;
 class ProfileStore;
 class ReportHub;
 class TrafficService;
@@ -29,6 +30,7 @@ struct PageContext {
     Connector *connector = nullptr;
     LinkMeter *meter = nullptr;
     std::function<void()> showDiagnosis; ///< which step keeps the computer offline
+    MessageService *messageService = nullptr;
 };
 
 /// A page as its subsystem contributes it. It is built when it is first shown.

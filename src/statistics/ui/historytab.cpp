@@ -3,7 +3,7 @@
 
 #include "statistics/trafficservice.h"
 #include "statistics/ui/historymodel.h"
-#include "statistics/ui/noticebar.h"
+#include "widgets/noticebar.h"
 #include "statistics/ui/tablelook.h"
 #include "widgets/buttonkind.h"
 #include "widgets/textlabel.h"

@@ -6,7 +6,7 @@
 #include "statistics/ui/daystab.h"
 #include "statistics/ui/historytab.h"
 #include "statistics/ui/monthsmodel.h"
-#include "statistics/ui/noticebar.h"
+#include "widgets/noticebar.h"
 #include "statistics/ui/overviewtab.h"
 #include "statistics/ui/tablelook.h"
 #include "statistics/ui/tabstrip.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "statistics/ui/noticebar.h"
+#include "widgets/noticebar.h"
 
 #include "widgets/buttonkind.h"
 #include "widgets/textlabel.h"

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sms/ui/class0dialog.h"
+
+#include "shell/commoncfg.h"
+#include "sms/messagestore.h"
+#include "sms/ui/plaintextview.h"
+#include "widgets/buttonkind.h"
+#include "widgets/skin.h"
+#include "widgets/textlabel.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+namespace
+{
+
+constexpr int fewestLines = 3;
+constexpr int mostLines = 30;
+constexpr int charactersWide = 44;
+
+Message keptMessage(const Class0Dialog::Entry &entry)
+{
+    Message message;
+    message.recipients = {entry.number};
+    message.time = message.arrived = QDateTime::currentDateTime();
+    message.isRead = true;
+    MessagePart part;
+    part.pdu = entry.pdu;
+    part.text = entry.text;
+    message.parts = {part};
+    return message;
+}
+
+} // namespace
+
+Class0Dialog::Class0Dialog(MessageStore *store, QWidget *parent)
+    : QDialog(parent), m_store(store), m_waiting(new TextLabel(TextRole::Caption, this)),
+      m_text(new PlainTextView(this)), m_close(new QPushButton(tr("&Close"), this))
+{
+    setObjectName(u"class0"_s);
+    setWindowTitle(tr("Immediate message"));
+    m_waiting->setObjectName(u"class0Waiting"_s);
+    m_text->setObjectName(u"class0Text"_s);
+    m_text->setAccessibleName(windowTitle());
+    m_close->setObjectName(u"class0Close"_s);
+    build();
+}
+
+void Class0Dialog::build()
+{
+    const int lines = std::clamp(cmcfg.getNumber(u"sms"_s, u"class0SmsDlgSize"_s), fewestLines, mostLines);
+    const QFontMetrics font = m_text->fontMetrics();
+    m_text->setMinimumSize(font.averageCharWidth() * charactersWide,
+                           font.lineSpacing() * lines + 2 * metrics::Grid);
+    m_waiting->setMuted(true);
+    auto *keeping = new QPushButton(tr("&Keep in the inbox"), this);
+    keeping->setObjectName(u"class0Keep"_s);
+    keeping->setAutoDefault(false);
+    setButtonKind(m_close, ButtonKind::Primary);
+    m_close->setDefault(true);
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(metrics::Grid);
+    buttons->addWidget(m_waiting, 1);
+    buttons->addWidget(keeping);
+    buttons->addWidget(m_close);
+    auto *layout = new QVBoxLayout(this);
+    layout->setSpacing(metrics::RowGap);
+    layout->addWidget(new TextLabel(windowTitle(), TextRole::Title, this));
+    layout->addWidget(m_text, 1);
+    layout->addSpacing(metrics::Grid);
+    layout->addLayout(buttons);
+    connect(m_close, &QPushButton::clicked, this, &QDialog::reject);
+    connect(keeping, &QPushButton::clicked, this, &Class0Dialog::keep);
+}
+
+void Class0Dialog::add(const Entry &entry)
+{
+    if (std::find(m_entries.begin(), m_entries.end(), entry) != m_entries.end())
+        return; // sent again by a network that heard no acknowledgement
+    m_entries.push_back(entry);
+    showFirst();
+    open();
+    raise();
+}
+
+void Class0Dialog::showFirst()
+{
+    const Entry &entry = m_entries.front();
+    const auto behind = int(m_entries.size()) - 1;
+    if (const QString text = tr("%1 :\n %2").arg(entry.sender, entry.text); m_text->toPlainText() != text)
+        m_text->setText(text);
+    m_waiting->setText(behind > 0 ? tr("%n more", nullptr, behind) : QString());
+    m_close->setText(behind > 0 ? tr("&Next") : tr("&Close"));
+}
+
+void Class0Dialog::keep()
+{
+    m_store->add({keptMessage(m_entries.front())});
+    accept();
+}
+
+void Class0Dialog::done(int result)
+{
+    if (!m_entries.empty())
+        m_entries.pop_front();
+    if (m_entries.empty())
+        QDialog::done(result);
+    else
+        showFirst();
+}
+
+} // namespace corva

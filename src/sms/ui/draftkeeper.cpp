@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sms/ui/draftkeeper.h"
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace corva
+{
+
+namespace
+{
+
+constexpr auto pause = 700ms; ///< of typing, after which the draft is stored
+
+void put(const DraftKeeper::Content &content, Message &draft)
+{
+    draft.recipients = content.recipients;
+    draft.asksReport = content.asksReport;
+    draft.time = QDateTime::currentDateTime();
+    draft.total = 1;
+    MessagePart part;
+    part.text = content.text;
+    draft.parts = {part};
+}
+
+Message newDraft()
+{
+    Message draft;
+    draft.box = MessageBox::Drafts;
+    draft.arrived = QDateTime::currentDateTime();
+    draft.isRead = true;
+    return draft;
+}
+
+} // namespace
+
+DraftKeeper::DraftKeeper(MessageStore *store, QObject *parent) : QObject(parent), m_store(store)
+{
+    m_soon.setSingleShot(true);
+    m_soon.setInterval(pause);
+    connect(&m_soon, &QTimer::timeout, this, &DraftKeeper::save);
+    connect(store, &MessageStore::sigLoaded, &m_soon, qOverload<>(&QTimer::start));
+    connect(store, &MessageStore::sigRemoved, this, [this](const QStringList &ids) {
+        if (ids.contains(m_id))
+            m_id.clear(); // what is written on is a new draft
+    });
+}
+
+DraftKeeper::~DraftKeeper()
+{
+    flush();
+}
+
+void DraftKeeper::begin(const QString &id, const Content &content)
+{
+    flush();
+    m_id = id;
+    m_content = content;
+    m_stored = content;
+}
+
+void DraftKeeper::setContent(const Content &content)
+{
+    m_content = content;
+    m_soon.start();
+}
+
+void DraftKeeper::flush()
+{
+    if (!m_store)
+        return;
+    save();
+    removeEmpty();
+}
+
+void DraftKeeper::release()
+{
+    m_soon.stop();
+    m_id.clear();
+    m_content = m_stored = {};
+}
+
+void DraftKeeper::save()
+{
+    m_soon.stop();
+    // Before the store is loaded it gives no ids: this is called again then.
+    if (m_content == m_stored || !m_store->isLoaded() || (m_id.isEmpty() && m_content.isEmpty()))
+        return;
+    if (m_id.isEmpty()) {
+        Message draft = newDraft();
+        put(m_content, draft);
+        m_id = m_store->insert({draft}).ids.value(0);
+    } else {
+        m_store->change(m_id, [this](Message &draft) { put(m_content, draft); });
+    }
+    m_stored = m_content;
+}
+
+void DraftKeeper::removeEmpty()
+{
+    if (!m_content.isEmpty() || m_id.isEmpty())
+        return;
+    m_store->purge({m_id});
+    release();
+}
+
+} // namespace corva

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sms/ui/messageactions.h"
+
+#include "sms/messageservice.h"
+#include "sms/messagestore.h"
+#include "sms/ui/messagetexts.h"
+#include "sms/ui/recipients.h"
+#include "widgets/messagequeue.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMenu>
+#include <algorithm>
+
+namespace corva
+{
+
+namespace
+{
+
+bool canBeAnswered(const Message &message)
+{
+    const Recipients sender = readRecipients(message.recipients.value(0));
+    return message.isReceived() && !message.isBroadcast && sender.error.isEmpty() &&
+           !sender.numbers.isEmpty();
+}
+
+bool isDeleted(const Message &message)
+{
+    return message.box == MessageBox::Deleted;
+}
+
+} // namespace
+
+MessageActions::MessageActions(MessageService *service, MessageQueue *messages, QObject *parent)
+    : QObject(parent), m_service(service), m_messages(messages),
+      m_reply(add(tr("&Reply"), Qt::CTRL | Qt::Key_R, &MessageActions::replyToSender)),
+      m_edit(add(tr("&Edit"), {}, &MessageActions::editDraft)),
+      m_forward(add(tr("&Forward"), Qt::CTRL | Qt::Key_L, &MessageActions::forwardText)),
+      m_remove(add(tr("De&lete"), QKeySequence::Delete, &MessageActions::deleteChosen)),
+      m_restore(add(tr("Put &back"), {}, &MessageActions::restoreChosen)),
+      m_retry(add(tr("Send a&gain"), {}, &MessageActions::retryFailed)),
+      m_read(add(tr("Mark as rea&d"), Qt::CTRL | Qt::Key_K, &MessageActions::markRead)),
+      m_unread(add(tr("Mark as &unread"), Qt::CTRL | Qt::Key_U, &MessageActions::markUnread)),
+      m_copy(add(tr("&Copy the text"), QKeySequence::Copy, &MessageActions::copyText)),
+      m_print(add(tr("&Print…"), QKeySequence::Print, &MessageActions::printChosen))
+{
+    follow();
+    const MessageStore *store = service->store();
+    connect(store, &MessageStore::sigChanged, this, &MessageActions::follow);
+}
+
+QAction *MessageActions::add(const QString &text, const QKeySequence &keys, void (MessageActions::*act)())
+{
+    auto *action = new QAction(text, this);
+    action->setShortcut(keys);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(action, &QAction::triggered, this, act);
+    return action;
+}
+
+QList<QAction *> MessageActions::all() const
+{
+    return {m_reply, m_edit, m_forward, m_remove, m_restore, m_retry, m_read, m_unread, m_copy, m_print};
+}
+
+void MessageActions::setChosen(const QStringList &ids)
+{
+    m_ids = ids;
+    follow();
+}
+
+std::vector<Message> MessageActions::messages() const
+{
+    return m_service->store()->messages(m_ids);
+}
+
+void MessageActions::follow()
+{
+    const std::vector<Message> chosen = messages();
+    const auto any = [&](auto &&is) { return std::any_of(chosen.begin(), chosen.end(), is); };
+    const bool isOne = chosen.size() == 1;
+    const bool isDraft = isOne && chosen.front().box == MessageBox::Drafts;
+    m_edit->setVisible(isDraft);
+    m_reply->setVisible(!isDraft);
+    m_reply->setEnabled(isOne && canBeAnswered(chosen.front()));
+    m_forward->setEnabled(isOne && !chosen.front().text().isEmpty());
+    m_restore->setVisible(!chosen.empty() && std::all_of(chosen.begin(), chosen.end(), isDeleted));
+    m_retry->setVisible(any([](const Message &m) { return m.state() == DeliveryState::Failed; }));
+    const auto mayBeMarked = [](const Message &m) { return m.isReceived() && !isDeleted(m); };
+    m_read->setEnabled(any([&](const Message &m) { return mayBeMarked(m) && !m.isRead; }));
+    m_unread->setEnabled(any([&](const Message &m) { return mayBeMarked(m) && m.isRead; }));
+    m_remove->setText(chosen.size() > 1 ? tr("De&lete %n messages", nullptr, int(chosen.size()))
+                                        : tr("De&lete"));
+    for (QAction *action : {m_remove, m_copy, m_print})
+        action->setEnabled(!chosen.empty());
+}
+
+void MessageActions::fill(QMenu *menu)
+{
+    menu->addActions({m_reply, m_edit, m_forward, m_retry});
+    menu->addSeparator();
+    menu->addActions({m_copy, m_read, m_unread});
+    menu->addSeparator();
+    addPlaces(menu, tr("Cop&y to"), &MessageService::copyTo);
+    addPlaces(menu, tr("&Move to"), &MessageService::moveTo);
+    menu->addAction(m_print);
+    menu->addSeparator();
+    menu->addActions({m_restore, m_remove});
+}
+
+void MessageActions::addPlaces(QMenu *menu, const QString &title,
+                               void (MessageService::*act)(const QStringList &, MessagePlace))
+{
+    QMenu *places = menu->addMenu(title);
+    const std::vector<Message> chosen = messages();
+    for (const MessagePlace place : {MessagePlace::Computer, MessagePlace::Sim, MessagePlace::Card}) {
+        if (place == MessagePlace::Card && !m_service->hasCardStore())
+            continue;
+        const bool isElsewhere =
+            std::any_of(chosen.begin(), chosen.end(), [=](const Message &m) { return m.place != place; });
+        places->addAction(placeTitle(place), this, [this, act, place] { (m_service->*act)(m_ids, place); })
+            ->setEnabled(isElsewhere);
+    }
+    places->setEnabled(!chosen.empty());
+}
+
+void MessageActions::replyToSender()
+{
+    const auto message = m_service->store()->find(m_ids.value(0));
+    if (message)
+        Q_EMIT sigCompose({message->recipients.value(0)}, {});
+}
+
+void MessageActions::forwardText()
+{
+    const auto message = m_service->store()->find(m_ids.value(0));
+    if (message)
+        Q_EMIT sigCompose({}, message->text());
+}
+
+void MessageActions::editDraft()
+{
+    Q_EMIT sigEdit(m_ids.value(0));
+}
+
+void MessageActions::deleteChosen()
+{
+    QStringList again;
+    QStringList first;
+    for (const Message &message : messages())
+        (isDeleted(message) ? again : first) += message.id;
+    if (!first.isEmpty()) {
+        m_service->removeMessages(first);
+        Q_EMIT sigSaid(tr("%n messages were deleted.", nullptr, int(first.size())), true);
+    }
+    if (again.isEmpty())
+        return;
+    const auto count = int(again.size());
+    m_messages->ask(tr("Delete %n messages for good?", nullptr, count),
+                    tr("Delete %n &messages", nullptr, count),
+                    [store = m_service->store(), again] { store->purge(again); });
+}
+
+void MessageActions::restoreChosen()
+{
+    m_service->store()->restore(m_ids);
+}
+
+void MessageActions::markRead()
+{
+    m_service->setRead(m_ids, true);
+}
+
+void MessageActions::markUnread()
+{
+    m_service->setRead(m_ids, false);
+}
+
+void MessageActions::retryFailed()
+{
+    m_service->retry(m_ids);
+}
+
+void MessageActions::copyText()
+{
+    QStringList texts;
+    for (const Message &message : messages())
+        texts += message.text();
+    QGuiApplication::clipboard()->setText(texts.join(u"\n\n"));
+}
+
+void MessageActions::printChosen()
+{
+    Q_EMIT sigPrint(m_ids);
+}
+
+} // namespace corva

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+class QWidget;
+
+namespace corva
+{
+
+class Class0Dialog;
+class MessageQueue;
+class MessageService;
+class MessageStore;
+
+/// The number of unread messages as the navigation shows it; empty for none.
+QString unreadBadge(const MessageStore &store);
+
+/// Tells the person of what comes in and goes out, whatever page is open: immediate messages and delivery
+/// reports in boxes, the rest in sentences for the strip and the desktop.
+class MessageDesk final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `window` becomes the parent of the dialogs.
+    MessageDesk(MessageService *service, MessageQueue *messages, QWidget *window);
+
+Q_SIGNALS:
+    /// What stands behind the page in the navigation.
+    void sigBadge(const QString &badge);
+    /// For the foot of the window.
+    void sigSaid(const QString &sentence);
+    /// For the desktop; one of the same key takes the place of the one before.
+    void sigNotify(const QString &key, const QString &title, const QString &body);
+    /// It was read meanwhile.
+    void sigNotificationEnded(const QString &key);
+
+private:
+    void connectService();
+    void showBadge();
+    void tellUnread(int count);
+    void tellNew(const QString &id);
+    void tellBroadcast(const QString &id);
+    void tellDelivered(const QString &sentence);
+    void tellSummary(int sent, int failed);
+    void showClass0(const QString &sender, const QString &text, const QString &pdu);
+
+    MessageService *m_service;
+    MessageStore *m_store;
+    MessageQueue *m_messages;
+    QWidget *m_window;
+    QPointer<Class0Dialog> m_class0;
+    QTimer m_counting; ///< to the end of a burst of changes
+    QString m_badge;
+};
+
+} // namespace corva

@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sms/ui/messagetexts.h"
+
+#include "sms/cmserrors.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QLocale>
+#include <QRegularExpression>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+namespace
+{
+
+constexpr qsizetype previewLength = 160;
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("Messages", source);
+}
+
+struct BoxRow {
+    MessageBox box;
+    const char *title;
+};
+
+constexpr BoxRow boxRows[] = {
+    {MessageBox::Inbox, QT_TRANSLATE_NOOP("Messages", "Inbox")},
+    {MessageBox::Outbox, QT_TRANSLATE_NOOP("Messages", "Outbox")},
+    {MessageBox::Sent, QT_TRANSLATE_NOOP("Messages", "Sent")},
+    {MessageBox::Drafts, QT_TRANSLATE_NOOP("Messages", "Drafts")},
+    {MessageBox::Deleted, QT_TRANSLATE_NOOP("Messages", "Deleted")},
+    {MessageBox::Reports, QT_TRANSLATE_NOOP("Messages", "Delivery reports")},
+};
+
+struct PlaceRow {
+    MessagePlace place;
+    const char *title;
+};
+
+constexpr PlaceRow placeRows[] = {
+    {MessagePlace::Computer, QT_TRANSLATE_NOOP("Messages", "Computer")},
+    {MessagePlace::Sim, QT_TRANSLATE_NOOP("Messages", "SIM card")},
+    {MessagePlace::Card, QT_TRANSLATE_NOOP("Messages", "Data card")},
+};
+
+struct StateRow {
+    DeliveryState state;
+    const char *title;
+};
+
+constexpr StateRow stateRows[] = {
+    {DeliveryState::Queued, QT_TRANSLATE_NOOP("Messages", "Waiting to be sent")},
+    {DeliveryState::Sending, QT_TRANSLATE_NOOP("Messages", "Being sent")},
+    {DeliveryState::Sent, QT_TRANSLATE_NOOP("Messages", "Sent")},
+    {DeliveryState::Delivered, QT_TRANSLATE_NOOP("Messages", "Delivered")},
+    {DeliveryState::StillTrying, QT_TRANSLATE_NOOP("Messages", "Not delivered yet, the network still tries")},
+    {DeliveryState::Failed, QT_TRANSLATE_NOOP("Messages", "Failed")},
+};
+
+const StateRow *rowOf(DeliveryState state)
+{
+    const auto *row = std::find_if(std::begin(stateRows), std::end(stateRows),
+                                   [=](const StateRow &candidate) { return candidate.state == state; });
+    return row == std::end(stateRows) ? nullptr : row;
+}
+
+QString partDetails(const Message &message, const MessagePart &part)
+{
+    const QString state = stateTitle(part.state);
+    if (state.isEmpty())
+        return {};
+    const QDateTime time = part.reported.isValid() ? part.reported : part.sent;
+    const QString stateAndTime =
+        time.isValid() ? text(QT_TRANSLATE_NOOP("Messages", "%1, %2")).arg(state, fullWhen(time)) : state;
+    const QString line = message.total > 1 ? text(QT_TRANSLATE_NOOP("Messages", "Part %1: %2"))
+                                                 .arg(QLocale().toString(part.sequence), stateAndTime)
+                                           : stateAndTime;
+    const QString reason = part.errorCode >= 0     ? cmsErrorText({part.errorCode, {}})
+                           : part.statusOctet >= 0 ? deliveryStatusText(part.statusOctet)
+                                                   : QString();
+    return reason.isEmpty() ? line : text(QT_TRANSLATE_NOOP("Messages", "%1. %2")).arg(line, reason);
+}
+
+QString dayAndMonth(QDate day)
+{
+    //: A day without its year, as QDate::toString takes it
+    return QLocale().toString(day, text(QT_TRANSLATE_NOOP("Messages", "d MMM")));
+}
+
+} // namespace
+
+QString boxTitle(MessageBox box)
+{
+    return text(boxRows[int(box)].title);
+}
+
+QString placeTitle(MessagePlace place)
+{
+    return text(placeRows[int(place)].title);
+}
+
+QString peopleOf(const Message &message, const NameOf &nameOf)
+{
+    QStringList names;
+    for (const QString &recipient : message.recipients)
+        names += nameOf(recipient).simplified();
+    if (names.isEmpty())
+        return message.box == MessageBox::Drafts ? text(QT_TRANSLATE_NOOP("Messages", "Nobody yet"))
+                                                 : text(QT_TRANSLATE_NOOP("Messages", "Unknown sender"));
+    return names.join(text(QT_TRANSLATE_NOOP("Messages", ", ")));
+}
+
+QString previewOf(const Message &message)
+{
+    if (!message.error.isEmpty())
+        return text(QT_TRANSLATE_NOOP("Messages", "This message cannot be read"));
+    const QString line = message.text().left(previewLength).simplified();
+    return line.isEmpty() ? text(QT_TRANSLATE_NOOP("Messages", "No text")) : line;
+}
+
+QString partsNote(const Message &message)
+{
+    const int missing = message.missingParts();
+    if (missing == 0)
+        return {};
+    return text(QT_TRANSLATE_NOOP("Messages", "%1 of %2"))
+        .arg(QLocale().toString(message.total - missing), QLocale().toString(message.total));
+}
+
+QString stateTitle(DeliveryState state)
+{
+    const StateRow *row = rowOf(state);
+    return row ? text(row->title) : QString();
+}
+
+QString deliveryDetails(const Message &message)
+{
+    QStringList lines;
+    for (const MessagePart &part : message.parts)
+        if (const QString line = partDetails(message, part); !line.isEmpty())
+            lines += line;
+    return lines.join(u'\n');
+}
+
+QString shortWhen(const QDateTime &time, const QDateTime &now)
+{
+    if (!time.isValid())
+        return {};
+    const QDate day = time.toLocalTime().date();
+    const qint64 daysAgo = day.daysTo(now.date());
+    if (daysAgo == 0)
+        return QLocale().toString(time.toLocalTime().time(), QLocale::ShortFormat);
+    if (daysAgo == 1)
+        return text(QT_TRANSLATE_NOOP("Messages", "Yesterday"));
+    return day.year() == now.date().year() ? dayAndMonth(day) : QLocale().toString(day, QLocale::ShortFormat);
+}
+
+QString fullWhen(const QDateTime &time)
+{
+    return time.isValid() ? QLocale().toString(time.toLocalTime(), QLocale::ShortFormat) : QString();
+}
+
+Qt::LayoutDirection directionOf(const QString &text)
+{
+    for (const QChar letter : text) {
+        switch (letter.direction()) {
+        case QChar::DirL: return Qt::LeftToRight;
+        case QChar::DirR:
+        case QChar::DirAL: return Qt::RightToLeft;
+        default: break;
+        }
+    }
+    return QGuiApplication::layoutDirection();
+}
+
+QStringList linksIn(const QString &text)
+{
+    // What stands behind a sentence is its own: a full stop, a bracket.
+    static const QRegularExpression link(
+        uR"((?:https?://|www\.)[^\s<>"]*[^\s<>".,;:!?)\]}']|[\w.+-]+@[\w-]+(?:\.[\w-]+)+)"_s,
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
+    QStringList links;
+    for (auto found = link.globalMatch(text); found.hasNext();)
+        links += found.next().captured();
+    links.removeDuplicates();
+    return links;
+}
+
+} // namespace corva

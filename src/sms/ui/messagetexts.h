@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "sms/message.h"
+
+#include <functional>
+
+namespace corva
+{
+
+using NameOf = std::function<QString(const QString &number)>; ///< the phonebook's name, else the number
+
+QString boxTitle(MessageBox box);
+QString placeTitle(MessagePlace place);
+
+/// Who is on the other side: the sender, or everybody whom it is for.
+QString peopleOf(const Message &message, const NameOf &nameOf);
+/// One line of what it says; what stands in for the text where there is none.
+QString previewOf(const Message &message);
+/// "2 of 3" while parts of a long message are missing; else empty.
+QString partsNote(const Message &message);
+
+/// In a word or two; empty for DeliveryState::None.
+QString stateTitle(DeliveryState state);
+/// The state of each part in a sentence, with when and why where that is known. Empty for what was received.
+QString deliveryDetails(const Message &message);
+
+/// As people say it: "12:34", "Yesterday", "3 May", a date; empty for an invalid time.
+QString shortWhen(const QDateTime &time, const QDateTime &now);
+QString fullWhen(const QDateTime &time);
+
+/// The writing direction of the text itself: that of its first letter that has one, the window's where none
+/// has.
+Qt::LayoutDirection directionOf(const QString &text);
+
+/// Web and mail addresses in a text, as they stand there, each once.
+QStringList linksIn(const QString &text);
+
+} // namespace corva

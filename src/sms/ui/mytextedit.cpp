@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sms/ui/mytextedit.h"
+
+#include "shell/commoncfg.h"
+#include "sms/ui/messagetexts.h"
+
+#include <QTextDocument>
+
+using namespace Qt::StringLiterals;
+
+MyTextEdit::MyTextEdit(QWidget *parent) : QPlainTextEdit(parent)
+{
+    setTabChangesFocus(true);
+    connect(this, &QPlainTextEdit::textChanged, this, &MyTextEdit::count);
+    count();
+}
+
+void MyTextEdit::focusInEvent(QFocusEvent *event)
+{
+    count(); // the national language may have been chosen anew in the settings
+    QPlainTextEdit::focusInEvent(event);
+}
+
+void MyTextEdit::count()
+{
+    using namespace corva;
+    const QString text = toPlainText();
+    m_split = splitText(text, TextCoding::fromSpecialCode(cmcfg.getValue(u"sms"_s, u"specialcode"_s)));
+    QTextOption option = document()->defaultTextOption();
+    if (const auto direction = directionOf(text); option.textDirection() != direction) {
+        option.setTextDirection(direction);
+        document()->setDefaultTextOption(option);
+    }
+    Q_EMIT sigCounted();
+}
