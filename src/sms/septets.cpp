@@ -14,7 +14,7 @@ void packSeptets(std::span<const quint8> septets, int fillBits, Octets &packed)
         for (; bits >= 8; bits -= 8, pending >>= 8)
             packed.append(quint8(pending));
     }
-    if (bits > 0 && !septets.empty())
+    if (bits > 0)
         packed.append(quint8(pending));
 }
 
