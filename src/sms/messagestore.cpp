@@ -72,7 +72,7 @@ Message imported(Message message)
         if (isUnderWay(part))
             part.state = DeliveryState::Failed;
     }
-    return tidied(std::move(message));
+    return message;
 }
 
 } // namespace
@@ -506,7 +506,7 @@ MessageStore::Imported MessageStore::import(std::vector<Message> messages)
         }
         if (message.id.isEmpty())
             message.id = newMessageId();
-        d->put(std::move(message));
+        d->put(tidied(std::move(message)));
         ++result.added;
     }
     result.stored = d->commit();

@@ -99,7 +99,9 @@ public:
 private:
     void noteUnknown(const pugi::xml_node &node)
     {
-        note(u"<%1> has no place here"_s.arg(QString::fromUtf8(node.name())));
+        const bool isText = node.type() == pugi::node_pcdata;
+        if (!isText || !QString::fromUtf8(node.value()).trimmed().isEmpty())
+            note(u"<%1> has no place here"_s.arg(QString::fromUtf8(node.name())));
     }
 
     MessagePart readPart(const pugi::xml_node &element)
@@ -107,10 +109,8 @@ private:
         MessagePart part;
         readFields(part, element, partFields());
         part.text = textIn(element);
-        for (const pugi::xml_node node : element.children()) {
-            if (node.type() == pugi::node_element)
-                noteUnknown(node);
-        }
+        if (element.find_child([](const pugi::xml_node &node) { return node.type() == pugi::node_element; }))
+            note(u"text has no elements"_s);
         return part;
     }
 
