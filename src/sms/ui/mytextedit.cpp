@@ -3,6 +3,7 @@
 
 #include "shell/commoncfg.h"
 #include "sms/ui/messagetexts.h"
+#include "widgets/skin.h"
 
 #include <QTextDocument>
 
@@ -11,6 +12,7 @@ using namespace Qt::StringLiterals;
 MyTextEdit::MyTextEdit(QWidget *parent) : QPlainTextEdit(parent)
 {
     setTabChangesFocus(true);
+    document()->setDocumentMargin(corva::metrics::Grid);
     connect(this, &QPlainTextEdit::textChanged, this, &MyTextEdit::count);
     count();
 }

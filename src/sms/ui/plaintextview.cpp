@@ -18,6 +18,7 @@ PlainTextView::PlainTextView(QWidget *parent) : QPlainTextEdit(parent)
     setTabChangesFocus(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setContextMenuPolicy(Qt::CustomContextMenu);
+    document()->setDocumentMargin(metrics::Grid);
 }
 
 void PlainTextView::setText(const QString &text)

@@ -58,6 +58,7 @@ void fill(MessageStore &store, const QString &state)
     const int many = qEnvironmentVariableIntValue("CORVA_DEMO_MANY");
     if (state != "empty"_L1)
         store.add(many > 0 ? sample::many(many) : sample::messages(QDateTime::currentDateTime()));
+    store.replaceMirror(MessagePlace::Sim, sample::onSim(QDateTime::currentDateTime()));
     fakesms::put(MessagePlace::Sim, {.isRead = true, .error = {}, .capacity = StoreCapacity{18, 20}});
     fakesms::put(MessagePlace::Card, {.isRead = true, .error = {}, .capacity = StoreCapacity{5, 23}});
 }

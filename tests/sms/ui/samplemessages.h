@@ -43,9 +43,9 @@ inline std::vector<corva::Message> messages(const QDateTime &now)
         went(u"+905321234567"_s, u"Görüşürüz, iyi akşamlar!"_s, DeliveryState::Failed, 300),
         came(u"+491511234567"_s, u"Do you have the tickets?"_s, 24 * 60),
         went(u"+491511234567"_s, u"On my way to get them."_s, DeliveryState::Sent, 24 * 60 - 5),
-        came(u"+33612345678"_s, u"À demain, j'espère que le train sera à l'heure."_s, 3 * 24 * 60),
-        went(u"+33612345678"_s, u"À demain !"_s, DeliveryState::Queued, 2),
-        came(u"+8613812345678"_s, u"明天见，别忘了带雨伞。"_s, 400 * 24 * 60),
+        came(u"+33698765432"_s, u"À demain, j'espère que le train sera à l'heure."_s, 3 * 24 * 60),
+        went(u"+33698765432"_s, u"À demain !"_s, DeliveryState::Queued, 2),
+        came(u"+8613800138000"_s, u"明天见，别忘了带雨伞。"_s, 400 * 24 * 60),
     };
     Message torn =
         longPart(u"+491729876543"_s, 7, 3, 1, u"The first part of a long message that tells "_s, 90);
@@ -63,10 +63,18 @@ inline std::vector<corva::Message> messages(const QDateTime &now)
     draft.box = MessageBox::Drafts;
     draft.parts.front().pdu.clear();
     all.push_back(draft);
+    return all;
+}
+
+/// What lies on the SIM.
+inline std::vector<corva::Message> onSim(const QDateTime &now)
+{
+    std::vector<corva::Message> all;
     for (int i = 0; i < 6; ++i) {
-        Message kept = came(u"+4915700000%1"_s.arg(i),
-                            u"A message that is kept on the SIM card (%1)"_s.arg(i), 5000 + 700 * i);
-        kept.place = MessagePlace::Sim;
+        corva::Message kept =
+            received(u"+4915700000%1"_s.arg(i), u"A message that is kept on the SIM card (%1)"_s.arg(i));
+        kept.time = now.addSecs(-60 * (5000 + 700 * i));
+        kept.isRead = true;
         kept.parts.front().storageIndex = i + 1;
         all.push_back(kept);
     }
