@@ -21,6 +21,7 @@
 #include "widgets/noticebar.h"
 #include "widgets/textlabel.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMenu>
@@ -149,7 +150,7 @@ void CShortMsg::connectParts()
     connect(m_actions, &MessageActions::sigSaid, this, &CShortMsg::say);
     connect(m_actions, &MessageActions::sigPrint, this, &CShortMsg::print);
     connect(m_composer, &Composer::sigClosed, this, [this] {
-        setWriting(false);
+        leaveComposer();
         follow();
         m_browser->takeFocus();
     });
@@ -250,8 +251,10 @@ void CShortMsg::search(const QString &words)
 /// Shows what is chosen, and counts it as read: the person looks at it.
 void CShortMsg::follow()
 {
-    if (m_isWriting)
-        leaveComposer();
+    // A list that changes by itself takes nobody out of what is being written.
+    if (m_isWriting && m_composer->isAncestorOf(QApplication::focusWidget()))
+        return;
+    leaveComposer();
     if (m_browser->isByPerson()) {
         followConversation();
         return;

@@ -28,10 +28,7 @@ void MyTextEdit::count()
     using namespace corva;
     const QString text = toPlainText();
     m_split = splitText(text, TextCoding::fromSpecialCode(cmcfg.getValue(u"sms"_s, u"specialcode"_s)));
-    QTextOption option = document()->defaultTextOption();
-    if (const auto direction = directionOf(text); option.textDirection() != direction) {
-        option.setTextDirection(direction);
-        document()->setDefaultTextOption(option);
-    }
+    if (document()->defaultTextOption().textDirection() != directionOf(text))
+        document()->setDefaultTextOption(optionFor(text));
     Q_EMIT sigCounted();
 }

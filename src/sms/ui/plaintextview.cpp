@@ -23,9 +23,7 @@ PlainTextView::PlainTextView(QWidget *parent) : QPlainTextEdit(parent)
 
 void PlainTextView::setText(const QString &text)
 {
-    QTextOption option = document()->defaultTextOption();
-    option.setTextDirection(directionOf(text));
-    document()->setDefaultTextOption(option);
+    document()->setDefaultTextOption(optionFor(text));
     setPlainText(text);
     markLinks();
 }

@@ -134,6 +134,7 @@ int main(int argc, char **argv)
         auto *page =
             new CShortMsg({u"messages"_s, u"Messages"_s, u"message"_s}, &service, &messages, &window);
         layout->addWidget(page);
+        qInfo() << "built in" << opening.elapsed() << "ms";
         QTimer::singleShot(0, page, [page, state] { open(*page, state); });
     }
     const QStringList size = qEnvironmentVariable("CORVA_DEMO_SIZE", u"758x524"_s).split(u'x');

@@ -186,7 +186,6 @@ void TestMessagePage::whatIsDeletedComesBack()
     QTest::keyClick(list(), Qt::Key_Delete);
     QTRY_COMPARE(rows(), QStringList({u"three"_s, u"one"_s}));
     QCOMPARE(list()->currentIndex().row(), 1); // what took its place
-    press(u"noticeAction"_s);
     const QList<QPushButton *> actions = m_page->findChildren<QPushButton *>(u"noticeAction"_s);
     for (QPushButton *action : actions)
         if (action->isVisible())
@@ -332,7 +331,7 @@ void TestMessagePage::cancellingAsks()
     QCOMPARE(box->text(), u"Do you want to cancel sending the rest SMS?"_s);
     QCOMPARE(fakesms::takeCalls(), QStringList());
     box->button(QMessageBox::Yes)->click();
-    QTRY_COMPARE(fakesms::takeCalls(), QStringList{u"cancel"_s});
+    QCOMPARE(fakesms::takeCalls(), QStringList{u"cancel"_s});
 }
 
 void TestMessagePage::nearlyFullPlaceIsTold()

@@ -122,8 +122,8 @@ void TestMessageParts::links()
 {
     const QString text = u"See (https://example.org/a?b=1&c=<x>), www.example.com. or mail me@example.net! "
                          "Not: example, javascript:alert(1), file:///etc/passwd"_s;
-    QCOMPARE(linksIn(text), QStringList({u"https://example.org/a?b=1&c="_s.chopped(1), u"www.example.com"_s,
-                                         u"me@example.net"_s}));
+    QCOMPARE(linksIn(text),
+             QStringList({u"https://example.org/a?b=1&c="_s, u"www.example.com"_s, u"me@example.net"_s}));
 }
 
 void TestMessageParts::directions()
