@@ -10,6 +10,7 @@
 #include "shell/safefile.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -83,7 +84,7 @@ public:
     bool save();
     bool putAllBack(bool copiesMayBeMissing);
     Result putOneBack(const KeptFile &file, Phase before);
-    bool writeOurs(const KeptFile &file, const QByteArray &content);
+    QStringList pppdsBackups();
 
     SystemFiles files;
     FileLock lock;
@@ -169,11 +170,33 @@ Result DiallerFiles::Private::putOneBack(const KeptFile &file, Phase before)
     return file.putBack(journal.files[file.name()], before == Phase::Restoring, &detail);
 }
 
+/// The resolver files that pppd's script set aside for links that are gone: it puts them back itself, unless
+/// pppd was cut off. Those alone that hold what was there at the saving.
+QStringList DiallerFiles::Private::pppdsBackups()
+{
+    const KeptFile &resolver = kept.back();
+    const QByteArray original = journal.files.value(resolver.name()).original;
+    const QFileInfo file(QFileInfo(resolver.path()).canonicalFilePath());
+    const QString prefix = file.fileName() + u".pppd-backup."_s;
+    QStringList backups;
+    for (const QFileInfo &backup : file.dir().entryInfoList({prefix + u'*'}, QDir::Files | QDir::Hidden)) {
+        const QString interfaceName = backup.fileName().sliced(prefix.size());
+        if (!QFileInfo::exists(u"/sys/class/net/"_s + interfaceName) &&
+            DiallerJournal::hashOf(contentOf(backup.filePath(), longestResolver)) == original)
+            backups += backup.filePath();
+    }
+    return backups;
+}
+
 /// Every file is tried. What is known of a file whose copy is lost is kept, apart from the journal: the
 /// program's own that stands in its place must not be saved as the person's next time.
 bool DiallerFiles::Private::putAllBack(bool copiesMayBeMissing)
 {
     const Phase before = journal.phase;
+    const QStringList backups = pppdsBackups();
+    if (const KeptFile &resolver = kept.back(); !backups.isEmpty())
+        journal.files[resolver.name()].written +=
+            DiallerJournal::hashOf(contentOf(resolver.path(), longestResolver));
     if (before == Phase::Saved && !note(Phase::Restoring))
         return false;
     DiallerJournal lost;
@@ -191,18 +214,14 @@ bool DiallerFiles::Private::putAllBack(bool copiesMayBeMissing)
     }
     if (!isAllTried)
         return false;
+    for (const QString &backup : backups)
+        removeFile(backup);
     if (lost.files.isEmpty()) {
         forget();
         return isAllBack;
     }
     journal = lost;
     return writeFileSafely(files.lost, lost.toJson(), &detail) && removeFile(files.journal) && isAllBack;
-}
-
-bool DiallerFiles::Private::writeOurs(const KeptFile &file, const QByteArray &content)
-{
-    journal.files[file.name()].written += DiallerJournal::hashOf(content);
-    return note(Phase::Saved) && file.write(content, &detail);
 }
 
 DiallerFiles::DiallerFiles(const SystemFiles &files) : d(std::make_unique<Private>(files)) {}
@@ -256,7 +275,12 @@ bool DiallerFiles::readDeafaultConfigData(const ConnectionProfile &profile, cons
     for (std::size_t i = 0; i < std::size(contents); ++i) {
         if (!QFileInfo::exists(QFileInfo(d->kept[i].path()).path()))
             return d->fail(openFailed, d->kept[i].path() + u": no such folder"_s, error, d->kept[i].path());
-        if (!d->writeOurs(d->kept[i], contents[i]))
+        d->journal.files[d->kept[i].name()].written += DiallerJournal::hashOf(contents[i]);
+    }
+    if (!d->note(Phase::Saved)) // once for all: each note waits for the disk
+        return d->fail(openFailed, {}, error, d->files.journal);
+    for (std::size_t i = 0; i < std::size(contents); ++i) {
+        if (!d->kept[i].write(contents[i], &d->detail))
             return d->fail(openFailed, {}, error, d->kept[i].path());
     }
     return true;

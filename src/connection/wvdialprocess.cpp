@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <csignal>
 #include <sys/wait.h>
 
@@ -23,6 +24,8 @@ namespace
 constexpr auto pollPeriod = 100ms;
 /// How long output is waited for that nobody can write any more.
 constexpr int mostEmptyPolls = 10;
+/// How long pppd's scripts are waited for that outlive it. They write the system's resolver file.
+constexpr int mostScriptPolls = 50;
 
 /// What is sent, and to whom, at which poll after the kill was asked for. wvdial hangs up and ends pppd by
 /// itself when it is asked to, which takes it up to 7 s; killed outright it leaves pppd and the link behind.
@@ -33,6 +36,9 @@ struct KillStep {
 };
 constexpr KillStep killSteps[] = {
     {0, SIGTERM, "wvdial"}, {90, SIGTERM, "pppd"}, {120, SIGTERM, ""}, {140, SIGKILL, ""}};
+/// For how many polls wvdial may go on without pppd. It is hanging up then, mostly for half a second and at
+/// times for 7; the port that closes when it is killed hangs up too.
+constexpr int mostPartingPolls = 5;
 /// The kernel may hold a process for ever, in a driver that waits for the card.
 constexpr int givenUpPoll = 170;
 
@@ -133,6 +139,7 @@ void WvdialProcess::safeKillWvdail()
 {
     m_killWvdialCount = 0;
     m_killStep = 0;
+    m_partingPolls = 0;
     slotWaitWvdialClose();
     if (isPresent())
         m_poll.start();
@@ -168,6 +175,11 @@ void WvdialProcess::takeKillStep()
             ++m_killStep;
         ++m_killStep;
     }
+    const auto members = membersOfSession(m_child);
+    const bool hasPppd = std::ranges::find(members, "pppd", &ProcessStat::name) != members.end();
+    m_partingPolls = hasPppd ? 0 : m_partingPolls + 1;
+    if (m_partingPolls == mostPartingPolls)
+        signalSession(m_child, SIGKILL, "wvdial");
     ++m_killWvdialCount;
 }
 
@@ -181,7 +193,9 @@ bool WvdialProcess::isGone()
             .arg(stat));
     if (!m_isReaped || !membersOfSession(m_child).empty())
         return false;
-    return m_isOutputEnded || ++m_emptyPolls > mostEmptyPolls;
+    ++m_emptyPolls;
+    return (m_isOutputEnded || m_emptyPolls > mostEmptyPolls) &&
+           (m_emptyPolls > mostScriptPolls || !arePppScriptsRunning());
 }
 
 bool WvdialProcess::defunctWvdial() const

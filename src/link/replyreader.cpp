@@ -97,7 +97,7 @@ bool ReplyReader::endsContinuation(char byte)
 /// Whether the line that ends here is the refusal of a message operation.
 bool ReplyReader::endsCmsErrorLine() const
 {
-    if (m_text.size() < 2)
+    if (!endsWith("\r\n"))
         return false;
     const qsizetype begin = m_text.lastIndexOf('\n', -2) + 1;
     return QByteArrayView(m_text).sliced(begin).startsWith("+CMS ERROR");

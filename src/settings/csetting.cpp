@@ -3,6 +3,7 @@
 
 #include "connection/ui/connectionsettings.h"
 #include "settings/generalpage.h"
+#include "sms/ui/messagesettings.h"
 #include "statistics/ui/trafficsettingspage.h"
 #include "widgets/skin.h"
 #include "widgets/textlabel.h"
@@ -25,7 +26,8 @@ constexpr int listWidth = 160;
 /// The groups of this program, in the order shown.
 std::vector<SettingsEntry> standardGroups()
 {
-    return {generalSettingsEntry(), connectionSettingsEntry(), trafficSettingsEntry()};
+    return {generalSettingsEntry(), connectionSettingsEntry(), messageSettingsEntry(),
+            trafficSettingsEntry()};
 }
 
 } // namespace

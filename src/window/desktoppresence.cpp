@@ -32,14 +32,19 @@ bool DesktopPresence::keepsWindow() const
 
 void DesktopPresence::tell(const QString &sentence)
 {
+    notify(u"volume"_s, comcfg.softwareName, sentence);
+}
+
+void DesktopPresence::notify(const QString &key, const QString &title, const QString &body)
+{
     if (isOn(u"notifications_enabled"_s))
-        m_notifier.notify(u"volume"_s, comcfg.softwareName, sentence);
+        m_notifier.notify(key, title, body);
 }
 
 void DesktopPresence::report(LinkReport report, const QString &text)
 {
-    if (const auto notice = noticeFor(report, text); notice && isOn(u"notifications_enabled"_s))
-        m_notifier.notify(notice->key, notice->title, notice->body);
+    if (const auto noticed = noticeFor(report, text))
+        notify(noticed->key, noticed->title, noticed->body);
     if (const QString ended = noticeEndedBy(report, text); !ended.isEmpty())
         m_notifier.withdraw(ended);
 }

@@ -25,6 +25,9 @@ public:
     void report(LinkReport report, const QString &text);
     /// Notifies of something that is the program's own.
     void tell(const QString &sentence);
+    /// One of the same key takes the place of the one before.
+    void notify(const QString &key, const QString &title, const QString &body);
+    void withdraw(const QString &key) { m_notifier.withdraw(key); }
 
 private:
     TrayIcon m_tray;

@@ -12,7 +12,6 @@ namespace
 {
 
 const QString callKey = u"call"_s;
-const QString messageKey = u"message"_s;
 
 QString text(const char *source)
 {
@@ -23,22 +22,6 @@ ReportNotice incomingCall()
 {
     return {callKey, text(QT_TRANSLATE_NOOP("Notices", "Incoming call")),
             text(QT_TRANSLATE_NOOP("Notices", "The card is ringing."))};
-}
-
-ReportNotice newMessage(const char *body)
-{
-    return {messageKey, text(QT_TRANSLATE_NOOP("Notices", "New message")), text(body)};
-}
-
-std::optional<ReportNotice> ringOrMessage(const QString &report)
-{
-    if (report.contains("RING"_L1))
-        return incomingCall();
-    if (report.contains("+CMTI:"_L1))
-        return newMessage(QT_TRANSLATE_NOOP("Notices", "A new message has arrived on the card"));
-    if (report.contains("+CMT:"_L1))
-        return newMessage(QT_TRANSLATE_NOOP("Notices", "A new message has arrived"));
-    return {};
 }
 
 } // namespace
@@ -56,9 +39,8 @@ void ReportHub::post(LinkReport report, const QString &text)
 std::optional<ReportNotice> noticeFor(LinkReport report, const QString &reportText)
 {
     switch (report) {
-    case LinkReport::RingOrMessage: return ringOrMessage(reportText);
-    case LinkReport::ImmediateMessage:
-        return newMessage(QT_TRANSLATE_NOOP("Notices", "An immediate message has arrived"));
+    case LinkReport::RingOrMessage:
+        return reportText.contains("RING"_L1) ? std::optional(incomingCall()) : std::nullopt;
     case LinkReport::CallWaiting:
         return ReportNotice{callKey, text(QT_TRANSLATE_NOOP("Notices", "Incoming call")),
                             text(QT_TRANSLATE_NOOP("Notices", "Another call is waiting."))};

@@ -3,6 +3,7 @@
 
 #include "connection/ui/wirelesswindow.h"
 #include "settings/csetting.h"
+#include "sms/ui/cshortmsg.h"
 #include "statistics/ui/trafficpage.h"
 #include "window/cardpage.h"
 
@@ -29,6 +30,7 @@ PageRegistry standardPages()
 {
     PageRegistry registry;
     registry.add(connectionPageEntry());
+    registry.add(messagesPageEntry());
     registry.add(cardPageEntry());
     registry.add(trafficPageEntry());
     registry.add(settingsPageEntry());

@@ -5,6 +5,8 @@
 #include "connection/profilestore.h"
 #include "device/cardmonitor.h"
 #include "shell/globals.h"
+#include "sms/messageservice.h"
+#include "sms/messagestore.h"
 #include "statistics/trafficservice.h"
 #include "statistics/traffictexts.h"
 
@@ -53,9 +55,12 @@ Services::Services(CardMonitor *monitor, QObject *parent)
 
 Services::Services(CardMonitor *monitor, const MakeConnection &makeConnection, QObject *parent)
     : QObject(parent), m_profiles(std::make_unique<ProfileStore>(basePath + u"/Data"_s)),
-      m_traffic(std::make_unique<TrafficService>()), m_connection(makeConnection(monitor, m_profiles.get()))
+      m_traffic(std::make_unique<TrafficService>()), m_connection(makeConnection(monitor, m_profiles.get())),
+      m_messageStore(std::make_unique<MessageStore>(basePath + u"/Data"_s)),
+      m_messageService(std::make_unique<MessageService>(monitor, m_messageStore.get()))
 {
     connectParts();
+    m_messageStore->load();
     connect(monitor, &CardMonitor::sigStateChanged, this, [this](const CardState &state) {
         if (m_isCounting && state.roaming)
             m_traffic->setRoaming(*state.roaming);

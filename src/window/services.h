@@ -13,10 +13,12 @@ namespace corva
 
 class CardMonitor;
 class ConnectionService;
+class MessageService;
+class MessageStore;
 class ProfileStore;
 class TrafficService;
 
-/// The services of the data connection, and what they have to tell each other: none of them knows the others.
+/// The services of the program, and what they have to tell each other: none of them knows the others.
 class Services final : public QObject
 {
     Q_OBJECT
@@ -35,6 +37,7 @@ public:
     ConnectionService *connection() { return m_connection.get(); }
     TrafficService *traffic() { return m_traffic.get(); }
     LinkMeter *meter() { return &m_meter; }
+    MessageService *messages() { return m_messageService.get(); }
 
 Q_SIGNALS:
     /// A sentence for the person about the month's volume.
@@ -47,6 +50,8 @@ private:
     std::unique_ptr<ProfileStore> m_profiles;
     std::unique_ptr<TrafficService> m_traffic;
     std::unique_ptr<ConnectionService> m_connection;
+    std::unique_ptr<MessageStore> m_messageStore;
+    std::unique_ptr<MessageService> m_messageService;
     LinkMeter m_meter;
     bool m_isCounting = false; ///< a session was begun and not ended
 };

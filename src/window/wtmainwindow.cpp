@@ -8,6 +8,8 @@
 #include "shell/commonconfig.h"
 #include "shell/endsignals.h"
 #include "shell/logging.h"
+#include "sms/messageservice.h"
+#include "sms/ui/messagedesk.h"
 #include "statistics/trafficservice.h"
 #include "widgets/line.h"
 #include "widgets/messagequeue.h"
@@ -79,6 +81,7 @@ WTMainWindow::WTMainWindow(QWidget *parent, const char *name, Qt::WindowFlags fl
     addShortcuts();
     connectParts();
     connectServices();
+    connectMessages();
     slotStateChanged(m_monitor->state());
     showPage(cmcfg.getValue(windowSection, u"page"_s));
     if (m_pages->currentPage().isEmpty())
@@ -103,7 +106,7 @@ void WTMainWindow::build()
     m_pages = new PageHost(standardPages(),
                            {m_monitor, m_reports, m_mender, m_services->connection(), m_services->profiles(),
                             m_services->traffic(), m_connector, m_services->meter(),
-                            [this] { showOfflinePanel(); }},
+                            [this] { showOfflinePanel(); }, m_services->messages()},
                            this);
     m_strip = new StatusStrip(this);
     buildMenu(menu);
@@ -206,6 +209,36 @@ void WTMainWindow::connectServices()
             [](const QUrl &page) { QDesktopServices::openUrl(page); });
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { m_isSessionEnding = true; });
     slotConnectionChanged(m_services->connection()->status());
+}
+
+void WTMainWindow::connectMessages()
+{
+    auto *desk = new MessageDesk(m_services->messages(), m_messages, this);
+    connect(desk, &MessageDesk::sigBadge, this,
+            [this](const QString &badge) { m_navigation->setBadge(u"messages"_s, badge); });
+    connect(desk, &MessageDesk::sigSaid, m_strip, &StatusStrip::say);
+    connect(desk, &MessageDesk::sigNotify, this,
+            [this](const QString &key, const QString &title, const QString &body) {
+                if (m_desktop)
+                    m_desktop->notify(key, title, body);
+            });
+    connect(desk, &MessageDesk::sigNotificationEnded, this, [this](const QString &key) {
+        if (m_desktop)
+            m_desktop->withdraw(key);
+    });
+}
+
+/// The reports that a service files.
+void WTMainWindow::passOn(LinkReport report, const QString &text)
+{
+    MessageService *messages = m_services->messages();
+    switch (report) {
+    case LinkReport::RingOrMessage: messages->takeMessages(text); break;
+    case LinkReport::DeliveryReport: messages->takeDeliveryReports(text); break;
+    case LinkReport::ImmediateMessage: messages->takeImmediate(text); break;
+    case LinkReport::CellBroadcast: messages->takeBroadcasts(text); break;
+    default: break;
+    }
 }
 
 bool WTMainWindow::getModemState() const
@@ -321,6 +354,7 @@ void WTMainWindow::askForPinOnce(const CardState &state)
 
 void WTMainWindow::slotReport(LinkReport report, const QString &text)
 {
+    passOn(report, text);
     if (const auto notice = noticeFor(report, text))
         m_strip->say(notice->body);
     else

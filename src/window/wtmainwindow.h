@@ -104,6 +104,8 @@ private:
     void addShortcuts();
     void connectParts();
     void connectServices();
+    void connectMessages();
+    void passOn(corva::LinkReport report, const QString &text);
     void toggleConnection();
     void mendConnection(corva::MendAction action);
     void showOrHide();

@@ -120,10 +120,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("ends");
         QTest::newRow("a ring") << LinkReport::RingOrMessage << u"\r\nRING\r\n"_s << u"The card is ringing."_s
                                 << QString();
-        QTest::newRow("a stored message") << LinkReport::RingOrMessage << u"\r\n+CMTI: \"SM\",3\r\n"_s
-                                          << u"A new message has arrived on the card"_s << QString();
-        QTest::newRow("a message handed over") << LinkReport::RingOrMessage << u"\r\n+CMT: ,24\r\n07..."_s
-                                               << u"A new message has arrived"_s << QString();
+        QTest::newRow("a message is the message service's")
+            << LinkReport::RingOrMessage << u"\r\n+CMTI: \"SM\",3\r\n"_s << QString() << QString();
         QTest::newRow("the end of a call")
             << LinkReport::RingOrMessage << QString() << QString() << u"call"_s;
         QTest::newRow("the caller gave up") << LinkReport::RingStopped << QString() << QString() << u"call"_s;

@@ -1,0 +1,350 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cardthread.h"
+#include "device/cardmonitor.h"
+#include "link/serialthread.h"
+#include "linktest.h"
+#include "shell/commoncfg.h"
+#include "shell/globals.h"
+#include "sms/messageservice.h"
+#include "sms/messagestore.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace corva;
+
+namespace
+{
+
+constexpr int patience = 30000; // ms, for what takes a moment on a busy machine
+
+/// The window's part between link and service: reports step over to this thread.
+class Owner : public FakeOwner
+{
+public:
+    QObject context;
+    MessageService *service = nullptr;
+
+    void getSmsAndVoice(const QString &text) override { pass(&MessageService::takeMessages, text); }
+    void smsStatusReported(const QString &text) override { pass(&MessageService::takeDeliveryReports, text); }
+    void class0SmsReceived(const QString &text) override { pass(&MessageService::takeImmediate, text); }
+    void cellBroadcastReceived(const QString &text) override { pass(&MessageService::takeBroadcasts, text); }
+
+private:
+    void pass(void (MessageService::*take)(const QString &), const QString &text)
+    {
+        QMetaObject::invokeMethod(&context, [this, take, text] {
+            if (service)
+                (service->*take)(text);
+        });
+    }
+};
+
+} // namespace
+
+/// Messages between the emulated card and the store.
+class TestMessageService : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        basePath = m_folder.path();
+        cmcfg.setValue(u"device"_s, u"at_port"_s, m_folder.path() + u"/card/at"_s);
+        cmcfg.setValue(u"device"_s, u"modem_port"_s, m_folder.path() + u"/card/modem"_s);
+        cmcfg.setValue(u"network_dialer_setting"_s, u"send_nullatcommand_timer_100ms"_s, u"10"_s);
+        m_owner.onFind = [this] { m_searcher.load()->findPorts(false); };
+    }
+    void init()
+    {
+        resetLinkGlobals();
+        set("newsmsLocation", 2);
+        set("deliveryReport", 1);
+        set("deliveryReportMsgDlgShow", 1);
+        set("deleteSimSmsWhenFull", 0);
+        cmcfg.setValue(u"function"_s, u"modemSide_enabled"_s, u"1"_s);
+        cmcfg.setValue(u"function"_s, u"cell_board_enabled"_s, u"1"_s);
+        m_card = std::make_unique<cardemu::CardThread>(
+            std::get<cardemu::Profile>(cardemu::Profile::builtIn(u"wcdma"_s)));
+        QCOMPARE(m_card->start(m_folder.path() + u"/card"_s), QString());
+        for (const char *store : {"SM", "ME", "SR"})
+            tell(QByteArray(R"({"command": "store", "name": ")") + store + R"(", "clear": true})");
+    }
+    void cleanup()
+    {
+        end();
+        m_card.reset();
+        QDir data(m_folder.path() + u"/Data"_s);
+        for (const char *file : {"sms.xml", "cardsms.xml"})
+            data.remove(QLatin1StringView(file));
+    }
+
+    void newMessages_data()
+    {
+        QTest::addColumn<int>("location");
+        QTest::addColumn<int>("cardSide");
+        QTest::addColumn<int>("place"); // where they are found afterwards
+        QTest::addColumn<int>("onSim");
+        QTest::newRow("handed over") << 2 << 1 << int(MessagePlace::Computer) << 0;
+        QTest::newRow("announced, moved to the computer") << 2 << 0 << int(MessagePlace::Computer) << 0;
+        QTest::newRow("kept on the SIM") << 1 << 0 << int(MessagePlace::Sim) << 3;
+    }
+    void newMessages()
+    {
+        QFETCH(int, location);
+        QFETCH(int, cardSide);
+        QFETCH(int, place);
+        set("newsmsLocation", location);
+        cmcfg.setValue(u"function"_s, u"modemSide_enabled"_s, QString::number(cardSide));
+        cmcfg.setValue(u"function"_s, u"cell_board_enabled"_s, u"0"_s);
+        begin();
+        QSignalSpy announced(m_service.get(), &MessageService::sigNewMessage);
+        tell(R"({"command": "sms", "from": "+4917112345", "text": "Grüße"})");
+        tell(R"({"command": "sms", "from": "+4917112345", "text": "zwei"})");
+        tell(
+            R"({"command": "sms", "pdu": "0791947101", "unchecked": true})"); // torn: kept, and shown as such
+        QTRY_COMPARE_WITH_TIMEOUT(inbox(MessagePlace(place)).size(), 3, patience);
+        QCOMPARE(announced.size(), 3);
+        QStringList texts;
+        for (const Message &message : inbox(MessagePlace(place)))
+            texts +=
+                message.error.isEmpty() ? message.recipients.value(0) + u' ' + message.text() : u"broken"_s;
+        texts.sort();
+        QCOMPARE(texts, (QStringList{u"+4917112345 Grüße"_s, u"+4917112345 zwei"_s, u"broken"_s}));
+        QTRY_COMPARE_WITH_TIMEOUT(stored(u"SM"_s) + stored(u"ME"_s),
+                                  QTest::currentDataTag() ? expectedOnCard() : 0, patience);
+    }
+
+    void aLongMessageInAnyOrder()
+    {
+        begin();
+        QSignalSpy announced(m_service.get(), &MessageService::sigNewMessage);
+        const QString text = QString(400, u'x') + u"end"_s;
+        tell(R"({"command": "sms", "from": "123", "order": "3,1,2", "text": ")" + text.toLatin1() + R"("})");
+        QTRY_VERIFY_WITH_TIMEOUT(!inbox().empty() && inbox().front().missingParts() == 0, patience);
+        QCOMPARE(inbox().size(), 1U);
+        QCOMPARE(inbox().front().text(), text);
+        QCOMPARE(announced.size(), 1);
+    }
+
+    void aMessageInTheMiddleOfAList()
+    {
+        tell(R"({"command": "fill", "name": "SM", "count": 20, "status": 1})");
+        tell(R"({"command": "fault", "kind": "interleave", "match": "+CMGL", "text":
+            "+CMT: ,24\r\n0791947106004034040B919471325476F800004250112100000005E8329BFD06"})");
+        begin();
+        QTRY_COMPARE_WITH_TIMEOUT(inbox(MessagePlace::Sim).size(), 20U, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(inbox().size(), 1U, patience);
+        m_service->refreshPlace(MessagePlace::Sim);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_service->place(MessagePlace::Sim).isLoading, patience);
+        QCOMPARE(inbox(MessagePlace::Sim).size(), 20U);
+        QCOMPARE(inbox().size(), 1U);
+    }
+
+    void sendingAndItsReport()
+    {
+        tell(R"({"command": "sms-network", "reportDelay": 50})");
+        begin();
+        QSignalSpy summary(m_service.get(), &MessageService::sigSendSummary);
+        QSignalSpy delivered(m_service.get(), &MessageService::sigDelivered);
+        m_service->send({{u"+4917111111"_s, u"10086"_s}, QString(200, u'a'), true, {}});
+        QTRY_COMPARE_WITH_TIMEOUT(summary.size(), 1, patience);
+        QCOMPARE(summary.front(), (QVariantList{2, 0}));
+        QCOMPARE(sent(), 4);
+        const Message message = only(MessageBox::Sent);
+        QCOMPARE(message.parts.size(), 4U);
+        QTRY_VERIFY_WITH_TIMEOUT(only(MessageBox::Sent).state() == DeliveryState::Delivered, patience);
+        QVERIFY(delivered.size() >= 2);
+        QTRY_COMPARE_WITH_TIMEOUT(stored(u"SR"_s), 0, patience);
+    }
+
+    void refusedByTheNetwork()
+    {
+        tell(R"({"command": "sms-network", "refuse": 42, "nth": 2, "count": 1})");
+        begin();
+        QSignalSpy summary(m_service.get(), &MessageService::sigSendSummary);
+        QSignalSpy notice(m_service.get(), &MessageService::sigNotice);
+        m_service->send({{u"10086"_s}, QString(400, u'a'), false, {}});
+        QTRY_COMPARE_WITH_TIMEOUT(summary.size(), 1, patience);
+        QCOMPARE(summary.front(), (QVariantList{0, 1}));
+        QVERIFY(notice.front().front().toString().contains(u"The network is overloaded."));
+        const Message failed = only(MessageBox::Outbox);
+        QCOMPARE(failed.parts[0].state, DeliveryState::Sent);
+        QCOMPARE(failed.parts[1].errorCode, 42);
+        QCOMPARE(failed.parts[2].state, DeliveryState::Failed);
+        QCOMPARE(sent(), 1);
+        m_service->retry({failed.id}); // only what did not go out
+        QTRY_COMPARE_WITH_TIMEOUT(summary.size(), 2, patience);
+        QCOMPARE(summary.back(), (QVariantList{1, 0}));
+        QCOMPARE(sent(), 3);
+        QCOMPARE(only(MessageBox::Sent).id, failed.id);
+    }
+
+    void cancelledMidway()
+    {
+        tell(R"({"command": "sms-network", "delay": 300})");
+        begin();
+        QSignalSpy summary(m_service.get(), &MessageService::sigSendSummary);
+        m_service->send({{u"10086"_s}, QString(400, u'a'), false, {}});
+        QTRY_VERIFY_WITH_TIMEOUT(m_service->sending().isActive, patience);
+        m_service->cancelSending();
+        QTRY_COMPARE_WITH_TIMEOUT(summary.size(), 1, patience);
+        QCOMPARE(summary.front(), (QVariantList{0, 1}));
+        QVERIFY(sent() < 3);
+        QVERIFY(!m_service->sending().isActive);
+    }
+
+    void theQueueOverARestart()
+    {
+        {
+            MessageStore store(m_folder.path() + u"/Data"_s);
+            store.load();
+            QTRY_VERIFY_WITH_TIMEOUT(store.isLoaded(), patience);
+            for (const DeliveryState state : {DeliveryState::Queued, DeliveryState::Sending}) {
+                Message message;
+                message.box = MessageBox::Outbox;
+                message.recipients = {state == DeliveryState::Queued ? u"111"_s : u"222"_s};
+                message.time = message.arrived = QDateTime::currentDateTime();
+                message.parts.emplace_back().state = state;
+                message.parts.front().text = u"hello"_s;
+                store.add({message});
+            }
+            QVERIFY(store.flush());
+        }
+        begin();
+        QSignalSpy summary(m_service.get(), &MessageService::sigSendSummary);
+        QTRY_COMPARE_WITH_TIMEOUT(summary.size(), 1, patience);
+        QCOMPARE(sent(), 1); // the other one may have gone out before
+        QCOMPARE(only(MessageBox::Sent).recipients, QStringList(u"111"_s));
+        QCOMPARE(only(MessageBox::Outbox).state(), DeliveryState::Failed);
+    }
+
+    void movingAndDeleting()
+    {
+        tell(R"({"command": "fill", "name": "SM", "count": 3, "status": 1})");
+        begin();
+        QTRY_COMPARE_WITH_TIMEOUT(inbox(MessagePlace::Sim).size(), 3U, patience);
+        QStringList ids = m_store->ids(MessageBox::Inbox, MessagePlace::Sim);
+        m_service->moveTo({ids[0]}, MessagePlace::Computer);
+        QTRY_COMPARE_WITH_TIMEOUT(stored(u"SM"_s), 2, patience);
+        QCOMPARE(inbox().size(), 1U);
+        m_service->moveTo({inbox().front().id}, MessagePlace::Card);
+        QTRY_COMPARE_WITH_TIMEOUT(inbox(MessagePlace::Card).size(), 1U, patience);
+        QCOMPARE(stored(u"ME"_s), 1);
+        QTRY_VERIFY_WITH_TIMEOUT(inbox().empty(), patience);
+        QTRY_COMPARE_WITH_TIMEOUT(inbox(MessagePlace::Sim).size(), 2U, patience);
+        ids = m_store->ids(MessageBox::Inbox, MessagePlace::Sim);
+        m_service->removeMessages(ids);
+        QTRY_COMPARE_WITH_TIMEOUT(stored(u"SM"_s), 0, patience);
+        QCOMPARE(m_store->ids(MessageBox::Deleted).size(), 2);
+        QVERIFY(m_service->undoRemoval());
+        QCOMPARE(inbox().size(), 2U);
+    }
+
+    void anotherMessageAtTheSamePlace()
+    {
+        tell(R"({"command": "fill", "name": "SM", "count": 1, "status": 1, "text": "old"})");
+        begin();
+        QTRY_COMPARE_WITH_TIMEOUT(inbox(MessagePlace::Sim).size(), 1U, patience);
+        tell(R"({"command": "store", "name": "SM", "clear": true})");
+        tell(R"({"command": "fill", "name": "SM", "count": 1, "status": 1, "text": "new"})");
+        m_service->removeMessages({inbox(MessagePlace::Sim).front().id});
+        QTRY_VERIFY_WITH_TIMEOUT(!inbox(MessagePlace::Sim).empty() &&
+                                     inbox(MessagePlace::Sim).front().text().startsWith(u"new"),
+                                 patience);
+        QCOMPARE(stored(u"SM"_s), 1);
+    }
+
+    void aFullSim()
+    {
+        set("deleteSimSmsWhenFull", 1);
+        tell(R"({"command": "set", "key": "messages.stores.SM.capacity", "value": 8})");
+        tell(R"({"command": "fill", "name": "SM", "count": 6, "status": 1})");
+        tell(R"({"command": "fill", "name": "SM", "count": 2, "status": 0})");
+        set("newsmsLocation", 1);
+        begin();
+        QSignalSpy notice(m_service.get(), &MessageService::sigNotice);
+        QTRY_COMPARE_WITH_TIMEOUT(stored(u"SM"_s), 3, patience); // five that were read went, kept here
+        QCOMPARE(inbox().size(), 5U);
+        QTRY_VERIFY_WITH_TIMEOUT(notice.size() >= 1, patience);
+        QVERIFY(notice.front().front().toString().contains(u"8 of 8"));
+    }
+
+    void immediateAndBroadcast()
+    {
+        begin();
+        QSignalSpy immediate(m_service.get(), &MessageService::sigClass0);
+        QSignalSpy broadcast(m_service.get(), &MessageService::sigBroadcast);
+        tell(R"({"command": "sms", "from": "555", "text": "now", "class": 0})");
+        QTRY_COMPARE_WITH_TIMEOUT(immediate.size(), 1, patience);
+        QCOMPARE(immediate.front().mid(0, 2), (QVariantList{u"555"_s, u"now"_s}));
+        m_service->setBroadcastChannels({50});
+        QCOMPARE(m_service->broadcastChannels(), QList<int>{50});
+    }
+
+private:
+    int expectedOnCard() const { return cmcfg.getNumber(u"sms"_s, u"newsmsLocation"_s) == 1 ? 3 : 0; }
+    void set(const char *key, int value)
+    {
+        cmcfg.setValue(u"sms"_s, QString::fromLatin1(key), QString::number(value));
+    }
+    void begin()
+    {
+        m_monitor = std::make_unique<CardMonitor>(&m_owner);
+        m_searcher = m_monitor.get();
+        m_store = std::make_unique<MessageStore>(m_folder.path() + u"/Data"_s);
+        m_service = std::make_unique<MessageService>(m_monitor.get(), m_store.get());
+        m_owner.service = m_service.get();
+        m_store->load();
+        m_monitor->start();
+        QTRY_VERIFY_WITH_TIMEOUT(m_service->place(MessagePlace::Sim).isRead, patience);
+    }
+    void end()
+    {
+        m_owner.service = nullptr;
+        if (m_monitor)
+            m_monitor->stop();
+        m_service.reset();
+        m_store.reset();
+        m_monitor.reset();
+    }
+    QJsonObject ask(const QByteArray &json) { return m_card->control(json); }
+    void tell(const QByteArray &json)
+    {
+        const QJsonObject answer = ask(json);
+        QVERIFY2(answer[u"ok"_s].toBool(),
+                 qPrintable(answer[u"error"_s].toString() + QString::fromUtf8(json)));
+    }
+    std::vector<Message> inbox(MessagePlace place = MessagePlace::Computer)
+    {
+        return m_store->messages(m_store->ids(MessageBox::Inbox, place));
+    }
+    Message only(MessageBox box)
+    {
+        const auto messages = m_store->messages(m_store->ids(box));
+        return messages.size() == 1 ? messages.front() : Message();
+    }
+    int sent() { return int(ask(R"({"command": "sent"})")[u"sent"_s].toArray().size()); }
+    /// Messages in a store of the card.
+    int stored(const QString &name)
+    {
+        const QJsonObject state = ask(R"({"command": "show"})");
+        return int(state[u"state"_s][u"messages"_s][u"stores"_s][name][u"entries"_s].toArray().size());
+    }
+
+    ScratchFolder m_folder;
+    Owner m_owner;
+    std::unique_ptr<cardemu::CardThread> m_card;
+    std::unique_ptr<CardMonitor> m_monitor;
+    std::atomic<CardMonitor *> m_searcher = nullptr;
+    std::unique_ptr<MessageStore> m_store;
+    std::unique_ptr<MessageService> m_service;
+};
+
+QTEST_GUILESS_MAIN(TestMessageService)
+#include "tst_messageservice.moc"
