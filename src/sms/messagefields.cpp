@@ -101,12 +101,12 @@ requires std::is_enum_v<Enum> QString toText(Enum value)
     return std::ranges::find(wordsOf<Enum>, value, &Word<Enum>::value)->word;
 }
 
-bool fromText(QStringView text, QString &value)
+bool fromText(const QString &text, QString &value)
 {
-    value = text.toString();
+    value = text;
     return true;
 }
-bool fromText(QStringView text, int &value)
+bool fromText(const QString &text, int &value)
 {
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
@@ -114,14 +114,14 @@ bool fromText(QStringView text, int &value)
         value = number;
     return isNumber;
 }
-bool fromText(QStringView text, bool &value)
+bool fromText(const QString &text, bool &value)
 {
     if (text != "0"_L1 && text != "1"_L1)
         return false;
     value = text == "1"_L1;
     return true;
 }
-bool fromText(QStringView text, QDateTime &value)
+bool fromText(const QString &text, QDateTime &value)
 {
     const QDateTime time = fromIsoText(text);
     if (time.isValid() || text.isEmpty())
@@ -130,7 +130,7 @@ bool fromText(QStringView text, QDateTime &value)
 }
 template <typename Enum>
 requires std::is_enum_v<Enum>
-bool fromText(QStringView text, Enum &value)
+bool fromText(const QString &text, Enum &value)
 {
     for (const Word<Enum> &row : wordsOf<Enum>) {
         if (row.word == text) {
@@ -182,7 +182,7 @@ template <typename Record> QString RecordField<Record>::text(const Record &recor
     return std::visit([&](auto pointer) { return toText(record.*pointer); }, member);
 }
 
-template <typename Record> bool RecordField<Record>::setText(Record &record, QStringView text) const
+template <typename Record> bool RecordField<Record>::setText(Record &record, const QString &text) const
 {
     const auto set = [&](auto pointer) {
         auto value = record.*pointer;

@@ -24,7 +24,7 @@ template <typename Record> struct RecordField {
     /// "1" and "0" for flags, times in ISO 8601 with their offset, words for the rest; empty for no time.
     QString text(const Record &record) const;
     /// False for a text that makes no sense; the record then keeps what it has.
-    bool setText(Record &record, QStringView text) const;
+    bool setText(Record &record, const QString &text) const;
     /// Numbers and flags as such, all else as its text.
     QJsonValue json(const Record &record) const;
     bool setJson(Record &record, const QJsonValue &value) const;
@@ -38,8 +38,8 @@ std::span<const MessageField> messageFields();
 std::span<const PartField> partFields();
 
 /// Null when there is none of that name.
-template <typename Record>
-const RecordField<Record> *fieldNamed(std::span<const RecordField<Record>> fields, QStringView name)
+template <typename Record, typename Name>
+const RecordField<Record> *fieldNamed(std::span<const RecordField<Record>> fields, const Name &name)
 {
     for (const RecordField<Record> &field : fields) {
         if (field.name == name)

@@ -158,7 +158,8 @@ bool isKnown(const MessageTable &table, const Message &message)
         return known.home() == message.home() && known.recipients == message.recipients &&
                known.text() == message.text();
     };
-    return std::ranges::any_of(table.atTime(message.time.toMSecsSinceEpoch()), same);
+    return std::ranges::any_of(
+        message.time.isValid() ? table.atTime(message.time.toMSecsSinceEpoch()) : table.records(), same);
 }
 
 std::vector<Message> mirrored(const MessageTable &old, MessagePlace place, std::vector<Message> listed,

@@ -22,7 +22,7 @@ RecordPtr longMessageFor(const MessageTable &table, const Message &message);
 Message joined(Message message, const Message &parts);
 
 /// Whether this message is in the table already, however it came there: with its id, by the PDUs of all its
-/// parts, or as the same text with the same person at the same moment.
+/// parts, or as the same text with the same person at the same moment, if it has one.
 bool isKnown(const MessageTable &table, const Message &message);
 
 /// What a listing of a place gave, put together. What `old` has of that place already keeps its id, whether

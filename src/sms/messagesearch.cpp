@@ -73,8 +73,8 @@ void MessageSearch::learnNames(const QList<RecordPtr> &records)
 
 bool MessageSearch::hasWord(const MessageRecord &record, const Word &word) const
 {
-    return record.folded.contains(word.text) ||
-           (!word.digits.isEmpty() && record.folded.contains(word.digits)) ||
+    return record.folded().contains(word.text) ||
+           (!word.digits.isEmpty() && record.folded().contains(word.digits)) ||
            std::ranges::any_of(record.persons, [&](const QString &person) {
                return m_names.value(person).contains(word.text);
            });

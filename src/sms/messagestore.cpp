@@ -72,7 +72,7 @@ Message imported(Message message)
         if (isUnderWay(part))
             part.state = DeliveryState::Failed;
     }
-    return tidied(std::move(message));
+    return message;
 }
 
 } // namespace
@@ -171,9 +171,13 @@ void MessageStore::Private::read()
     }
     tables->mirror = MessageTable(std::move(ofMirror), matchingLength);
     const QList<RecordPtr> records = tables->computer.records();
+    const QList<RecordPtr> mirrored = tables->mirror.records();
     loaded = std::move(tables);
     QMetaObject::invokeMethod(
         q, [this] { takeLoaded(); }, Qt::QueuedConnection);
+    // By now they are shown: what the first search and the first change would have to wait for.
+    for (const QList<RecordPtr> &list : {records, mirrored})
+        std::ranges::for_each(list, &MessageRecord::folded);
     StoreFile::prepare(records);
 }
 
@@ -502,7 +506,7 @@ MessageStore::Imported MessageStore::import(std::vector<Message> messages)
         }
         if (message.id.isEmpty())
             message.id = newMessageId();
-        d->put(std::move(message));
+        d->put(tidied(std::move(message)));
         ++result.added;
     }
     result.stored = d->commit();

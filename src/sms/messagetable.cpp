@@ -8,6 +8,7 @@
 #include <QSet>
 #include <QUuid>
 #include <algorithm>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -30,10 +31,16 @@ QString searchedText(const Message &message)
     return foldedText(message.recipients.join(u'\n') + u'\n' + message.text());
 }
 
-/// The newest first; the id decides between those of one moment.
+/// The newest first, what came last among those of one moment; the id so that the order is one at all.
 bool isAhead(const RecordPtr &one, const RecordPtr &other)
 {
-    return one->when != other->when ? one->when > other->when : one->message.id < other->message.id;
+    return std::tie(one->when, one->arrived, one->message.id) >
+           std::tie(other->when, other->arrived, other->message.id);
+}
+
+qint64 inMilliseconds(const QDateTime &time)
+{
+    return time.isValid() ? time.toMSecsSinceEpoch() : 0;
 }
 
 bool isLong(const Message &message)
@@ -41,22 +48,18 @@ bool isLong(const Message &message)
     return message.total > 1 && message.concatReference >= 0;
 }
 
-bool hasSameText(const Message &one, const Message &other)
-{
-    return one.recipients == other.recipients && one.total == other.total &&
-           std::ranges::equal(one.parts, other.parts, [](const MessagePart &part, const MessagePart &like) {
-               return part.sequence == like.sequence && part.recipient == like.recipient &&
-                      part.text == like.text;
-           });
-}
-
 } // namespace
 
-MessageRecord::MessageRecord(Message with, int matchingLength, const MessageRecord *before)
-    : message(std::move(with)), when(message.time.isValid() ? message.time.toMSecsSinceEpoch() : 0),
-      persons(personsOf(message, matchingLength)),
-      folded(before && hasSameText(before->message, message) ? before->folded : searchedText(message))
+MessageRecord::MessageRecord(Message with, int matchingLength)
+    : message(std::move(with)), when(inMilliseconds(message.time)), arrived(inMilliseconds(message.arrived)),
+      persons(personsOf(message, matchingLength))
 {
+}
+
+const QString &MessageRecord::folded() const
+{
+    std::call_once(m_foldedOnce, [this] { m_folded = searchedText(message); });
+    return m_folded;
 }
 
 QString newMessageId()
@@ -97,11 +100,10 @@ MessageTable::Place MessageTable::placeOf(const RecordPtr &record)
 void MessageTable::put(Message message)
 {
     const RecordPtr before = find(message.id);
-    const auto record =
-        std::make_shared<const MessageRecord>(std::move(message), m_matchingLength, before.get());
+    const auto record = std::make_shared<const MessageRecord>(std::move(message), m_matchingLength);
     if (before)
         leave(before);
-    if (before && before->when == record->when) {
+    if (before && before->when == record->when && before->arrived == record->arrived) {
         *placeOf(record) = record;
     } else {
         if (before)

@@ -6,21 +6,29 @@
 #include <QHash>
 #include <QList>
 #include <memory>
+#include <mutex>
 
 namespace corva
 {
 
 /// A message with what is found by it. Another one takes its place when the message changes, so that a list
-/// of these can be handed to another thread as it is.
+/// of these can be handed to other threads as it is.
 struct MessageRecord {
-    /// `before` is what it takes the place of; null for a new one.
-    MessageRecord(Message message, int matchingLength, const MessageRecord *before = nullptr);
+    MessageRecord(Message message, int matchingLength);
 
     const Message message;
     const qint64 when;         ///< `message.time` in ms since 1970
+    const qint64 arrived;      ///< the same of `message.arrived`
     const QStringList persons; ///< the keys of the recipients
-    const QString folded;      ///< text and numbers, for the search
-    mutable QByteArray xml;    ///< once it was written; of the writing thread alone
+
+    /// Text and numbers as they are searched. Made when it is first asked for, on any thread.
+    const QString &folded() const;
+
+    mutable QByteArray xml; ///< once it was written; of the writing thread alone
+
+private:
+    mutable QString m_folded;
+    mutable std::once_flag m_foldedOnce;
 };
 using RecordPtr = std::shared_ptr<const MessageRecord>;
 

@@ -4,7 +4,8 @@
 #include "shell/configxml.h"
 #include "sms/messagefields.h"
 
-#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+#include <pugixml.hpp>
 
 using namespace Qt::StringLiterals;
 
@@ -30,104 +31,99 @@ void writeFields(QXmlStreamWriter &writer, const Record &record, std::span<const
     }
 }
 
-/// Reads the elements of a store; goes on as long as the file is well formed, and notes what it did not know.
+/// How text comes back as it was written: blanks alone are a text, too.
+constexpr unsigned parseOptions = pugi::parse_default | pugi::parse_ws_pcdata_single;
+
+bool isNamed(const pugi::xml_node &node, QLatin1StringView name)
+{
+    return QLatin1StringView(node.name()) == name;
+}
+
+QString textOf(const char *bytes)
+{
+    return unescapedText(QString::fromUtf8(bytes));
+}
+
+QString textIn(const pugi::xml_node &node)
+{
+    QString text;
+    for (const pugi::xml_node child : node.children()) {
+        if (child.type() == pugi::node_pcdata || child.type() == pugi::node_cdata)
+            text += QString::fromUtf8(child.value());
+    }
+    return unescapedText(text);
+}
+
+/// Takes messages from elements, and notes what it did not know.
 class StoreReader
 {
 public:
-    template <typename Source> explicit StoreReader(const Source &source) : m_reader(source)
+    void readStore(const pugi::xml_document &document)
     {
-        m_reader.setNamespaceProcessing(false);
-    }
-
-    ParsedMessages readStore()
-    {
-        if (!m_reader.readNextStartElement() || m_reader.name() != rootName)
+        const pugi::xml_node root = document.document_element();
+        if (!isNamed(root, rootName))
             note(u"this is another kind of file"_s);
-        else if (m_reader.attributes().value(versionName) != formatVersion)
+        else if (QLatin1StringView(root.attribute(versionName.data()).value()) != formatVersion)
             note(u"the file is of another version"_s);
-        while (m_reader.readNextStartElement()) {
-            if (m_reader.name() == messageName)
-                m_parsed.messages.push_back(readMessage());
+        for (const pugi::xml_node node : root.children()) {
+            if (isNamed(node, messageName))
+                parsed.messages.push_back(readMessage(node));
             else
-                skip();
-        }
-        while (!m_reader.atEnd())
-            m_reader.readNext();
-        if (m_reader.hasError())
-            note(m_reader.errorString());
-        return std::move(m_parsed);
-    }
-
-    /// Of a text that begins with a message, and may end anywhere.
-    Message readOne()
-    {
-        m_reader.readNextStartElement();
-        return readMessage();
-    }
-
-    bool isDamaged() const { return m_reader.hasError(); }
-
-private:
-    void note(const QString &what)
-    {
-        if (m_parsed.problem.isEmpty())
-            m_parsed.problem = u"line %1: %2"_s.arg(m_reader.lineNumber()).arg(what);
-    }
-
-    void skip()
-    {
-        note(u"<%1> is not known"_s.arg(m_reader.name()));
-        m_reader.skipCurrentElement();
-    }
-
-    template <typename Record> void readFields(Record &record, std::span<const RecordField<Record>> fields)
-    {
-        for (const QXmlStreamAttribute &attribute : m_reader.attributes()) {
-            const RecordField<Record> *field = fieldNamed(fields, attribute.name());
-            if (!field || !field->setText(record, unescapedText(attribute.value().toString())))
-                note(u"\"%1\" makes no sense"_s.arg(attribute.name()));
+                noteUnknown(node);
         }
     }
 
-    QString readText()
-    {
-        return unescapedText(m_reader.readElementText(QXmlStreamReader::SkipChildElements));
-    }
-
-    Message readMessage()
+    Message readMessage(const pugi::xml_node &element)
     {
         Message message;
-        readFields(message, messageFields());
-        while (m_reader.readNextStartElement()) {
-            if (m_reader.name() == partName)
-                readPart(message);
-            else if (m_reader.name() == numberName)
-                readNumber(message);
+        readFields(message, element, messageFields());
+        for (const pugi::xml_node node : element.children()) {
+            if (isNamed(node, partName))
+                message.parts.push_back(readPart(node));
+            else if (isNamed(node, numberName))
+                message.recipients += textIn(node);
             else
-                skip();
+                noteUnknown(node);
         }
         return message;
     }
 
-    /// Of a part that is cut off the PDU may be whole.
-    void readPart(Message &message)
+    void note(const QString &what)
+    {
+        if (parsed.problem.isEmpty())
+            parsed.problem = what;
+    }
+
+    ParsedMessages parsed;
+
+private:
+    void noteUnknown(const pugi::xml_node &node)
+    {
+        const bool isText = node.type() == pugi::node_pcdata;
+        if (!isText || !QString::fromUtf8(node.value()).trimmed().isEmpty())
+            note(u"<%1> has no place here"_s.arg(QString::fromUtf8(node.name())));
+    }
+
+    MessagePart readPart(const pugi::xml_node &element)
     {
         MessagePart part;
-        readFields(part, partFields());
-        part.text = readText();
-        if (!m_reader.hasError() || !part.pdu.isEmpty())
-            message.parts.push_back(part);
+        readFields(part, element, partFields());
+        part.text = textIn(element);
+        if (element.find_child([](const pugi::xml_node &node) { return node.type() == pugi::node_element; }))
+            note(u"text has no elements"_s);
+        return part;
     }
 
-    void readNumber(Message &message)
+    template <typename Record>
+    void readFields(Record &record, const pugi::xml_node &element,
+                    std::span<const RecordField<Record>> fields)
     {
-        const QString number = readText();
-        if (!m_reader.hasError())
-            message.recipients += number;
+        for (const pugi::xml_attribute attribute : element.attributes()) {
+            const RecordField<Record> *field = fieldNamed(fields, QLatin1StringView(attribute.name()));
+            if (!field || !field->setText(record, textOf(attribute.value())))
+                note(u"\"%1\" makes no sense"_s.arg(QString::fromUtf8(attribute.name())));
+        }
     }
-
-    QXmlStreamReader m_reader;
-    ParsedMessages m_parsed;
 };
 
 /// Where the next message begins in a file of any kind; -1 behind the last.
@@ -142,18 +138,22 @@ qsizetype nextMessage(const QByteArray &bytes, qsizetype from)
     return -1;
 }
 
+/// Each message by itself; of a damaged one what comes before the damage.
 std::vector<Message> salvage(const QByteArray &bytes)
 {
-    std::vector<Message> messages;
+    StoreReader reader;
     for (qsizetype at = nextMessage(bytes, 0); at >= 0;) {
         const qsizetype next = nextMessage(bytes, at + 1);
         const QByteArrayView piece = QByteArrayView(bytes).sliced(at, (next < 0 ? bytes.size() : next) - at);
-        Message message = StoreReader(xmlText(QString::fromUtf8(piece))).readOne();
+        const QByteArray clean = xmlText(QString::fromUtf8(piece)).toUtf8();
+        pugi::xml_document document;
+        document.load_buffer(clean.constData(), size_t(clean.size()), parseOptions, pugi::encoding_utf8);
+        Message message = reader.readMessage(document.document_element());
         if (!message.parts.empty() || !message.recipients.isEmpty())
-            messages.push_back(std::move(message));
+            reader.parsed.messages.push_back(std::move(message));
         at = next;
     }
-    return messages;
+    return std::move(reader.parsed.messages);
 }
 
 } // namespace
@@ -194,11 +194,18 @@ QByteArray storeXmlTail()
 
 ParsedMessages parseStoreXml(const QByteArray &bytes)
 {
-    StoreReader reader(bytes);
-    ParsedMessages parsed = reader.readStore();
-    if (reader.isDamaged())
-        parsed.messages = salvage(bytes);
-    return parsed;
+    StoreReader reader;
+    if (!QUtf8StringView(bytes).isValidUtf8())
+        return {salvage(bytes), u"bytes that are no text"_s};
+    QByteArray scratch = bytes;
+    pugi::xml_document document;
+    const pugi::xml_parse_result result = document.load_buffer_inplace(scratch.data(), size_t(scratch.size()),
+                                                                       parseOptions, pugi::encoding_utf8);
+    if (!result)
+        return {salvage(bytes),
+                u"at byte %1: %2"_s.arg(result.offset).arg(QLatin1StringView(result.description()))};
+    reader.readStore(document);
+    return std::move(reader.parsed);
 }
 
 } // namespace corva

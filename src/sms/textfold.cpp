@@ -22,7 +22,21 @@ constexpr Letter letters[] = {
     {u'ð', u"d"},  {u'þ', u"th"}, {u'ı', u"i"},  {u'ħ', u"h"}, {0x0640, u""}, // the Arabic stretcher
 };
 
-bool isPlain(QChar c)
+/// What is beyond ASCII, each letter by itself but for its marks.
+QString foldedRun(const QString &run)
+{
+    QString folded;
+    for (const QChar c : run.normalized(QString::NormalizationForm_KD).toCaseFolded()) {
+        const auto *const row = std::ranges::find(letters, c.unicode(), &Letter::letter);
+        if (row != std::end(letters))
+            folded += row->plain;
+        else if (c.category() != QChar::Mark_NonSpacing)
+            folded += c;
+    }
+    return folded;
+}
+
+bool isAscii(QChar c)
 {
     return c.unicode() < 0x80;
 }
@@ -31,17 +45,17 @@ bool isPlain(QChar c)
 
 QString foldedText(const QString &text)
 {
-    if (std::ranges::all_of(text, isPlain))
-        return text.toLower();
-    const QString bare = text.normalized(QString::NormalizationForm_KD).toCaseFolded();
+    const QString lower = text.toLower();
+    auto at = std::ranges::find_if_not(lower, isAscii);
+    if (at == lower.end())
+        return lower;
     QString folded;
-    folded.reserve(bare.size());
-    for (const QChar c : bare) {
-        const auto *const row = std::ranges::find(letters, c.unicode(), &Letter::letter);
-        if (row != std::end(letters))
-            folded += row->plain;
-        else if (c.category() != QChar::Mark_NonSpacing)
-            folded += c;
+    folded.reserve(lower.size());
+    for (auto done = lower.begin(); done != lower.end();) {
+        folded += QStringView(done, at);
+        done = std::find_if(at, lower.end(), isAscii);
+        folded += foldedRun(QString(at, done - at));
+        at = std::find_if_not(done, lower.end(), isAscii);
     }
     return folded;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "statistics/trafficcsv.h"
 
-#include "statistics/csv.h"
+#include "shell/csv.h"
 
 using namespace Qt::StringLiterals;
 

@@ -441,13 +441,13 @@ private Q_SLOTS:
     {
         {
             LoadedStore store(m_folder->path());
-            store->add({received(alice, u"stored"_s), threeParts(7)[0]});
+            store->add({received(alice, u"stored"_s), threeParts(7, 60)[0]});
         }
         QFuture<bool> stored;
         {
             MessageStore store(m_folder->path(), 9);
             store.load();
-            stored = store.add({received(alice, u"stored"_s), threeParts(7)[1]});
+            stored = store.add({received(alice, u"stored"_s), threeParts(7, 60)[1]});
             QVERIFY(!stored.isFinished() || store.isLoaded());
         }
         QVERIFY(stored.result());

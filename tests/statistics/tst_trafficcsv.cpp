@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "statistics/csv.h"
+#include "shell/csv.h"
 #include "statistics/trafficcsv.h"
 #include "statistics/traffictexts.h"
 
