@@ -61,6 +61,11 @@ void chevron(QPainter &painter, const QRect &rect, Qt::ArrowType direction, cons
 
 void nothing(const QStyleOption &, QPainter &, const QWidget *) {}
 
+bool isFilled(const QWidget *widget)
+{
+    return widget->inherits("QAbstractItemView") || widget->inherits("QPlainTextEdit");
+}
+
 void frame(const QStyleOption &option, QPainter &painter, const QWidget *widget)
 {
     // What pops up is a window of its own: its corners are square.
@@ -68,8 +73,7 @@ void frame(const QStyleOption &option, QPainter &painter, const QWidget *widget)
         menuPanel(option, painter, widget);
         return;
     }
-    const bool isList = widget && widget->inherits("QAbstractItemView");
-    box(painter, option.rect, isList ? option.palette.color(QPalette::Base) : QColor(),
+    box(painter, option.rect, widget && isFilled(widget) ? option.palette.color(QPalette::Base) : QColor(),
         skinColor(SkinRole::Line));
 }
 

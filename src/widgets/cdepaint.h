@@ -17,6 +17,9 @@ void box(QPainter &painter, const QRect &rect, const QColor &fill, const QColor 
 /// An arrow head of the icon family's stroke, centred in `rect`.
 void chevron(QPainter &painter, const QRect &rect, Qt::ArrowType direction, const QColor &color);
 
+/// Whether the frame of a widget fills it, too: lists and fields of text.
+bool isFilled(const QWidget *widget);
+
 void nothing(const QStyleOption &option, QPainter &painter, const QWidget *widget);
 void buttonPanel(const QStyleOption &option, QPainter &painter, const QWidget *widget);
 void toolButtonPanel(const QStyleOption &option, QPainter &painter, const QWidget *widget);

@@ -56,6 +56,7 @@ constexpr PaintRow<QStyle::PrimitiveElement> primitives[] = {
 
 constexpr PaintRow<QStyle::ControlElement> controls[] = {
     {QStyle::CE_FocusFrame, paint::focusRing},
+    {QStyle::CE_Splitter, paint::nothing},
     {QStyle::CE_HeaderSection, paint::headerSection},
     {QStyle::CE_ProgressBarGroove, paint::progressGroove},
     {QStyle::CE_ProgressBarContents, paint::progressContents},
@@ -179,7 +180,8 @@ void CdeStyle::polish(QWidget *widget)
         qobject_cast<QScrollBar *>(widget))
         widget->setAttribute(Qt::WA_Hover);
     // The frame fills its round corners itself; a filled viewport would stand out of them.
-    if (auto *view = qobject_cast<QAbstractItemView *>(widget); view && view->frameShape() != QFrame::NoFrame)
+    auto *view = qobject_cast<QAbstractScrollArea *>(widget);
+    if (view && paint::isFilled(view) && view->frameShape() != QFrame::NoFrame)
         view->viewport()->setAutoFillBackground(false);
 }
 

@@ -28,10 +28,7 @@ public:
         : m_text(index.data().toString()), m_about(index.data(ThreadModel::AboutRole).toString()),
           m_layout(QString(m_text).replace(u'\n', QChar::LineSeparator), skinFont(TextRole::Text))
     {
-        QTextOption option;
-        option.setTextDirection(directionOf(m_text));
-        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-        m_layout.setTextOption(option);
+        m_layout.setTextOption(optionFor(m_text));
         const QFontMetrics caption(skinFont(TextRole::Caption));
         const int room = viewWidth * widestShare / 100 - 2 * padding;
         m_aboutHeight = caption.height();

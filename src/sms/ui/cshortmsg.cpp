@@ -21,6 +21,7 @@
 #include "widgets/noticebar.h"
 #include "widgets/textlabel.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMenu>
@@ -149,7 +150,7 @@ void CShortMsg::connectParts()
     connect(m_actions, &MessageActions::sigSaid, this, &CShortMsg::say);
     connect(m_actions, &MessageActions::sigPrint, this, &CShortMsg::print);
     connect(m_composer, &Composer::sigClosed, this, [this] {
-        m_isWriting = false;
+        leaveComposer();
         follow();
         m_browser->takeFocus();
     });
@@ -250,8 +251,10 @@ void CShortMsg::search(const QString &words)
 /// Shows what is chosen, and counts it as read: the person looks at it.
 void CShortMsg::follow()
 {
-    if (m_isWriting)
-        leaveComposer();
+    // A list that changes by itself takes nobody out of what is being written.
+    if (m_isWriting && m_composer->isAncestorOf(QApplication::focusWidget()))
+        return;
+    leaveComposer();
     if (m_browser->isByPerson()) {
         followConversation();
         return;
@@ -311,9 +314,8 @@ void CShortMsg::activate()
     const auto message = ids.size() == 1 ? m_service->store()->find(ids.front()) : std::nullopt;
     if (message && message->box == MessageBox::Drafts) {
         leaveComposer();
+        setWriting(true);
         m_composer->open(message->id);
-        m_isWriting = true;
-        m_detail->setCurrentWidget(m_composer);
     } else if (message) {
         m_reading->takeFocus();
     }
@@ -322,8 +324,7 @@ void CShortMsg::activate()
 void CShortMsg::write(const QStringList &recipients, const QString &text)
 {
     leaveComposer();
-    m_isWriting = true;
-    m_detail->setCurrentWidget(m_composer);
+    setWriting(true);
     m_composer->begin(recipients, text);
 }
 
@@ -331,8 +332,17 @@ void CShortMsg::leaveComposer()
 {
     if (!m_isWriting)
         return;
-    m_isWriting = false;
     m_composer->leave();
+    setWriting(false);
+}
+
+/// While a message is written, its button is the page's first one.
+void CShortMsg::setWriting(bool isWriting)
+{
+    m_isWriting = isWriting;
+    setButtonKind(m_new, isWriting ? ButtonKind::Plain : ButtonKind::Primary);
+    if (isWriting)
+        m_detail->setCurrentWidget(m_composer);
 }
 
 void CShortMsg::showMessage(const QString &id)

@@ -63,6 +63,7 @@ private:
     void showChosen(const QStringList &ids);
     void activate();
     void leaveComposer();
+    void setWriting(bool isWriting);
     void discard(const QString &draftId);
     void say(const QString &sentence, bool canUndo);
     void undo();

@@ -47,6 +47,13 @@ MessageBrowser::MessageBrowser(MessageService *service, MessageActions *actions,
       m_empty(new TextLabel(TextRole::Text, this))
 {
     build(actions);
+    // Before the selection hears of it, which then forgets the row.
+    for (QAbstractItemModel *model : std::initializer_list<QAbstractItemModel *>{m_messages, m_persons})
+        connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+                [this](const QModelIndex &, int first) {
+                    if (m_list->selectionModel()->isRowSelected(first))
+                        m_leftRow = first;
+                });
     useModel(m_messages);
     for (QAbstractItemModel *model : std::initializer_list<QAbstractItemModel *>{m_messages, m_persons}) {
         connect(model, &QAbstractItemModel::modelReset, this, &MessageBrowser::keepChosen);
@@ -177,7 +184,6 @@ void MessageBrowser::takeSelection()
         return;
     const QModelIndexList selected = m_list->selectionModel()->selectedIndexes();
     m_chosen = selected.isEmpty() ? QString() : selected.front().data(IdRole).toString();
-    m_wasChosen = !selected.isEmpty();
     Q_EMIT sigChosen();
 }
 
@@ -189,8 +195,9 @@ void MessageBrowser::keepChosen()
         return;
     const int row = isByPerson() ? m_persons->rowOf(m_chosen) : m_messages->rowOf(m_chosen);
     QModelIndex next = m_list->model()->index(row, 0);
-    if (!next.isValid() && m_wasChosen && sender() == m_list->model())
-        next = m_list->currentIndex();
+    if (!next.isValid() && m_leftRow >= 0)
+        next = m_list->model()->index(qMin(m_leftRow, m_list->model()->rowCount() - 1), 0);
+    m_leftRow = -1;
     if (!next.isValid()) {
         takeSelection();
         return;

@@ -66,7 +66,7 @@ private:
     TextLabel *m_empty;
     QString m_chosen;         ///< id or key of the current row
     bool m_isKeeping = false; ///< the list changes: what is chosen stays
-    bool m_wasChosen = false;
+    int m_leftRow = -1;       ///< where one that was chosen is about to leave
 };
 
 } // namespace corva

@@ -179,6 +179,16 @@ Qt::LayoutDirection directionOf(const QString &text)
     return QGuiApplication::layoutDirection();
 }
 
+QTextOption optionFor(const QString &text)
+{
+    const Qt::LayoutDirection direction = directionOf(text);
+    QTextOption option;
+    option.setTextDirection(direction);
+    option.setAlignment(direction == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    return option;
+}
+
 QStringList linksIn(const QString &text)
 {
     // What stands behind a sentence is its own: a full stop, a bracket.

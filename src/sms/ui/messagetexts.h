@@ -3,6 +3,7 @@
 
 #include "sms/message.h"
 
+#include <QTextOption>
 #include <functional>
 
 namespace corva
@@ -32,6 +33,8 @@ QString fullWhen(const QDateTime &time);
 /// The writing direction of the text itself: that of its first letter that has one, the window's where none
 /// has.
 Qt::LayoutDirection directionOf(const QString &text);
+/// How a text is set that runs in its own direction: from the side where it begins.
+QTextOption optionFor(const QString &text);
 
 /// Web and mail addresses in a text, as they stand there, each once.
 QStringList linksIn(const QString &text);

@@ -3,6 +3,7 @@
 
 #include "shell/commoncfg.h"
 #include "sms/ui/messagetexts.h"
+#include "widgets/skin.h"
 
 #include <QTextDocument>
 
@@ -11,6 +12,7 @@ using namespace Qt::StringLiterals;
 MyTextEdit::MyTextEdit(QWidget *parent) : QPlainTextEdit(parent)
 {
     setTabChangesFocus(true);
+    document()->setDocumentMargin(corva::metrics::Grid);
     connect(this, &QPlainTextEdit::textChanged, this, &MyTextEdit::count);
     count();
 }
@@ -26,10 +28,7 @@ void MyTextEdit::count()
     using namespace corva;
     const QString text = toPlainText();
     m_split = splitText(text, TextCoding::fromSpecialCode(cmcfg.getValue(u"sms"_s, u"specialcode"_s)));
-    QTextOption option = document()->defaultTextOption();
-    if (const auto direction = directionOf(text); option.textDirection() != direction) {
-        option.setTextDirection(direction);
-        document()->setDefaultTextOption(option);
-    }
+    if (document()->defaultTextOption().textDirection() != directionOf(text))
+        document()->setDefaultTextOption(optionFor(text));
     Q_EMIT sigCounted();
 }

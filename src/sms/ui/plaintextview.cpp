@@ -18,13 +18,12 @@ PlainTextView::PlainTextView(QWidget *parent) : QPlainTextEdit(parent)
     setTabChangesFocus(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setContextMenuPolicy(Qt::CustomContextMenu);
+    document()->setDocumentMargin(metrics::Grid);
 }
 
 void PlainTextView::setText(const QString &text)
 {
-    QTextOption option = document()->defaultTextOption();
-    option.setTextDirection(directionOf(text));
-    document()->setDefaultTextOption(option);
+    document()->setDefaultTextOption(optionFor(text));
     setPlainText(text);
     markLinks();
 }
