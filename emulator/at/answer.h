@@ -2,6 +2,9 @@
 #pragma once
 
 #include <QByteArrayList>
+#include <chrono>
+#include <functional>
+#include <optional>
 
 namespace cardemu
 {
@@ -28,10 +31,20 @@ struct Final {
     bool isSuccess() const { return kind == Kind::Ok; }
 };
 
+struct Answer;
+
+/// What a command waits for before it goes on: a text that the client types at the prompt, then some time.
+struct Later {
+    bool wantsText = false;
+    std::chrono::milliseconds delay{0};
+    std::function<Answer(const QByteArray &text)> go;
+};
+
 /// What a command answers: information lines without their line ends, and how it went.
 struct Answer {
     QByteArrayList lines;
     Final final;
+    std::optional<Later> later{}; ///< where this is set, `final` is not known yet
 };
 
 inline Answer ok(const QByteArrayList &lines = {})
@@ -42,6 +55,11 @@ inline Answer ok(const QByteArrayList &lines = {})
 inline Answer ok(const QByteArray &line)
 {
     return {{line}, {}};
+}
+
+inline Answer later(const Later &later)
+{
+    return {{}, {}, later};
 }
 
 inline Answer result(Final::Kind kind)

@@ -48,14 +48,14 @@ void AtSession::abortDial()
 // A card that is at work leaves what comes in lying, and looks at it afterwards.
 void AtSession::work()
 {
-    while (!m_busy && !m_input.isEmpty()) {
+    while ((!m_busy || m_text.isActive()) && !m_input.isEmpty()) {
         const QByteArray input = std::exchange(m_input, {});
         if (m_online) {
             takeData(input);
             return;
         }
         qsizetype at = 0;
-        while (at < input.size() && !m_busy && !m_online)
+        while (at < input.size() && (!m_busy || m_text.isActive()) && !m_online)
             typed(input[at++]);
         m_input = input.mid(at) + m_input;
     }
@@ -100,11 +100,39 @@ void AtSession::setClientTakesMore(bool takes)
 
 void AtSession::typed(char byte)
 {
+    if (m_text.isActive()) {
+        typedText(byte);
+        return;
+    }
     const LineEditor::Step step = m_editor.feed(byte, m_port);
     if (m_port.echo)
         send(step.echo);
     if (step.body)
         runLine(*step.body);
+}
+
+// A text that is given up is no error. 3GPP TS 27.005 3.5.1.
+void AtSession::typedText(char byte)
+{
+    const QByteArray echo = m_text.feed(byte);
+    if (m_port.echo)
+        send(echo);
+    if (m_text.isActive())
+        return;
+    m_log.add(m_name, u"received"_s, m_text.text() + byte);
+    if (m_text.state() == TextInput::State::GivenUp) {
+        m_later.reset();
+        finish({});
+        return;
+    }
+    const QByteArray text = m_text.text();
+    if (m_later->delay.count() == 0)
+        goOn(text);
+    else
+        m_delay.start(m_later->delay, [this, text] {
+            goOn(text);
+            work();
+        });
 }
 
 void AtSession::runLine(const QByteArray &body)
@@ -130,14 +158,7 @@ void AtSession::runCommands()
         return;
     }
     const Command command = m_commands[m_next++];
-    const auto step = [this, command] {
-        const Answer answer = carryOut(command);
-        m_information += informationText(answer.lines, m_port);
-        if (answer.final.isSuccess())
-            runCommands();
-        else if (answer.final.kind != Final::Kind::Pending)
-            finish(answer.final);
-    };
+    const auto step = [this, command] { proceed(carryOut(command)); };
     const milliseconds delay = m_card.delayOf(command);
     if (delay.count() == 0) {
         step();
@@ -153,14 +174,68 @@ Answer AtSession::carryOut(const Command &command)
 {
     if (const auto refusal = m_card.faults().takeRefusal(command)) {
         if (refusal->code >= 0)
-            return cmeError(refusal->code);
+            return isMessageCommand(command.name) ? cmsError(refusal->code) : cmeError(refusal->code);
         const QByteArray text = refusal->text.toUtf8();
         return {{}, {Final::Kind::Literal, 0, text.isEmpty() ? "ERROR" : text}};
     }
+    return guarded([this, &command] { return execute({m_card, m_port, command}); });
+}
+
+// What the work sets off is reported when it has been answered.
+Answer AtSession::guarded(const std::function<Answer()> &work)
+{
     m_carryingOut = true;
-    Answer answer = execute({m_card, m_port, command});
+    Answer answer = work();
     m_carryingOut = false;
     return answer;
+}
+
+void AtSession::proceed(const Answer &answer)
+{
+    m_information += informationText(answer.lines, m_port);
+    if (answer.later)
+        waitFor(*answer.later);
+    else if (answer.final.isSuccess())
+        runCommands();
+    else if (answer.final.kind != Final::Kind::Pending)
+        finish(answer.final);
+}
+
+void AtSession::waitFor(const Later &later)
+{
+    m_later = later;
+    if (later.wantsText) {
+        prompt();
+        m_text.begin();
+        return;
+    }
+    m_delay.start(later.delay, [this] {
+        goOn({});
+        work();
+    });
+}
+
+// To faults it is the reply to a command of its own, ">".
+void AtSession::prompt()
+{
+    Reply reply{"> ", "\r\n> ", 0};
+    m_card.faults().apply({Command{">", Form::Exec, {}, ">"}}, reply);
+    sendReply(reply);
+}
+
+void AtSession::sendReply(const Reply &reply)
+{
+    const qsizetype cut = reply.cutAt < 0 ? reply.bytes.size() : reply.cutAt;
+    send(reply.bytes.left(cut), reply.before);
+    if (cut < reply.bytes.size())
+        send(reply.bytes.mid(cut), reply.pause);
+    m_log.add(m_name, u"sent"_s, reply.bytes);
+}
+
+void AtSession::goOn(const QByteArray &text)
+{
+    const Later later = *std::exchange(m_later, {});
+    proceed(guarded([&later, &text] { return later.go(text); }));
 }
 
 void AtSession::finish(const Final &final)
@@ -168,14 +243,11 @@ void AtSession::finish(const Final &final)
     Reply reply{m_echo, m_information, m_information.size()};
     reply.bytes += finalText(final, m_port);
     m_card.faults().apply(m_commands, reply);
-    const qsizetype cut = reply.cutAt < 0 ? reply.bytes.size() : reply.cutAt;
-    send(reply.bytes.left(cut), reply.before);
-    if (cut < reply.bytes.size())
-        send(reply.bytes.mid(cut), reply.pause);
-    m_log.add(m_name, u"sent"_s, reply.bytes);
+    sendReply(reply);
     m_online = final.kind == Final::Kind::Connect;
     m_port.dataSuspended = m_port.dataSuspended && !m_online;
     m_escape.reset();
+    m_text.reset();
     m_busy = false;
     if (m_online)
         joinNetwork();
@@ -196,7 +268,7 @@ void AtSession::send(const QByteArray &bytes, milliseconds pause)
 
 void AtSession::report(const QByteArray &line)
 {
-    if (m_carryingOut)
+    if (m_carryingOut || m_later)
         m_reports += line;
     else if (!m_online)
         sendRaw(reportText(line, m_port));
@@ -215,6 +287,8 @@ void AtSession::reset()
     m_output.clear();
     m_escape.reset();
     m_editor.reset();
+    m_text.reset();
+    m_later.reset();
     m_input.clear();
     m_commands.clear();
     m_reports.clear();
@@ -231,8 +305,11 @@ void AtSession::clientLeft()
     m_escape.reset();
     m_online = false;
     m_port.dataSuspended = false;
-    if (isDialling()) {
+    if (isDialling() || m_text.isActive()) {
         m_delay.stop();
+        m_text.reset();
+        m_later.reset();
+        m_reports.clear();
         m_busy = false;
     }
 }

@@ -4,6 +4,7 @@
 #include "at/commandtable.h"
 #include "at/escapewatch.h"
 #include "at/lineeditor.h"
+#include "at/textinput.h"
 #include "at/trafficlog.h"
 #include "port/datapeer.h"
 #include "port/pacedoutput.h"
@@ -54,10 +55,17 @@ private:
 
     void work();
     void typed(char byte);
+    void typedText(char byte);
     void takeData(const QByteArray &bytes);
     void runLine(const QByteArray &body);
     void runCommands();
     Answer carryOut(const Command &command);
+    Answer guarded(const std::function<Answer()> &work);
+    void proceed(const Answer &answer);
+    void waitFor(const Later &later);
+    void goOn(const QByteArray &text);
+    void prompt();
+    void sendReply(const Reply &reply);
     void finish(const Final &final);
     void send(const QByteArray &bytes, std::chrono::milliseconds pause = {});
     void registrationChanged();
@@ -73,13 +81,15 @@ private:
     PacedOutput m_output;
     PortSettings m_port;
     LineEditor m_editor;
+    TextInput m_text;
     EscapeWatch m_escape;
     CardTimer m_delay;
     QByteArray m_input;
     bool m_busy = false;
     bool m_carryingOut = false;
-    QByteArrayList m_reports; ///< what a command set off; it follows the command's reply
-    bool m_online = false;    ///< in a data call
+    std::optional<Later> m_later; ///< what the running command waits for
+    QByteArrayList m_reports;     ///< what a command set off; it follows the command's reply
+    bool m_online = false;        ///< in a data call
     DataPeer *m_peer = nullptr;
     std::vector<Command> m_commands;
     size_t m_next = 0;

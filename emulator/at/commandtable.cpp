@@ -13,9 +13,10 @@ namespace
 
 using Table = std::span<const CommandRow> (*)();
 
-constexpr std::array<Table, 11> tables = {
-    generalCommands, identityCommands,  deviceCommands, simCommands,  networkCommands, makerCommands,
-    messageCommands, phonebookCommands, callCommands,   ussdCommands, packetCommands};
+constexpr std::array<Table, 13> tables = {
+    generalCommands, identityCommands, deviceCommands,       simCommands,    networkCommands,
+    makerCommands,   messageSettings,  messageStoreCommands, messageSending, phonebookCommands,
+    callCommands,    ussdCommands,     packetCommands};
 
 bool isMakers(const QByteArray &name)
 {
@@ -70,6 +71,14 @@ Answer execute(const Request &request)
     if (const auto *fixed = std::get_if<const char *>(&row->answer))
         return ok(QByteArray(*fixed));
     return std::get<Handler>(row->answer)(request);
+}
+
+bool isMessageCommand(const QByteArray &name)
+{
+    constexpr std::array<Table, 3> messageTables = {messageSettings, messageStoreCommands, messageSending};
+    return std::ranges::any_of(messageTables, [&name](Table table) {
+        return std::ranges::any_of(table(), [&name](const CommandRow &row) { return name == row.name; });
+    });
 }
 
 QByteArrayList commandNames(const CardState &state)

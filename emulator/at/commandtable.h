@@ -46,6 +46,8 @@ Answer accept(const Request &request);
 
 /// Carries one command out: ERROR where this card does not know it.
 Answer execute(const Request &request);
+/// Whether a command is one of the message service's, whose errors are "+CMS ERROR".
+bool isMessageCommand(const QByteArray &name);
 /// The names of all commands that this card knows, as "+CLAC" lists them.
 QByteArrayList commandNames(const CardState &state);
 
@@ -56,7 +58,9 @@ std::span<const CommandRow> deviceCommands();
 std::span<const CommandRow> simCommands();
 std::span<const CommandRow> networkCommands();
 std::span<const CommandRow> makerCommands();
-std::span<const CommandRow> messageCommands();
+std::span<const CommandRow> messageSettings();
+std::span<const CommandRow> messageStoreCommands();
+std::span<const CommandRow> messageSending();
 std::span<const CommandRow> phonebookCommands();
 std::span<const CommandRow> callCommands();
 std::span<const CommandRow> ussdCommands();

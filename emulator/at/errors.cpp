@@ -50,6 +50,21 @@ constexpr std::array cmeTable = {
 };
 
 constexpr std::array cmsTable = {
+    Words{1, "Unassigned (unallocated) number"},
+    Words{8, "Operator determined barring"},
+    Words{10, "Call barred"},
+    Words{21, "Short message transfer rejected"},
+    Words{27, "Destination out of service"},
+    Words{28, "Unidentified subscriber"},
+    Words{29, "Facility rejected"},
+    Words{30, "Unknown subscriber"},
+    Words{38, "Network out of order"},
+    Words{41, "Temporary failure"},
+    Words{42, "Congestion"},
+    Words{47, "Resources unavailable, unspecified"},
+    Words{50, "Requested facility not subscribed"},
+    Words{69, "Requested facility not implemented"},
+    Words{111, "Protocol error, unspecified"},
     Words{300, "ME failure"},
     Words{301, "SMS service of ME reserved"},
     Words{302, "operation not allowed"},
@@ -69,6 +84,7 @@ constexpr std::array cmsTable = {
     Words{330, "SMSC address unknown"},
     Words{331, "no network service"},
     Words{332, "network timeout"},
+    Words{340, "no +CNMA acknowledgement expected"},
     Words{500, "unknown error"},
 };
 

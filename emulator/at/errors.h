@@ -40,6 +40,9 @@ inline constexpr int simBusy = 314;
 inline constexpr int simPukRequired = 316;
 inline constexpr int invalidIndex = 321;
 inline constexpr int memoryFull = 322;
+inline constexpr int centreUnknown = 330;
+inline constexpr int noNetworkService = 331;
+inline constexpr int noAcknowledgementExpected = 340;
 inline constexpr int unknown = 500;
 } // namespace cms
 

@@ -27,7 +27,6 @@ struct PortSettings {
     int messageFormat = 0;             ///< "+CMGF": 0 PDU, 1 text
     QString readStore = QStringLiteral("SM");
     QString writeStore = QStringLiteral("SM");
-    QString receiveStore = QStringLiteral("SM");
     QString phonebook = QStringLiteral("SM");
     bool dataSuspended = false; ///< a data call waits behind "+++"
 

@@ -54,7 +54,8 @@ constexpr std::array<OperatorName, 3> operatorNames = {&Operator::longName, &Ope
 
 Card::Card(const Profile &profile, Scheduler &scheduler)
     : m_state(profile.card), m_scheduler(scheduler), m_registering(scheduler), m_ringing(scheduler),
-      m_simBack(scheduler), m_restart(scheduler), m_ussd(scheduler), m_silence(scheduler), m_packetData(*this)
+      m_simBack(scheduler), m_restart(scheduler), m_ussd(scheduler), m_silence(scheduler),
+      m_packetData(*this), m_mailbox(*this), m_messageCentre(*this)
 {
     m_functionalityAtPowerUp = m_state.radio.functionality;
     for (const Fault &fault : profile.faults)
@@ -71,9 +72,11 @@ void Card::powerUp()
     m_state.call = {};
     m_state.radio.functionality = m_functionalityAtPowerUp;
     m_packetData.deactivateAll(false);
+    m_mailbox.powerUp();
     m_couldRegister = mayRegister();
     m_reportedRegistration = registration();
     Q_EMIT restarted();
+    m_mailbox.deliverWaiting();
 }
 
 void Card::restartSoon()
@@ -93,6 +96,7 @@ void Card::review()
         Q_EMIT registrationChanged();
     if (!isRegistered())
         m_packetData.deactivateAll(true);
+    m_mailbox.deliverWaiting();
 }
 
 std::optional<int> Card::simError() const
@@ -297,39 +301,6 @@ void Card::hangUp()
 {
     m_ringing.stop();
     m_state.call = {};
-}
-
-std::optional<int> Card::storeMessage(const QString &store, const StoredMessage &message)
-{
-    MessageStore &target = m_state.messages.stores[store];
-    if (target.full || target.entries.size() >= target.capacity)
-        return std::nullopt;
-    int index = 1;
-    while (target.entries.contains(index))
-        ++index;
-    target.entries[index] = message;
-    return index;
-}
-
-// The second number of "+CNMI" decides: 0 stored silently, 1 stored and announced, 2 handed over. 3GPP
-// TS 27.005 3.4.1.
-Complaint Card::receiveMessage(const QString &store, const QByteArray &pdu)
-{
-    const QByteArray octets = QByteArray::fromHex(pdu);
-    if (octets.isEmpty() || octets.size() * 2 != pdu.size())
-        return u"the PDU must be hex digits, two for each octet"_s;
-    const int delivery = m_state.messages.indications[1];
-    if (delivery == 2) {
-        const auto length = octets.size() - 1 - static_cast<unsigned char>(octets[0]);
-        report("+CMT: ," + QByteArray::number(length) + "\r\n" + pdu.toUpper());
-        return {};
-    }
-    const auto index = storeMessage(store, {0, pdu.toUpper()});
-    if (!index)
-        return u"the store is full"_s;
-    if (delivery == 1)
-        report("+CMTI: \"" + store.toLatin1() + "\"," + QByteArray::number(*index));
-    return {};
 }
 
 void Card::requestUssd(const QString &code, Charset charset)

@@ -6,6 +6,7 @@
 #include "card/packetdata.h"
 #include "card/profile.h"
 #include "card/scheduler.h"
+#include "messages/messagecentre.h"
 
 #include <QObject>
 
@@ -25,6 +26,8 @@ public:
     FaultList &faults() { return m_faults; }
     Scheduler &scheduler() { return m_scheduler; }
     PacketData &packetData() { return m_packetData; }
+    Mailbox &mailbox() { return m_mailbox; }
+    MessageCentre &messageCentre() { return m_messageCentre; }
 
     /// As when the stick is pushed in: the PIN is asked again, calls and contexts are gone, registered at
     /// once.
@@ -64,11 +67,6 @@ public:
     void ring(const QString &number);
     void answer();
     void hangUp();
-
-    /// Puts a message into a store; its index, or nothing when there is no room.
-    std::optional<int> storeMessage(const QString &store, const StoredMessage &message);
-    /// A message comes in from the network: stored and announced, or handed over, as "+CNMI" says.
-    Complaint receiveMessage(const QString &store, const QByteArray &pdu);
 
     /// How long a command takes before it is carried out.
     std::chrono::milliseconds delayOf(const Command &command) const;
@@ -110,6 +108,8 @@ private:
     CardTimer m_ussd;
     CardTimer m_silence;
     PacketData m_packetData;
+    Mailbox m_mailbox;
+    MessageCentre m_messageCentre;
     bool m_silent = false;
     int m_functionalityAtPowerUp = 1;
     bool m_couldRegister = false;

@@ -243,7 +243,21 @@ Field<CardState> ussdField()
 
 Field<MessageStore> messageEntries()
 {
-    return {u"entries"_s, [](MessageStore &, const QJsonValue &) { return u"is put in with \"sms\""_s; },
+    return {u"entries"_s,
+            [](MessageStore &store, const QJsonValue &value) -> Complaint {
+                QMap<int, StoredMessage> entries;
+                for (const QJsonValue element : value.toArray()) {
+                    const QJsonObject entry = element.toObject();
+                    const int index = entry[u"index"_s].toInt(static_cast<int>(entries.size()) + 1);
+                    const int status = entry[u"status"_s].toInt(0);
+                    const QByteArray pdu = entry[u"pdu"_s].toString().toLatin1();
+                    if (index < 1 || status < 0 || status > 3 || pdu.isEmpty())
+                        return u"must be a list of objects with index, status (0 to 3) and pdu"_s;
+                    entries[index] = {status, pdu};
+                }
+                store.entries = entries;
+                return {};
+            },
             [](const MessageStore &store) {
                 QJsonArray array;
                 for (auto entry = store.entries.begin(); entry != store.entries.end(); ++entry)
@@ -284,12 +298,38 @@ Field<Messages> indicationsField()
             }};
 }
 
+const Fields<MessageNetwork> &messageNetworkFields()
+{
+    constexpr int week = 604800000;
+    static const Fields<MessageNetwork> fields{
+        numberField(u"delay"_s, &MessageNetwork::delay, 0, week),
+        numberField(u"transit"_s, &MessageNetwork::transit, 0, week),
+        numberField(u"reportDelay"_s, &MessageNetwork::reportDelay, 0, week),
+        numberField(u"reportStatus"_s, &MessageNetwork::reportStatus, 0, 255),
+        numberField(u"refuse"_s, &MessageNetwork::refuse, 0, 999),
+        numberField(u"nth"_s, &MessageNetwork::nth, 1, 1000000),
+        numberField(u"count"_s, &MessageNetwork::count, 0, 1000000),
+        numberField(u"reorder"_s, &MessageNetwork::reorder, 0, 255),
+        numberField(u"patience"_s, &MessageNetwork::patience, 0, week),
+    };
+    return fields;
+}
+
+Complaint storeName(const QString &text)
+{
+    return QStringList{u"SM"_s, u"ME"_s, u"SR"_s}.contains(text) ? Complaint() : u"must be SM, ME or SR"_s;
+}
+
 const Fields<Messages> &messagesFields()
 {
     static const Fields<Messages> fields{
         mapField(u"stores"_s, &Messages::stores, messageStoreFields(), {u"SM"_s, u"ME"_s, u"SR"_s}),
         textField(u"serviceCentre"_s, &Messages::serviceCentre),
         indicationsField(),
+        textField(u"receiveStore"_s, &Messages::receiveStore, storeName),
+        numberField(u"preferred"_s, &Messages::preferred, 0, 3),
+        numberField(u"service"_s, &Messages::service, 0, 1),
+        sectionField(u"network"_s, &Messages::network, messageNetworkFields()),
     };
     return fields;
 }

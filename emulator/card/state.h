@@ -106,10 +106,36 @@ struct MessageStore {
     QMap<int, StoredMessage> entries; ///< by index, from 1
 };
 
+/// How the network treats messages. Times in ms.
+struct MessageNetwork {
+    int delay = 0;          ///< until a message that is sent has its answer
+    int transit = 0;        ///< until one to the card's own number comes in
+    int reportDelay = 1000; ///< until the delivery report
+    int reportStatus = 0;   ///< TP-ST of reports: 0 delivered. 3GPP TS 23.040 9.2.3.15
+    int refuse = 0;         ///< the "+CMS ERROR" number of refused messages; 0: none is refused
+    int nth = 1;            ///< the next message is 1; those before this one are taken
+    int count = 1;          ///< so many are refused; 0: all from there on
+    int reorder = 0;        ///< so many messages wait for one another and come in backwards
+    int patience = 15000;   ///< for "+CNMA"
+};
+
+/// "+CSCB": the channels of which pages are shown, or with `except` are not. 3GPP TS 27.005 3.3.4.
+struct BroadcastChannels {
+    bool except = true; ///< none excepted: every page is shown
+    QString channels;   ///< "0,1,320-478"
+    QString codings;
+};
+
 struct Messages {
     QMap<QString, MessageStore> stores; ///< "SM", "ME", "SR"
     QString serviceCentre;
-    QList<int> indications{2, 1, 0, 0, 0}; ///< "+CNMI": mode, mt, bm, ds, bfr
+    QList<int> indications{2, 1, 0, 0, 0};       ///< "+CNMI": mode, mt, bm, ds, bfr
+    QString receiveStore = QStringLiteral("SM"); ///< the third of "+CPMS"
+    int preferred = 0;                           ///< "+JSMSD": 0 as "+CPMS" says, 1 the SIM, 2 and 3 the card
+    int service = 0;                             ///< "+CSMS": 1 wants "+CNMA" for what is handed over
+    int lastReference = 0;                       ///< TP-MR of the last message sent
+    BroadcastChannels broadcast;
+    MessageNetwork network;
 };
 
 struct PhonebookEntry {

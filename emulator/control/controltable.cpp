@@ -3,6 +3,7 @@
 
 #include "card/card.h"
 #include "card/cardfields.h"
+#include "control/outcomes.h"
 #include "emulatedcard.h"
 
 #include <algorithm>
@@ -16,41 +17,6 @@ using std::chrono::milliseconds;
 
 namespace
 {
-
-Outcome done(const QJsonObject &values = {})
-{
-    return {values, {}};
-}
-
-Outcome refused(const Complaint &complaint)
-{
-    return {{}, complaint};
-}
-
-Outcome outcome(const Complaint &complaint)
-{
-    return {{}, complaint};
-}
-
-/// Sets members of the state through the rows that profiles are read with.
-Complaint setState(EmulatedCard &emulated, const QString &section, const QJsonObject &values)
-{
-    const auto &fields = cardFields();
-    const auto field = std::ranges::find(fields, section, &Field<CardState>::key);
-    CardState changed = emulated.card().state();
-    if (const Complaint complaint = field->read(changed, values); !complaint.isEmpty())
-        return section + complaint;
-    emulated.card().state() = changed;
-    emulated.card().review();
-    return {};
-}
-
-QJsonObject without(QJsonObject values, const QStringList &names)
-{
-    for (const QString &name : names)
-        values.remove(name);
-    return values;
-}
 
 Outcome showState(EmulatedCard &emulated, const QJsonObject &)
 {
@@ -147,12 +113,6 @@ Outcome changeSim(EmulatedCard &emulated, const QJsonObject &values)
     return done();
 }
 
-Outcome changeStore(EmulatedCard &emulated, const QJsonObject &values)
-{
-    const QJsonObject store{{values[u"name"_s].toString(), without(values, {u"name"_s})}};
-    return outcome(setState(emulated, u"messages"_s, {{u"stores"_s, store}}));
-}
-
 Outcome changeLine(EmulatedCard &emulated, const QJsonObject &values)
 {
     return outcome(setState(emulated, u"line"_s, values));
@@ -208,14 +168,6 @@ Outcome hangUp(EmulatedCard &emulated, const QJsonObject &)
 {
     emulated.card().hangUp();
     return done();
-}
-
-Outcome receiveMessage(EmulatedCard &emulated, const QJsonObject &values)
-{
-    const QString store = values[u"store"_s].toString(u"SM"_s);
-    if (!emulated.card().state().messages.stores.contains(store))
-        return refused(u"there is no store \"%1\""_s.arg(store));
-    return outcome(emulated.card().receiveMessage(store, values[u"pdu"_s].toString().toLatin1()));
 }
 
 // 3GPP TS 27.007 7.15: "+CUSD: <m>,<str>,<dcs>".
@@ -346,9 +298,7 @@ Outcome runChecked(EmulatedCard &emulated, const QJsonObject &request)
     return complaint.isEmpty() ? row->run(emulated, values) : refused(complaint);
 }
 
-} // namespace
-
-const std::vector<ControlRow> &controlTable()
+const std::vector<ControlRow> &cardControls()
 {
     using enum ValueType;
     static const std::vector<ControlRow> table{
@@ -384,10 +334,6 @@ const std::vector<ControlRow> &controlTable()
          {{u"condition"_s, Free, true}, {u"ms"_s, Number}},
          u"ready, absent, busy or failure; with ms ready again after that"_s,
          changeSim},
-        {u"store"_s,
-         {{u"name"_s, Text, true}, {u"full"_s, Free}, {u"capacity"_s, Free}},
-         u"a message store (SM, ME, SR) is full, or has another size"_s,
-         changeStore},
         {u"pace"_s,
          {{u"bytesPerSecond"_s, Free}, {u"delay"_s, Free}},
          u"speed of the ports, and ms that every command takes"_s,
@@ -412,10 +358,6 @@ const std::vector<ControlRow> &controlTable()
          sendBytes},
         {u"ring"_s, {{u"number"_s, Text}, {u"interval"_s, Number}}, u"a call comes in"_s, ring},
         {u"hangup"_s, {}, u"the caller gives up, or the call ends"_s, hangUp},
-        {u"sms"_s,
-         {{u"pdu"_s, Text, true}, {u"store"_s, Text}},
-         u"a message comes in, as hex digits"_s,
-         receiveMessage},
         {u"ussd"_s,
          {{u"text"_s, Text, true}, {u"mode"_s, Number}, {u"dcs"_s, Number}},
          u"a USSD text comes in"_s,
@@ -452,6 +394,18 @@ const std::vector<ControlRow> &controlTable()
          u"set the time, or move it on by ms"_s,
          moveClock},
     };
+    return table;
+}
+
+} // namespace
+
+const std::vector<ControlRow> &controlTable()
+{
+    static const std::vector<ControlRow> table = [] {
+        std::vector<ControlRow> all = cardControls();
+        all.insert(all.end(), messageControls().begin(), messageControls().end());
+        return all;
+    }();
     return table;
 }
 

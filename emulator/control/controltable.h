@@ -33,6 +33,8 @@ struct ControlRow {
 };
 
 const std::vector<ControlRow> &controlTable();
+/// The part of it that is about messages.
+const std::vector<ControlRow> &messageControls();
 const ControlRow *findControl(const QString &name);
 
 /// {"command": NAME, "id": anything, parameters...}: checks it against the table, carries it out, and answers

@@ -138,3 +138,35 @@ private:
     QTemporaryDir m_folder;
     cardemu::CardThread m_card;
 };
+
+/// A card with echo off and errors in words, and a client at its AT port.
+struct Talk {
+    explicit Talk(const QString &profile = u"wcdma"_s) : card(profile), port(card.path(u"at"_s))
+    {
+        port.exchange("ATE0+CMEE=2\r", "OK\r\n");
+    }
+
+    /// The reply without its line ends: "+CSQ: 20,99|OK".
+    QByteArray ask(const QByteArray &command)
+    {
+        port.write(command + "\r\n");
+        QByteArray reply;
+        do {
+            const QByteArray line = port.readUntil("\r\n").trimmed();
+            if (!line.isEmpty())
+                reply += (reply.isEmpty() ? "" : "|") + line;
+        } while (!reply.endsWith("OK") && !reply.contains("ERROR") && !reply.endsWith("NO CARRIER") &&
+                 !reply.endsWith("CONNECT") && port.waitForBytes(5000));
+        return reply;
+    }
+
+    /// The reply to a message that is typed behind the prompt, with Ctrl-Z.
+    QByteArray submit(const QByteArray &command, const QByteArray &pdu)
+    {
+        const QByteArray prompt = port.exchange(command + '\r', "> ");
+        return prompt == "\r\n> " ? ask(pdu + '\x1a') : "no prompt: " + prompt;
+    }
+
+    TestCard card;
+    TestPort port;
+};

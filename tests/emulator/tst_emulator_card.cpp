@@ -20,7 +20,6 @@ private Q_SLOTS:
     void operatorSearchKeepsOthersWaiting();
     void clockFollowsCommandsAndControl();
     void ringsUntilHungUp();
-    void messageGoesWhereIndicationsSay();
     void ussdAnswersComeLater();
     void dialResults_data();
     void dialResults();
@@ -29,36 +28,6 @@ private Q_SLOTS:
     void networkDropsTheDataCall();
     void restartForgetsSettings();
 };
-
-namespace
-{
-
-/// A card with echo off and errors in words, and a client at its AT port.
-struct Talk {
-    explicit Talk(const QString &profile = u"wcdma"_s) : card(profile), port(card.path(u"at"_s))
-    {
-        port.exchange("ATE0+CMEE=2\r", "OK\r\n");
-    }
-
-    /// The reply without its line ends: "+CSQ: 20,99|OK".
-    QByteArray ask(const QByteArray &command)
-    {
-        port.write(command + "\r\n");
-        QByteArray reply;
-        do {
-            const QByteArray line = port.readUntil("\r\n").trimmed();
-            if (!line.isEmpty())
-                reply += (reply.isEmpty() ? "" : "|") + line;
-        } while (!reply.endsWith("OK") && !reply.contains("ERROR") && !reply.endsWith("NO CARRIER") &&
-                 !reply.endsWith("CONNECT") && port.waitForBytes(5000));
-        return reply;
-    }
-
-    TestCard card;
-    TestPort port;
-};
-
-} // namespace
 
 void TestEmulatorCard::threeWrongPinsAskForThePuk()
 {
@@ -232,29 +201,6 @@ void TestEmulatorCard::ringsUntilHungUp()
     talk.card.advance(10000);
     QCOMPARE(talk.card.pending(talk.port), "");
     QCOMPARE(talk.ask("AT+CPAS"), "+CPAS: 0|OK");
-}
-
-void TestEmulatorCard::messageGoesWhereIndicationsSay()
-{
-    Talk talk;
-    const QByteArray pdu = "0791210255010000040B912120555021F300008210203174740004D4F29C0E";
-    const QByteArray sms = R"({"command": "sms", "pdu": ")" + pdu + "\"}";
-    talk.card.tell(sms);
-    QCOMPARE(talk.card.pending(talk.port), "\r\n+CMTI: \"SM\",1\r\n");
-    QCOMPARE(talk.ask("AT+CMGL=4"), "+CMGL: 1,0,,23|" + pdu + "|OK");
-    QCOMPARE(talk.ask("AT+CMGR=1"), "+CMGR: 1,,23|" + pdu + "|OK");
-    QCOMPARE(talk.ask("AT+CMGL=0"), "OK");
-    talk.ask("AT+CNMI=1,2,0,2,0");
-    talk.card.tell(sms);
-    QCOMPARE(talk.card.pending(talk.port), "\r\n+CMT: ,23\r\n" + pdu + "\r\n");
-    QCOMPARE(talk.ask("AT+CPMS?"), "+CPMS: \"SM\",1,20,\"SM\",1,20,\"SM\",1,20|OK");
-    talk.ask("AT+CNMI=1,1,0,2,0");
-    talk.card.tell(R"({"command": "store", "name": "SM", "full": true})");
-    QCOMPARE(talk.card.control(sms)[u"error"_s].toString(), u"the store is full"_s);
-    QCOMPARE(talk.ask("AT+CPMS?"), "+CPMS: \"SM\",20,20,\"SM\",20,20,\"SM\",20,20|OK");
-    QCOMPARE(talk.ask("AT+CMGD=2"), "+CMS ERROR: invalid memory index");
-    QCOMPARE(talk.ask("AT+CMGD=1"), "OK");
-    QCOMPARE(talk.ask("AT+CMGL=4"), "OK");
 }
 
 void TestEmulatorCard::ussdAnswersComeLater()
