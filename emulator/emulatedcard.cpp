@@ -31,6 +31,7 @@ EmulatedCard::EmulatedCard(const Profile &profile, const QMap<QString, QString> 
         connectSession(*portOf(role));
     AtSession *reports = portOf(u"at"_s)->session.get();
     connect(m_card.get(), &Card::reported, reports, &AtSession::report);
+    connect(m_card.get(), &Card::indicated, reports, &AtSession::indicate);
     connect(m_card.get(), &Card::rang, reports, &AtSession::ring);
 }
 
@@ -145,6 +146,7 @@ void EmulatedCard::unplug()
             port->session->clientLeft();
     }
     m_card->packetData().deactivateAll(false);
+    m_card->mailbox().setReachable(false);
     m_card->hangUp();
 }
 

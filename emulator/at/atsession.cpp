@@ -242,6 +242,7 @@ void AtSession::finish(const Final &final)
 {
     Reply reply{m_echo, m_information, m_information.size()};
     reply.bytes += finalText(final, m_port);
+    letArrive(reply);
     m_card.faults().apply(m_commands, reply);
     sendReply(reply);
     m_online = final.kind == Final::Kind::Connect;
@@ -256,6 +257,25 @@ void AtSession::finish(const Final &final)
     Q_EMIT callChanged();
     for (const QByteArray &line : std::exchange(m_reports, {}))
         report(line);
+    if (!m_online)
+        reportKept();
+}
+
+// Reports of messages that come in at this very moment stand inside the reply.
+void AtSession::letArrive(Reply &reply)
+{
+    for (const Arrival &arrival : m_card.mailbox().takeArrivals(m_commands)) {
+        const QByteArrayList before = std::exchange(m_reports, {});
+        m_carryingOut = true;
+        for (const Incoming &message : arrival.messages)
+            m_card.mailbox().receive(message);
+        m_carryingOut = false;
+        QByteArray lines;
+        for (const QByteArray &line : std::exchange(m_reports, before))
+            lines += reportText(line, m_port);
+        const qsizetype middle = reply.bytes.indexOf('\n', reply.bytes.size() / 2) + 1;
+        insert(reply, arrival.at < 0 ? middle : std::min<qsizetype>(arrival.at, reply.bytes.size()), lines);
+    }
 }
 
 void AtSession::send(const QByteArray &bytes, milliseconds pause)
@@ -272,6 +292,22 @@ void AtSession::report(const QByteArray &line)
         m_reports += line;
     else if (!m_online)
         sendRaw(reportText(line, m_port));
+}
+
+// <mode> 2 and 3; a technique for reports inside the data, which 3 also allows, is not known here.
+void AtSession::indicate(const QByteArray &line)
+{
+    constexpr int keeps = 2;
+    if (!m_online)
+        report(line);
+    else if (m_card.state().messages.indications.first() >= keeps)
+        m_kept += line;
+}
+
+void AtSession::reportKept()
+{
+    for (const QByteArray &line : std::exchange(m_kept, {}))
+        report(line);
 }
 
 void AtSession::sendRaw(const QByteArray &bytes)
@@ -292,6 +328,7 @@ void AtSession::reset()
     m_input.clear();
     m_commands.clear();
     m_reports.clear();
+    m_kept.clear();
     m_busy = m_online = false;
     m_port = PortSettings::atPowerUp(m_card.state().line);
     Q_EMIT callChanged();
@@ -303,6 +340,7 @@ void AtSession::clientLeft()
     m_output.clear();
     m_editor.reset();
     m_escape.reset();
+    m_kept.clear();
     m_online = false;
     m_port.dataSuspended = false;
     if (isDialling() || m_text.isActive()) {
@@ -322,6 +360,7 @@ void AtSession::dropCall()
     m_escape.reset();
     sendRaw(finalText({Final::Kind::NoCarrier}, m_port));
     Q_EMIT callChanged();
+    reportKept();
 }
 
 void AtSession::registrationChanged()
@@ -346,6 +385,7 @@ void AtSession::escaped()
     m_port.dataSuspended = true;
     sendRaw(finalText({}, m_port));
     Q_EMIT callChanged();
+    reportKept();
 }
 
 } // namespace cardemu

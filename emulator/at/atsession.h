@@ -25,6 +25,8 @@ public:
     void receive(const QByteArray &bytes);
     /// Sends a line that nobody asked for; nothing during a data call.
     void report(const QByteArray &line);
+    /// The same for a message; during a data call it is kept for later, or not, as "+CNMI" says.
+    void indicate(const QByteArray &line);
     /// One ring, with the caller's number where "+CLIP" asks for it.
     void ring();
     /// Sends bytes as they stand.
@@ -66,6 +68,8 @@ private:
     void goOn(const QByteArray &text);
     void prompt();
     void sendReply(const Reply &reply);
+    void letArrive(Reply &reply);
+    void reportKept();
     void finish(const Final &final);
     void send(const QByteArray &bytes, std::chrono::milliseconds pause = {});
     void registrationChanged();
@@ -89,6 +93,7 @@ private:
     bool m_carryingOut = false;
     std::optional<Later> m_later; ///< what the running command waits for
     QByteArrayList m_reports;     ///< what a command set off; it follows the command's reply
+    QByteArrayList m_kept;        ///< messages indicated during a data call
     bool m_online = false;        ///< in a data call
     DataPeer *m_peer = nullptr;
     std::vector<Command> m_commands;

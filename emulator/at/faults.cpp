@@ -33,13 +33,6 @@ qsizetype place(const Fault &fault, const Reply &reply, qsizetype otherwise)
     return std::min<qsizetype>(fault.at < 0 ? otherwise : fault.at, reply.bytes.size());
 }
 
-void insert(Reply &reply, qsizetype at, const QByteArray &bytes)
-{
-    reply.bytes.insert(at, bytes);
-    if (at <= reply.finalAt)
-        reply.finalAt += bytes.size();
-}
-
 void noReply(const Fault &, Reply &reply)
 {
     reply.bytes.clear();
@@ -101,12 +94,19 @@ constexpr std::array effects = {
 
 } // namespace
 
-bool Fault::fits(const Command &command) const
+bool beginsWith(const Command &command, const QString &text)
 {
-    QByteArray wanted = match.toUtf8().toUpper();
+    QByteArray wanted = text.toUtf8().toUpper();
     if (wanted.startsWith("AT"))
         wanted.remove(0, 2);
     return command.text.toUpper().startsWith(wanted);
+}
+
+void insert(Reply &reply, qsizetype at, const QByteArray &bytes)
+{
+    reply.bytes.insert(at, bytes);
+    if (at <= reply.finalAt)
+        reply.finalAt += bytes.size();
 }
 
 const Fields<Fault> &faultFields()

@@ -11,6 +11,9 @@ namespace cardemu
 
 enum class FaultKind { NoReply, Late, Garbage, Cut, Interleave, Truncate, Long, EchoStorm, Refuse };
 
+/// Whether a command begins with this text: "+CSQ" or "AT+CSQ", in either case.
+bool beginsWith(const Command &command, const QString &text);
+
 /// Something that goes wrong with the replies to certain commands.
 struct Fault {
     FaultKind kind = FaultKind::NoReply;
@@ -22,7 +25,7 @@ struct Fault {
     QString text;  ///< Garbage, Interleave: what is sent; Refuse: the result code
     int code = -1; ///< Refuse: the "+CME ERROR" number, in the form that "+CMEE" chose
 
-    bool fits(const Command &command) const;
+    bool fits(const Command &command) const { return beginsWith(command, match); }
 };
 
 const Fields<Fault> &faultFields();
@@ -36,6 +39,9 @@ struct Reply {
     qsizetype cutAt = -1; ///< a pause stands before this byte; -1: none
     std::chrono::milliseconds pause{0};
 };
+
+/// Puts bytes into a reply.
+void insert(Reply &reply, qsizetype at, const QByteArray &bytes);
 
 /// The faults that wait, in the order in which they were asked for.
 class FaultList

@@ -81,12 +81,15 @@ public:
 
     /// Sends an unsolicited line.
     void report(const QByteArray &line) { Q_EMIT reported(line); }
+    /// The same for a message: where "+CNMI" says so, it waits for the end of a data call.
+    void indicate(const QByteArray &line) { Q_EMIT indicated(line); }
 
     /// The wall clock of the network, as "yy/MM/dd,hh:mm:ss+zz". 3GPP TS 27.007 8.15.
     QByteArray timeText() const;
 
 Q_SIGNALS:
     void reported(const QByteArray &line);
+    void indicated(const QByteArray &line);
     void registrationChanged();
     void rang();
     void restarted();

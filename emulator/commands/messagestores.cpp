@@ -129,6 +129,15 @@ Answer deleteMessages(const Request &request)
     return ok();
 }
 
+// The places that are taken.
+Answer listIndexes(const Request &request)
+{
+    QByteArrayList indexes;
+    for (const int index : store(request, request.port.readStore).entries.keys())
+        indexes += QByteArray::number(index);
+    return ok("+CMGD: (" + indexes.join(',') + "),(0-4)");
+}
+
 Answer storeText(Card &card, const QString &store, int length, int status, const QByteArray &text)
 {
     const auto octets = fromHexDigits(text);
@@ -164,7 +173,7 @@ constexpr std::array table = {
     CommandRow{"+CMGL", Form::Test, everyFamily, Needs::Nothing, "+CMGL: (0-4)"},
     CommandRow{"+CMGR", Form::Set, everyFamily, Needs::SimForMessages, readMessage},
     CommandRow{"+CMGD", Form::Set, everyFamily, Needs::SimForMessages, deleteMessages},
-    CommandRow{"+CMGD", Form::Test, everyFamily, Needs::Nothing, "+CMGD: (1-255),(0-4)"},
+    CommandRow{"+CMGD", Form::Test, everyFamily, Needs::Nothing, listIndexes},
     CommandRow{"+CMGW", Form::Set, everyFamily, Needs::SimForMessages, writeMessage},
 };
 

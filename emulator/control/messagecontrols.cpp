@@ -2,6 +2,7 @@
 #include "card/card.h"
 #include "control/outcomes.h"
 #include "emulatedcard.h"
+#include "messages/broadcast.h"
 
 #include <array>
 #include <limits>
@@ -103,8 +104,13 @@ Outcome receiveMessages(EmulatedCard &emulated, const QJsonObject &values)
     const QByteArrayList pdus = pdusOf(emulated, values, &complaint);
     if (!complaint.isEmpty())
         return refused(complaint);
+    Arrival arrival{values[u"during"_s].toString(), values[u"at"_s].toInt(-1), {}};
     for (const QByteArray &pdu : pdus)
-        card.mailbox().receive({Incoming::Kind::Message, pdu, store});
+        arrival.messages += {Incoming::Kind::Message, pdu, store};
+    if (values.contains(u"during"_s))
+        card.mailbox().schedule(arrival);
+    else
+        std::ranges::for_each(arrival.messages, [&card](const auto &one) { card.mailbox().receive(one); });
     return done({{u"parts"_s, pdus.size()}, {u"waiting"_s, card.mailbox().waiting()}});
 }
 
@@ -144,7 +150,45 @@ Outcome fillStore(EmulatedCard &emulated, const QJsonObject &values)
 
 Outcome changeNetwork(EmulatedCard &emulated, const QJsonObject &values)
 {
-    return outcome(setState(emulated, u"messages"_s, {{u"network"_s, values}}));
+    const Complaint complaint = setState(emulated, u"messages"_s, {{u"network"_s, values}});
+    if (complaint.isEmpty() && values.contains(u"reorder"_s))
+        emulated.card().messageCentre().release();
+    return outcome(complaint);
+}
+
+const Fields<Broadcast> &broadcastFields()
+{
+    static const Fields<Broadcast> fields{
+        textField(u"text"_s, &Broadcast::text),
+        choiceField<Broadcast, Alphabet>(u"alphabet"_s, &Broadcast::alphabet, alphabets),
+        numberField(u"channel"_s, &Broadcast::channel, 0, 0xFFFF),
+        numberField(u"serial"_s, &Broadcast::serial, 0, 0xFFFF),
+    };
+    return fields;
+}
+
+QByteArrayList pagesOf(const QJsonObject &values, Complaint *complaint)
+{
+    if (values.contains(u"pdu"_s))
+        return {values[u"pdu"_s].toString().toLatin1()};
+    Broadcast broadcast;
+    *complaint = readFields(broadcast, values, broadcastFields());
+    QByteArrayList pages = broadcastPages(broadcast);
+    std::ranges::for_each(pages, [](QByteArray &page) { page = toHexDigits(page); });
+    if (pages.isEmpty())
+        *complaint = u"text: does not fit into the alphabet, or into 15 pages"_s;
+    return pages;
+}
+
+Outcome broadcastText(EmulatedCard &emulated, const QJsonObject &values)
+{
+    Complaint complaint;
+    const QByteArrayList pages = pagesOf(values, &complaint);
+    if (!complaint.isEmpty())
+        return refused(complaint);
+    const auto shown = std::ranges::count_if(
+        pages, [&emulated](const QByteArray &page) { return emulated.card().mailbox().receivePage(page); });
+    return done({{u"pages"_s, pages.size()}, {u"shown"_s, qint64(shown)}});
 }
 
 Outcome reportDelivery(EmulatedCard &emulated, const QJsonObject &values)
@@ -195,7 +239,9 @@ const std::vector<ControlRow> &messageControls()
           {u"order"_s, Free},
           {u"reference"_s, Free},
           {u"wide"_s, Free},
-          {u"time"_s, Text}},
+          {u"time"_s, Text},
+          {u"during"_s, Text},
+          {u"at"_s, Number}},
          u"a message comes in: hex digits, or a text, in parts where it is long"_s,
          receiveMessages},
         {u"sms-network"_s,
@@ -214,6 +260,14 @@ const std::vector<ControlRow> &messageControls()
          {{u"status"_s, Number}, {u"reference"_s, Number}, {u"to"_s, Text}},
          u"a delivery report comes in, on the message sent last or another"_s,
          reportDelivery},
+        {u"broadcast"_s,
+         {{u"text"_s, Text},
+          {u"channel"_s, Free},
+          {u"serial"_s, Free},
+          {u"alphabet"_s, Free},
+          {u"pdu"_s, Text}},
+         u"the cell broadcasts a text, in pages, or one page as hex digits"_s,
+         broadcastText},
         {u"sent"_s,
          {{u"last"_s, Number}, {u"clear"_s, Flag}},
          u"the messages that the network has taken"_s,

@@ -52,6 +52,7 @@ Mailbox::Mailbox(Card &card)
 
 void Mailbox::powerUp()
 {
+    m_reachable = true;
     m_held.clear();
     m_card.state().messages.indications = m_indicationsAtPowerUp;
     m_card.state().messages.service = 0;
@@ -81,11 +82,30 @@ void Mailbox::receive(const Incoming &incoming)
 // A full store does not keep those back that go elsewhere.
 void Mailbox::deliverWaiting()
 {
-    if (!m_card.isRegistered())
+    if (!m_reachable || !m_card.isRegistered())
         return;
     QList<Incoming> waiting = std::exchange(m_waiting, {});
     waiting.removeIf([this](const Incoming &incoming) { return deliver(incoming); });
     m_waiting = waiting + m_waiting;
+}
+
+void Mailbox::setReachable(bool reachable)
+{
+    m_reachable = reachable;
+    deliverWaiting();
+}
+
+QList<Arrival> Mailbox::takeArrivals(const std::vector<Command> &commands)
+{
+    QList<Arrival> arrivals;
+    m_arrivals.removeIf([&](const Arrival &arrival) {
+        const bool comesNow = std::ranges::any_of(
+            commands, [&arrival](const Command &command) { return beginsWith(command, arrival.match); });
+        if (comesNow)
+            arrivals += arrival;
+        return comesNow;
+    });
+    return arrivals;
 }
 
 bool Mailbox::deliver(const Incoming &incoming)
@@ -210,7 +230,7 @@ void Mailbox::indicate(const QByteArray &line)
     if (m_card.state().messages.indications[Mode] == 0)
         m_held += line;
     else
-        m_card.report(line);
+        m_card.indicate(line);
 }
 
 void Mailbox::indicationsChanged()
@@ -220,7 +240,7 @@ void Mailbox::indicationsChanged()
         return;
     for (const QByteArray &line : std::exchange(m_held, {})) {
         if (indications[BufferTreatment] == 0)
-            m_card.report(line);
+            m_card.indicate(line);
     }
 }
 

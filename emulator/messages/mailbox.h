@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "at/commandline.h"
 #include "card/fields.h"
 #include "card/scheduler.h"
 #include "card/state.h"
@@ -20,10 +21,11 @@ struct Incoming {
     QString store;  ///< empty: where the card puts new messages
 };
 
-/// Where a message stands.
-struct StoredAt {
-    QString store;
-    int index;
+/// Messages that come in at the moment in which a command is answered.
+struct Arrival {
+    QString match; ///< beginning of the command
+    int at = -1;   ///< the byte of the reply; -1: the line in its middle
+    QList<Incoming> messages;
 };
 
 /// The card's end of the message service: its stores, and what becomes of messages that come in, as "+CNMI",
@@ -44,6 +46,12 @@ public:
     /// Tries again what the network holds: after room was made, or the card has come back.
     void deliverWaiting();
     qsizetype waiting() const { return m_waiting.size(); }
+    /// Without power nothing comes in.
+    void setReachable(bool reachable);
+
+    void schedule(const Arrival &arrival) { m_arrivals += arrival; }
+    /// What comes in while one of these commands is answered, used up by this call.
+    QList<Arrival> takeArrivals(const std::vector<Command> &commands);
 
     /// "+CNMI=..." was carried out: what was held back is sent or forgotten, as <bfr> says.
     void indicationsChanged();
@@ -65,6 +73,8 @@ private:
     Card &m_card;
     QList<int> m_indicationsAtPowerUp;
     QList<Incoming> m_waiting;
+    QList<Arrival> m_arrivals;
+    bool m_reachable = true;
     QByteArrayList m_held; ///< reports that "+CNMI" <mode> 0 keeps back
     std::optional<Incoming> m_unacknowledged;
     CardTimer m_patience;

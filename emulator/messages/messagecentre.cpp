@@ -77,8 +77,12 @@ void MessageCentre::bringBack(const Sent &sent)
 void MessageCentre::reorder(const Incoming &incoming)
 {
     m_held.prepend(incoming);
-    if (m_held.size() < m_card.state().messages.network.reorder)
-        return;
+    if (m_held.size() >= m_card.state().messages.network.reorder)
+        release();
+}
+
+void MessageCentre::release()
+{
     for (const Incoming &message : std::exchange(m_held, {}))
         m_card.mailbox().receive(message);
 }

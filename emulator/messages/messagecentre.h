@@ -34,6 +34,8 @@ public:
 
     /// `recipient` takes the place of the one in the PDU, where it is given.
     SubmitResult submit(const QByteArray &pdu, const QString &recipient = {});
+    /// What waits to come in backwards comes now.
+    void release();
     /// A delivery report on the message sent last, or on another one.
     Complaint report(std::optional<int> reference, std::optional<int> status, const QString &recipient);
     /// The PDUs of a letter in the order in which they come; empty, with a complaint, when it cannot be sent.

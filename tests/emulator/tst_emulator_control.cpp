@@ -98,6 +98,21 @@ void TestEmulatorControl::refusesWithAReason_data()
         u"sim.condition: must be one of: ready, absent, busy, failure"_s);
     row("message that is no hex", R"({"command": "sms", "pdu": "0791zz"})",
         u"the PDU must be hex digits, two for each octet"_s);
+    row("character that the alphabet lacks", R"({"command": "sms", "text": "Ж", "alphabet": "gsm7"})",
+        u"text: does not fit into the alphabet, or into 255 parts"_s);
+    row("part that the text lacks", R"({"command": "sms", "text": "short", "order": "2"})",
+        u"order: the text has 1 parts"_s);
+    row("order that is none", R"({"command": "sms", "text": "x", "order": "1,,2"})",
+        u"order: must be numbers of parts: \"2,1,3\""_s);
+    row("store that is none", R"({"command": "fill", "name": "XX", "count": 1})",
+        u"there is no store \"XX\""_s);
+    row("more than fits", R"({"command": "fill", "name": "SR", "count": 11})", u"the store is full"_s);
+    row("report on nothing", R"({"command": "sms-report"})",
+        u"no such message was sent; a report on another one needs reference and to"_s);
+    row("refusal out of range", R"({"command": "sms-network", "nth": 0})",
+        u"messages.network.nth: must be a whole number from 1 to 1000000"_s);
+    row("channel out of range", R"({"command": "broadcast", "channel": 65536})",
+        u"channel: must be a whole number from 0 to 65535"_s);
     row("unknown fault", R"({"command": "fault", "kind": "fire"})",
         u"kind: must be one of: noreply, late, garbage, cut, interleave, truncate, long, echostorm, refuse"_s);
     row("unknown port", R"({"command": "report", "text": "x", "port": "voice"})",
@@ -223,6 +238,9 @@ void TestEmulatorControl::brokenProfile_data()
         u"network.operators.1: plmn: must be 5 or 6 digits"_s);
     row("store that does not exist", R"({"messages": {"stores": {"XX": {}}}})",
         u"messages.stores.XX: unknown key"_s);
+    row("stored message with a wrong status",
+        R"({"messages": {"stores": {"SM": {"entries": [{"pdu": "00", "status": 4}]}}}})",
+        u"messages.stores.SM.entries: must be a list of objects with index, status (0 to 3) and pdu"_s);
     row("negative delay", R"({"line": {"delays": {"+CSQ": -1}}})",
         u"line.delays.+CSQ: must be a number of milliseconds"_s);
 }

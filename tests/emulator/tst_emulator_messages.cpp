@@ -23,6 +23,12 @@ private Q_SLOTS:
     void textBecomesParts();
     void textCanBeGivenUp();
     void reportsWaitForAPrompt();
+    void comesInDuringAListing();
+    void waitsForTheEndOfADataCall();
+    void waitsForThePlug();
+    void pagesAreShownOnWantedChannels();
+    void malformedOnesAreHandedOn();
+    void longListingIsOneCommand();
 };
 
 namespace
@@ -322,6 +328,102 @@ void TestEmulatorMessages::reportsWaitForAPrompt()
     talk.port.write("AT+CMGS=18\r");
     QCOMPARE(talk.port.readUntil("\r"), "AT+CMGS=18\r");
     QCOMPARE(talk.port.exchange(toItself + '\x1a', "OK\r\n"), toItself + "\r\n+CMGS: 2\r\n\r\nOK\r\n");
+}
+
+void TestEmulatorMessages::comesInDuringAListing()
+{
+    Talk talk;
+    talk.card.tell(receivedSms);
+    talk.card.pending(talk.port);
+    const QByteArray entry = "+CMGL: 1,0,,23\r\n" + received + "\r\n";
+    const QByteArray during = "\"pdu\": \"" + received + "\", \"during\": \"+CMGL\"";
+    talk.card.tell(sms(during));
+    QCOMPARE(talk.ask("AT+CSQ"), "+CSQ: 20,99|OK");
+    QCOMPARE(talk.port.exchange("AT+CMGL=0\r", "OK\r\n"),
+             "\r\n" + entry + "\r\n+CMTI: \"SM\",2\r\n\r\nOK\r\n");
+    talk.ask("AT+CNMI=2,2,0,0,0");
+    talk.card.tell(sms(during + ", \"at\": 18"));
+    QCOMPARE(talk.port.exchange("AT+CMGL=1\r", "OK\r\n"),
+             "\r\n+CMGL: 1,1,,23\r\n\r\n+CMT: ,23\r\n" + received + "\r\n" + received + "\r\n\r\nOK\r\n");
+    QCOMPARE(talk.ask("AT+CMGL=4").count("+CMGL: "), 2);
+}
+
+void TestEmulatorMessages::waitsForTheEndOfADataCall()
+{
+    Talk talk;
+    talk.card.tell(R"({"command": "dial-result", "result": "connect"})");
+    talk.ask("AT+CNMI=2,1,0,0,0");
+    QCOMPARE(talk.ask("ATD*99#"), "CONNECT");
+    talk.card.tell(receivedSms);
+    QCOMPARE(talk.card.pending(talk.port), "");
+    talk.card.tell(R"({"command": "drop-data"})");
+    QCOMPARE(talk.card.pending(talk.port), "\r\nNO CARRIER\r\n\r\n+CMTI: \"SM\",1\r\n");
+    talk.ask("AT+CNMI=1,1,0,0,0");
+    QCOMPARE(talk.ask("ATD*99#"), "CONNECT");
+    talk.card.tell(receivedSms);
+    talk.card.tell(R"({"command": "drop-data"})");
+    QCOMPARE(talk.card.pending(talk.port), "\r\nNO CARRIER\r\n");
+}
+
+void TestEmulatorMessages::waitsForThePlug()
+{
+    TestCard card;
+    QVERIFY(card.tell(R"({"command": "unplug"})"));
+    QCOMPARE(card.control(receivedSms)[u"waiting"_s], QJsonValue(1));
+    QVERIFY(card.tell(R"({"command": "plug"})"));
+    TestPort port(card.path(u"at"_s));
+    QCOMPARE(port.exchange("ATE0+CMGL=0\r", "OK\r\n"),
+             "ATE0+CMGL=0\r\r\n+CMGL: 1,0,,23\r\n" + received + "\r\n\r\nOK\r\n");
+}
+
+void TestEmulatorMessages::pagesAreShownOnWantedChannels()
+{
+    Talk talk;
+    const auto shown = [&talk](const QByteArray &values) {
+        talk.card.tell(R"({"command": "broadcast", )" + values + '}');
+        return talk.card.pending(talk.port);
+    };
+    QCOMPARE(shown(R"("text": "Test")"), "");
+    talk.ask("AT+CNMI=1,2,2,2,0");
+    const QByteArray filled = shown(R"("text": "Test", "channel": 50, "serial": 4660)");
+    QVERIFY2(filled.startsWith("\r\n+CBM: 88\r\n123400320F11D4F29CDE68341A"), filled);
+    QCOMPARE(filled.size(), 13 + 176 + 2);
+    const QByteArray wide = shown(R"("text": ")" + QByteArray("Ж").repeated(42) + '"');
+    QCOMPARE(wide.count("+CBM: 88\r\n000000324812" + QByteArray("0416").repeated(41)), 1);
+    QCOMPARE(wide.count("+CBM: 88\r\n0000003248220416000D"), 1);
+    QCOMPARE(talk.ask("AT+CSCB=0,\"40-49,51\",\"\";+CSCB?"), "+CSCB: 0,\"40-49,51\",\"\"|OK");
+    QCOMPARE(shown(R"("channel": 50)"), "");
+    QCOMPARE(shown(R"("channel": 49)").count("+CBM"), 1);
+    QCOMPARE(talk.ask("AT+CSCB=1,\"50\""), "OK");
+    QCOMPARE(shown(R"("channel": 50)"), "");
+    QCOMPARE(shown(R"("pdu": "0000003301")"), "\r\n+CBM: 5\r\n0000003301\r\n");
+    QCOMPARE(talk.ask("AT+CSCB=0,\"x\""), "+CMS ERROR: operation not allowed");
+}
+
+void TestEmulatorMessages::malformedOnesAreHandedOn()
+{
+    Talk talk;
+    for (const QByteArray &pdu : QByteArrayList{"FF", "0791", "xyz", "07912120550501F0"}) {
+        talk.card.tell(sms("\"unchecked\": true, \"pdu\": \"" + pdu + '"'));
+        talk.card.pending(talk.port);
+    }
+    QCOMPARE(talk.ask("AT+CMGL=4"), "+CMGL: 1,0,,0|FF|+CMGL: 2,0,,0|0791|+CMGL: 3,0,,0|xyz|"
+                                    "+CMGL: 4,0,,0|07912120550501F0|OK");
+}
+
+// It takes the time of one command, however long its answer is.
+void TestEmulatorMessages::longListingIsOneCommand()
+{
+    Talk talk;
+    talk.card.tell(R"({"command": "store", "name": "ME", "capacity": 200})");
+    talk.card.tell(R"({"command": "fill", "name": "ME", "count": 200, "status": 0})");
+    talk.ask("AT+CPMS=\"ME\",\"ME\"");
+    talk.card.tell(R"({"command": "pace", "delay": 60000})");
+    talk.port.write("AT+CMGL=4\r");
+    QVERIFY(talk.card.hears(u"AT+CMGL=4"_s));
+    QCOMPARE(talk.card.pending(talk.port), "");
+    talk.card.advance(60000);
+    QCOMPARE(talk.port.readUntil("OK\r\n").count("+CMGL: "), 200);
 }
 
 QTEST_GUILESS_MAIN(TestEmulatorMessages)
