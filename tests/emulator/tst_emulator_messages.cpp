@@ -387,7 +387,7 @@ void TestEmulatorMessages::pagesAreShownOnWantedChannels()
     talk.ask("AT+CNMI=1,2,2,2,0");
     const QByteArray filled = shown(R"("text": "Test", "channel": 50, "serial": 4660)");
     QVERIFY2(filled.startsWith("\r\n+CBM: 88\r\n123400320F11D4F29CDE68341A"), filled);
-    QCOMPARE(filled.size(), 13 + 176 + 2);
+    QCOMPARE(filled.size(), 12 + 176 + 2);
     const QByteArray wide = shown(R"("text": ")" + QByteArray("Ж").repeated(42) + '"');
     QCOMPARE(wide.count("+CBM: 88\r\n000000324812" + QByteArray("0416").repeated(41)), 1);
     QCOMPARE(wide.count("+CBM: 88\r\n0000003248220416000D"), 1);
