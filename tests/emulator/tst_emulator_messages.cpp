@@ -59,6 +59,8 @@ void TestEmulatorMessages::comesInAsIndicationsSay()
     QCOMPARE(arrives("AT+CNMI=2,1,0,0,0"), "\r\n+CMTI: \"SM\",1\r\n");
     QCOMPARE(arrives("AT+CNMI=2,0,0,0,0"), "");
     QCOMPARE(arrives("AT+CNMI=1,2,0,2,0"), "\r\n+CMT: ,23\r\n" + received + "\r\n");
+    talk.card.tell(R"({"command": "set", "key": "messages.blankLine", "value": true})");
+    QCOMPARE(arrives("AT+CNMI=1,2,0,2,0"), "\r\n+CMT: ,23\r\n" + received + "\r\n\r\n");
     QCOMPARE(arrives("AT+CNMI=3,1,2,2,0;+CPMS=\"SM\",\"SM\",\"ME\""), "\r\n+CMTI: \"ME\",1\r\n");
     QCOMPARE(arrives("AT+JSMSD=1"), "\r\n+CMTI: \"SM\",3\r\n");
     QCOMPARE(arrives("AT+JSMSD=3"), "\r\n+CMTI: \"ME\",2\r\n");
