@@ -199,6 +199,11 @@ Outcome broadcastText(EmulatedCard &emulated, const QJsonObject &values)
 
 Outcome reportDelivery(EmulatedCard &emulated, const QJsonObject &values)
 {
+    if (values.contains(u"pdu"_s)) {
+        const QByteArray pdu = values[u"pdu"_s].toString().toLatin1();
+        emulated.card().mailbox().receive({Incoming::Kind::StatusReport, pdu, {}});
+        return done();
+    }
     if (const Complaint complaint = senderText(values[u"to"_s].toString()); !complaint.isEmpty())
         return refused(u"to: "_s + complaint);
     const auto number = [&values](const QString &key) {
@@ -265,8 +270,8 @@ const std::vector<ControlRow> &messageControls()
          u"how the network treats messages: times in ms, refusals, order"_s,
          changeNetwork},
         {u"sms-report"_s,
-         {{u"status"_s, Number}, {u"reference"_s, Number}, {u"to"_s, Text}},
-         u"a delivery report comes in, on the message sent last or another"_s,
+         {{u"status"_s, Number}, {u"reference"_s, Number}, {u"to"_s, Text}, {u"pdu"_s, Text}},
+         u"a delivery report comes in, on the message sent last or another, or as it is given"_s,
          reportDelivery},
         {u"broadcast"_s,
          {{u"text"_s, Text},

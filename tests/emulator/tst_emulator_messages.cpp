@@ -199,6 +199,8 @@ void TestEmulatorMessages::deliveryReportComesLater()
     talk.card.tell(R"({"command": "sms-report", "reference": 1, "status": 0})");
     const QByteArray direct = talk.card.pending(talk.port);
     QVERIFY2(direct.startsWith("\r\n+CDS: 25\r\n" + centre + "0601") && direct.endsWith("00\r\n"), direct);
+    talk.card.tell(R"({"command": "sms-report", "pdu": "0006"})");
+    QCOMPARE(talk.card.pending(talk.port), "\r\n+CDS: 1\r\n0006\r\n");
     QVERIFY(!talk.card.control(R"({"command": "sms-report", "reference": 9})")[u"ok"_s].toBool());
     QVERIFY(talk.card.tell(R"({"command": "sms-report", "reference": 9, "to": "+4912345678"})"));
 }
