@@ -8,6 +8,8 @@
 #include "sms/sendqueue.h"
 #include "sms/smsfiling.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -96,9 +98,12 @@ bool CardPlaces::hasCardStore() const
 
 void CardPlaces::refresh(MessagePlace place)
 {
-    if (place == MessagePlace::Computer || !m_isReady || state(place).isLoading ||
-        (place == MessagePlace::Card && !hasCardStore()))
+    if (place == MessagePlace::Computer || !m_isReady || (place == MessagePlace::Card && !hasCardStore()))
         return;
+    if (state(place).isLoading) {
+        m_listsAgain[slot(place)] = true;
+        return;
+    }
     PlaceState loading = state(place);
     loading.isLoading = true;
     change(place, loading);
@@ -113,23 +118,30 @@ void CardPlaces::took(MessagePlace place, smsjobs::Listing listing)
     if (place == MessagePlace::Card)
         m_isCardStoreMissing = listing.isMissing;
     PlaceState now = state(place);
+    const bool isFirst = !now.isRead;
     now.isLoading = false;
     now.error = listing.fault;
     now.isRead = listing.isRead;
     change(place, now);
+    if (std::exchange(m_listsAgain[slot(place)], false))
+        refresh(place);
     if (!listing.isRead)
         return;
+    const QStringList before = m_store->ids(MessageBox::Inbox, place);
+    const QSet<QString> known(before.begin(), before.end());
     for (const StatusReport &report : listing.reports)
         m_store->applyReport(report);
     m_store->replaceMirror(place, std::move(listing.messages));
     takeFill(place, listing.fill);
-    QStringList unread;
-    for (const QString &id : m_store->ids(MessageBox::Inbox, place)) {
-        if (const auto message = m_store->find(id); message && !message->isRead)
-            unread.append(id);
-    }
-    if (!unread.isEmpty())
-        Q_EMIT sigUnreadListed(unread);
+    QStringList unread = m_store->ids(MessageBox::Inbox, place);
+    unread.removeIf([&](const QString &id) {
+        const auto message = m_store->find(id);
+        return !message || message->isRead || (!isFirst && known.contains(id));
+    });
+    if (!unread.isEmpty() && isFirst)
+        Q_EMIT sigUnreadMet(unread);
+    else if (!unread.isEmpty())
+        Q_EMIT sigNewListed(unread);
 }
 
 void CardPlaces::takeFill(MessagePlace place, const std::optional<StoreFill> &fill)

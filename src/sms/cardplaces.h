@@ -44,8 +44,9 @@ public:
 Q_SIGNALS:
     void sigChanged(corva::MessagePlace place);
     void sigNotice(const QString &sentence);
-    /// Messages on the card that nobody has read, as a listing met them.
-    void sigUnreadListed(const QStringList &ids);
+    /// What the first listing of a place met unread, and what a later one met that was not there before.
+    void sigUnreadMet(const QStringList &ids);
+    void sigNewListed(const QStringList &ids);
 
 private:
     enum class After { Keep, Remove };
@@ -68,7 +69,8 @@ private:
     QString m_serviceCentre;
     std::array<PlaceState, 2> m_states; ///< SIM, card
     std::array<bool, 2> m_hasWarned{};
-    std::array<int, 2> m_removals{}; ///< under way; the place is listed anew behind the last
+    std::array<bool, 2> m_listsAgain{}; ///< asked for while a listing was under way
+    std::array<int, 2> m_removals{};    ///< under way; the place is listed anew behind the last
     bool m_isCardStoreMissing = false;
     bool m_isReady = false;
 };

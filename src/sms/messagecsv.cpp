@@ -31,8 +31,9 @@ QString joinedNumbers(const QStringList &numbers)
 QStringList splitNumbers(const QString &field)
 {
     QStringList numbers;
-    for (const QString &line : field.split(u'\n', Qt::SkipEmptyParts))
+    for (const QString &line : field.split(u'\n'))
         numbers += unescapedText(line.endsWith(u'\r') ? line.chopped(1) : line);
+    numbers.removeAll(QString());
     return numbers;
 }
 

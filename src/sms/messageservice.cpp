@@ -85,7 +85,8 @@ void MessageService::Private::connectParts()
     connect(&queue, &SendQueue::sigRefused, q, &MessageService::sigNotice);
     connect(&places, &CardPlaces::sigChanged, q, &MessageService::sigPlaceChanged);
     connect(&places, &CardPlaces::sigNotice, q, &MessageService::sigNotice);
-    connect(&places, &CardPlaces::sigUnreadListed, q, [this](const QStringList &ids) { takeUnread(ids); });
+    connect(&places, &CardPlaces::sigUnreadMet, q, [this](const QStringList &ids) { takeUnread(ids); });
+    connect(&places, &CardPlaces::sigNewListed, &reception, &SmsReception::takeListed);
     connect(&reception, &SmsReception::sigNewMessage, q, &MessageService::sigNewMessage);
     connect(&reception, &SmsReception::sigClass0, q, &MessageService::sigClass0);
     connect(&reception, &SmsReception::sigDelivered, q, &MessageService::sigDelivered);

@@ -128,9 +128,9 @@ void MessageTable::remove(const QStringList &ids)
 
 QList<RecordPtr> MessageTable::atTime(qint64 when) const
 {
-    const auto range =
-        std::ranges::equal_range(m_records, when, std::ranges::greater(), &MessageRecord::when);
-    return {range.begin(), range.end()};
+    const auto isNewer = std::ranges::greater();
+    return {std::ranges::lower_bound(m_records, when, isNewer, &MessageRecord::when),
+            std::ranges::upper_bound(m_records, when, isNewer, &MessageRecord::when)};
 }
 
 QString MessageTable::longKey(const Message &message) const

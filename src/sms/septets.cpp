@@ -14,7 +14,7 @@ void packSeptets(std::span<const quint8> septets, int fillBits, Octets &packed)
         for (; bits >= 8; bits -= 8, pending >>= 8)
             packed.append(quint8(pending));
     }
-    if (bits > 0 && !septets.empty())
+    if (bits > 0)
         packed.append(quint8(pending));
 }
 
@@ -25,6 +25,8 @@ void unpackSeptets(OctetView packed, int fillBits, qsizetype count, Septets &sep
     qsizetype left = count;
     septets.reserve(septets.size() + count);
     for (const quint8 octet : packed) {
+        if (left <= 0)
+            break;
         pending |= bits < 0 ? quint32(octet) >> -bits : quint32(octet) << bits;
         bits += 8;
         for (; bits >= 7 && left > 0; bits -= 7, pending >>= 7, --left)

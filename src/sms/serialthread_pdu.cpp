@@ -55,7 +55,6 @@ int SerialThread::gsmEncodePdu(SM_PARAM *src, char *dst, QString text, char *hex
 {
     const corva::SubmitSettings settings = configuredSettings();
     const QByteArray pdu = corva::encodeSubmit(*src, text, settings);
-    const qsizetype characters = src->tp_udlength - corva::ucs2HeaderSize(*src);
-    corva::copyOut(settings.isUcs2 ? corva::hexOfUcs2(text, characters) : QByteArray(), hex);
+    corva::copyOut(settings.isUcs2 ? corva::hexOfUcs2(text, corva::ucs2Units(*src)) : QByteArray(), hex);
     return corva::copyOut(pdu, dst);
 }

@@ -262,7 +262,7 @@ int SerialThread::deleteMessage(int storage, int index, const char *what)
             ? -1
             : outcome(transactMessage("AT+CMGD=" + QByteArray::number(index) + "\r\n", shortWait));
     qCDebug(lcSms).noquote() << u"=====Delete %1 %2====="_s.arg(QLatin1StringView(what),
-                                                                       result == 1 ? "OK"_L1 : "ERROR"_L1);
+                                                                result == 1 ? "OK"_L1 : "ERROR"_L1);
     return result;
 }
 

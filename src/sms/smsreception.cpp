@@ -50,8 +50,12 @@ SmsReception::SmsReception(CardWorker &worker, MessageStore *store, CardPlaces *
 void SmsReception::takeMessages(const QByteArray &text)
 {
     fileDelivered(parseReportedPdus(text, "+CMT:"));
-    for (const StoredReport &report : parseStoredReports(text, "+CMTI:"))
-        fetch(placeOf(report.store), report.index);
+    for (const StoredReport &report : parseStoredReports(text, "+CMTI:")) {
+        if (goToComputer())
+            fetch(placeOf(report.store), report.index);
+        else
+            m_places->refresh(placeOf(report.store)); // which does not mark it as read before it is known
+    }
 }
 
 void SmsReception::fileDelivered(const std::vector<ReportedPdu> &reports)
@@ -71,13 +75,13 @@ void SmsReception::fetch(MessagePlace place, int index)
 {
     const auto job =
         m_worker.submit([place, index](SerialThread &link) { return smsjobs::fetch(link, place, index); });
-    whenDone(job, this, [this, place, index](const std::optional<smsjobs::Fetched> &fetched) {
+    whenDone(job, this, [this, place](const std::optional<smsjobs::Fetched> &fetched) {
         if (fetched)
-            took(place, index, *fetched);
+            took(place, *fetched);
     });
 }
 
-void SmsReception::took(MessagePlace place, int index, const smsjobs::Fetched &fetched)
+void SmsReception::took(MessagePlace place, const smsjobs::Fetched &fetched)
 {
     m_places->takeFill(place, fetched.fill);
     if (fetched.report)
@@ -88,12 +92,7 @@ void SmsReception::took(MessagePlace place, int index, const smsjobs::Fetched &f
         return;
     Message message = *fetched.message;
     message.isRead = false; // reading it from the card marked it there, and nobody saw it
-    if (goToComputer()) {
-        keep(message);
-        return;
-    }
-    message.parts.front().storageIndex = index;
-    announce(m_store->insert({message}).made);
+    keep(message);
 }
 
 void SmsReception::keep(const Message &message)
@@ -115,10 +114,16 @@ void SmsReception::keep(const Message &message)
     });
 }
 
-void SmsReception::takeOver(const QStringList &ids)
+void SmsReception::takeListed(const QStringList &ids)
+{
+    if (!takeOver(ids))
+        announce(ids);
+}
+
+bool SmsReception::takeOver(const QStringList &ids)
 {
     if (!goToComputer())
-        return;
+        return false;
     for (const Message &message : m_store->messages(ids)) {
         for (const MessagePart &part : message.parts) {
             Message single = message;
@@ -127,6 +132,7 @@ void SmsReception::takeOver(const QStringList &ids)
             keep(single);
         }
     }
+    return true;
 }
 
 void SmsReception::announce(const QStringList &ids)

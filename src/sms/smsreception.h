@@ -37,8 +37,11 @@ public:
 
     /// What came into the report store while nobody looked.
     void readKeptReports();
-    /// Unread messages of the SIM or the card that belong on the computer.
-    void takeOver(const QStringList &ids);
+    /// Unread messages of the SIM or the card: takes them over to the computer where they belong there.
+    /// Whether they do.
+    bool takeOver(const QStringList &ids);
+    /// The same for new ones, which are announced where they stay.
+    void takeListed(const QStringList &ids);
 
 Q_SIGNALS:
     void sigNewMessage(const QString &id);
@@ -50,7 +53,7 @@ Q_SIGNALS:
 private:
     void fileDelivered(const std::vector<ReportedPdu> &reports);
     void fetch(MessagePlace place, int index);
-    void took(MessagePlace place, int index, const smsjobs::Fetched &fetched);
+    void took(MessagePlace place, const smsjobs::Fetched &fetched);
     /// Files the message on the computer; then takes it from where it was.
     void keep(const Message &message);
     void announce(const QStringList &ids);

@@ -67,6 +67,12 @@ void putDestination(QByteArray &pdu, SM_PARAM &record)
     pdu += swappedPairs(number);
 }
 
+/// UCS2 has the header with an 8-bit reference only.
+int ucs2HeaderSize(const SM_PARAM &record)
+{
+    return record.concatenated || record.ucs2Header ? partHeaderSize : 0;
+}
+
 bool hasHeader(const SM_PARAM &record, const SubmitSettings &settings)
 {
     return settings.isUcs2 ? ucs2HeaderSize(record) > 0 : record.concatenated;
@@ -126,7 +132,7 @@ void putSeptetsBehindHeader(QByteArray &pdu, const SM_PARAM &record)
 void putUcs2(QByteArray &pdu, QStringView text, const SM_PARAM &record)
 {
     const OctetView header{record.TP_UD, std::size_t(ucs2HeaderSize(record))};
-    const QByteArray hex = hexOfUcs2(text, record.tp_udlength - qsizetype(header.size()));
+    const QByteArray hex = hexOfUcs2(text, ucs2Units(record));
     put(pdu, int(hex.size() / 2) + int(header.size()));
     put(pdu, header);
     pdu += hex;
@@ -134,9 +140,10 @@ void putUcs2(QByteArray &pdu, QStringView text, const SM_PARAM &record)
 
 } // namespace
 
-int ucs2HeaderSize(const SM_PARAM &record)
+qsizetype ucs2Units(const SM_PARAM &record)
 {
-    return record.concatenated || record.ucs2Header ? partHeaderSize : 0;
+    const int header = ucs2HeaderSize(record);
+    return std::clamp(record.tp_udlength - header, 0, (mostUserData - header) / 2);
 }
 
 QByteArray swappedPairs(QByteArrayView digits)

@@ -24,8 +24,9 @@ struct SubmitSettings {
 /// An empty service centre gives 01 81; "00" ahead of a number makes it international and stays in it.
 QByteArray encodeSubmit(SM_PARAM &record, QStringView text, const SubmitSettings &settings);
 
-/// Octets of `record.TP_UD` ahead of a UCS2 text: 6 for a header, which has the 8-bit reference, else 0.
-int ucs2HeaderSize(const SM_PARAM &record);
+/// Code units of the text that go out in UCS2: what the record counts without the header, and no more than
+/// TP-UDL can.
+qsizetype ucs2Units(const SM_PARAM &record);
 
 /// `count` code units of the text as hex, four lower-case digits each; fewer where the text ends.
 QByteArray hexOfUcs2(QStringView text, qsizetype count);

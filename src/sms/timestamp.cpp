@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sms/timestamp.h"
 
+#include <algorithm>
 #include <array>
 
 namespace corva
@@ -34,16 +35,35 @@ int offsetOf(quint8 octet)
     return (octet & zoneIsWest ? -quarters : quarters) * secondsInZoneUnit;
 }
 
-std::optional<QDateTime> timeOf(OctetView octets)
+int pairOf(QStringView digits)
 {
-    std::array<int, 6> fields{};
+    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
+    return digits.size() == 2 && std::ranges::all_of(digits, isDigit) ? digits.toInt() : -1;
+}
+
+/// Year, month, day, hour, minute, second.
+using Fields = std::array<int, 6>;
+
+QDate dateOf(const Fields &fields)
+{
+    return {century + fields[0], fields[1], fields[2]};
+}
+
+QTime timeOf(const Fields &fields)
+{
+    return {fields[3], fields[4], fields[5]};
+}
+
+std::optional<QDateTime> zonedTimeOf(OctetView octets)
+{
+    Fields fields{};
     for (std::size_t i = 0; i < fields.size(); ++i) {
         fields[i] = pairOf(octets[i]);
         if (fields[i] < 0)
             return std::nullopt;
     }
-    const QDate date(century + fields[0], fields[1], fields[2]);
-    const QTime time(fields[3], fields[4], fields[5]);
+    const QDate date = dateOf(fields);
+    const QTime time = timeOf(fields);
     if (!date.isValid() || !time.isValid())
         return std::nullopt;
     return QDateTime(date, time, Qt::OffsetFromUTC, offsetOf(octets.back()));
@@ -69,20 +89,19 @@ TimeStamp readTimeStamp(OctetReader &reader, QLatin1StringView field, StampOrder
         pair[0] = QLatin1Char(hexDigit(octets[i] & 0x0f));
         pair[1] = QLatin1Char(hexDigit(octets[i] >> 4));
     }
-    return {digits, timeOf(octets)};
+    return {digits, zonedTimeOf(octets)};
 }
 
 QDateTime localTimeOf(QStringView digits, StampOrder order)
 {
-    std::array<int, 6> fields{};
+    Fields fields{};
     for (std::size_t i = 0; i < fields.size(); ++i) {
-        bool isNumber = false;
-        fields[i] = digits.mid(qsizetype(2 * placeOf(i, order)), 2).toInt(&isNumber);
-        if (!isNumber)
+        fields[i] = pairOf(digits.mid(qsizetype(2 * placeOf(i, order)), 2));
+        if (fields[i] < 0)
             return {};
     }
-    const QDate date(century + fields[0], fields[1], fields[2]);
-    const QTime time(fields[3], fields[4], fields[5]);
+    const QDate date = dateOf(fields);
+    const QTime time = timeOf(fields);
     return date.isValid() && time.isValid() ? QDateTime(date, time) : QDateTime();
 }
 

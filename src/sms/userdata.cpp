@@ -93,7 +93,7 @@ UserDataHeader readHeader(OctetReader &reader, OctetView data, qsizetype offset)
     }
     header.size = data[0] + 1;
     OctetReader elements(data.subspan(1, data[0]));
-    while (elements.left() > 0) {
+    while (elements.left() > 0 && !reader.hasFailed()) {
         const qsizetype start = offset + 1 + elements.offset();
         const quint8 identifier = elements.octet(headerField);
         const OctetView element = elements.octets(headerField, elements.octet(headerField));

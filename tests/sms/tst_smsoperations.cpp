@@ -63,7 +63,7 @@ QString storeOne(Link &link)
 }
 template <char quote> QString setCentre(Link &link)
 {
-    return text(link.set_sms_number(u"+49171%10"_s.arg(QChar::fromLatin1(quote))));
+    return text(link.set_sms_number(u"+49171%1"_s.arg(QChar::fromLatin1(quote))));
 }
 QString centre(Link &link)
 {
@@ -126,11 +126,11 @@ const Operation operations[] = {
     {"service centre", centre, {{"AT+CSCA?\r\n", "\r\n+CSCA: \"+4917\",145\r\n" + ok}}, "+4917"},
     {"another service centre",
      setCentre<'0'>,
-     {{"AT+CSCS=\"IRA\"\r\n", ok}, {"AT+CSCA=\"+4917100\"\r\n", ok}, {"AT+CSCS=\"UCS2\"\r\n", ok}},
+     {{"AT+CSCS=\"IRA\"\r\n", ok}, {"AT+CSCA=\"+491710\"\r\n", ok}, {"AT+CSCS=\"UCS2\"\r\n", ok}},
      "1"},
     {"another service centre, refused",
      setCentre<'0'>,
-     {{"AT+CSCS=\"IRA\"\r\n", error}, {"AT+CSCA=\"+4917100\"\r\n", error}, {"AT+CSCS=\"UCS2\"\r\n", ok}},
+     {{"AT+CSCS=\"IRA\"\r\n", error}, {"AT+CSCA=\"+491710\"\r\n", error}, {"AT+CSCS=\"UCS2\"\r\n", ok}},
      "0"},
     {"a quote in the number", setCentre<'"'>, {}, "-1"},
     {"a line end in the number", setCentre<'\r'>, {}, "-1"},

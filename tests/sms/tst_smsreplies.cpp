@@ -130,8 +130,11 @@ private Q_SLOTS:
         QVERIFY(!cmsErrorIn("+CMGS: 3\r\n\r\nOK\r\n"));
         QCOMPARE(cmsErrorIn("\r\n+CMS ERROR: 322\r\n"), std::optional(CmsError{322, {}}));
         QCOMPARE(cmsErrorIn("\r\nERROR\r\n"), std::optional(CmsError{-1, {}}));
+        QCOMPARE(cmsErrorIn("\r\n+CMS ERROR: Memory full\r\n"), std::optional(CmsError{322, {}}));
+        QCOMPARE(cmsErrorIn("\r\n+CME ERROR: 14\r\n"), std::optional(CmsError{314, {}}));
+        QCOMPARE(cmsErrorIn("\r\n+CME ERROR: 9999\r\n"), std::optional(CmsError{-1, u"9999"_s}));
         QCOMPARE(cmsErrorText({322, {}}), u"The memory for messages is full."_s);
-        QCOMPARE(cmsErrorText({-1, u"SIM busy"_s}), u"The card says: SIM busy"_s);
+        QCOMPARE(cmsErrorText({-1, u"on strike"_s}), u"The card says: on strike"_s);
         QCOMPARE(cmsErrorText({9999, {}}), u"The card refuses, with the code 9999."_s);
         QCOMPARE(deliveryOutcome(0x00), DeliveryOutcome::Delivered);
         QCOMPARE(deliveryOutcome(0x30), DeliveryOutcome::StillTrying);

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sms/cmserrors.h"
+#include "sms/smsfiling.h"
+#include "sms/smsreplies.h"
+
+#include <cstdlib>
+
+using namespace corva;
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArray reply(reinterpret_cast<const char *>(data), qsizetype(size));
+    const SmsList list = parseSmsList(reply);
+    for (const ListedSms &listed : list.messages) {
+        // Whatever a card lists is kept with its PDU: nothing that came is dropped.
+        const FiledSms filed = fileSms(listed, MessagePlace::Sim, {});
+        if (const auto *message = std::get_if<Message>(&filed); message && message->parts.empty())
+            abort();
+    }
+    if (const auto read = parseReadSms(reply); read && read->pdu.isEmpty())
+        abort();
+    for (const char *mark : {"+CMT:", "+CBM:", "+JCLAS:"}) {
+        for (const ReportedPdu &report : parseReportedPdus(reply, mark)) {
+            if (report.pdu.isEmpty())
+                abort();
+        }
+    }
+    parseStoredReports(reply, "+CMTI:");
+    parseFill(reply, "SM");
+    parseServiceCentre(reply);
+    nearestNoticeModes("3,1,2,2,0", reply);
+    if (const auto error = cmsErrorIn(reply); error && cmsErrorText(*error).isEmpty())
+        abort();
+    return 0;
+}
