@@ -100,7 +100,7 @@ constexpr ConfigKey keys[] = {
     {"sms"_L1, "newsmsLocation"_L1, Number, "2"_L1, "Where new messages go: 1 the SIM, 2 the computer, 3 the card."_L1},
     {"sms"_L1, "deleteSimSmsWhenFull"_L1, Flag, "0"_L1, "The oldest messages of a full SIM make room for new ones."_L1},
     {"sms"_L1, "newSmsNoticeShowWhenProgramStart"_L1, Flag, "1"_L1, "Unread messages are announced at start."_L1},
-    {"sms"_L1, "class0SmsDlgSize"_L1, Number, "5"_L1, "How many windows of immediate messages may be open at once."_L1},
+    {"sms"_L1, "class0SmsDlgSize"_L1, Number, "5"_L1, "Lines of text that the window of an immediate message shows before it scrolls, 3 to 30."_L1},
     {"sms"_L1, "deliveryReportBoxShow"_L1, Flag, "1"_L1, "The folder of delivery reports is shown."_L1},
     {"sms"_L1, "broadcastChannels"_L1, Text, ""_L1, "Channels of cell broadcast that are listened to, separated by commas."_L1},
     {"sms"_L1, "deliveryReportMsgDlgShow"_L1, Flag, "1"_L1, "A delivery report is announced when it comes."_L1},

@@ -9,7 +9,7 @@ import subprocess
 import sys
 import unittest
 
-from driver import desk, wait_for
+from driver import Atspi, desk, wait_for
 
 DIALLER_FILES = [pathlib.Path(name) for name in (
     "/etc/wvdial.conf", "/etc/tmpwvdial.conf", "/etc/ppp/options", "/etc/ppp/tmpoptions", "/etc/ppp/peers/wvdial",
@@ -179,6 +179,56 @@ def dial_in_vain(program):
     program.wait_no_text(text)
     program.wait_text("Status: Disconnected")
     return text
+
+
+def open_messages(program, *keys):
+    """Opens the messages by keyboard, once the window has the keyboard, and presses more keys in the search."""
+    def has_search():
+        search = program.node("Search all messages")
+        return search and search.get_state_set().contains(Atspi.StateType.FOCUSED)
+    wait_for("the search", lambda: program.keys("ctrl+2", "ctrl+f") or has_search())
+    if keys:
+        program.keys(*keys)
+
+
+class Messages(unittest.TestCase):
+    def test_message_comes_in_and_is_answered(self):
+        with desk(sms__newsmsLocation="2", sms__deliveryReportMsgDlgShow="0") as (card, program):
+            program.start()
+            program.wait_text("Test Network")
+            card.say("sms", "from=+12025550123", "text=Meet <b>me</b> at eight, مرحبا", "alphabet=ucs2")
+            program.wait_text("Messages, 1 new")
+            open_messages(program, "Down", "Home")
+            program.wait_text("Meet <b>me</b> at eight, مرحبا")
+            program.wait_no_text("Messages, 1 new")
+            program.picture("messages")
+            program.keys("ctrl+r")
+            program.wait_text("New message")
+            program.type("On my way")
+            program.wait_text("Symbol: 9 /1")
+            program.keys("ctrl+Return")
+            program.wait_text("Sent successfully 1,failed 0")
+            taken = json.loads(card.say("sent"))
+            self.assertIn("+12025550123", json.dumps(taken))
+
+    def test_what_is_written_outlives_a_killed_program(self):
+        with desk() as (_, program):
+            program.start()
+            program.wait_text("Test Network")
+            open_messages(program, "ctrl+n")
+            program.wait_text("Symbol: 0 /1")
+            program.type("+49 151 2345\tHalf a sentence")
+            drafts = program.folder / "Data/sms.xml"
+            wait_for("the draft on disk", lambda: drafts.exists() and "Half a sentence" in drafts.read_text())
+            program.process.kill()
+            program.process.wait(10)
+            program.start()
+            program.wait_text("Test Network")
+            open_messages(program)
+            program.type("half")
+            program.keys("Down", "Home", "Return")
+            program.wait_text("Symbol: 15 /1")
+            program.picture("messages-draft")
 
 
 class Connection(unittest.TestCase):

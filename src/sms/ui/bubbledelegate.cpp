@@ -9,6 +9,7 @@
 #include <QAbstractItemView>
 #include <QPainter>
 #include <QTextLayout>
+#include <cmath>
 
 namespace corva
 {
@@ -34,7 +35,7 @@ public:
         m_aboutHeight = caption.height();
         const int aboutWidth = qMin(caption.horizontalAdvance(m_about) + 1, room);
         layOut(room);
-        layOut(qMax(int(std::ceil(m_layout.boundingRect().width())), aboutWidth));
+        layOut(qMax(int(std::ceil(m_natural)), aboutWidth));
     }
 
     QSize size() const
@@ -51,7 +52,9 @@ public:
         const QRect place(rect.left() + padding, rect.bottom() - padding - m_aboutHeight + 1, m_width,
                           m_aboutHeight);
         const auto shown = painter.fontMetrics().elidedText(m_about, Qt::ElideRight, m_width);
-        painter.drawText(place, int(Qt::AlignTrailing | Qt::AlignVCenter), shown);
+        const Qt::Alignment end = QStyle::visualAlignment(painter.layoutDirection(), Qt::AlignRight);
+        painter.setLayoutDirection(directionOf(m_about));
+        painter.drawText(place, int(end | Qt::AlignAbsolute | Qt::AlignVCenter), shown);
     }
 
 private:
@@ -59,11 +62,13 @@ private:
     {
         m_width = width;
         m_height = 0;
+        m_natural = 0;
         m_layout.beginLayout();
         for (QTextLine line = m_layout.createLine(); line.isValid(); line = m_layout.createLine()) {
             line.setLineWidth(width);
             line.setPosition({0, m_height});
             m_height += line.height();
+            m_natural = qMax(m_natural, line.naturalTextWidth());
         }
         m_layout.endLayout();
     }
@@ -74,6 +79,7 @@ private:
     int m_width = 0;
     int m_aboutHeight = 0;
     qreal m_height = 0;
+    qreal m_natural = 0; ///< of the widest line
 };
 
 int viewWidth(const QStyleOptionViewItem &option)

@@ -10,6 +10,7 @@
 #include "sms/ui/messageactions.h"
 #include "sms/ui/messagebrowser.h"
 #include "sms/ui/messagedesk.h"
+#include "sms/ui/messageexchange.h"
 #include "sms/ui/messageprint.h"
 #include "sms/ui/messagetexts.h"
 #include "sms/ui/readingpane.h"
@@ -53,6 +54,7 @@ bool isNearlyFull(const StoreCapacity &capacity)
 CShortMsg::CShortMsg(const PageInfo &info, MessageService *service, MessageQueue *messages, QWidget *parent)
     : Page(info, parent), m_service(service), m_messages(messages),
       m_templates(basePath + u"/Data/sms-templates.json"_s),
+      m_exchange(new MessageExchange(service->store(), this)),
       m_actions(new MessageActions(service, messages, this)),
       m_new(new QPushButton(tr("&New message"), this)), m_more(new QMenu(this)),
       m_boxes(new BoxChooser(service, this)), m_search(new QLineEdit(this)), m_said(new NoticeBar(this)),
@@ -149,6 +151,8 @@ void CShortMsg::connectParts()
     connect(m_actions, &MessageActions::sigEdit, this, &CShortMsg::activate);
     connect(m_actions, &MessageActions::sigSaid, this, &CShortMsg::say);
     connect(m_actions, &MessageActions::sigPrint, this, &CShortMsg::print);
+    connect(m_actions, &MessageActions::sigExport, m_exchange, &MessageExchange::exportMessages);
+    connect(m_exchange, &MessageExchange::sigSaid, this, [this](const QString &text) { say(text, false); });
     connect(m_composer, &Composer::sigClosed, this, [this] {
         leaveComposer();
         follow();
@@ -222,6 +226,7 @@ void CShortMsg::fillMore()
     m_more->addSeparator();
     m_more->addAction(tr("Select &all"), m_browser, &MessageBrowser::selectAll)
         ->setEnabled(!m_browser->isByPerson());
+    m_more->addAction(tr("&Import…"), m_exchange, &MessageExchange::importMessages);
     m_more->addAction(tr("&Undo deleting"), this, &CShortMsg::undo);
     m_more->addAction(tr("Read the SIM and the data card ane&w"), this, &CShortMsg::refresh);
     m_more->addAction(tr("&Service centre…"), this, [this] {

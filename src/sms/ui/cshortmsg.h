@@ -17,6 +17,7 @@ class BroadcastBar;
 class Composer;
 class MessageActions;
 class MessageBrowser;
+class MessageExchange;
 class MessageQueue;
 class NoticeBar;
 class ReadingPane;
@@ -74,6 +75,7 @@ private:
     corva::MessageService *m_service;
     corva::MessageQueue *m_messages;
     corva::TemplateStore m_templates;
+    corva::MessageExchange *m_exchange;
     corva::MessageActions *m_actions;
     QPushButton *m_new;
     QMenu *m_more;

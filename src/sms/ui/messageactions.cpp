@@ -43,6 +43,7 @@ MessageActions::MessageActions(MessageService *service, MessageQueue *messages, 
       m_read(add(tr("Mark as rea&d"), Qt::CTRL | Qt::Key_K, &MessageActions::markRead)),
       m_unread(add(tr("Mark as &unread"), Qt::CTRL | Qt::Key_U, &MessageActions::markUnread)),
       m_copy(add(tr("&Copy the text"), QKeySequence::Copy, &MessageActions::copyText)),
+      m_export(add(tr("E&xport…"), {}, &MessageActions::exportChosen)),
       m_print(add(tr("&Print…"), QKeySequence::Print, &MessageActions::printChosen))
 {
     follow();
@@ -61,7 +62,8 @@ QAction *MessageActions::add(const QString &text, const QKeySequence &keys, void
 
 QList<QAction *> MessageActions::all() const
 {
-    return {m_reply, m_edit, m_forward, m_remove, m_restore, m_retry, m_read, m_unread, m_copy, m_print};
+    return {m_reply, m_edit,   m_forward, m_remove, m_restore, m_retry,
+            m_read,  m_unread, m_copy,    m_export, m_print};
 }
 
 void MessageActions::setChosen(const QStringList &ids)
@@ -92,7 +94,7 @@ void MessageActions::follow()
     m_unread->setEnabled(any([&](const Message &m) { return mayBeMarked(m) && m.isRead; }));
     m_remove->setText(chosen.size() > 1 ? tr("De&lete %n messages", nullptr, int(chosen.size()))
                                         : tr("De&lete"));
-    for (QAction *action : {m_remove, m_copy, m_print})
+    for (QAction *action : {m_remove, m_copy, m_export, m_print})
         action->setEnabled(!chosen.empty());
 }
 
@@ -104,7 +106,7 @@ void MessageActions::fill(QMenu *menu)
     menu->addSeparator();
     addPlaces(menu, tr("Cop&y to"), &MessageService::copyTo);
     addPlaces(menu, tr("&Move to"), &MessageService::moveTo);
-    menu->addAction(m_print);
+    menu->addActions({m_export, m_print});
     menu->addSeparator();
     menu->addActions({m_restore, m_remove});
 }
@@ -188,6 +190,11 @@ void MessageActions::copyText()
     for (const Message &message : messages())
         texts += message.text();
     QGuiApplication::clipboard()->setText(texts.join(u"\n\n"));
+}
+
+void MessageActions::exportChosen()
+{
+    Q_EMIT sigExport(m_ids);
 }
 
 void MessageActions::printChosen()

@@ -40,6 +40,7 @@ Q_SIGNALS:
     void sigEdit(const QString &draftId);
     /// What was done or went wrong, with what the person may do about it.
     void sigSaid(const QString &sentence, bool canUndo);
+    void sigExport(const QStringList &ids);
     void sigPrint(const QStringList &ids);
 
 private:
@@ -57,6 +58,7 @@ private:
     void markUnread();
     void retryFailed();
     void copyText();
+    void exportChosen();
     void printChosen();
 
     MessageService *m_service;
@@ -71,6 +73,7 @@ private:
     QAction *m_read;
     QAction *m_unread;
     QAction *m_copy;
+    QAction *m_export;
     QAction *m_print;
 };
 

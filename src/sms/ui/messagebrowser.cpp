@@ -38,12 +38,29 @@ constexpr EmptyRow emptyRows[] = {
     {MessageBox::Reports, QT_TRANSLATE_NOOP("corva::MessageBrowser", "No delivery report has come yet.")},
 };
 
+/// The first key chooses the row that has the cursor, where none is chosen: the first row is not passed by.
+class RowList final : public QListView
+{
+public:
+    using QListView::QListView;
+
+protected:
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override
+    {
+        const QModelIndex current = currentIndex();
+        if (!current.isValid() || selectionModel()->hasSelection())
+            return QListView::moveCursor(action, modifiers);
+        selectionModel()->select(current, QItemSelectionModel::ClearAndSelect);
+        return current;
+    }
+};
+
 } // namespace
 
 MessageBrowser::MessageBrowser(MessageService *service, MessageActions *actions, QWidget *parent)
     : QWidget(parent), m_service(service), m_actions(actions),
       m_messages(new MessageListModel(service, this)), m_persons(new ConversationModel(service, this)),
-      m_stack(new QStackedWidget(this)), m_list(new QListView(this)),
+      m_stack(new QStackedWidget(this)), m_list(new RowList(this)),
       m_empty(new TextLabel(TextRole::Text, this))
 {
     build(actions);

@@ -33,6 +33,7 @@ public:
         if (text.isEmpty())
             return;
         const int width = m_painter.fontMetrics().horizontalAdvance(text) + 1;
+        m_painter.setLayoutDirection(directionOf(text));
         m_painter.drawText(takeEnd(width), Qt::AlignCenter, text);
     }
 
@@ -43,6 +44,7 @@ public:
         const int width = m_painter.fontMetrics().horizontalAdvance(text) + metrics::Grid;
         const QRect place = takeEnd(width);
         paint::box(m_painter, place.adjusted(0, 1, 0, -1), QColor(), m_painter.pen().color());
+        m_painter.setLayoutDirection(directionOf(text));
         m_painter.drawText(place, Qt::AlignCenter, text);
     }
 

@@ -176,7 +176,8 @@ Qt::LayoutDirection directionOf(const QString &text)
         default: break;
         }
     }
-    return QGuiApplication::layoutDirection();
+    const bool isNumber = std::any_of(text.begin(), text.end(), [](QChar sign) { return sign.isDigit(); });
+    return isNumber ? Qt::LeftToRight : QGuiApplication::layoutDirection();
 }
 
 QTextOption optionFor(const QString &text)

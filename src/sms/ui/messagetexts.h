@@ -30,8 +30,8 @@ QString deliveryDetails(const Message &message);
 QString shortWhen(const QDateTime &time, const QDateTime &now);
 QString fullWhen(const QDateTime &time);
 
-/// The writing direction of the text itself: that of its first letter that has one, the window's where none
-/// has.
+/// The writing direction of the text itself: that of its first letter. Without letters a number runs from
+/// left to right, everything else as the window does.
 Qt::LayoutDirection directionOf(const QString &text);
 /// How a text is set that runs in its own direction: from the side where it begins.
 QTextOption optionFor(const QString &text);

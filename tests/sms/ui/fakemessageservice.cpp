@@ -83,6 +83,26 @@ void MessageService::setNameLookup(NameLookup lookup)
     d->lookup = std::move(lookup);
 }
 
+void MessageService::takeMessages(const QString &text)
+{
+    strings().calls += text;
+}
+
+void MessageService::takeDeliveryReports(const QString &text)
+{
+    strings().calls += text;
+}
+
+void MessageService::takeImmediate(const QString &text)
+{
+    strings().calls += text;
+}
+
+void MessageService::takeBroadcasts(const QString &text)
+{
+    strings().calls += text;
+}
+
 bool MessageService::send(const OutgoingSms &sms)
 {
     if (!strings().isTaking)

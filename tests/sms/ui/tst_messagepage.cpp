@@ -8,6 +8,7 @@
 #include "sms/ui/composer.h"
 #include "sms/ui/cshortmsg.h"
 #include "sms/ui/messagedesk.h"
+#include "sms/ui/messageexchange.h"
 #include "sms/ui/messagerowdelegate.h"
 #include "sms/ui/mytextedit.h"
 #include "sms/ui/plaintextview.h"
@@ -15,6 +16,7 @@
 #include "widgets/messagequeue.h"
 
 #include <QAbstractItemModelTester>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -52,6 +54,7 @@ private Q_SLOTS:
     void sendingGoesToEverybody();
     void cancellingAsks();
     void nearlyFullPlaceIsTold();
+    void exportedMessagesComeBack();
     void immediateMessagesQueueUp();
     void badgeFollowsWithoutThePage();
 
@@ -351,6 +354,30 @@ void TestMessagePage::nearlyFullPlaceIsTold()
     open({.filter = {.kind = MessageFilter::Kind::Place, .place = MessagePlace::Sim}});
     fakesms::put(MessagePlace::Sim, {.error = u"The SIM is busy."_s, .capacity = {}});
     QCOMPARE(told(), u"The SIM is busy."_s);
+}
+
+void TestMessagePage::exportedMessagesComeBack()
+{
+    add({received(u"+491"_s, u"one, \"quoted\"\nand lines"_s, 10), received(u"+492"_s, u"مرحبا"_s, 20)});
+    QTRY_COMPARE(rows().size(), 2);
+    const QString path = m_folder->filePath(u"kept.json"_s);
+    const auto chooseFile = [&](const QString &name) {
+        auto *dialog = m_page->findChild<QFileDialog *>(name);
+        QVERIFY(dialog);
+        Q_EMIT dialog->fileSelected(path);
+        dialog->close();
+    };
+    auto *exchange = m_page->findChild<MessageExchange *>();
+    QSignalSpy said(exchange, &MessageExchange::sigSaid);
+    exchange->exportMessages(m_store->ids(MessageBox::Inbox));
+    chooseFile(u"exportDialog"_s);
+    QTRY_COMPARE(said.size(), 1);
+    m_store->purge(m_store->ids(MessageBox::Inbox));
+    QTRY_COMPARE(rows().size(), 0);
+    exchange->importMessages();
+    chooseFile(u"importDialog"_s);
+    QTRY_COMPARE(said.size(), 2);
+    QCOMPARE(texts(MessageBox::Inbox), QStringList({u"مرحبا"_s, u"one, \"quoted\"\nand lines"_s}));
 }
 
 void TestMessagePage::immediateMessagesQueueUp()

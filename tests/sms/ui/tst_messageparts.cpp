@@ -130,7 +130,10 @@ void TestMessageParts::directions()
 {
     QCOMPARE(directionOf(u"10:30 مرحبا hello"_s), Qt::RightToLeft);
     QCOMPARE(directionOf(u"+49 hello مرحبا"_s), Qt::LeftToRight);
-    QCOMPARE(directionOf(u"12345"_s), QGuiApplication::layoutDirection());
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(directionOf(u"+49 151"_s), Qt::LeftToRight);
+    QCOMPARE(directionOf(u"…"_s), Qt::RightToLeft);
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 void TestMessageParts::templatesOutliveTheProgram()

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sms/ui/messageexchange.h"
+
+#include "shell/safefile.h"
+#include "shell/whendone.h"
+#include "sms/messageexport.h"
+#include "sms/messagestore.h"
+
+#include <QDate>
+#include <QDir>
+#include <QFileDialog>
+#include <QPromise>
+#include <QStandardPaths>
+#include <QThreadPool>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace corva
+{
+
+namespace
+{
+
+constexpr qint64 largestFile = 256 * 1024 * 1024;
+
+/// The result of a function that runs on another thread.
+template <typename Function> auto elsewhere(Function function)
+{
+    using Result = decltype(function());
+    auto promise = std::make_shared<QPromise<Result>>();
+    promise->start();
+    const QFuture<Result> future = promise->future();
+    QThreadPool::globalInstance()->start([promise, function = std::move(function)] {
+        promise->addResult(function());
+        promise->finish();
+    });
+    return future;
+}
+
+QFileDialog *fileDialog(QWidget *parent, const QString &title, const QString &objectName)
+{
+    auto *dialog = new QFileDialog(parent, title);
+    dialog->setObjectName(objectName);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    return dialog;
+}
+
+} // namespace
+
+MessageExchange::MessageExchange(MessageStore *store, QWidget *page)
+    : QObject(page), m_store(store), m_page(page)
+{
+}
+
+void MessageExchange::exportMessages(const QStringList &ids)
+{
+    QFileDialog *dialog = fileDialog(m_page, tr("Export messages"), u"exportDialog"_s);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setNameFilters({tr("CSV tables (*.csv)"), tr("JSON (*.json)")});
+    dialog->setDefaultSuffix(u"csv"_s);
+    dialog->selectFile(u"messages-%1.csv"_s.arg(QDate::currentDate().toString(Qt::ISODate)));
+    connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString &filter) {
+        dialog->setDefaultSuffix(filter.contains("json"_L1) ? u"json"_s : u"csv"_s);
+    });
+    connect(dialog, &QFileDialog::fileSelected, this,
+            [this, messages = m_store->messages(ids)](const QString &path) { write(path, messages); });
+    dialog->open();
+}
+
+void MessageExchange::write(const QString &path, const std::vector<Message> &messages)
+{
+    const auto writing = elsewhere([path, messages] {
+        const bool isJson = path.endsWith(".json"_L1, Qt::CaseInsensitive);
+        QString error;
+        const bool isWritten =
+            writeFileSafely(path, isJson ? messagesJson(messages) : messagesCsv(messages), &error);
+        return isWritten ? QString() : error;
+    });
+    whenDone(writing, this, [this, path, count = int(messages.size())](const std::optional<QString> &error) {
+        const QString shown = QDir::toNativeSeparators(path);
+        Q_EMIT sigSaid(error && error->isEmpty()
+                           ? tr("%n messages were written to %1.", nullptr, count).arg(shown)
+                           : tr("The messages could not be written: %1").arg(error.value_or(QString())));
+    });
+}
+
+void MessageExchange::importMessages()
+{
+    QFileDialog *dialog = fileDialog(m_page, tr("Import messages"), u"importDialog"_s);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilter(tr("Exported messages (*.csv *.json)"));
+    connect(dialog, &QFileDialog::fileSelected, this, &MessageExchange::read);
+    dialog->open();
+}
+
+void MessageExchange::read(const QString &path)
+{
+    const auto reading = elsewhere([path] { return parseExport(readAtMost(path, largestFile)); });
+    whenDone(reading, this, [this](const std::optional<ExportedMessages> &file) {
+        if (!file || !file->isKnown) {
+            Q_EMIT sigSaid(tr("The file holds no messages that can be read."));
+            return;
+        }
+        const MessageStore::Imported imported = m_store->import(file->messages);
+        QStringList sentences{tr("%n messages were added.", nullptr, imported.added)};
+        if (imported.present > 0)
+            sentences += tr("%n were here already.", nullptr, imported.present);
+        if (file->unreadable > 0)
+            sentences += tr("%n could not be read.", nullptr, file->unreadable);
+        Q_EMIT sigSaid(sentences.join(u' '));
+    });
+}
+
+} // namespace corva

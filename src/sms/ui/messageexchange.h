@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "sms/message.h"
+
+#include <QObject>
+
+class QWidget;
+
+namespace corva
+{
+
+class MessageStore;
+
+/// Messages to a file and from one, by dialogs of the page. Files are read and written on another thread.
+class MessageExchange final : public QObject
+{
+    Q_OBJECT
+
+public:
+    MessageExchange(MessageStore *store, QWidget *page);
+
+    /// Asks for a file: its name decides between a table and JSON.
+    void exportMessages(const QStringList &ids);
+    /// Asks for a file that was exported, here or elsewhere.
+    void importMessages();
+
+Q_SIGNALS:
+    /// What came of it.
+    void sigSaid(const QString &sentence);
+
+private:
+    void write(const QString &path, const std::vector<Message> &messages);
+    void read(const QString &path);
+
+    MessageStore *m_store;
+    QWidget *m_page;
+};
+
+} // namespace corva
