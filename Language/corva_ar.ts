@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>&amp;Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>ا&amp;ستيراد…</translation>
     </message>
     <message>
         <source>&amp;Undo deleting</source>
@@ -3232,7 +3232,7 @@ to %2</source>
     </message>
     <message>
         <source>E&amp;xport…</source>
-        <translation type="unfinished"></translation>
+        <translation>ت&amp;صدير…</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
@@ -3388,74 +3388,74 @@ to %2</source>
     <name>corva::MessageExchange</name>
     <message>
         <source>Export messages</source>
-        <translation type="unfinished"></translation>
+        <translation>تصدير الرسائل</translation>
     </message>
     <message>
         <source>CSV tables (*.csv)</source>
-        <translation type="unfinished">جداول CSV (*.csv)</translation>
+        <translation>جداول CSV ‏(*.csv)</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON ‏(*.json)</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were written to %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم تُكتب أي رسالة في %1.</numerusform>
+            <numerusform>كُتبت رسالة واحدة في %1.</numerusform>
+            <numerusform>كُتبت رسالتان في %1.</numerusform>
+            <numerusform>كُتبت %n رسائل في %1.</numerusform>
+            <numerusform>كُتبت %n رسالة في %1.</numerusform>
+            <numerusform>كُتبت %n رسالة في %1.</numerusform>
         </translation>
     </message>
     <message>
         <source>The messages could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذرت كتابة الرسائل: %1</translation>
     </message>
     <message>
         <source>Import messages</source>
-        <translation type="unfinished"></translation>
+        <translation>استيراد الرسائل</translation>
     </message>
     <message>
         <source>Exported messages (*.csv *.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>رسائل مُصدَّرة ‏(*.csv *.json)</translation>
     </message>
     <message>
         <source>The file holds no messages that can be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يحتوي الملف على رسائل يمكن قراءتها.</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were added.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم تُضف أي رسالة.</numerusform>
+            <numerusform>أُضيفت رسالة واحدة.</numerusform>
+            <numerusform>أُضيفت رسالتان.</numerusform>
+            <numerusform>أُضيفت %n رسائل.</numerusform>
+            <numerusform>أُضيفت %n رسالة.</numerusform>
+            <numerusform>أُضيفت %n رسالة.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n were here already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم تكن أي منها هنا.</numerusform>
+            <numerusform>واحدة كانت هنا من قبل.</numerusform>
+            <numerusform>اثنتان كانتا هنا من قبل.</numerusform>
+            <numerusform>%n كانت هنا من قبل.</numerusform>
+            <numerusform>%n كانت هنا من قبل.</numerusform>
+            <numerusform>%n كانت هنا من قبل.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>قُرئت كلها.</numerusform>
+            <numerusform>تعذرت قراءة واحدة.</numerusform>
+            <numerusform>تعذرت قراءة اثنتين.</numerusform>
+            <numerusform>تعذرت قراءة %n.</numerusform>
+            <numerusform>تعذرت قراءة %n.</numerusform>
+            <numerusform>تعذرت قراءة %n.</numerusform>
         </translation>
     </message>
 </context>

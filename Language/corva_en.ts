@@ -103,30 +103,30 @@
     <name>corva::MessageExchange</name>
     <message numerus="yes">
         <source>%n messages were written to %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n message was written to %1.</numerusform>
+            <numerusform>%n messages were written to %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n messages were added.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n message was added.</numerusform>
+            <numerusform>%n messages were added.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n were here already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n was here already.</numerusform>
+            <numerusform>%n were here already.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n could not be read.</numerusform>
+            <numerusform>%n could not be read.</numerusform>
         </translation>
     </message>
 </context>

@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>&amp;Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importar…</translation>
     </message>
     <message>
         <source>&amp;Undo deleting</source>
@@ -3208,7 +3208,7 @@ a %2</translation>
     </message>
     <message>
         <source>E&amp;xport…</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xportar…</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
@@ -3344,58 +3344,58 @@ a %2</translation>
     <name>corva::MessageExchange</name>
     <message>
         <source>Export messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar mensajes</translation>
     </message>
     <message>
         <source>CSV tables (*.csv)</source>
-        <translation type="unfinished">Tablas CSV (*.csv)</translation>
+        <translation>Tablas CSV (*.csv)</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were written to %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Se ha escrito %n mensaje en %1.</numerusform>
+            <numerusform>Se han escrito %n mensajes en %1.</numerusform>
         </translation>
     </message>
     <message>
         <source>The messages could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han podido escribir los mensajes: %1</translation>
     </message>
     <message>
         <source>Import messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar mensajes</translation>
     </message>
     <message>
         <source>Exported messages (*.csv *.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensajes exportados (*.csv *.json)</translation>
     </message>
     <message>
         <source>The file holds no messages that can be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no contiene mensajes que se puedan leer.</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were added.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Se ha añadido %n mensaje.</numerusform>
+            <numerusform>Se han añadido %n mensajes.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n were here already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ya estaba aquí.</numerusform>
+            <numerusform>%n ya estaban aquí.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n no se ha podido leer.</numerusform>
+            <numerusform>%n no se han podido leer.</numerusform>
         </translation>
     </message>
 </context>

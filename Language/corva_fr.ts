@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Sent successfully %1,failed %2</source>
-        <translation>Envois réussis : %1, échecs : %2</translation>
+        <translation>Envois réussis&#xa0;: %1, échecs&#xa0;: %2</translation>
     </message>
     <message>
         <source>Select &amp;all</source>
@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>&amp;Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importer…</translation>
     </message>
     <message>
         <source>&amp;Undo deleting</source>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>%1: %2 of %3 places are used. When it is full, no message can come in.</source>
-        <translation>%1 : %2 emplacements sur %3 sont utilisés. Une fois la mémoire pleine, aucun message ne peut arriver.</translation>
+        <translation>%1&#xa0;: %2 emplacements sur %3 sont utilisés. Une fois la mémoire pleine, aucun message ne peut arriver.</translation>
     </message>
     <message>
         <source>Messages</source>
@@ -178,7 +178,7 @@
     <name>Channels</name>
     <message>
         <source>&quot;%1&quot; is no channel. Channels are numbers from 0 to 65535, or ranges as 10-15.</source>
-        <translation>« %1 » n’est pas un canal. Les canaux sont des nombres de 0 à 65535, ou des plages comme 10-15.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un canal. Les canaux sont des nombres de 0 à 65535, ou des plages comme 10-15.</translation>
     </message>
     <message>
         <source>These are more than %1 channels.</source>
@@ -397,7 +397,7 @@
     </message>
     <message>
         <source>The message could not be delivered yet; the network goes on trying.</source>
-        <translation>Le message n’a pas encore pu être remis ; le réseau continue d’essayer.</translation>
+        <translation>Le message n’a pas encore pu être remis&#xa0;; le réseau continue d’essayer.</translation>
     </message>
     <message>
         <source>The recipient&apos;s device cannot take the message.</source>
@@ -425,7 +425,7 @@
     </message>
     <message>
         <source>The card says: %1</source>
-        <translation>La carte indique : %1</translation>
+        <translation>La carte indique&#xa0;: %1</translation>
     </message>
     <message>
         <source>The card refuses, with the code %1.</source>
@@ -750,15 +750,15 @@
     <name>MessageCounter</name>
     <message>
         <source>Symbol: %1 /%2</source>
-        <translation>Caractères : %1 /%2</translation>
+        <translation>Caractères&#xa0;: %1 /%2</translation>
     </message>
     <message>
         <source>The message is too long: it may have %1 parts.</source>
-        <translation>Le message est trop long : il peut avoir %1 parties.</translation>
+        <translation>Le message est trop long&#xa0;: il peut avoir %1 parties.</translation>
     </message>
     <message>
         <source>Because of &quot;%1&quot; a message holds 70 characters instead of 160.</source>
-        <translation>À cause de « %1 », un message contient 70 caractères au lieu de 160.</translation>
+        <translation>À cause de «&#xa0;%1&#xa0;», un message contient 70 caractères au lieu de 160.</translation>
     </message>
     <message>
         <source>National letters leave 155 characters of 160.</source>
@@ -874,7 +874,7 @@
     </message>
     <message>
         <source>Part %1: %2</source>
-        <translation>Partie %1 : %2</translation>
+        <translation>Partie %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1. %2</source>
@@ -1374,7 +1374,7 @@
     </message>
     <message>
         <source>The message cannot be read: %1 (%2, octet %3).</source>
-        <translation>Le message ne peut pas être lu : %1 (%2, octet %3).</translation>
+        <translation>Le message ne peut pas être lu&#xa0;: %1 (%2, octet %3).</translation>
     </message>
 </context>
 <context>
@@ -1588,15 +1588,15 @@
     <name>Recipients</name>
     <message>
         <source>&quot;%1&quot; is no number: &quot;%2&quot; cannot be dialled.</source>
-        <translation>« %1 » n’est pas un numéro : « %2 » ne peut pas être composé.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un numéro&#xa0;: «&#xa0;%2&#xa0;» ne peut pas être composé.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number: the digits are missing.</source>
-        <translation>« %1 » n’est pas un numéro : il manque les chiffres.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un numéro&#xa0;: il manque les chiffres.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is too long: a number has %2 characters at most.</source>
-        <translation>« %1 » est trop long : un numéro a %2 caractères au plus.</translation>
+        <translation>«&#xa0;%1&#xa0;» est trop long&#xa0;: un numéro a %2 caractères au plus.</translation>
     </message>
 </context>
 <context>
@@ -1681,11 +1681,11 @@
     </message>
     <message>
         <source>The card does not exchange messages as PDUs: %1</source>
-        <translation>La carte n’échange pas les messages sous forme de PDU : %1</translation>
+        <translation>La carte n’échange pas les messages sous forme de PDU&#xa0;: %1</translation>
     </message>
     <message>
         <source>New messages will not be announced: %1</source>
-        <translation>Les nouveaux messages ne seront pas annoncés : %1</translation>
+        <translation>Les nouveaux messages ne seront pas annoncés&#xa0;: %1</translation>
     </message>
     <message>
         <source>The message has no content that the card could keep.</source>
@@ -2064,11 +2064,11 @@
     </message>
     <message>
         <source>The SIM&apos;s memory for messages is nearly full: %1</source>
-        <translation>La mémoire des messages de la carte SIM est presque pleine : %1</translation>
+        <translation>La mémoire des messages de la carte SIM est presque pleine&#xa0;: %1</translation>
     </message>
     <message>
         <source>The card&apos;s memory for messages is nearly full: %1</source>
-        <translation>La mémoire des messages de la carte est presque pleine : %1</translation>
+        <translation>La mémoire des messages de la carte est presque pleine&#xa0;: %1</translation>
     </message>
     <message>
         <source>There is no card that takes messages.</source>
@@ -2088,11 +2088,11 @@
     </message>
     <message>
         <source>The message was not written to the SIM: %1</source>
-        <translation>Le message n’a pas été écrit sur la carte SIM : %1</translation>
+        <translation>Le message n’a pas été écrit sur la carte SIM&#xa0;: %1</translation>
     </message>
     <message>
         <source>The message was not written to the card: %1</source>
-        <translation>Le message n’a pas été écrit sur la carte : %1</translation>
+        <translation>Le message n’a pas été écrit sur la carte&#xa0;: %1</translation>
     </message>
     <message>
         <source>A message could not be deleted from the card. It is kept on the computer as well.</source>
@@ -2241,7 +2241,7 @@
     <message>
         <source>%1 :
  %2</source>
-        <translation>%1 :
+        <translation>%1&#xa0;:
  %2</translation>
     </message>
     <message numerus="yes">
@@ -2320,7 +2320,7 @@
     </message>
     <message>
         <source>The templates could not be stored: %1</source>
-        <translation>Les modèles n’ont pas pu être enregistrés : %1</translation>
+        <translation>Les modèles n’ont pas pu être enregistrés&#xa0;: %1</translation>
     </message>
     <message>
         <source>&amp;Keep this text as a template</source>
@@ -3208,7 +3208,7 @@ au %2</translation>
     </message>
     <message>
         <source>E&amp;xport…</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xporter…</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
@@ -3239,8 +3239,8 @@ au %2</translation>
     <message numerus="yes">
         <source>Delete %n messages for good?</source>
         <translation>
-            <numerusform>Supprimer définitivement %n message ?</numerusform>
-            <numerusform>Supprimer définitivement %n messages ?</numerusform>
+            <numerusform>Supprimer définitivement %n message&#xa0;?</numerusform>
+            <numerusform>Supprimer définitivement %n messages&#xa0;?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3303,7 +3303,7 @@ au %2</translation>
     </message>
     <message>
         <source>Reading the %1…</source>
-        <translation>Lecture en cours : %1…</translation>
+        <translation>Lecture en cours&#xa0;: %1…</translation>
     </message>
     <message>
         <source>No message is kept there.</source>
@@ -3311,7 +3311,7 @@ au %2</translation>
     </message>
     <message>
         <source>It was not read yet. Is a card plugged in?</source>
-        <translation>La lecture n’a pas encore eu lieu. Une carte est-elle branchée ?</translation>
+        <translation>La lecture n’a pas encore eu lieu. Une carte est-elle branchée&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -3337,65 +3337,65 @@ au %2</translation>
     </message>
     <message>
         <source>Sent successfully %1,failed %2</source>
-        <translation>Envois réussis : %1, échecs : %2</translation>
+        <translation>Envois réussis&#xa0;: %1, échecs&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>corva::MessageExchange</name>
     <message>
         <source>Export messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter les messages</translation>
     </message>
     <message>
         <source>CSV tables (*.csv)</source>
-        <translation type="unfinished">Tableaux CSV (*.csv)</translation>
+        <translation>Tableaux CSV (*.csv)</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were written to %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n message a été écrit dans %1.</numerusform>
+            <numerusform>%n messages ont été écrits dans %1.</numerusform>
         </translation>
     </message>
     <message>
         <source>The messages could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Les messages n’ont pas pu être écrits : %1</translation>
     </message>
     <message>
         <source>Import messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer des messages</translation>
     </message>
     <message>
         <source>Exported messages (*.csv *.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Messages exportés (*.csv *.json)</translation>
     </message>
     <message>
         <source>The file holds no messages that can be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne contient aucun message lisible.</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were added.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n message a été ajouté.</numerusform>
+            <numerusform>%n messages ont été ajoutés.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n were here already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n était déjà là.</numerusform>
+            <numerusform>%n étaient déjà là.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n n’a pas pu être lu.</numerusform>
+            <numerusform>%n n’ont pas pu être lus.</numerusform>
         </translation>
     </message>
 </context>
@@ -3410,7 +3410,7 @@ au %2</translation>
     <name>corva::MessageService</name>
     <message>
         <source>The card did not take the broadcast channels: %1</source>
-        <translation>La carte n’a pas accepté les canaux de diffusion : %1</translation>
+        <translation>La carte n’a pas accepté les canaux de diffusion&#xa0;: %1</translation>
     </message>
     <message>
         <source>The text is too long for one message.</source>
@@ -3418,7 +3418,7 @@ au %2</translation>
     </message>
     <message>
         <source>The service centre&apos;s number was not stored: %1</source>
-        <translation>Le numéro du centre de messagerie n’a pas été enregistré : %1</translation>
+        <translation>Le numéro du centre de messagerie n’a pas été enregistré&#xa0;: %1</translation>
     </message>
     <message>
         <source>The card is gone.</source>
@@ -3682,7 +3682,7 @@ au %2</translation>
     </message>
     <message>
         <source>Copy %1</source>
-        <translation>Copier « %1 »</translation>
+        <translation>Copier «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -3818,27 +3818,27 @@ au %2</translation>
     </message>
     <message>
         <source>This message cannot be read: %1</source>
-        <translation>Ce message ne peut pas être lu : %1</translation>
+        <translation>Ce message ne peut pas être lu&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 parts are here. The others are added when they come.</source>
-        <translation>Parties reçues : %1. Les autres s’ajouteront à leur arrivée.</translation>
+        <translation>Parties reçues&#xa0;: %1. Les autres s’ajouteront à leur arrivée.</translation>
     </message>
     <message>
         <source>Service centre: %1</source>
-        <translation>Centre de messagerie : %1</translation>
+        <translation>Centre de messagerie&#xa0;: %1</translation>
     </message>
     <message>
         <source>Arrived: %1</source>
-        <translation>Arrivé : %1</translation>
+        <translation>Arrivé&#xa0;: %1</translation>
     </message>
     <message>
         <source>Channel: %1</source>
-        <translation>Canal : %1</translation>
+        <translation>Canal&#xa0;: %1</translation>
     </message>
     <message>
         <source>Part %1: %2</source>
-        <translation>Partie %1 : %2</translation>
+        <translation>Partie %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>It did not travel yet.</source>
@@ -3865,7 +3865,7 @@ au %2</translation>
     </message>
     <message>
         <source>Do you want to cancel sending the rest SMS?</source>
-        <translation>Voulez-vous annuler l’envoi des SMS restants ?</translation>
+        <translation>Voulez-vous annuler l’envoi des SMS restants&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -3888,7 +3888,7 @@ au %2</translation>
     </message>
     <message>
         <source>The message to %1 was not sent: %2</source>
-        <translation>Le message à %1 n’a pas été envoyé : %2</translation>
+        <translation>Le message à %1 n’a pas été envoyé&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -3903,7 +3903,7 @@ au %2</translation>
     </message>
     <message>
         <source>Every message goes through the operator&apos;s service centre. Its number is on the SIM card; change it only when your operator asks you to.</source>
-        <translation>Chaque message passe par le centre de messagerie de l’opérateur. Son numéro se trouve sur la carte SIM ; ne le modifiez que si votre opérateur vous le demande.</translation>
+        <translation>Chaque message passe par le centre de messagerie de l’opérateur. Son numéro se trouve sur la carte SIM&#xa0;; ne le modifiez que si votre opérateur vous le demande.</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -3940,7 +3940,7 @@ au %2</translation>
     <name>corva::SmsReception</name>
     <message>
         <source>A new message could not be read from the card: %1</source>
-        <translation>Un nouveau message n’a pas pu être lu sur la carte : %1</translation>
+        <translation>Un nouveau message n’a pas pu être lu sur la carte&#xa0;: %1</translation>
     </message>
     <message>
         <source>A new message could not be written to disk and stays on the card.</source>
@@ -3948,15 +3948,15 @@ au %2</translation>
     </message>
     <message>
         <source>A delivery report could not be read from the card: %1</source>
-        <translation>Un accusé de réception n’a pas pu être lu sur la carte : %1</translation>
+        <translation>Un accusé de réception n’a pas pu être lu sur la carte&#xa0;: %1</translation>
     </message>
     <message>
         <source>Message was successfully sent to %1, in %2,at %3</source>
-        <translation>Message bien remis à %1, envoyé : %2, remis : %3</translation>
+        <translation>Message bien remis à %1, envoyé&#xa0;: %2, remis&#xa0;: %3</translation>
     </message>
     <message>
         <source>The message to %1: %2</source>
-        <translation>Le message à %1 : %2</translation>
+        <translation>Le message à %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -4035,11 +4035,11 @@ au %2</translation>
     </message>
     <message>
         <source>Received: %1, %2</source>
-        <translation>Reçu : %1, %2</translation>
+        <translation>Reçu&#xa0;: %1, %2</translation>
     </message>
     <message>
         <source>Written: %1, %2</source>
-        <translation>Écrit : %1, %2</translation>
+        <translation>Écrit&#xa0;: %1, %2</translation>
     </message>
 </context>
 <context>

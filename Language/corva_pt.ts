@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>&amp;Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importar…</translation>
     </message>
     <message>
         <source>&amp;Undo deleting</source>
@@ -3208,7 +3208,7 @@ a %2</translation>
     </message>
     <message>
         <source>E&amp;xport…</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xportar…</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
@@ -3344,58 +3344,58 @@ a %2</translation>
     <name>corva::MessageExchange</name>
     <message>
         <source>Export messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar mensagens</translation>
     </message>
     <message>
         <source>CSV tables (*.csv)</source>
-        <translation type="unfinished">Tabelas CSV (*.csv)</translation>
+        <translation>Tabelas CSV (*.csv)</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were written to %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n mensagem foi escrita em %1.</numerusform>
+            <numerusform>%n mensagens foram escritas em %1.</numerusform>
         </translation>
     </message>
     <message>
         <source>The messages could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível escrever as mensagens: %1</translation>
     </message>
     <message>
         <source>Import messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar mensagens</translation>
     </message>
     <message>
         <source>Exported messages (*.csv *.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensagens exportadas (*.csv *.json)</translation>
     </message>
     <message>
         <source>The file holds no messages that can be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>O ficheiro não contém mensagens que possam ser lidas.</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were added.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n mensagem foi adicionada.</numerusform>
+            <numerusform>%n mensagens foram adicionadas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n were here already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n já estava aqui.</numerusform>
+            <numerusform>%n já estavam aqui.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n não pôde ser lida.</numerusform>
+            <numerusform>%n não puderam ser lidas.</numerusform>
         </translation>
     </message>
 </context>

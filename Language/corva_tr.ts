@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>&amp;Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;İçe aktar…</translation>
     </message>
     <message>
         <source>&amp;Undo deleting</source>
@@ -58,7 +58,6 @@
     <message numerus="yes">
         <source>%n messages are chosen.</source>
         <translation>
-            <numerusform>%n mesaj seçildi.</numerusform>
             <numerusform>%n mesaj seçildi.</numerusform>
         </translation>
     </message>
@@ -2247,7 +2246,6 @@
         <source>%n more</source>
         <translation>
             <numerusform>%n tane daha</numerusform>
-            <numerusform>%n tane daha</numerusform>
         </translation>
     </message>
     <message>
@@ -2740,7 +2738,6 @@
         <source>%1, %n unread</source>
         <translation>
             <numerusform>%1, %n okunmamış</numerusform>
-            <numerusform>%1, %n okunmamış</numerusform>
         </translation>
     </message>
 </context>
@@ -3205,7 +3202,7 @@ Bitiş: %2</translation>
     </message>
     <message>
         <source>E&amp;xport…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dışa aktar…</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
@@ -3214,7 +3211,6 @@ Bitiş: %2</translation>
     <message numerus="yes">
         <source>De&amp;lete %n messages</source>
         <translation>
-            <numerusform>%n mesajı &amp;sil</numerusform>
             <numerusform>%n mesajı &amp;sil</numerusform>
         </translation>
     </message>
@@ -3230,20 +3226,17 @@ Bitiş: %2</translation>
         <source>%n messages were deleted.</source>
         <translation>
             <numerusform>%n mesaj silindi.</numerusform>
-            <numerusform>%n mesaj silindi.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n messages for good?</source>
         <translation>
             <numerusform>%n mesaj kalıcı olarak silinsin mi?</numerusform>
-            <numerusform>%n mesaj kalıcı olarak silinsin mi?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n &amp;messages</source>
         <translation>
-            <numerusform>%n m&amp;esajı sil</numerusform>
             <numerusform>%n m&amp;esajı sil</numerusform>
         </translation>
     </message>
@@ -3317,7 +3310,6 @@ Bitiş: %2</translation>
         <source>%n messages are unread.</source>
         <translation>
             <numerusform>%n okunmamış mesaj var.</numerusform>
-            <numerusform>%n okunmamış mesaj var.</numerusform>
         </translation>
     </message>
     <message>
@@ -3341,54 +3333,58 @@ Bitiş: %2</translation>
     <name>corva::MessageExchange</name>
     <message>
         <source>Export messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesajları dışa aktar</translation>
     </message>
     <message>
         <source>CSV tables (*.csv)</source>
-        <translation type="unfinished">CSV tabloları (*.csv)</translation>
+        <translation>CSV tabloları (*.csv)</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were written to %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n mesaj %1 dosyasına yazıldı.</numerusform>
+            <numerusform>%n mesaj %1 dosyasına yazıldı.</numerusform>
         </translation>
     </message>
     <message>
         <source>The messages could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesajlar yazılamadı: %1</translation>
     </message>
     <message>
         <source>Import messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesajları içe aktar</translation>
     </message>
     <message>
         <source>Exported messages (*.csv *.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dışa aktarılmış mesajlar (*.csv *.json)</translation>
     </message>
     <message>
         <source>The file holds no messages that can be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dosyada okunabilen mesaj yok.</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were added.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n mesaj eklendi.</numerusform>
+            <numerusform>%n mesaj eklendi.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n were here already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n mesaj zaten buradaydı.</numerusform>
+            <numerusform>%n mesaj zaten buradaydı.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n could not be read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n mesaj okunamadı.</numerusform>
+            <numerusform>%n mesaj okunamadı.</numerusform>
         </translation>
     </message>
 </context>
