@@ -3363,7 +3363,7 @@ au %2</translation>
     </message>
     <message>
         <source>The messages could not be written: %1</source>
-        <translation>Les messages n’ont pas pu être écrits : %1</translation>
+        <translation>Les messages n’ont pas pu être écrits&#xa0;: %1</translation>
     </message>
     <message>
         <source>Import messages</source>

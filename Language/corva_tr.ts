@@ -3347,7 +3347,6 @@ Bitiş: %2</translation>
         <source>%n messages were written to %1.</source>
         <translation>
             <numerusform>%n mesaj %1 dosyasına yazıldı.</numerusform>
-            <numerusform>%n mesaj %1 dosyasına yazıldı.</numerusform>
         </translation>
     </message>
     <message>
@@ -3370,20 +3369,17 @@ Bitiş: %2</translation>
         <source>%n messages were added.</source>
         <translation>
             <numerusform>%n mesaj eklendi.</numerusform>
-            <numerusform>%n mesaj eklendi.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n were here already.</source>
         <translation>
             <numerusform>%n mesaj zaten buradaydı.</numerusform>
-            <numerusform>%n mesaj zaten buradaydı.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n could not be read.</source>
         <translation>
-            <numerusform>%n mesaj okunamadı.</numerusform>
             <numerusform>%n mesaj okunamadı.</numerusform>
         </translation>
     </message>
