@@ -169,8 +169,9 @@ private Q_SLOTS:
 
     void tooManyPartsAreSeen()
     {
-        QVERIFY(splitText(QString(255 * 153, u'a'), {}).isSendable());
-        QVERIFY(!splitText(QString(255 * 153 + 1, u'a'), {}).isSendable());
+        constexpr qsizetype fullest = qsizetype(255) * 153;
+        QVERIFY(splitText(QString(fullest, u'a'), {}).isSendable());
+        QVERIFY(!splitText(QString(fullest + 1, u'a'), {}).isSendable());
     }
 
     void specialCode_data()
