@@ -194,7 +194,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("written");
         QTest::addColumn<std::optional<QString>>("sendable");
-        const auto row = [](const char *name, const QString &written, std::optional<QString> sendable = {}) {
+        const auto row = [](const char *name, const QString &written,
+                            const std::optional<QString> &sendable = {}) {
             QTest::newRow(name) << written << sendable;
         };
         row("as people write it", u" +49 (171) 12-34.5 "_s, u"+4917112345"_s);
