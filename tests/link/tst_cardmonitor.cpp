@@ -10,6 +10,7 @@
 #include <QJsonArray>
 #include <QSignalSpy>
 #include <QTest>
+#include <atomic>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -31,7 +32,7 @@ private Q_SLOTS:
         cmcfg.setValue(u"device"_s, u"at_port"_s, m_folder.path() + u"/card/at"_s);
         cmcfg.setValue(u"device"_s, u"modem_port"_s, m_folder.path() + u"/card/modem"_s);
         cmcfg.setValue(u"network_dialer_setting"_s, u"send_nullatcommand_timer_100ms"_s, u"10"_s);
-        m_owner.onFind = [this] { m_monitor->findPorts(false); };
+        m_owner.onFind = [this] { m_searcher.load()->findPorts(false); };
         const CardMonitor opensWhatStaysOpen(&m_owner); // the bus of the session manager, and the like
     }
     void init()
@@ -231,6 +232,7 @@ private:
     void startMonitor()
     {
         m_monitor = std::make_unique<CardMonitor>(&m_owner);
+        m_searcher = m_monitor.get();
         m_monitor->start();
     }
     void tell(const QByteArray &json)
@@ -252,6 +254,8 @@ private:
     FakeOwner m_owner;
     std::unique_ptr<cardemu::CardThread> m_card;
     std::unique_ptr<CardMonitor> m_monitor;
+    std::atomic<CardMonitor *> m_searcher =
+        nullptr; ///< what the link's thread asks, also while it is destroyed
     qsizetype m_descriptors = 0;
 };
 
