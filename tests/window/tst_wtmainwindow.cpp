@@ -254,7 +254,7 @@ private Q_SLOTS:
         fakecard::takeCalls();
         QTest::keyClick(m_window.get(), Qt::Key_1, Qt::ControlModifier);
         QVERIFY(shown<Page>(m_window.get(), u"connection"_s));
-        QTest::keyClick(m_window.get(), Qt::Key_2, Qt::ControlModifier);
+        QTest::keyClick(m_window.get(), Qt::Key_3, Qt::ControlModifier);
         QVERIFY(shown<Page>(m_window.get(), u"card"_s));
         QTest::keyClick(m_window.get(), Qt::Key_F5);
         QCOMPARE(fakecard::takeCalls(), QStringList{u"refreshNow"_s});
@@ -294,7 +294,7 @@ private Q_SLOTS:
     {
         m_window->show();
         fakecard::put(fakecard::registeredCard());
-        for (const auto &page : {u"settings"_s, u"card"_s, u"connection"_s}) {
+        for (const auto &page : {u"settings"_s, u"messages"_s, u"card"_s, u"connection"_s}) {
             m_window->showPage(page);
             for (const QWidget *widget : m_window->findChildren<QWidget *>())
                 if (widget->isVisible() && widget->focusPolicy() & Qt::TabFocus) {
