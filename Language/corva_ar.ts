@@ -2,6 +2,96 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar" sourcelanguage="en">
 <context>
+    <name>CShortMsg</name>
+    <message>
+        <source>&amp;New message</source>
+        <translation>رسالة &amp;جديدة</translation>
+    </message>
+    <message>
+        <source>M&amp;ore</source>
+        <translation>ال&amp;مزيد</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>New message</source>
+        <translation>رسالة جديدة</translation>
+    </message>
+    <message>
+        <source>Search all messages</source>
+        <translation>البحث في كل الرسائل</translation>
+    </message>
+    <message>
+        <source>Search (%1)</source>
+        <translation>بحث (%1)</translation>
+    </message>
+    <message>
+        <source>Sent successfully %1,failed %2</source>
+        <translation>أُرسل بنجاح: %1، فشل: %2</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>ت&amp;حديد الكل</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>ا&amp;ستيراد…</translation>
+    </message>
+    <message>
+        <source>&amp;Undo deleting</source>
+        <translation>تراجع &amp;عن الحذف</translation>
+    </message>
+    <message>
+        <source>Read the SIM and the data card ane&amp;w</source>
+        <translation>إعادة &amp;قراءة شريحة SIM وبطاقة البيانات</translation>
+    </message>
+    <message>
+        <source>&amp;Service centre…</source>
+        <translation>م&amp;ركز الخدمة…</translation>
+    </message>
+    <message>
+        <source>Choose a message to read it, or write one with Ctrl+N.</source>
+        <translation>اختر رسالة لقراءتها، أو اكتب رسالة باستخدام ‪Ctrl+N‬.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages are chosen.</source>
+        <translation>
+            <numerusform>لم تُحدَّد أي رسالة.</numerusform>
+            <numerusform>حُدِّدت رسالة واحدة.</numerusform>
+            <numerusform>حُدِّدت رسالتان.</numerusform>
+            <numerusform>حُدِّدت %n رسائل.</numerusform>
+            <numerusform>حُدِّدت %n رسالة.</numerusform>
+            <numerusform>حُدِّدت %n رسالة.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The draft was deleted.</source>
+        <translation>حُذفت المسودة.</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;تراجع</translation>
+    </message>
+    <message>
+        <source>There is nothing to bring back.</source>
+        <translation>لا يوجد ما يمكن استرجاعه.</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>إعادة المحا&amp;ولة</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 places are used. When it is full, no message can come in.</source>
+        <translation>%1: الأماكن المستخدمة %2 من %3. عند الامتلاء لا يمكن استقبال أي رسالة.</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>الرسائل</translation>
+    </message>
+</context>
+<context>
     <name>CardStatus</name>
     <message>
         <source>Ready</source>
@@ -86,6 +176,268 @@
     <message>
         <source>, </source>
         <translation>، </translation>
+    </message>
+</context>
+<context>
+    <name>Channels</name>
+    <message>
+        <source>&quot;%1&quot; is no channel. Channels are numbers from 0 to 65535, or ranges as 10-15.</source>
+        <translation>‪&quot;%1&quot;‬ ليست قناة. القنوات أرقام من 0 إلى 65535، أو نطاقات مثل ‪10-15‬.</translation>
+    </message>
+    <message>
+        <source>These are more than %1 channels.</source>
+        <translation>عدد القنوات أكثر من %1.</translation>
+    </message>
+</context>
+<context>
+    <name>CmsErrors</name>
+    <message>
+        <source>The number does not exist.</source>
+        <translation>الرقم غير موجود.</translation>
+    </message>
+    <message>
+        <source>The operator has barred messages for this SIM.</source>
+        <translation>حظر المشغّل الرسائل على شريحة SIM هذه.</translation>
+    </message>
+    <message>
+        <source>Sending is barred.</source>
+        <translation>الإرسال محظور.</translation>
+    </message>
+    <message>
+        <source>The network failed.</source>
+        <translation>حدث عطل في الشبكة.</translation>
+    </message>
+    <message>
+        <source>The network rejected the message.</source>
+        <translation>رفضت الشبكة الرسالة.</translation>
+    </message>
+    <message>
+        <source>The memory for messages is full.</source>
+        <translation>ذاكرة الرسائل ممتلئة.</translation>
+    </message>
+    <message>
+        <source>The recipient cannot be reached.</source>
+        <translation>يتعذر الوصول إلى المستلم.</translation>
+    </message>
+    <message>
+        <source>The network does not know this SIM.</source>
+        <translation>لا تعرف الشبكة شريحة SIM هذه.</translation>
+    </message>
+    <message>
+        <source>The network does not offer this service.</source>
+        <translation>لا تقدّم الشبكة هذه الخدمة.</translation>
+    </message>
+    <message>
+        <source>The network is out of order.</source>
+        <translation>الشبكة معطّلة.</translation>
+    </message>
+    <message>
+        <source>The network failed for the moment.</source>
+        <translation>حدث عطل مؤقت في الشبكة.</translation>
+    </message>
+    <message>
+        <source>The network is overloaded.</source>
+        <translation>الشبكة مثقلة بالحمل.</translation>
+    </message>
+    <message>
+        <source>The network has no room for the message.</source>
+        <translation>لا متسع للرسالة في الشبكة.</translation>
+    </message>
+    <message>
+        <source>Messages are not part of this subscription.</source>
+        <translation>الرسائل ليست ضمن هذا الاشتراك.</translation>
+    </message>
+    <message>
+        <source>The network did not understand the message.</source>
+        <translation>لم تفهم الشبكة الرسالة.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s network failed.</source>
+        <translation>حدث عطل في شبكة المستلم.</translation>
+    </message>
+    <message>
+        <source>This kind of message is not supported.</source>
+        <translation>هذا النوع من الرسائل غير مدعوم.</translation>
+    </message>
+    <message>
+        <source>The message cannot replace another one.</source>
+        <translation>لا يمكن للرسالة أن تحل محل رسالة أخرى.</translation>
+    </message>
+    <message>
+        <source>The message&apos;s alphabet is not supported.</source>
+        <translation>أبجدية الرسالة غير مدعومة.</translation>
+    </message>
+    <message>
+        <source>The service centre refused the command.</source>
+        <translation>رفض مركز الخدمة الأمر.</translation>
+    </message>
+    <message>
+        <source>The service centre is busy.</source>
+        <translation>مركز الخدمة مشغول.</translation>
+    </message>
+    <message>
+        <source>The service centre does not serve this SIM.</source>
+        <translation>لا يخدم مركز الخدمة شريحة SIM هذه.</translation>
+    </message>
+    <message>
+        <source>The service centre failed.</source>
+        <translation>حدث عطل في مركز الخدمة.</translation>
+    </message>
+    <message>
+        <source>The number is not valid.</source>
+        <translation>الرقم غير صالح.</translation>
+    </message>
+    <message>
+        <source>The recipient is barred.</source>
+        <translation>المستلم محظور.</translation>
+    </message>
+    <message>
+        <source>The service centre has this message already.</source>
+        <translation>الرسالة موجودة في مركز الخدمة من قبل.</translation>
+    </message>
+    <message>
+        <source>The service centre refuses the validity period.</source>
+        <translation>يرفض مركز الخدمة مدة الصلاحية.</translation>
+    </message>
+    <message>
+        <source>The SIM&apos;s memory for messages is full.</source>
+        <translation>ذاكرة الرسائل في شريحة SIM ممتلئة.</translation>
+    </message>
+    <message>
+        <source>The SIM cannot hold messages.</source>
+        <translation>لا يمكن لشريحة SIM حفظ الرسائل.</translation>
+    </message>
+    <message>
+        <source>The card failed.</source>
+        <translation>حدث عطل في البطاقة.</translation>
+    </message>
+    <message>
+        <source>The SIM is busy.</source>
+        <translation>شريحة SIM مشغولة.</translation>
+    </message>
+    <message>
+        <source>The SIM failed.</source>
+        <translation>حدث عطل في شريحة SIM.</translation>
+    </message>
+    <message>
+        <source>The card&apos;s message service is in use.</source>
+        <translation>خدمة الرسائل في البطاقة مستخدمة الآن.</translation>
+    </message>
+    <message>
+        <source>The card does not allow this now.</source>
+        <translation>لا تسمح البطاقة بهذا الآن.</translation>
+    </message>
+    <message>
+        <source>The card cannot do this.</source>
+        <translation>لا تستطيع البطاقة القيام بهذا.</translation>
+    </message>
+    <message>
+        <source>The card did not understand the message.</source>
+        <translation>لم تفهم البطاقة الرسالة.</translation>
+    </message>
+    <message>
+        <source>There is no SIM in the card.</source>
+        <translation>لا توجد شريحة SIM في البطاقة.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN.</source>
+        <translation>تطلب شريحة SIM رمز PIN.</translation>
+    </message>
+    <message>
+        <source>The card asks for its own PIN.</source>
+        <translation>تطلب البطاقة رمز PIN الخاص بها.</translation>
+    </message>
+    <message>
+        <source>This SIM does not fit the card.</source>
+        <translation>شريحة SIM هذه لا تناسب البطاقة.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK.</source>
+        <translation>تطلب شريحة SIM رمز PUK.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN2.</source>
+        <translation>تطلب شريحة SIM رمز PIN2.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK2.</source>
+        <translation>تطلب شريحة SIM رمز PUK2.</translation>
+    </message>
+    <message>
+        <source>The memory for messages failed.</source>
+        <translation>حدث عطل في ذاكرة الرسائل.</translation>
+    </message>
+    <message>
+        <source>There is no message at this place.</source>
+        <translation>لا توجد رسالة في هذا المكان.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number is not known.</source>
+        <translation>رقم مركز الخدمة غير معروف.</translation>
+    </message>
+    <message>
+        <source>There is no network.</source>
+        <translation>لا توجد شبكة.</translation>
+    </message>
+    <message>
+        <source>The network did not answer in time.</source>
+        <translation>لم تُجب الشبكة في الوقت المناسب.</translation>
+    </message>
+    <message>
+        <source>The card expected no confirmation.</source>
+        <translation>لم تكن البطاقة تنتظر تأكيدًا.</translation>
+    </message>
+    <message>
+        <source>The card does not say why.</source>
+        <translation>لا تذكر البطاقة السبب.</translation>
+    </message>
+    <message>
+        <source>The message was delivered.</source>
+        <translation>سُلّمت الرسالة.</translation>
+    </message>
+    <message>
+        <source>The message was replaced by a newer one.</source>
+        <translation>حلّت رسالة أحدث محل هذه الرسالة.</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered yet; the network goes on trying.</source>
+        <translation>لم يمكن تسليم الرسالة بعد؛ تواصل الشبكة المحاولة.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device cannot take the message.</source>
+        <translation>لا يستطيع جهاز المستلم استقبال الرسالة.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device refused the message.</source>
+        <translation>رفض جهاز المستلم الرسالة.</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered in time.</source>
+        <translation>تعذّر تسليم الرسالة ضمن المهلة.</translation>
+    </message>
+    <message>
+        <source>The message was deleted before it was delivered.</source>
+        <translation>حُذفت الرسالة قبل تسليمها.</translation>
+    </message>
+    <message>
+        <source>The service centre does not know the message.</source>
+        <translation>لا يعرف مركز الخدمة هذه الرسالة.</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered.</source>
+        <translation>تعذّر تسليم الرسالة.</translation>
+    </message>
+    <message>
+        <source>The card says: %1</source>
+        <translation>تقول البطاقة: ‪%1‬</translation>
+    </message>
+    <message>
+        <source>The card refuses, with the code %1.</source>
+        <translation>ترفض البطاقة، والرمز هو %1.</translation>
+    </message>
+    <message>
+        <source>The card refuses, without saying why.</source>
+        <translation>ترفض البطاقة دون ذكر السبب.</translation>
     </message>
 </context>
 <context>
@@ -399,6 +751,174 @@
     </message>
 </context>
 <context>
+    <name>MessageCounter</name>
+    <message>
+        <source>Symbol: %1 /%2</source>
+        <translation>الأحرف: %1 /%2</translation>
+    </message>
+    <message>
+        <source>The message is too long: it may have %1 parts.</source>
+        <translation>الرسالة طويلة جدًا: الحد الأقصى لعدد الأجزاء %1.</translation>
+    </message>
+    <message>
+        <source>Because of &quot;%1&quot; a message holds 70 characters instead of 160.</source>
+        <translation>بسبب &quot;%1&quot; تتسع الرسالة لعدد 70 حرفًا بدلًا من 160.</translation>
+    </message>
+    <message>
+        <source>National letters leave 155 characters of 160.</source>
+        <translation>مع حروف اللغة الوطنية يبقى 155 حرفًا من 160.</translation>
+    </message>
+    <message>
+        <source>It is sent in %1 parts.</source>
+        <translation>تُرسل مجزّأة، وعدد الأجزاء %1.</translation>
+    </message>
+</context>
+<context>
+    <name>MessagePrint</name>
+    <message>
+        <source>From %1, %2</source>
+        <translation>من ⁨%1⁩، %2</translation>
+    </message>
+    <message>
+        <source>To %1, %2</source>
+        <translation>إلى ⁨%1⁩، %2</translation>
+    </message>
+</context>
+<context>
+    <name>MessageStore</name>
+    <message>
+        <source>%1 was empty.</source>
+        <translation>كان %1 فارغًا.</translation>
+    </message>
+    <message>
+        <source>%1 could not be read in full. What stood in it is kept as %2.</source>
+        <translation>تعذّرت قراءة %1 بالكامل. حُفظ ما كان فيه باسم %2.</translation>
+    </message>
+    <message>
+        <source>%1 can neither be read nor moved aside.</source>
+        <translation>لا يمكن قراءة %1 ولا نقله جانبًا.</translation>
+    </message>
+</context>
+<context>
+    <name>MessageTransfer</name>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>تعذّرت قراءة %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file of messages.</source>
+        <translation>%1 ليس ملف رسائل.</translation>
+    </message>
+    <message>
+        <source>The messages of %1 could not be saved.</source>
+        <translation>تعذّر حفظ رسائل %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Messages</name>
+    <message>
+        <source>Inbox</source>
+        <translation>الوارد</translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation>الصادر</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>مُرسلة</translation>
+    </message>
+    <message>
+        <source>Drafts</source>
+        <translation>المسودات</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>المحذوفة</translation>
+    </message>
+    <message>
+        <source>Delivery reports</source>
+        <translation>تقارير التسليم</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>الحاسوب</translation>
+    </message>
+    <message>
+        <source>SIM card</source>
+        <translation>شريحة SIM</translation>
+    </message>
+    <message>
+        <source>Data card</source>
+        <translation>بطاقة البيانات</translation>
+    </message>
+    <message>
+        <source>Waiting to be sent</source>
+        <translation>في انتظار الإرسال</translation>
+    </message>
+    <message>
+        <source>Being sent</source>
+        <translation>قيد الإرسال</translation>
+    </message>
+    <message>
+        <source>Delivered</source>
+        <translation>سُلّمت</translation>
+    </message>
+    <message>
+        <source>Not delivered yet, the network still tries</source>
+        <translation>لم تُسلَّم بعد، ما زالت الشبكة تحاول</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>فشلت</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1، %2</translation>
+    </message>
+    <message>
+        <source>Part %1: %2</source>
+        <translation>الجزء %1: %2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <extracomment>A day without its year, as QDate::toString takes it</extracomment>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>Nobody yet</source>
+        <translation>لا أحد بعد</translation>
+    </message>
+    <message>
+        <source>Unknown sender</source>
+        <translation>مرسل غير معروف</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>، </translation>
+    </message>
+    <message>
+        <source>This message cannot be read</source>
+        <translation>تتعذر قراءة هذه الرسالة</translation>
+    </message>
+    <message>
+        <source>No text</source>
+        <translation>لا نص</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 من %2</translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>أمس</translation>
+    </message>
+</context>
+<context>
     <name>ModeSwitch</name>
     <message>
         <source>The stick is not there any more. Plug it in again.</source>
@@ -493,22 +1013,6 @@
     <message>
         <source>The card is ringing.</source>
         <translation>البطاقة ترنّ.</translation>
-    </message>
-    <message>
-        <source>New message</source>
-        <translation>رسالة جديدة</translation>
-    </message>
-    <message>
-        <source>A new message has arrived on the card</source>
-        <translation>وصلت رسالة جديدة إلى البطاقة</translation>
-    </message>
-    <message>
-        <source>A new message has arrived</source>
-        <translation>وصلت رسالة جديدة</translation>
-    </message>
-    <message>
-        <source>An immediate message has arrived</source>
-        <translation>وصلت رسالة فورية</translation>
     </message>
     <message>
         <source>Another call is waiting.</source>
@@ -831,6 +1335,53 @@
     </message>
 </context>
 <context>
+    <name>PduError</name>
+    <message>
+        <source>there is nothing</source>
+        <translation>لا يوجد شيء</translation>
+    </message>
+    <message>
+        <source>this is no hexadecimal digit</source>
+        <translation>هذا ليس رقمًا ست عشريًا</translation>
+    </message>
+    <message>
+        <source>half an octet is missing</source>
+        <translation>ينقص نصف بايت</translation>
+    </message>
+    <message>
+        <source>the message ends too early</source>
+        <translation>تنتهي الرسالة قبل أوانها</translation>
+    </message>
+    <message>
+        <source>the length goes past the end</source>
+        <translation>الطول يتجاوز النهاية</translation>
+    </message>
+    <message>
+        <source>this is no message of the expected kind</source>
+        <translation>هذه ليست رسالة من النوع المتوقع</translation>
+    </message>
+    <message>
+        <source>the header is longer than the data</source>
+        <translation>الترويسة أطول من البيانات</translation>
+    </message>
+    <message>
+        <source>an element goes past the header</source>
+        <translation>أحد العناصر يتجاوز الترويسة</translation>
+    </message>
+    <message>
+        <source>there can be no such part</source>
+        <translation>لا يمكن أن يوجد جزء كهذا</translation>
+    </message>
+    <message>
+        <source>half a character is missing</source>
+        <translation>ينقص نصف حرف</translation>
+    </message>
+    <message>
+        <source>The message cannot be read: %1 (%2, octet %3).</source>
+        <translation>تتعذر قراءة الرسالة: %1 (‪%2‬، البايت %3).</translation>
+    </message>
+</context>
+<context>
     <name>PortAccess</name>
     <message>
         <source>You may not open %1, which belongs to the group &quot;%2&quot;. Join it with &quot;sudo usermod -aG %2 %3&quot;, then sign out and in again.</source>
@@ -1038,6 +1589,21 @@
     </message>
 </context>
 <context>
+    <name>Recipients</name>
+    <message>
+        <source>&quot;%1&quot; is no number: &quot;%2&quot; cannot be dialled.</source>
+        <translation>‪&quot;%1&quot;‬ ليس رقمًا: لا يمكن طلب ‪&quot;%2&quot;‬.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number: the digits are missing.</source>
+        <translation>‪&quot;%1&quot;‬ ليس رقمًا: لا أرقام فيه.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too long: a number has %2 characters at most.</source>
+        <translation>‪&quot;%1&quot;‬ طويل جدًا: الحد الأقصى للرقم %2 من الأحرف.</translation>
+    </message>
+</context>
+<context>
     <name>SafeFile</name>
     <message>
         <source>The folder %1 cannot be made</source>
@@ -1094,6 +1660,40 @@
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
         <translation>تعذّرت قراءة الألوان في ‪&quot;%1&quot;‬.</translation>
+    </message>
+</context>
+<context>
+    <name>SmsFiling</name>
+    <message>
+        <source>The text is compressed and cannot be shown.</source>
+        <translation>النص مضغوط ولا يمكن عرضه.</translation>
+    </message>
+    <message>
+        <source>The message holds data and no text.</source>
+        <translation>تحوي الرسالة بيانات ولا تحوي نصًا.</translation>
+    </message>
+    <message>
+        <source>The card lists the message without its content.</source>
+        <translation>تُدرج البطاقة الرسالة دون محتواها.</translation>
+    </message>
+</context>
+<context>
+    <name>SmsJobs</name>
+    <message>
+        <source>The card did not answer.</source>
+        <translation>لم تُجب البطاقة.</translation>
+    </message>
+    <message>
+        <source>The card does not exchange messages as PDUs: %1</source>
+        <translation>لا تتبادل البطاقة الرسائل بصيغة PDU: %1</translation>
+    </message>
+    <message>
+        <source>New messages will not be announced: %1</source>
+        <translation>لن يُعلن عن الرسائل الجديدة: %1</translation>
+    </message>
+    <message>
+        <source>The message has no content that the card could keep.</source>
+        <translation>ليس للرسالة محتوى تستطيع البطاقة حفظه.</translation>
     </message>
 </context>
 <context>
@@ -1286,6 +1886,52 @@
     </message>
 </context>
 <context>
+    <name>corva::ActionButton</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::BoxChooser</name>
+    <message>
+        <source>Boxes</source>
+        <translation>الصناديق</translation>
+    </message>
+    <message>
+        <source>Conversations</source>
+        <translation>المحادثات</translation>
+    </message>
+    <message>
+        <source>Broadcasts</source>
+        <translation>رسائل البث</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3</source>
+        <extracomment>What is used of the places of a SIM card: &quot;SIM card, 10 of 20&quot;</extracomment>
+        <translation>%1، %2 من %3</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::BroadcastBar</name>
+    <message>
+        <source>C&amp;hannels</source>
+        <translation>ال&amp;قنوات</translation>
+    </message>
+    <message>
+        <source>Numbers and ranges, as 50, 4370-4372</source>
+        <translation>أرقام ونطاقات، مثل ‪50, 4370-4372‬</translation>
+    </message>
+    <message>
+        <source>L&amp;isten</source>
+        <translation>ا&amp;ستماع</translation>
+    </message>
+</context>
+<context>
     <name>corva::CSetting</name>
     <message>
         <source>Groups of settings</source>
@@ -1415,6 +2061,49 @@
     </message>
 </context>
 <context>
+    <name>corva::CardPlaces</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 من %2</translation>
+    </message>
+    <message>
+        <source>The SIM&apos;s memory for messages is nearly full: %1</source>
+        <translation>ذاكرة الرسائل في شريحة SIM شبه ممتلئة: %1</translation>
+    </message>
+    <message>
+        <source>The card&apos;s memory for messages is nearly full: %1</source>
+        <translation>ذاكرة الرسائل في البطاقة شبه ممتلئة: %1</translation>
+    </message>
+    <message>
+        <source>There is no card that takes messages.</source>
+        <translation>لا توجد بطاقة تقبل الرسائل.</translation>
+    </message>
+    <message>
+        <source>The messages could not be written to disk and stay on the card.</source>
+        <translation>تعذّرت كتابة الرسائل على القرص، فبقيت في البطاقة.</translation>
+    </message>
+    <message>
+        <source>Only short messages can be kept on the card.</source>
+        <translation>لا يمكن أن تُحفظ في البطاقة إلا الرسائل القصيرة.</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>لم تعد البطاقة موجودة.</translation>
+    </message>
+    <message>
+        <source>The message was not written to the SIM: %1</source>
+        <translation>لم تُكتب الرسالة في شريحة SIM: %1</translation>
+    </message>
+    <message>
+        <source>The message was not written to the card: %1</source>
+        <translation>لم تُكتب الرسالة في البطاقة: %1</translation>
+    </message>
+    <message>
+        <source>A message could not be deleted from the card. It is kept on the computer as well.</source>
+        <translation>تعذّر حذف رسالة من البطاقة. وهي محفوظة على الحاسوب أيضًا.</translation>
+    </message>
+</context>
+<context>
     <name>corva::CheckPIN</name>
     <message>
         <source>&amp;Show the digits</source>
@@ -1541,6 +2230,125 @@
     <message>
         <source>&amp;Cancel</source>
         <translation>إل&amp;غاء</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Class0Dialog</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>إ&amp;غلاق</translation>
+    </message>
+    <message>
+        <source>Immediate message</source>
+        <translation>رسالة فورية</translation>
+    </message>
+    <message>
+        <source>&amp;Keep in the inbox</source>
+        <translation>ح&amp;فظ في الوارد</translation>
+    </message>
+    <message>
+        <source>%1 :
+ %2</source>
+        <translation>⁨%1⁩:
+ %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>لا رسائل أخرى</numerusform>
+            <numerusform>رسالة واحدة أخرى</numerusform>
+            <numerusform>رسالتان أخريان</numerusform>
+            <numerusform>%n رسائل أخرى</numerusform>
+            <numerusform>%n رسالة أخرى</numerusform>
+            <numerusform>%n رسالة أخرى</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>ال&amp;تالي</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Composer</name>
+    <message>
+        <source>New message</source>
+        <translation>رسالة جديدة</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>&amp;إلى</translation>
+    </message>
+    <message>
+        <source>Delivery &amp;report</source>
+        <translation>&amp;تقرير التسليم</translation>
+    </message>
+    <message>
+        <source>&amp;Send</source>
+        <translation>إ&amp;رسال</translation>
+    </message>
+    <message>
+        <source>Numbers, with commas between them</source>
+        <translation>أرقام تفصل بينها فواصل</translation>
+    </message>
+    <message>
+        <source>Text of the message</source>
+        <translation>نص الرسالة</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>النص</translation>
+    </message>
+    <message>
+        <source>You are told when the message was delivered</source>
+        <translation>تُبلَّغ عند تسليم الرسالة</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>إرسال</translation>
+    </message>
+    <message>
+        <source>Te&amp;mplates</source>
+        <translation>ال&amp;قوالب</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>ت&amp;جاهل</translation>
+    </message>
+    <message>
+        <source>Moves the draft to the deleted messages</source>
+        <translation>ينقل المسودة إلى الرسائل المحذوفة</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>مسودة</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>، </translation>
+    </message>
+    <message>
+        <source>The templates could not be stored: %1</source>
+        <translation>تعذّر حفظ القوالب: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this text as a template</source>
+        <translation>&amp;حفظ هذا النص كقالب</translation>
+    </message>
+    <message>
+        <source>&amp;Remove a template</source>
+        <translation>إ&amp;زالة قالب</translation>
+    </message>
+    <message>
+        <source>Say whom the message is for.</source>
+        <translation>حدّد لمن هذه الرسالة.</translation>
+    </message>
+    <message>
+        <source>The message says nothing yet.</source>
+        <translation>الرسالة فارغة بعد.</translation>
     </message>
 </context>
 <context>
@@ -1937,6 +2745,20 @@
     <message>
         <source>It is taken from now on.</source>
         <translation>سيُستخدم من الآن فصاعدًا.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConversationModel</name>
+    <message numerus="yes">
+        <source>%1, %n unread</source>
+        <translation>
+            <numerusform>%1، لا رسائل غير مقروءة</numerusform>
+            <numerusform>%1، رسالة واحدة غير مقروءة</numerusform>
+            <numerusform>%1، رسالتان غير مقروءتين</numerusform>
+            <numerusform>%1، %n رسائل غير مقروءة</numerusform>
+            <numerusform>%1، %n رسالة غير مقروءة</numerusform>
+            <numerusform>%1، %n رسالة غير مقروءة</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2371,6 +3193,414 @@ to %2</source>
     </message>
 </context>
 <context>
+    <name>corva::MessageActions</name>
+    <message>
+        <source>&amp;Reply</source>
+        <translation>ر&amp;د</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>ت&amp;حرير</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>إعادة &amp;توجيه</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>ح&amp;ذف</translation>
+    </message>
+    <message>
+        <source>Put &amp;back</source>
+        <translation>ا&amp;ستعادة</translation>
+    </message>
+    <message>
+        <source>Send a&amp;gain</source>
+        <translation>إعادة ال&amp;إرسال</translation>
+    </message>
+    <message>
+        <source>Mark as rea&amp;d</source>
+        <translation>تعليم كم&amp;قروءة</translation>
+    </message>
+    <message>
+        <source>Mark as &amp;unread</source>
+        <translation>تعليم ك&amp;غير مقروءة</translation>
+    </message>
+    <message>
+        <source>&amp;Copy the text</source>
+        <translation>&amp;نسخ النص</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>ت&amp;صدير…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;طباعة…</translation>
+    </message>
+    <message numerus="yes">
+        <source>De&amp;lete %n messages</source>
+        <translation>
+            <numerusform>ح&amp;ذف الرسائل</numerusform>
+            <numerusform>ح&amp;ذف رسالة واحدة</numerusform>
+            <numerusform>ح&amp;ذف رسالتين</numerusform>
+            <numerusform>ح&amp;ذف %n رسائل</numerusform>
+            <numerusform>ح&amp;ذف %n رسالة</numerusform>
+            <numerusform>ح&amp;ذف %n رسالة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cop&amp;y to</source>
+        <translation>نس&amp;خ إلى</translation>
+    </message>
+    <message>
+        <source>&amp;Move to</source>
+        <translation>نق&amp;ل إلى</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were deleted.</source>
+        <translation>
+            <numerusform>لم تُحذف أي رسالة.</numerusform>
+            <numerusform>حُذفت رسالة واحدة.</numerusform>
+            <numerusform>حُذفت رسالتان.</numerusform>
+            <numerusform>حُذفت %n رسائل.</numerusform>
+            <numerusform>حُذفت %n رسالة.</numerusform>
+            <numerusform>حُذفت %n رسالة.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n messages for good?</source>
+        <translation>
+            <numerusform>أتريد حذف الرسائل نهائيًا؟</numerusform>
+            <numerusform>أتريد حذف رسالة واحدة نهائيًا؟</numerusform>
+            <numerusform>أتريد حذف رسالتين نهائيًا؟</numerusform>
+            <numerusform>أتريد حذف %n رسائل نهائيًا؟</numerusform>
+            <numerusform>أتريد حذف %n رسالة نهائيًا؟</numerusform>
+            <numerusform>أتريد حذف %n رسالة نهائيًا؟</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n &amp;messages</source>
+        <translation>
+            <numerusform>حذف ال&amp;رسائل</numerusform>
+            <numerusform>حذف &amp;رسالة واحدة</numerusform>
+            <numerusform>حذف &amp;رسالتين</numerusform>
+            <numerusform>حذف %n &amp;رسائل</numerusform>
+            <numerusform>حذف %n &amp;رسالة</numerusform>
+            <numerusform>حذف %n &amp;رسالة</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageBrowser</name>
+    <message>
+        <source>No message has come yet.</source>
+        <translation>لم تصل أي رسالة بعد.</translation>
+    </message>
+    <message>
+        <source>Nothing waits to be sent.</source>
+        <translation>لا شيء في انتظار الإرسال.</translation>
+    </message>
+    <message>
+        <source>You have sent no message yet.</source>
+        <translation>لم ترسل أي رسالة بعد.</translation>
+    </message>
+    <message>
+        <source>No drafts. What you write is kept here until you send it.</source>
+        <translation>لا مسودات. يُحفظ هنا ما تكتبه إلى أن ترسله.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted.</source>
+        <translation>لم يُحذف شيء.</translation>
+    </message>
+    <message>
+        <source>No delivery report has come yet.</source>
+        <translation>لم يصل أي تقرير تسليم بعد.</translation>
+    </message>
+    <message>
+        <source>Conversations</source>
+        <translation>المحادثات</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>الرسائل</translation>
+    </message>
+    <message>
+        <source>Reading the messages…</source>
+        <translation>جارٍ قراءة الرسائل…</translation>
+    </message>
+    <message>
+        <source>No message has all of these words.</source>
+        <translation>لا توجد رسالة تحوي كل هذه الكلمات.</translation>
+    </message>
+    <message>
+        <source>Nobody has written yet. Press Ctrl+N to write first.</source>
+        <translation>لم يكتب إليك أحد بعد. اضغط ‪Ctrl+N‬ لتكتب أولًا.</translation>
+    </message>
+    <message>
+        <source>No broadcast has come yet. Choose the channels to listen to above.</source>
+        <translation>لم تصل أي رسالة بث بعد. اختر في الأعلى القنوات التي تريد الاستماع إليها.</translation>
+    </message>
+    <message>
+        <source>Reading the %1…</source>
+        <translation>جارٍ قراءة %1…</translation>
+    </message>
+    <message>
+        <source>No message is kept there.</source>
+        <translation>لا توجد رسائل محفوظة هناك.</translation>
+    </message>
+    <message>
+        <source>It was not read yet. Is a card plugged in?</source>
+        <translation>لم تُقرأ بعد. هل البطاقة موصولة؟</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageDesk</name>
+    <message numerus="yes">
+        <source>%n messages are unread.</source>
+        <translation>
+            <numerusform>لا توجد رسائل غير مقروءة.</numerusform>
+            <numerusform>توجد رسالة واحدة غير مقروءة.</numerusform>
+            <numerusform>توجد رسالتان غير مقروءتين.</numerusform>
+            <numerusform>توجد %n رسائل غير مقروءة.</numerusform>
+            <numerusform>توجد %n رسالة غير مقروءة.</numerusform>
+            <numerusform>توجد %n رسالة غير مقروءة.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>الرسائل</translation>
+    </message>
+    <message>
+        <source>New message from %1</source>
+        <translation>رسالة جديدة من ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Broadcast on channel %1</source>
+        <translation>رسالة بث على القناة %1</translation>
+    </message>
+    <message>
+        <source>Sent successfully %1,failed %2</source>
+        <translation>أُرسل بنجاح: %1، فشل: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageExchange</name>
+    <message>
+        <source>Export messages</source>
+        <translation>تصدير الرسائل</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>جداول CSV ‏(*.csv)</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON ‏(*.json)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were written to %1.</source>
+        <translation>
+            <numerusform>لم تُكتب أي رسالة في %1.</numerusform>
+            <numerusform>كُتبت رسالة واحدة في %1.</numerusform>
+            <numerusform>كُتبت رسالتان في %1.</numerusform>
+            <numerusform>كُتبت %n رسائل في %1.</numerusform>
+            <numerusform>كُتبت %n رسالة في %1.</numerusform>
+            <numerusform>كُتبت %n رسالة في %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The messages could not be written: %1</source>
+        <translation>تعذرت كتابة الرسائل: %1</translation>
+    </message>
+    <message>
+        <source>Import messages</source>
+        <translation>استيراد الرسائل</translation>
+    </message>
+    <message>
+        <source>Exported messages (*.csv *.json)</source>
+        <translation>رسائل مُصدَّرة ‏(*.csv *.json)</translation>
+    </message>
+    <message>
+        <source>The file holds no messages that can be read.</source>
+        <translation>لا يحتوي الملف على رسائل يمكن قراءتها.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were added.</source>
+        <translation>
+            <numerusform>لم تُضف أي رسالة.</numerusform>
+            <numerusform>أُضيفت رسالة واحدة.</numerusform>
+            <numerusform>أُضيفت رسالتان.</numerusform>
+            <numerusform>أُضيفت %n رسائل.</numerusform>
+            <numerusform>أُضيفت %n رسالة.</numerusform>
+            <numerusform>أُضيفت %n رسالة.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were here already.</source>
+        <translation>
+            <numerusform>لم تكن أي منها هنا.</numerusform>
+            <numerusform>واحدة كانت هنا من قبل.</numerusform>
+            <numerusform>اثنتان كانتا هنا من قبل.</numerusform>
+            <numerusform>%n كانت هنا من قبل.</numerusform>
+            <numerusform>%n كانت هنا من قبل.</numerusform>
+            <numerusform>%n كانت هنا من قبل.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n could not be read.</source>
+        <translation>
+            <numerusform>قُرئت كلها.</numerusform>
+            <numerusform>تعذرت قراءة واحدة.</numerusform>
+            <numerusform>تعذرت قراءة اثنتين.</numerusform>
+            <numerusform>تعذرت قراءة %n.</numerusform>
+            <numerusform>تعذرت قراءة %n.</numerusform>
+            <numerusform>تعذرت قراءة %n.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageListModel</name>
+    <message>
+        <source>Unread</source>
+        <translation>غير مقروءة</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageService</name>
+    <message>
+        <source>The card did not take the broadcast channels: %1</source>
+        <translation>لم تقبل البطاقة قنوات البث: %1</translation>
+    </message>
+    <message>
+        <source>The text is too long for one message.</source>
+        <translation>النص أطول من أن تتسع له رسالة واحدة.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number was not stored: %1</source>
+        <translation>لم يُحفظ رقم مركز الخدمة: %1</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>لم تعد البطاقة موجودة.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number was stored.</source>
+        <translation>حُفظ رقم مركز الخدمة.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageSettings</name>
+    <message>
+        <source>Sending</source>
+        <translation>الإرسال</translation>
+    </message>
+    <message>
+        <source>The network &amp;tries for</source>
+        <translation>مدة محاولات ال&amp;شبكة</translation>
+    </message>
+    <message>
+        <source>12 hours</source>
+        <translation>12 ساعة</translation>
+    </message>
+    <message>
+        <source>24 hours</source>
+        <translation>24 ساعة</translation>
+    </message>
+    <message>
+        <source>1 week</source>
+        <translation>أسبوع واحد</translation>
+    </message>
+    <message>
+        <source>As long as it may</source>
+        <translation>أطول مدة مسموحة</translation>
+    </message>
+    <message>
+        <source>National &amp;letters</source>
+        <translation>حروف ال&amp;لغة الوطنية</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>التركية</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>الإسبانية</translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation>البرتغالية</translation>
+    </message>
+    <message>
+        <source>&amp;Ask for a report when a message is delivered</source>
+        <translation>&amp;طلب تقرير عند تسليم الرسالة</translation>
+    </message>
+    <message>
+        <source>Keeping</source>
+        <translation>الحفظ</translation>
+    </message>
+    <message>
+        <source>On this computer</source>
+        <translation>على هذا الحاسوب</translation>
+    </message>
+    <message>
+        <source>On the SIM card</source>
+        <translation>في شريحة SIM</translation>
+    </message>
+    <message>
+        <source>On the data card</source>
+        <translation>في بطاقة البيانات</translation>
+    </message>
+    <message>
+        <source>Where the network says</source>
+        <translation>حيث تحدّد الشبكة</translation>
+    </message>
+    <message>
+        <source>&amp;New messages are kept</source>
+        <translation>مكان حفظ الرسائل ال&amp;جديدة</translation>
+    </message>
+    <message>
+        <source>The data card&apos;s o&amp;wn memory is used, too</source>
+        <translation>استخدام ذاكرة &amp;بطاقة البيانات أيضًا</translation>
+    </message>
+    <message>
+        <source>Delete &amp;read messages from a full SIM card</source>
+        <translation>حذف الرسائل الم&amp;قروءة من شريحة SIM الممتلئة</translation>
+    </message>
+    <message>
+        <source>What you are told</source>
+        <translation>ما تُبلَّغ به</translation>
+    </message>
+    <message>
+        <source>&amp;Unread messages, when the program starts</source>
+        <translation>الرسائل &amp;غير المقروءة، عند بدء البرنامج</translation>
+    </message>
+    <message>
+        <source>&amp;Delivery reports, in a box when they come</source>
+        <translation>تقارير التسليم، في &amp;نافذة عند وصولها</translation>
+    </message>
+    <message>
+        <source>Delivery reports, in a &amp;folder of their own</source>
+        <translation>تقارير التسليم، في &amp;مجلد خاص بها</translation>
+    </message>
+    <message>
+        <source>Messages that cells &amp;broadcast to everybody</source>
+        <translation>الرسائل التي تب&amp;ثها الخلايا للجميع</translation>
+    </message>
+    <message>
+        <source>&amp;Immediate messages show</source>
+        <translation>ارتفا&amp;ع عرض الرسائل الفورية</translation>
+    </message>
+    <message>
+        <source> lines</source>
+        <translation> من الأسطر</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>الرسائل</translation>
+    </message>
+</context>
+<context>
     <name>corva::MonthsModel</name>
     <message>
         <source>Month</source>
@@ -2505,6 +3735,17 @@ to %2</source>
     </message>
 </context>
 <context>
+    <name>corva::PlainTextView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;نسخ</translation>
+    </message>
+    <message>
+        <source>Copy %1</source>
+        <translation>نسخ ‪%1‬</translation>
+    </message>
+</context>
+<context>
     <name>corva::ProfileList</name>
     <message>
         <source>access point from the network</source>
@@ -2610,6 +3851,134 @@ to %2</source>
     </message>
 </context>
 <context>
+    <name>corva::ReadingPane</name>
+    <message>
+        <source>De&amp;tails</source>
+        <translation>ال&amp;تفاصيل</translation>
+    </message>
+    <message>
+        <source>The message</source>
+        <translation>الرسالة</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>التفاصيل</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>، </translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1، %2</translation>
+    </message>
+    <message>
+        <source>  ·  </source>
+        <translation>  ·  </translation>
+    </message>
+    <message>
+        <source>This message cannot be read: %1</source>
+        <translation>تتعذر قراءة هذه الرسالة: %1</translation>
+    </message>
+    <message>
+        <source>%1 parts are here. The others are added when they come.</source>
+        <translation>الأجزاء الموجودة: %1. تُضاف البقية عند وصولها.</translation>
+    </message>
+    <message>
+        <source>Service centre: %1</source>
+        <translation>مركز الخدمة: ‪%1‬</translation>
+    </message>
+    <message>
+        <source>Arrived: %1</source>
+        <translation>وقت الوصول: %1</translation>
+    </message>
+    <message>
+        <source>Channel: %1</source>
+        <translation>القناة: %1</translation>
+    </message>
+    <message>
+        <source>Part %1: %2</source>
+        <translation>الجزء %1: ‪%2‬</translation>
+    </message>
+    <message>
+        <source>It did not travel yet.</source>
+        <translation>لم تُنقل الرسالة بعد.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SendBar</name>
+    <message>
+        <source>Sent parts</source>
+        <translation>الأجزاء المرسلة</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel sending</source>
+        <translation>إل&amp;غاء الإرسال</translation>
+    </message>
+    <message>
+        <source>%1 %2 of %3</source>
+        <translation>%1 %2 من %3</translation>
+    </message>
+    <message>
+        <source>Sending ...</source>
+        <translation>جارٍ الإرسال…</translation>
+    </message>
+    <message>
+        <source>Do you want to cancel sending the rest SMS?</source>
+        <translation>هل تريد إلغاء إرسال بقية الرسائل؟</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SendQueue</name>
+    <message>
+        <source>The message could not be written to disk and is not sent.</source>
+        <translation>تعذّرت كتابة الرسالة على القرص، ولن تُرسل.</translation>
+    </message>
+    <message>
+        <source>The message could not be written to disk.</source>
+        <translation>تعذّرت كتابة الرسالة على القرص.</translation>
+    </message>
+    <message>
+        <source>The alphabet&apos;s settings have changed since it was written.</source>
+        <translation>تغيّرت إعدادات الأبجدية منذ كتابة الرسالة.</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>لم تعد البطاقة موجودة.</translation>
+    </message>
+    <message>
+        <source>The message to %1 was not sent: %2</source>
+        <translation>لم تُرسل الرسالة إلى ⁨%1⁩: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ServiceCentreDialog</name>
+    <message>
+        <source>&amp;Number</source>
+        <translation>ال&amp;رقم</translation>
+    </message>
+    <message>
+        <source>Service centre</source>
+        <translation>مركز الخدمة</translation>
+    </message>
+    <message>
+        <source>Every message goes through the operator&apos;s service centre. Its number is on the SIM card; change it only when your operator asks you to.</source>
+        <translation>تمر كل رسالة عبر مركز الخدمة لدى المشغّل. رقمه محفوظ في شريحة SIM؛ لا تغيّره إلا إذا طلب منك المشغّل ذلك.</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;حفظ</translation>
+    </message>
+    <message>
+        <source>One number is needed.</source>
+        <translation>يلزم رقم واحد.</translation>
+    </message>
+</context>
+<context>
     <name>corva::SettingsPage</name>
     <message>
         <source>The setting could not be stored: %1</source>
@@ -2625,6 +3994,29 @@ to %2</source>
     <message>
         <source>No signal</source>
         <translation>لا توجد إشارة</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SmsReception</name>
+    <message>
+        <source>A new message could not be read from the card: %1</source>
+        <translation>تعذّرت قراءة رسالة جديدة من البطاقة: %1</translation>
+    </message>
+    <message>
+        <source>A new message could not be written to disk and stays on the card.</source>
+        <translation>تعذّرت كتابة رسالة جديدة على القرص، فبقيت في البطاقة.</translation>
+    </message>
+    <message>
+        <source>A delivery report could not be read from the card: %1</source>
+        <translation>تعذّرت قراءة تقرير تسليم من البطاقة: %1</translation>
+    </message>
+    <message>
+        <source>Message was successfully sent to %1, in %2,at %3</source>
+        <translation>وصلت الرسالة بنجاح إلى ⁨%1⁩، أُرسلت في %2، وسُلّمت في %3.</translation>
+    </message>
+    <message>
+        <source>The message to %1: %2</source>
+        <translation>الرسالة إلى ⁨%1⁩: %2</translation>
     </message>
 </context>
 <context>
@@ -2686,6 +4078,47 @@ to %2</source>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TemplateStore</name>
+    <message>
+        <source>%1 cannot be read, and could not be kept beside.</source>
+        <translation>تعذّرت قراءة %1، وتعذّر الاحتفاظ به.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ThreadModel</name>
+    <message>
+        <source>  ·  </source>
+        <translation>  ·  </translation>
+    </message>
+    <message>
+        <source>Received: %1, %2</source>
+        <translation>مستلمة: %1، %2</translation>
+    </message>
+    <message>
+        <source>Written: %1, %2</source>
+        <translation>مكتوبة: %1، %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ThreadPane</name>
+    <message>
+        <source>Show &amp;earlier messages</source>
+        <translation>عرض الرسائل الأ&amp;قدم</translation>
+    </message>
+    <message>
+        <source>&amp;Write</source>
+        <translation>&amp;كتابة</translation>
+    </message>
+    <message>
+        <source>Conversation</source>
+        <translation>المحادثة</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>، </translation>
     </message>
 </context>
 <context>

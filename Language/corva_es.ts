@@ -2,6 +2,92 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>CShortMsg</name>
+    <message>
+        <source>&amp;New message</source>
+        <translation>Mensaje &amp;nuevo</translation>
+    </message>
+    <message>
+        <source>M&amp;ore</source>
+        <translation>Má&amp;s</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>New message</source>
+        <translation>Mensaje nuevo</translation>
+    </message>
+    <message>
+        <source>Search all messages</source>
+        <translation>Buscar en todos los mensajes</translation>
+    </message>
+    <message>
+        <source>Search (%1)</source>
+        <translation>Buscar (%1)</translation>
+    </message>
+    <message>
+        <source>Sent successfully %1,failed %2</source>
+        <translation>Enviados correctamente: %1; fallidos: %2</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>Seleccionar &amp;todo</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importar…</translation>
+    </message>
+    <message>
+        <source>&amp;Undo deleting</source>
+        <translation>Deshacer la &amp;eliminación</translation>
+    </message>
+    <message>
+        <source>Read the SIM and the data card ane&amp;w</source>
+        <translation>&amp;Volver a leer la SIM y la tarjeta de datos</translation>
+    </message>
+    <message>
+        <source>&amp;Service centre…</source>
+        <translation>&amp;Centro de servicio…</translation>
+    </message>
+    <message>
+        <source>Choose a message to read it, or write one with Ctrl+N.</source>
+        <translation>Elija un mensaje para leerlo, o escriba uno con Ctrl+N.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages are chosen.</source>
+        <translation>
+            <numerusform>Se ha elegido %n mensaje.</numerusform>
+            <numerusform>Se han elegido %n mensajes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The draft was deleted.</source>
+        <translation>Se eliminó el borrador.</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>There is nothing to bring back.</source>
+        <translation>No hay nada que recuperar.</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>Re&amp;intentar</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 places are used. When it is full, no message can come in.</source>
+        <translation>%1: %2 de %3 posiciones ocupadas. Cuando se llene, no podrá entrar ningún mensaje.</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Mensajes</translation>
+    </message>
+</context>
+<context>
     <name>CardStatus</name>
     <message>
         <source>Ready</source>
@@ -86,6 +172,268 @@
     <message>
         <source>, </source>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>Channels</name>
+    <message>
+        <source>&quot;%1&quot; is no channel. Channels are numbers from 0 to 65535, or ranges as 10-15.</source>
+        <translation>«%1» no es un canal. Los canales son números de 0 a 65535, o intervalos como 10-15.</translation>
+    </message>
+    <message>
+        <source>These are more than %1 channels.</source>
+        <translation>Son más de %1 canales.</translation>
+    </message>
+</context>
+<context>
+    <name>CmsErrors</name>
+    <message>
+        <source>The number does not exist.</source>
+        <translation>El número no existe.</translation>
+    </message>
+    <message>
+        <source>The operator has barred messages for this SIM.</source>
+        <translation>El operador ha bloqueado los mensajes de esta SIM.</translation>
+    </message>
+    <message>
+        <source>Sending is barred.</source>
+        <translation>El envío está bloqueado.</translation>
+    </message>
+    <message>
+        <source>The network failed.</source>
+        <translation>La red falló.</translation>
+    </message>
+    <message>
+        <source>The network rejected the message.</source>
+        <translation>La red rechazó el mensaje.</translation>
+    </message>
+    <message>
+        <source>The memory for messages is full.</source>
+        <translation>La memoria de mensajes está llena.</translation>
+    </message>
+    <message>
+        <source>The recipient cannot be reached.</source>
+        <translation>No se puede localizar al destinatario.</translation>
+    </message>
+    <message>
+        <source>The network does not know this SIM.</source>
+        <translation>La red no conoce esta SIM.</translation>
+    </message>
+    <message>
+        <source>The network does not offer this service.</source>
+        <translation>La red no ofrece este servicio.</translation>
+    </message>
+    <message>
+        <source>The network is out of order.</source>
+        <translation>La red está fuera de servicio.</translation>
+    </message>
+    <message>
+        <source>The network failed for the moment.</source>
+        <translation>La red falló temporalmente.</translation>
+    </message>
+    <message>
+        <source>The network is overloaded.</source>
+        <translation>La red está sobrecargada.</translation>
+    </message>
+    <message>
+        <source>The network has no room for the message.</source>
+        <translation>La red no tiene espacio para el mensaje.</translation>
+    </message>
+    <message>
+        <source>Messages are not part of this subscription.</source>
+        <translation>Los mensajes no están incluidos en este contrato.</translation>
+    </message>
+    <message>
+        <source>The network did not understand the message.</source>
+        <translation>La red no entendió el mensaje.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s network failed.</source>
+        <translation>La red del destinatario falló.</translation>
+    </message>
+    <message>
+        <source>This kind of message is not supported.</source>
+        <translation>Este tipo de mensaje no se admite.</translation>
+    </message>
+    <message>
+        <source>The message cannot replace another one.</source>
+        <translation>El mensaje no puede reemplazar a otro.</translation>
+    </message>
+    <message>
+        <source>The message&apos;s alphabet is not supported.</source>
+        <translation>El alfabeto del mensaje no se admite.</translation>
+    </message>
+    <message>
+        <source>The service centre refused the command.</source>
+        <translation>El centro de servicio rechazó la orden.</translation>
+    </message>
+    <message>
+        <source>The service centre is busy.</source>
+        <translation>El centro de servicio está ocupado.</translation>
+    </message>
+    <message>
+        <source>The service centre does not serve this SIM.</source>
+        <translation>El centro de servicio no da servicio a esta SIM.</translation>
+    </message>
+    <message>
+        <source>The service centre failed.</source>
+        <translation>El centro de servicio falló.</translation>
+    </message>
+    <message>
+        <source>The number is not valid.</source>
+        <translation>El número no es válido.</translation>
+    </message>
+    <message>
+        <source>The recipient is barred.</source>
+        <translation>El destinatario está bloqueado.</translation>
+    </message>
+    <message>
+        <source>The service centre has this message already.</source>
+        <translation>El centro de servicio ya tiene este mensaje.</translation>
+    </message>
+    <message>
+        <source>The service centre refuses the validity period.</source>
+        <translation>El centro de servicio rechaza el periodo de validez.</translation>
+    </message>
+    <message>
+        <source>The SIM&apos;s memory for messages is full.</source>
+        <translation>La memoria de mensajes de la SIM está llena.</translation>
+    </message>
+    <message>
+        <source>The SIM cannot hold messages.</source>
+        <translation>La SIM no puede guardar mensajes.</translation>
+    </message>
+    <message>
+        <source>The card failed.</source>
+        <translation>La tarjeta falló.</translation>
+    </message>
+    <message>
+        <source>The SIM is busy.</source>
+        <translation>La SIM está ocupada.</translation>
+    </message>
+    <message>
+        <source>The SIM failed.</source>
+        <translation>La SIM falló.</translation>
+    </message>
+    <message>
+        <source>The card&apos;s message service is in use.</source>
+        <translation>El servicio de mensajes de la tarjeta está en uso.</translation>
+    </message>
+    <message>
+        <source>The card does not allow this now.</source>
+        <translation>La tarjeta no permite esto ahora.</translation>
+    </message>
+    <message>
+        <source>The card cannot do this.</source>
+        <translation>La tarjeta no puede hacer esto.</translation>
+    </message>
+    <message>
+        <source>The card did not understand the message.</source>
+        <translation>La tarjeta no entendió el mensaje.</translation>
+    </message>
+    <message>
+        <source>There is no SIM in the card.</source>
+        <translation>No hay ninguna SIM en la tarjeta.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN.</source>
+        <translation>La SIM pide su PIN.</translation>
+    </message>
+    <message>
+        <source>The card asks for its own PIN.</source>
+        <translation>La tarjeta pide su propio PIN.</translation>
+    </message>
+    <message>
+        <source>This SIM does not fit the card.</source>
+        <translation>Esta SIM no es adecuada para la tarjeta.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK.</source>
+        <translation>La SIM pide su PUK.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN2.</source>
+        <translation>La SIM pide su PIN2.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK2.</source>
+        <translation>La SIM pide su PUK2.</translation>
+    </message>
+    <message>
+        <source>The memory for messages failed.</source>
+        <translation>La memoria de mensajes falló.</translation>
+    </message>
+    <message>
+        <source>There is no message at this place.</source>
+        <translation>No hay ningún mensaje en esta posición.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number is not known.</source>
+        <translation>No se conoce el número del centro de servicio.</translation>
+    </message>
+    <message>
+        <source>There is no network.</source>
+        <translation>No hay red.</translation>
+    </message>
+    <message>
+        <source>The network did not answer in time.</source>
+        <translation>La red no respondió a tiempo.</translation>
+    </message>
+    <message>
+        <source>The card expected no confirmation.</source>
+        <translation>La tarjeta no esperaba ninguna confirmación.</translation>
+    </message>
+    <message>
+        <source>The card does not say why.</source>
+        <translation>La tarjeta no dice por qué.</translation>
+    </message>
+    <message>
+        <source>The message was delivered.</source>
+        <translation>El mensaje se entregó.</translation>
+    </message>
+    <message>
+        <source>The message was replaced by a newer one.</source>
+        <translation>El mensaje fue reemplazado por otro más reciente.</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered yet; the network goes on trying.</source>
+        <translation>El mensaje aún no se ha podido entregar; la red lo sigue intentando.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device cannot take the message.</source>
+        <translation>El dispositivo del destinatario no puede recibir el mensaje.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device refused the message.</source>
+        <translation>El dispositivo del destinatario rechazó el mensaje.</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered in time.</source>
+        <translation>El mensaje no se pudo entregar a tiempo.</translation>
+    </message>
+    <message>
+        <source>The message was deleted before it was delivered.</source>
+        <translation>El mensaje se eliminó antes de entregarse.</translation>
+    </message>
+    <message>
+        <source>The service centre does not know the message.</source>
+        <translation>El centro de servicio no conoce el mensaje.</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered.</source>
+        <translation>El mensaje no se pudo entregar.</translation>
+    </message>
+    <message>
+        <source>The card says: %1</source>
+        <translation>La tarjeta dice: %1</translation>
+    </message>
+    <message>
+        <source>The card refuses, with the code %1.</source>
+        <translation>La tarjeta lo rechaza, con el código %1.</translation>
+    </message>
+    <message>
+        <source>The card refuses, without saying why.</source>
+        <translation>La tarjeta lo rechaza, sin decir por qué.</translation>
     </message>
 </context>
 <context>
@@ -399,6 +747,174 @@
     </message>
 </context>
 <context>
+    <name>MessageCounter</name>
+    <message>
+        <source>Symbol: %1 /%2</source>
+        <translation>Caracteres: %1 /%2</translation>
+    </message>
+    <message>
+        <source>The message is too long: it may have %1 parts.</source>
+        <translation>El mensaje es demasiado largo: puede tener %1 partes.</translation>
+    </message>
+    <message>
+        <source>Because of &quot;%1&quot; a message holds 70 characters instead of 160.</source>
+        <translation>Por «%1», en un mensaje caben 70 caracteres en lugar de 160.</translation>
+    </message>
+    <message>
+        <source>National letters leave 155 characters of 160.</source>
+        <translation>Las letras nacionales dejan 155 caracteres de 160.</translation>
+    </message>
+    <message>
+        <source>It is sent in %1 parts.</source>
+        <translation>Se envía en %1 partes.</translation>
+    </message>
+</context>
+<context>
+    <name>MessagePrint</name>
+    <message>
+        <source>From %1, %2</source>
+        <translation>De %1, %2</translation>
+    </message>
+    <message>
+        <source>To %1, %2</source>
+        <translation>Para %1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>MessageStore</name>
+    <message>
+        <source>%1 was empty.</source>
+        <translation>%1 estaba vacío.</translation>
+    </message>
+    <message>
+        <source>%1 could not be read in full. What stood in it is kept as %2.</source>
+        <translation>No se pudo leer %1 por completo. Lo que contenía se conserva como %2.</translation>
+    </message>
+    <message>
+        <source>%1 can neither be read nor moved aside.</source>
+        <translation>No se puede leer %1, ni apartarlo.</translation>
+    </message>
+</context>
+<context>
+    <name>MessageTransfer</name>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>No se puede leer %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file of messages.</source>
+        <translation>%1 no es un archivo de mensajes.</translation>
+    </message>
+    <message>
+        <source>The messages of %1 could not be saved.</source>
+        <translation>No se pudieron guardar los mensajes de %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Messages</name>
+    <message>
+        <source>Inbox</source>
+        <translation>Bandeja de entrada</translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation>Bandeja de salida</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Drafts</source>
+        <translation>Borradores</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Eliminado</translation>
+    </message>
+    <message>
+        <source>Delivery reports</source>
+        <translation>Informes de entrega</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Equipo</translation>
+    </message>
+    <message>
+        <source>SIM card</source>
+        <translation>Tarjeta SIM</translation>
+    </message>
+    <message>
+        <source>Data card</source>
+        <translation>Tarjeta de datos</translation>
+    </message>
+    <message>
+        <source>Waiting to be sent</source>
+        <translation>En espera de envío</translation>
+    </message>
+    <message>
+        <source>Being sent</source>
+        <translation>Enviando</translation>
+    </message>
+    <message>
+        <source>Delivered</source>
+        <translation>Entregado</translation>
+    </message>
+    <message>
+        <source>Not delivered yet, the network still tries</source>
+        <translation>Aún sin entregar, la red lo sigue intentando</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fallido</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Part %1: %2</source>
+        <translation>Parte %1: %2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <extracomment>A day without its year, as QDate::toString takes it</extracomment>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>Nobody yet</source>
+        <translation>Aún sin destinatario</translation>
+    </message>
+    <message>
+        <source>Unknown sender</source>
+        <translation>Remitente desconocido</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>This message cannot be read</source>
+        <translation>Este mensaje no se puede leer</translation>
+    </message>
+    <message>
+        <source>No text</source>
+        <translation>Sin texto</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>Ayer</translation>
+    </message>
+</context>
+<context>
     <name>ModeSwitch</name>
     <message>
         <source>The stick is not there any more. Plug it in again.</source>
@@ -493,22 +1009,6 @@
     <message>
         <source>The card is ringing.</source>
         <translation>La tarjeta está sonando.</translation>
-    </message>
-    <message>
-        <source>New message</source>
-        <translation>Mensaje nuevo</translation>
-    </message>
-    <message>
-        <source>A new message has arrived on the card</source>
-        <translation>Ha llegado un mensaje nuevo a la tarjeta</translation>
-    </message>
-    <message>
-        <source>A new message has arrived</source>
-        <translation>Ha llegado un mensaje nuevo</translation>
-    </message>
-    <message>
-        <source>An immediate message has arrived</source>
-        <translation>Ha llegado un mensaje inmediato</translation>
     </message>
     <message>
         <source>Another call is waiting.</source>
@@ -831,6 +1331,53 @@
     </message>
 </context>
 <context>
+    <name>PduError</name>
+    <message>
+        <source>there is nothing</source>
+        <translation>no hay nada</translation>
+    </message>
+    <message>
+        <source>this is no hexadecimal digit</source>
+        <translation>esto no es una cifra hexadecimal</translation>
+    </message>
+    <message>
+        <source>half an octet is missing</source>
+        <translation>falta medio octeto</translation>
+    </message>
+    <message>
+        <source>the message ends too early</source>
+        <translation>el mensaje termina demasiado pronto</translation>
+    </message>
+    <message>
+        <source>the length goes past the end</source>
+        <translation>la longitud sobrepasa el final</translation>
+    </message>
+    <message>
+        <source>this is no message of the expected kind</source>
+        <translation>esto no es un mensaje del tipo esperado</translation>
+    </message>
+    <message>
+        <source>the header is longer than the data</source>
+        <translation>la cabecera es más larga que los datos</translation>
+    </message>
+    <message>
+        <source>an element goes past the header</source>
+        <translation>un elemento sobrepasa la cabecera</translation>
+    </message>
+    <message>
+        <source>there can be no such part</source>
+        <translation>no puede existir tal parte</translation>
+    </message>
+    <message>
+        <source>half a character is missing</source>
+        <translation>falta medio carácter</translation>
+    </message>
+    <message>
+        <source>The message cannot be read: %1 (%2, octet %3).</source>
+        <translation>No se puede leer el mensaje: %1 (%2, octeto %3).</translation>
+    </message>
+</context>
+<context>
     <name>PortAccess</name>
     <message>
         <source>You may not open %1, which belongs to the group &quot;%2&quot;. Join it with &quot;sudo usermod -aG %2 %3&quot;, then sign out and in again.</source>
@@ -1038,6 +1585,21 @@
     </message>
 </context>
 <context>
+    <name>Recipients</name>
+    <message>
+        <source>&quot;%1&quot; is no number: &quot;%2&quot; cannot be dialled.</source>
+        <translation>«%1» no es un número: «%2» no se puede marcar.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number: the digits are missing.</source>
+        <translation>«%1» no es un número: faltan los dígitos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too long: a number has %2 characters at most.</source>
+        <translation>«%1» es demasiado largo: un número tiene %2 caracteres como máximo.</translation>
+    </message>
+</context>
+<context>
     <name>SafeFile</name>
     <message>
         <source>The folder %1 cannot be made</source>
@@ -1094,6 +1656,40 @@
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
         <translation>No se pueden leer los colores de «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>SmsFiling</name>
+    <message>
+        <source>The text is compressed and cannot be shown.</source>
+        <translation>El texto está comprimido y no se puede mostrar.</translation>
+    </message>
+    <message>
+        <source>The message holds data and no text.</source>
+        <translation>El mensaje contiene datos y ningún texto.</translation>
+    </message>
+    <message>
+        <source>The card lists the message without its content.</source>
+        <translation>La tarjeta muestra el mensaje en la lista sin su contenido.</translation>
+    </message>
+</context>
+<context>
+    <name>SmsJobs</name>
+    <message>
+        <source>The card did not answer.</source>
+        <translation>La tarjeta no respondió.</translation>
+    </message>
+    <message>
+        <source>The card does not exchange messages as PDUs: %1</source>
+        <translation>La tarjeta no intercambia mensajes en forma de PDU: %1</translation>
+    </message>
+    <message>
+        <source>New messages will not be announced: %1</source>
+        <translation>No se avisará de los mensajes nuevos: %1</translation>
+    </message>
+    <message>
+        <source>The message has no content that the card could keep.</source>
+        <translation>El mensaje no tiene contenido que la tarjeta pueda guardar.</translation>
     </message>
 </context>
 <context>
@@ -1286,6 +1882,52 @@
     </message>
 </context>
 <context>
+    <name>corva::ActionButton</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::BoxChooser</name>
+    <message>
+        <source>Boxes</source>
+        <translation>Carpetas</translation>
+    </message>
+    <message>
+        <source>Conversations</source>
+        <translation>Conversaciones</translation>
+    </message>
+    <message>
+        <source>Broadcasts</source>
+        <translation>Difusiones</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3</source>
+        <extracomment>What is used of the places of a SIM card: &quot;SIM card, 10 of 20&quot;</extracomment>
+        <translation>%1, %2 de %3</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::BroadcastBar</name>
+    <message>
+        <source>C&amp;hannels</source>
+        <translation>&amp;Canales</translation>
+    </message>
+    <message>
+        <source>Numbers and ranges, as 50, 4370-4372</source>
+        <translation>Números e intervalos, como 50, 4370-4372</translation>
+    </message>
+    <message>
+        <source>L&amp;isten</source>
+        <translation>Escuc&amp;har</translation>
+    </message>
+</context>
+<context>
     <name>corva::CSetting</name>
     <message>
         <source>Groups of settings</source>
@@ -1415,6 +2057,49 @@
     </message>
 </context>
 <context>
+    <name>corva::CardPlaces</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>The SIM&apos;s memory for messages is nearly full: %1</source>
+        <translation>La memoria de mensajes de la SIM está casi llena: %1</translation>
+    </message>
+    <message>
+        <source>The card&apos;s memory for messages is nearly full: %1</source>
+        <translation>La memoria de mensajes de la tarjeta está casi llena: %1</translation>
+    </message>
+    <message>
+        <source>There is no card that takes messages.</source>
+        <translation>No hay ninguna tarjeta que acepte mensajes.</translation>
+    </message>
+    <message>
+        <source>The messages could not be written to disk and stay on the card.</source>
+        <translation>No se pudieron escribir los mensajes en el disco y siguen en la tarjeta.</translation>
+    </message>
+    <message>
+        <source>Only short messages can be kept on the card.</source>
+        <translation>En la tarjeta solo se pueden guardar mensajes cortos.</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>La tarjeta ya no está conectada.</translation>
+    </message>
+    <message>
+        <source>The message was not written to the SIM: %1</source>
+        <translation>El mensaje no se escribió en la SIM: %1</translation>
+    </message>
+    <message>
+        <source>The message was not written to the card: %1</source>
+        <translation>El mensaje no se escribió en la tarjeta: %1</translation>
+    </message>
+    <message>
+        <source>A message could not be deleted from the card. It is kept on the computer as well.</source>
+        <translation>No se pudo eliminar un mensaje de la tarjeta. También se conserva en el equipo.</translation>
+    </message>
+</context>
+<context>
     <name>corva::CheckPIN</name>
     <message>
         <source>&amp;Show the digits</source>
@@ -1537,6 +2222,121 @@
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Class0Dialog</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Immediate message</source>
+        <translation>Mensaje inmediato</translation>
+    </message>
+    <message>
+        <source>&amp;Keep in the inbox</source>
+        <translation>&amp;Guardar en la bandeja de entrada</translation>
+    </message>
+    <message>
+        <source>%1 :
+ %2</source>
+        <translation>%1:
+ %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n más</numerusform>
+            <numerusform>%n más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Siguiente</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Composer</name>
+    <message>
+        <source>New message</source>
+        <translation>Mensaje nuevo</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>&amp;Para</translation>
+    </message>
+    <message>
+        <source>Delivery &amp;report</source>
+        <translation>In&amp;forme de entrega</translation>
+    </message>
+    <message>
+        <source>&amp;Send</source>
+        <translation>En&amp;viar</translation>
+    </message>
+    <message>
+        <source>Numbers, with commas between them</source>
+        <translation>Números, separados por comas</translation>
+    </message>
+    <message>
+        <source>Text of the message</source>
+        <translation>Texto del mensaje</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>You are told when the message was delivered</source>
+        <translation>Se le avisa cuando se haya entregado el mensaje</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>Te&amp;mplates</source>
+        <translation>Planti&amp;llas</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>Descar&amp;tar</translation>
+    </message>
+    <message>
+        <source>Moves the draft to the deleted messages</source>
+        <translation>Mueve el borrador a los mensajes eliminados</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Borrador</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>The templates could not be stored: %1</source>
+        <translation>No se pudieron guardar las plantillas: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this text as a template</source>
+        <translation>&amp;Guardar este texto como plantilla</translation>
+    </message>
+    <message>
+        <source>&amp;Remove a template</source>
+        <translation>&amp;Quitar una plantilla</translation>
+    </message>
+    <message>
+        <source>Say whom the message is for.</source>
+        <translation>Indique para quién es el mensaje.</translation>
+    </message>
+    <message>
+        <source>The message says nothing yet.</source>
+        <translation>El mensaje aún no dice nada.</translation>
     </message>
 </context>
 <context>
@@ -1933,6 +2733,16 @@
     <message>
         <source>It is taken from now on.</source>
         <translation>Se usará de ahora en adelante.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConversationModel</name>
+    <message numerus="yes">
+        <source>%1, %n unread</source>
+        <translation>
+            <numerusform>%1, %n no leído</numerusform>
+            <numerusform>%1, %n no leídos</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2359,6 +3169,378 @@ a %2</translation>
     </message>
 </context>
 <context>
+    <name>corva::MessageActions</name>
+    <message>
+        <source>&amp;Reply</source>
+        <translation>&amp;Responder</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>Reen&amp;viar</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>Put &amp;back</source>
+        <translation>Res&amp;taurar</translation>
+    </message>
+    <message>
+        <source>Send a&amp;gain</source>
+        <translation>Enviar de n&amp;uevo</translation>
+    </message>
+    <message>
+        <source>Mark as rea&amp;d</source>
+        <translation>Marcar como leí&amp;do</translation>
+    </message>
+    <message>
+        <source>Mark as &amp;unread</source>
+        <translation>Marcar como n&amp;o leído</translation>
+    </message>
+    <message>
+        <source>&amp;Copy the text</source>
+        <translation>&amp;Copiar el texto</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xportar…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Imprimir…</translation>
+    </message>
+    <message numerus="yes">
+        <source>De&amp;lete %n messages</source>
+        <translation>
+            <numerusform>E&amp;liminar %n mensaje</numerusform>
+            <numerusform>E&amp;liminar %n mensajes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cop&amp;y to</source>
+        <translation>Co&amp;piar a</translation>
+    </message>
+    <message>
+        <source>&amp;Move to</source>
+        <translation>&amp;Mover a</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were deleted.</source>
+        <translation>
+            <numerusform>Se eliminó %n mensaje.</numerusform>
+            <numerusform>Se eliminaron %n mensajes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n messages for good?</source>
+        <translation>
+            <numerusform>¿Eliminar %n mensaje definitivamente?</numerusform>
+            <numerusform>¿Eliminar %n mensajes definitivamente?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n &amp;messages</source>
+        <translation>
+            <numerusform>Eliminar %n mensa&amp;je</numerusform>
+            <numerusform>Eliminar %n mensa&amp;jes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageBrowser</name>
+    <message>
+        <source>No message has come yet.</source>
+        <translation>Aún no ha llegado ningún mensaje.</translation>
+    </message>
+    <message>
+        <source>Nothing waits to be sent.</source>
+        <translation>No hay nada en espera de envío.</translation>
+    </message>
+    <message>
+        <source>You have sent no message yet.</source>
+        <translation>Aún no ha enviado ningún mensaje.</translation>
+    </message>
+    <message>
+        <source>No drafts. What you write is kept here until you send it.</source>
+        <translation>No hay borradores. Lo que escriba se guarda aquí hasta que lo envíe.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted.</source>
+        <translation>No se ha eliminado nada.</translation>
+    </message>
+    <message>
+        <source>No delivery report has come yet.</source>
+        <translation>Aún no ha llegado ningún informe de entrega.</translation>
+    </message>
+    <message>
+        <source>Conversations</source>
+        <translation>Conversaciones</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Mensajes</translation>
+    </message>
+    <message>
+        <source>Reading the messages…</source>
+        <translation>Leyendo los mensajes…</translation>
+    </message>
+    <message>
+        <source>No message has all of these words.</source>
+        <translation>Ningún mensaje contiene todas estas palabras.</translation>
+    </message>
+    <message>
+        <source>Nobody has written yet. Press Ctrl+N to write first.</source>
+        <translation>Aún no ha escrito nadie. Pulse Ctrl+N para escribir primero.</translation>
+    </message>
+    <message>
+        <source>No broadcast has come yet. Choose the channels to listen to above.</source>
+        <translation>Aún no ha llegado ninguna difusión. Elija arriba los canales que desea escuchar.</translation>
+    </message>
+    <message>
+        <source>Reading the %1…</source>
+        <translation>Leyendo: %1…</translation>
+    </message>
+    <message>
+        <source>No message is kept there.</source>
+        <translation>No hay ningún mensaje guardado ahí.</translation>
+    </message>
+    <message>
+        <source>It was not read yet. Is a card plugged in?</source>
+        <translation>Aún no se ha leído. ¿Hay una tarjeta conectada?</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageDesk</name>
+    <message numerus="yes">
+        <source>%n messages are unread.</source>
+        <translation>
+            <numerusform>Hay %n mensaje no leído.</numerusform>
+            <numerusform>Hay %n mensajes no leídos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Mensajes</translation>
+    </message>
+    <message>
+        <source>New message from %1</source>
+        <translation>Mensaje nuevo de %1</translation>
+    </message>
+    <message>
+        <source>Broadcast on channel %1</source>
+        <translation>Difusión en el canal %1</translation>
+    </message>
+    <message>
+        <source>Sent successfully %1,failed %2</source>
+        <translation>Enviados correctamente: %1; fallidos: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageExchange</name>
+    <message>
+        <source>Export messages</source>
+        <translation>Exportar mensajes</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>Tablas CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were written to %1.</source>
+        <translation>
+            <numerusform>Se ha escrito %n mensaje en %1.</numerusform>
+            <numerusform>Se han escrito %n mensajes en %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The messages could not be written: %1</source>
+        <translation>No se han podido escribir los mensajes: %1</translation>
+    </message>
+    <message>
+        <source>Import messages</source>
+        <translation>Importar mensajes</translation>
+    </message>
+    <message>
+        <source>Exported messages (*.csv *.json)</source>
+        <translation>Mensajes exportados (*.csv *.json)</translation>
+    </message>
+    <message>
+        <source>The file holds no messages that can be read.</source>
+        <translation>El archivo no contiene mensajes que se puedan leer.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were added.</source>
+        <translation>
+            <numerusform>Se ha añadido %n mensaje.</numerusform>
+            <numerusform>Se han añadido %n mensajes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were here already.</source>
+        <translation>
+            <numerusform>%n ya estaba aquí.</numerusform>
+            <numerusform>%n ya estaban aquí.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n could not be read.</source>
+        <translation>
+            <numerusform>%n no se ha podido leer.</numerusform>
+            <numerusform>%n no se han podido leer.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageListModel</name>
+    <message>
+        <source>Unread</source>
+        <translation>No leído</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageService</name>
+    <message>
+        <source>The card did not take the broadcast channels: %1</source>
+        <translation>La tarjeta no aceptó los canales de difusión: %1</translation>
+    </message>
+    <message>
+        <source>The text is too long for one message.</source>
+        <translation>El texto es demasiado largo para un solo mensaje.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number was not stored: %1</source>
+        <translation>El número del centro de servicio no se guardó: %1</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>La tarjeta ya no está conectada.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number was stored.</source>
+        <translation>El número del centro de servicio se guardó.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageSettings</name>
+    <message>
+        <source>Sending</source>
+        <translation>Envío</translation>
+    </message>
+    <message>
+        <source>The network &amp;tries for</source>
+        <translation>La red lo intenta &amp;durante</translation>
+    </message>
+    <message>
+        <source>12 hours</source>
+        <translation>12 horas</translation>
+    </message>
+    <message>
+        <source>24 hours</source>
+        <translation>24 horas</translation>
+    </message>
+    <message>
+        <source>1 week</source>
+        <translation>1 semana</translation>
+    </message>
+    <message>
+        <source>As long as it may</source>
+        <translation>El máximo posible</translation>
+    </message>
+    <message>
+        <source>National &amp;letters</source>
+        <translation>&amp;Letras nacionales</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>Turcas</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Españolas</translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation>Portuguesas</translation>
+    </message>
+    <message>
+        <source>&amp;Ask for a report when a message is delivered</source>
+        <translation>&amp;Pedir un informe cuando se entregue un mensaje</translation>
+    </message>
+    <message>
+        <source>Keeping</source>
+        <translation>Almacenamiento</translation>
+    </message>
+    <message>
+        <source>On this computer</source>
+        <translation>En este equipo</translation>
+    </message>
+    <message>
+        <source>On the SIM card</source>
+        <translation>En la tarjeta SIM</translation>
+    </message>
+    <message>
+        <source>On the data card</source>
+        <translation>En la tarjeta de datos</translation>
+    </message>
+    <message>
+        <source>Where the network says</source>
+        <translation>Donde indique la red</translation>
+    </message>
+    <message>
+        <source>&amp;New messages are kept</source>
+        <translation>Los mensajes &amp;nuevos se guardan</translation>
+    </message>
+    <message>
+        <source>The data card&apos;s o&amp;wn memory is used, too</source>
+        <translation>Usar ta&amp;mbién la memoria propia de la tarjeta de datos</translation>
+    </message>
+    <message>
+        <source>Delete &amp;read messages from a full SIM card</source>
+        <translation>Eliminar los mensajes leídos de una tarjeta &amp;SIM llena</translation>
+    </message>
+    <message>
+        <source>What you are told</source>
+        <translation>Avisos</translation>
+    </message>
+    <message>
+        <source>&amp;Unread messages, when the program starts</source>
+        <translation>Mensajes no leídos, al &amp;iniciar el programa</translation>
+    </message>
+    <message>
+        <source>&amp;Delivery reports, in a box when they come</source>
+        <translation>In&amp;formes de entrega, en un cuadro cuando llegan</translation>
+    </message>
+    <message>
+        <source>Delivery reports, in a &amp;folder of their own</source>
+        <translation>Informes de entrega, en su propia &amp;carpeta</translation>
+    </message>
+    <message>
+        <source>Messages that cells &amp;broadcast to everybody</source>
+        <translation>Mensajes que las celdas difunden a &amp;todos</translation>
+    </message>
+    <message>
+        <source>&amp;Immediate messages show</source>
+        <translation>Los mensajes inmediatos muest&amp;ran</translation>
+    </message>
+    <message>
+        <source> lines</source>
+        <translation> líneas</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Mensajes</translation>
+    </message>
+</context>
+<context>
     <name>corva::MonthsModel</name>
     <message>
         <source>Month</source>
@@ -2493,6 +3675,17 @@ a %2</translation>
     </message>
 </context>
 <context>
+    <name>corva::PlainTextView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>Copy %1</source>
+        <translation>Copiar «%1»</translation>
+    </message>
+</context>
+<context>
     <name>corva::ProfileList</name>
     <message>
         <source>access point from the network</source>
@@ -2598,6 +3791,134 @@ a %2</translation>
     </message>
 </context>
 <context>
+    <name>corva::ReadingPane</name>
+    <message>
+        <source>De&amp;tails</source>
+        <translation>De&amp;talles</translation>
+    </message>
+    <message>
+        <source>The message</source>
+        <translation>El mensaje</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>  ·  </source>
+        <translation>  ·  </translation>
+    </message>
+    <message>
+        <source>This message cannot be read: %1</source>
+        <translation>No se puede leer este mensaje: %1</translation>
+    </message>
+    <message>
+        <source>%1 parts are here. The others are added when they come.</source>
+        <translation>Han llegado %1 partes. Las demás se añadirán cuando lleguen.</translation>
+    </message>
+    <message>
+        <source>Service centre: %1</source>
+        <translation>Centro de servicio: %1</translation>
+    </message>
+    <message>
+        <source>Arrived: %1</source>
+        <translation>Llegada: %1</translation>
+    </message>
+    <message>
+        <source>Channel: %1</source>
+        <translation>Canal: %1</translation>
+    </message>
+    <message>
+        <source>Part %1: %2</source>
+        <translation>Parte %1: %2</translation>
+    </message>
+    <message>
+        <source>It did not travel yet.</source>
+        <translation>Aún no se ha transmitido.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SendBar</name>
+    <message>
+        <source>Sent parts</source>
+        <translation>Partes enviadas</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel sending</source>
+        <translation>Cancelar el enví&amp;o</translation>
+    </message>
+    <message>
+        <source>%1 %2 of %3</source>
+        <translation>%1 %2 de %3</translation>
+    </message>
+    <message>
+        <source>Sending ...</source>
+        <translation>Enviando…</translation>
+    </message>
+    <message>
+        <source>Do you want to cancel sending the rest SMS?</source>
+        <translation>¿Desea cancelar el envío de los SMS restantes?</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SendQueue</name>
+    <message>
+        <source>The message could not be written to disk and is not sent.</source>
+        <translation>El mensaje no se pudo escribir en el disco y no se envía.</translation>
+    </message>
+    <message>
+        <source>The message could not be written to disk.</source>
+        <translation>El mensaje no se pudo escribir en el disco.</translation>
+    </message>
+    <message>
+        <source>The alphabet&apos;s settings have changed since it was written.</source>
+        <translation>Los ajustes del alfabeto han cambiado desde que se escribió.</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>La tarjeta ya no está conectada.</translation>
+    </message>
+    <message>
+        <source>The message to %1 was not sent: %2</source>
+        <translation>El mensaje para %1 no se envió: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ServiceCentreDialog</name>
+    <message>
+        <source>&amp;Number</source>
+        <translation>&amp;Número</translation>
+    </message>
+    <message>
+        <source>Service centre</source>
+        <translation>Centro de servicio</translation>
+    </message>
+    <message>
+        <source>Every message goes through the operator&apos;s service centre. Its number is on the SIM card; change it only when your operator asks you to.</source>
+        <translation>Todos los mensajes pasan por el centro de servicio del operador. Su número está en la tarjeta SIM; cámbielo solo si su operador se lo pide.</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>One number is needed.</source>
+        <translation>Se necesita un número.</translation>
+    </message>
+</context>
+<context>
     <name>corva::SettingsPage</name>
     <message>
         <source>The setting could not be stored: %1</source>
@@ -2613,6 +3934,29 @@ a %2</translation>
     <message>
         <source>No signal</source>
         <translation>Sin señal</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SmsReception</name>
+    <message>
+        <source>A new message could not be read from the card: %1</source>
+        <translation>No se pudo leer un mensaje nuevo de la tarjeta: %1</translation>
+    </message>
+    <message>
+        <source>A new message could not be written to disk and stays on the card.</source>
+        <translation>Un mensaje nuevo no se pudo escribir en el disco y sigue en la tarjeta.</translation>
+    </message>
+    <message>
+        <source>A delivery report could not be read from the card: %1</source>
+        <translation>No se pudo leer un informe de entrega de la tarjeta: %1</translation>
+    </message>
+    <message>
+        <source>Message was successfully sent to %1, in %2,at %3</source>
+        <translation>El mensaje se envió correctamente a %1 (envío: %2; entrega: %3)</translation>
+    </message>
+    <message>
+        <source>The message to %1: %2</source>
+        <translation>El mensaje para %1: %2</translation>
     </message>
 </context>
 <context>
@@ -2674,6 +4018,47 @@ a %2</translation>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TemplateStore</name>
+    <message>
+        <source>%1 cannot be read, and could not be kept beside.</source>
+        <translation>No se puede leer %1, ni se pudo conservar aparte.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ThreadModel</name>
+    <message>
+        <source>  ·  </source>
+        <translation>  ·  </translation>
+    </message>
+    <message>
+        <source>Received: %1, %2</source>
+        <translation>Recibido: %1, %2</translation>
+    </message>
+    <message>
+        <source>Written: %1, %2</source>
+        <translation>Escrito: %1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ThreadPane</name>
+    <message>
+        <source>Show &amp;earlier messages</source>
+        <translation>Mostrar mensajes &amp;anteriores</translation>
+    </message>
+    <message>
+        <source>&amp;Write</source>
+        <translation>Escri&amp;bir</translation>
+    </message>
+    <message>
+        <source>Conversation</source>
+        <translation>Conversación</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,92 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>CShortMsg</name>
+    <message>
+        <source>&amp;New message</source>
+        <translation>&amp;Nouveau message</translation>
+    </message>
+    <message>
+        <source>M&amp;ore</source>
+        <translation>Pl&amp;us</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>New message</source>
+        <translation>Nouveau message</translation>
+    </message>
+    <message>
+        <source>Search all messages</source>
+        <translation>Rechercher dans tous les messages</translation>
+    </message>
+    <message>
+        <source>Search (%1)</source>
+        <translation>Rechercher (%1)</translation>
+    </message>
+    <message>
+        <source>Sent successfully %1,failed %2</source>
+        <translation>Envois réussis&#xa0;: %1, échecs&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importer…</translation>
+    </message>
+    <message>
+        <source>&amp;Undo deleting</source>
+        <translation>Annuler la &amp;suppression</translation>
+    </message>
+    <message>
+        <source>Read the SIM and the data card ane&amp;w</source>
+        <translation>&amp;Relire la carte SIM et la carte de données</translation>
+    </message>
+    <message>
+        <source>&amp;Service centre…</source>
+        <translation>&amp;Centre de messagerie…</translation>
+    </message>
+    <message>
+        <source>Choose a message to read it, or write one with Ctrl+N.</source>
+        <translation>Choisissez un message pour le lire, ou écrivez-en un avec Ctrl+N.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages are chosen.</source>
+        <translation>
+            <numerusform>%n message est choisi.</numerusform>
+            <numerusform>%n messages sont choisis.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The draft was deleted.</source>
+        <translation>Le brouillon a été supprimé.</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>There is nothing to bring back.</source>
+        <translation>Il n’y a rien à rétablir.</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>Ré&amp;essayer</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 places are used. When it is full, no message can come in.</source>
+        <translation>%1&#xa0;: %2 emplacements sur %3 sont utilisés. Une fois la mémoire pleine, aucun message ne peut arriver.</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Messages</translation>
+    </message>
+</context>
+<context>
     <name>CardStatus</name>
     <message>
         <source>Ready</source>
@@ -86,6 +172,268 @@
     <message>
         <source>, </source>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>Channels</name>
+    <message>
+        <source>&quot;%1&quot; is no channel. Channels are numbers from 0 to 65535, or ranges as 10-15.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un canal. Les canaux sont des nombres de 0 à 65535, ou des plages comme 10-15.</translation>
+    </message>
+    <message>
+        <source>These are more than %1 channels.</source>
+        <translation>Cela fait plus de %1 canaux.</translation>
+    </message>
+</context>
+<context>
+    <name>CmsErrors</name>
+    <message>
+        <source>The number does not exist.</source>
+        <translation>Le numéro n’existe pas.</translation>
+    </message>
+    <message>
+        <source>The operator has barred messages for this SIM.</source>
+        <translation>L’opérateur a interdit les messages pour cette carte SIM.</translation>
+    </message>
+    <message>
+        <source>Sending is barred.</source>
+        <translation>L’envoi est interdit.</translation>
+    </message>
+    <message>
+        <source>The network failed.</source>
+        <translation>Le réseau a échoué.</translation>
+    </message>
+    <message>
+        <source>The network rejected the message.</source>
+        <translation>Le réseau a rejeté le message.</translation>
+    </message>
+    <message>
+        <source>The memory for messages is full.</source>
+        <translation>La mémoire des messages est pleine.</translation>
+    </message>
+    <message>
+        <source>The recipient cannot be reached.</source>
+        <translation>Le destinataire est injoignable.</translation>
+    </message>
+    <message>
+        <source>The network does not know this SIM.</source>
+        <translation>Le réseau ne connaît pas cette carte SIM.</translation>
+    </message>
+    <message>
+        <source>The network does not offer this service.</source>
+        <translation>Le réseau n’offre pas ce service.</translation>
+    </message>
+    <message>
+        <source>The network is out of order.</source>
+        <translation>Le réseau est en panne.</translation>
+    </message>
+    <message>
+        <source>The network failed for the moment.</source>
+        <translation>Le réseau a échoué momentanément.</translation>
+    </message>
+    <message>
+        <source>The network is overloaded.</source>
+        <translation>Le réseau est surchargé.</translation>
+    </message>
+    <message>
+        <source>The network has no room for the message.</source>
+        <translation>Le réseau n’a pas de place pour le message.</translation>
+    </message>
+    <message>
+        <source>Messages are not part of this subscription.</source>
+        <translation>L’abonnement ne comprend pas les messages.</translation>
+    </message>
+    <message>
+        <source>The network did not understand the message.</source>
+        <translation>Le réseau n’a pas compris le message.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s network failed.</source>
+        <translation>Le réseau du destinataire a échoué.</translation>
+    </message>
+    <message>
+        <source>This kind of message is not supported.</source>
+        <translation>Ce type de message n’est pas pris en charge.</translation>
+    </message>
+    <message>
+        <source>The message cannot replace another one.</source>
+        <translation>Le message ne peut pas en remplacer un autre.</translation>
+    </message>
+    <message>
+        <source>The message&apos;s alphabet is not supported.</source>
+        <translation>L’alphabet du message n’est pas pris en charge.</translation>
+    </message>
+    <message>
+        <source>The service centre refused the command.</source>
+        <translation>Le centre de messagerie a refusé la commande.</translation>
+    </message>
+    <message>
+        <source>The service centre is busy.</source>
+        <translation>Le centre de messagerie est occupé.</translation>
+    </message>
+    <message>
+        <source>The service centre does not serve this SIM.</source>
+        <translation>Le centre de messagerie ne dessert pas cette carte SIM.</translation>
+    </message>
+    <message>
+        <source>The service centre failed.</source>
+        <translation>Le centre de messagerie a échoué.</translation>
+    </message>
+    <message>
+        <source>The number is not valid.</source>
+        <translation>Le numéro n’est pas valide.</translation>
+    </message>
+    <message>
+        <source>The recipient is barred.</source>
+        <translation>Le destinataire est interdit.</translation>
+    </message>
+    <message>
+        <source>The service centre has this message already.</source>
+        <translation>Le centre de messagerie a déjà ce message.</translation>
+    </message>
+    <message>
+        <source>The service centre refuses the validity period.</source>
+        <translation>Le centre de messagerie refuse la durée de validité.</translation>
+    </message>
+    <message>
+        <source>The SIM&apos;s memory for messages is full.</source>
+        <translation>La mémoire des messages de la carte SIM est pleine.</translation>
+    </message>
+    <message>
+        <source>The SIM cannot hold messages.</source>
+        <translation>La carte SIM ne peut pas contenir de messages.</translation>
+    </message>
+    <message>
+        <source>The card failed.</source>
+        <translation>La carte a échoué.</translation>
+    </message>
+    <message>
+        <source>The SIM is busy.</source>
+        <translation>La carte SIM est occupée.</translation>
+    </message>
+    <message>
+        <source>The SIM failed.</source>
+        <translation>La carte SIM a échoué.</translation>
+    </message>
+    <message>
+        <source>The card&apos;s message service is in use.</source>
+        <translation>Le service de messages de la carte est déjà utilisé.</translation>
+    </message>
+    <message>
+        <source>The card does not allow this now.</source>
+        <translation>La carte ne le permet pas pour l’instant.</translation>
+    </message>
+    <message>
+        <source>The card cannot do this.</source>
+        <translation>La carte ne sait pas le faire.</translation>
+    </message>
+    <message>
+        <source>The card did not understand the message.</source>
+        <translation>La carte n’a pas compris le message.</translation>
+    </message>
+    <message>
+        <source>There is no SIM in the card.</source>
+        <translation>Il n’y a pas de carte SIM dans la carte.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN.</source>
+        <translation>La carte SIM demande son code PIN.</translation>
+    </message>
+    <message>
+        <source>The card asks for its own PIN.</source>
+        <translation>La carte demande son propre code PIN.</translation>
+    </message>
+    <message>
+        <source>This SIM does not fit the card.</source>
+        <translation>Cette carte SIM ne convient pas à la carte.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK.</source>
+        <translation>La carte SIM demande son code PUK.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN2.</source>
+        <translation>La carte SIM demande son code PIN2.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK2.</source>
+        <translation>La carte SIM demande son code PUK2.</translation>
+    </message>
+    <message>
+        <source>The memory for messages failed.</source>
+        <translation>La mémoire des messages a échoué.</translation>
+    </message>
+    <message>
+        <source>There is no message at this place.</source>
+        <translation>Il n’y a pas de message à cet emplacement.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number is not known.</source>
+        <translation>Le numéro du centre de messagerie n’est pas connu.</translation>
+    </message>
+    <message>
+        <source>There is no network.</source>
+        <translation>Il n’y a pas de réseau.</translation>
+    </message>
+    <message>
+        <source>The network did not answer in time.</source>
+        <translation>Le réseau n’a pas répondu à temps.</translation>
+    </message>
+    <message>
+        <source>The card expected no confirmation.</source>
+        <translation>La carte n’attendait pas de confirmation.</translation>
+    </message>
+    <message>
+        <source>The card does not say why.</source>
+        <translation>La carte n’en donne pas la raison.</translation>
+    </message>
+    <message>
+        <source>The message was delivered.</source>
+        <translation>Le message a été remis.</translation>
+    </message>
+    <message>
+        <source>The message was replaced by a newer one.</source>
+        <translation>Le message a été remplacé par un plus récent.</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered yet; the network goes on trying.</source>
+        <translation>Le message n’a pas encore pu être remis&#xa0;; le réseau continue d’essayer.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device cannot take the message.</source>
+        <translation>L’appareil du destinataire ne peut pas recevoir le message.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device refused the message.</source>
+        <translation>L’appareil du destinataire a refusé le message.</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered in time.</source>
+        <translation>Le message n’a pas pu être remis à temps.</translation>
+    </message>
+    <message>
+        <source>The message was deleted before it was delivered.</source>
+        <translation>Le message a été supprimé avant d’être remis.</translation>
+    </message>
+    <message>
+        <source>The service centre does not know the message.</source>
+        <translation>Le centre de messagerie ne connaît pas le message.</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered.</source>
+        <translation>Le message n’a pas pu être remis.</translation>
+    </message>
+    <message>
+        <source>The card says: %1</source>
+        <translation>La carte indique&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The card refuses, with the code %1.</source>
+        <translation>La carte refuse, avec le code %1.</translation>
+    </message>
+    <message>
+        <source>The card refuses, without saying why.</source>
+        <translation>La carte refuse, sans dire pourquoi.</translation>
     </message>
 </context>
 <context>
@@ -399,6 +747,174 @@
     </message>
 </context>
 <context>
+    <name>MessageCounter</name>
+    <message>
+        <source>Symbol: %1 /%2</source>
+        <translation>Caractères&#xa0;: %1 /%2</translation>
+    </message>
+    <message>
+        <source>The message is too long: it may have %1 parts.</source>
+        <translation>Le message est trop long&#xa0;: il peut avoir %1 parties.</translation>
+    </message>
+    <message>
+        <source>Because of &quot;%1&quot; a message holds 70 characters instead of 160.</source>
+        <translation>À cause de «&#xa0;%1&#xa0;», un message contient 70 caractères au lieu de 160.</translation>
+    </message>
+    <message>
+        <source>National letters leave 155 characters of 160.</source>
+        <translation>Les lettres nationales laissent 155 caractères sur 160.</translation>
+    </message>
+    <message>
+        <source>It is sent in %1 parts.</source>
+        <translation>Il est envoyé en %1 parties.</translation>
+    </message>
+</context>
+<context>
+    <name>MessagePrint</name>
+    <message>
+        <source>From %1, %2</source>
+        <translation>De %1, %2</translation>
+    </message>
+    <message>
+        <source>To %1, %2</source>
+        <translation>À %1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>MessageStore</name>
+    <message>
+        <source>%1 was empty.</source>
+        <translation>%1 était vide.</translation>
+    </message>
+    <message>
+        <source>%1 could not be read in full. What stood in it is kept as %2.</source>
+        <translation>%1 n’a pas pu être lu en entier. Son contenu est conservé sous %2.</translation>
+    </message>
+    <message>
+        <source>%1 can neither be read nor moved aside.</source>
+        <translation>%1 ne peut être ni lu ni mis de côté.</translation>
+    </message>
+</context>
+<context>
+    <name>MessageTransfer</name>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>Impossible de lire %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file of messages.</source>
+        <translation>%1 n’est pas un fichier de messages.</translation>
+    </message>
+    <message>
+        <source>The messages of %1 could not be saved.</source>
+        <translation>Les messages de %1 n’ont pas pu être enregistrés.</translation>
+    </message>
+</context>
+<context>
+    <name>Messages</name>
+    <message>
+        <source>Inbox</source>
+        <translation>Boîte de réception</translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation>Boîte d’envoi</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Envoyé</translation>
+    </message>
+    <message>
+        <source>Drafts</source>
+        <translation>Brouillons</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Supprimés</translation>
+    </message>
+    <message>
+        <source>Delivery reports</source>
+        <translation>Accusés de réception</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Ordinateur</translation>
+    </message>
+    <message>
+        <source>SIM card</source>
+        <translation>Carte SIM</translation>
+    </message>
+    <message>
+        <source>Data card</source>
+        <translation>Carte de données</translation>
+    </message>
+    <message>
+        <source>Waiting to be sent</source>
+        <translation>En attente d’envoi</translation>
+    </message>
+    <message>
+        <source>Being sent</source>
+        <translation>En cours d’envoi</translation>
+    </message>
+    <message>
+        <source>Delivered</source>
+        <translation>Remis</translation>
+    </message>
+    <message>
+        <source>Not delivered yet, the network still tries</source>
+        <translation>Pas encore remis, le réseau essaie toujours</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échec</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Part %1: %2</source>
+        <translation>Partie %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <extracomment>A day without its year, as QDate::toString takes it</extracomment>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>Nobody yet</source>
+        <translation>Encore personne</translation>
+    </message>
+    <message>
+        <source>Unknown sender</source>
+        <translation>Expéditeur inconnu</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>This message cannot be read</source>
+        <translation>Ce message est illisible</translation>
+    </message>
+    <message>
+        <source>No text</source>
+        <translation>Pas de texte</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>Hier</translation>
+    </message>
+</context>
+<context>
     <name>ModeSwitch</name>
     <message>
         <source>The stick is not there any more. Plug it in again.</source>
@@ -493,22 +1009,6 @@
     <message>
         <source>The card is ringing.</source>
         <translation>La carte sonne.</translation>
-    </message>
-    <message>
-        <source>New message</source>
-        <translation>Nouveau message</translation>
-    </message>
-    <message>
-        <source>A new message has arrived on the card</source>
-        <translation>Un nouveau message est arrivé sur la carte</translation>
-    </message>
-    <message>
-        <source>A new message has arrived</source>
-        <translation>Un nouveau message est arrivé</translation>
-    </message>
-    <message>
-        <source>An immediate message has arrived</source>
-        <translation>Un message immédiat est arrivé</translation>
     </message>
     <message>
         <source>Another call is waiting.</source>
@@ -831,6 +1331,53 @@
     </message>
 </context>
 <context>
+    <name>PduError</name>
+    <message>
+        <source>there is nothing</source>
+        <translation>il n’y a rien</translation>
+    </message>
+    <message>
+        <source>this is no hexadecimal digit</source>
+        <translation>ce n’est pas un chiffre hexadécimal</translation>
+    </message>
+    <message>
+        <source>half an octet is missing</source>
+        <translation>il manque un demi-octet</translation>
+    </message>
+    <message>
+        <source>the message ends too early</source>
+        <translation>le message se termine trop tôt</translation>
+    </message>
+    <message>
+        <source>the length goes past the end</source>
+        <translation>la longueur dépasse la fin</translation>
+    </message>
+    <message>
+        <source>this is no message of the expected kind</source>
+        <translation>ce n’est pas un message du type attendu</translation>
+    </message>
+    <message>
+        <source>the header is longer than the data</source>
+        <translation>l’en-tête est plus long que les données</translation>
+    </message>
+    <message>
+        <source>an element goes past the header</source>
+        <translation>un élément dépasse l’en-tête</translation>
+    </message>
+    <message>
+        <source>there can be no such part</source>
+        <translation>une telle partie ne peut pas exister</translation>
+    </message>
+    <message>
+        <source>half a character is missing</source>
+        <translation>il manque un demi-caractère</translation>
+    </message>
+    <message>
+        <source>The message cannot be read: %1 (%2, octet %3).</source>
+        <translation>Le message ne peut pas être lu&#xa0;: %1 (%2, octet %3).</translation>
+    </message>
+</context>
+<context>
     <name>PortAccess</name>
     <message>
         <source>You may not open %1, which belongs to the group &quot;%2&quot;. Join it with &quot;sudo usermod -aG %2 %3&quot;, then sign out and in again.</source>
@@ -1038,6 +1585,21 @@
     </message>
 </context>
 <context>
+    <name>Recipients</name>
+    <message>
+        <source>&quot;%1&quot; is no number: &quot;%2&quot; cannot be dialled.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un numéro&#xa0;: «&#xa0;%2&#xa0;» ne peut pas être composé.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number: the digits are missing.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un numéro&#xa0;: il manque les chiffres.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too long: a number has %2 characters at most.</source>
+        <translation>«&#xa0;%1&#xa0;» est trop long&#xa0;: un numéro a %2 caractères au plus.</translation>
+    </message>
+</context>
+<context>
     <name>SafeFile</name>
     <message>
         <source>The folder %1 cannot be made</source>
@@ -1094,6 +1656,40 @@
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
         <translation>Impossible de lire les couleurs de «&#xa0;%1&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>SmsFiling</name>
+    <message>
+        <source>The text is compressed and cannot be shown.</source>
+        <translation>Le texte est compressé et ne peut pas être affiché.</translation>
+    </message>
+    <message>
+        <source>The message holds data and no text.</source>
+        <translation>Le message contient des données et pas de texte.</translation>
+    </message>
+    <message>
+        <source>The card lists the message without its content.</source>
+        <translation>La carte liste le message sans son contenu.</translation>
+    </message>
+</context>
+<context>
+    <name>SmsJobs</name>
+    <message>
+        <source>The card did not answer.</source>
+        <translation>La carte n’a pas répondu.</translation>
+    </message>
+    <message>
+        <source>The card does not exchange messages as PDUs: %1</source>
+        <translation>La carte n’échange pas les messages sous forme de PDU&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>New messages will not be announced: %1</source>
+        <translation>Les nouveaux messages ne seront pas annoncés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The message has no content that the card could keep.</source>
+        <translation>Le message n’a pas de contenu que la carte pourrait conserver.</translation>
     </message>
 </context>
 <context>
@@ -1286,6 +1882,52 @@
     </message>
 </context>
 <context>
+    <name>corva::ActionButton</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::BoxChooser</name>
+    <message>
+        <source>Boxes</source>
+        <translation>Boîtes</translation>
+    </message>
+    <message>
+        <source>Conversations</source>
+        <translation>Conversations</translation>
+    </message>
+    <message>
+        <source>Broadcasts</source>
+        <translation>Diffusions</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3</source>
+        <extracomment>What is used of the places of a SIM card: &quot;SIM card, 10 of 20&quot;</extracomment>
+        <translation>%1, %2 sur %3</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::BroadcastBar</name>
+    <message>
+        <source>C&amp;hannels</source>
+        <translation>Canau&amp;x</translation>
+    </message>
+    <message>
+        <source>Numbers and ranges, as 50, 4370-4372</source>
+        <translation>Numéros et plages, comme 50, 4370-4372</translation>
+    </message>
+    <message>
+        <source>L&amp;isten</source>
+        <translation>Éc&amp;outer</translation>
+    </message>
+</context>
+<context>
     <name>corva::CSetting</name>
     <message>
         <source>Groups of settings</source>
@@ -1415,6 +2057,49 @@
     </message>
 </context>
 <context>
+    <name>corva::CardPlaces</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>The SIM&apos;s memory for messages is nearly full: %1</source>
+        <translation>La mémoire des messages de la carte SIM est presque pleine&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The card&apos;s memory for messages is nearly full: %1</source>
+        <translation>La mémoire des messages de la carte est presque pleine&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>There is no card that takes messages.</source>
+        <translation>Il n’y a pas de carte qui accepte les messages.</translation>
+    </message>
+    <message>
+        <source>The messages could not be written to disk and stay on the card.</source>
+        <translation>Les messages n’ont pas pu être écrits sur le disque et restent sur la carte.</translation>
+    </message>
+    <message>
+        <source>Only short messages can be kept on the card.</source>
+        <translation>Seuls les messages courts peuvent être conservés sur la carte.</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>La carte n’est plus là.</translation>
+    </message>
+    <message>
+        <source>The message was not written to the SIM: %1</source>
+        <translation>Le message n’a pas été écrit sur la carte SIM&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The message was not written to the card: %1</source>
+        <translation>Le message n’a pas été écrit sur la carte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>A message could not be deleted from the card. It is kept on the computer as well.</source>
+        <translation>Un message n’a pas pu être supprimé de la carte. Il est aussi conservé sur l’ordinateur.</translation>
+    </message>
+</context>
+<context>
     <name>corva::CheckPIN</name>
     <message>
         <source>&amp;Show the digits</source>
@@ -1537,6 +2222,121 @@
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Class0Dialog</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Immediate message</source>
+        <translation>Message immédiat</translation>
+    </message>
+    <message>
+        <source>&amp;Keep in the inbox</source>
+        <translation>&amp;Garder dans la boîte de réception</translation>
+    </message>
+    <message>
+        <source>%1 :
+ %2</source>
+        <translation>%1&#xa0;:
+ %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>Encore %n</numerusform>
+            <numerusform>Encore %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Suivant</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Composer</name>
+    <message>
+        <source>New message</source>
+        <translation>Nouveau message</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>&amp;Destinataires</translation>
+    </message>
+    <message>
+        <source>Delivery &amp;report</source>
+        <translation>A&amp;ccusé de réception</translation>
+    </message>
+    <message>
+        <source>&amp;Send</source>
+        <translation>&amp;Envoyer</translation>
+    </message>
+    <message>
+        <source>Numbers, with commas between them</source>
+        <translation>Numéros, séparés par des virgules</translation>
+    </message>
+    <message>
+        <source>Text of the message</source>
+        <translation>Texte du message</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>You are told when the message was delivered</source>
+        <translation>Vous êtes averti quand le message a été remis</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Envoyer</translation>
+    </message>
+    <message>
+        <source>Te&amp;mplates</source>
+        <translation>&amp;Modèles</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>A&amp;bandonner</translation>
+    </message>
+    <message>
+        <source>Moves the draft to the deleted messages</source>
+        <translation>Place le brouillon dans les messages supprimés</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Brouillon</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>The templates could not be stored: %1</source>
+        <translation>Les modèles n’ont pas pu être enregistrés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this text as a template</source>
+        <translation>&amp;Garder ce texte comme modèle</translation>
+    </message>
+    <message>
+        <source>&amp;Remove a template</source>
+        <translation>&amp;Supprimer un modèle</translation>
+    </message>
+    <message>
+        <source>Say whom the message is for.</source>
+        <translation>Indiquez à qui le message est destiné.</translation>
+    </message>
+    <message>
+        <source>The message says nothing yet.</source>
+        <translation>Le message est encore vide.</translation>
     </message>
 </context>
 <context>
@@ -1933,6 +2733,16 @@
     <message>
         <source>It is taken from now on.</source>
         <translation>Il sera utilisé à partir de maintenant.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConversationModel</name>
+    <message numerus="yes">
+        <source>%1, %n unread</source>
+        <translation>
+            <numerusform>%1, %n non lu</numerusform>
+            <numerusform>%1, %n non lus</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2359,6 +3169,378 @@ au %2</translation>
     </message>
 </context>
 <context>
+    <name>corva::MessageActions</name>
+    <message>
+        <source>&amp;Reply</source>
+        <translation>&amp;Répondre</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifier</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;Transférer</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>Suppr&amp;imer</translation>
+    </message>
+    <message>
+        <source>Put &amp;back</source>
+        <translation>Re&amp;staurer</translation>
+    </message>
+    <message>
+        <source>Send a&amp;gain</source>
+        <translation>Renvo&amp;yer</translation>
+    </message>
+    <message>
+        <source>Mark as rea&amp;d</source>
+        <translation>Marquer comme &amp;lu</translation>
+    </message>
+    <message>
+        <source>Mark as &amp;unread</source>
+        <translation>Marquer comme &amp;non lu</translation>
+    </message>
+    <message>
+        <source>&amp;Copy the text</source>
+        <translation>&amp;Copier le texte</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xporter…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>Im&amp;primer…</translation>
+    </message>
+    <message numerus="yes">
+        <source>De&amp;lete %n messages</source>
+        <translation>
+            <numerusform>Suppr&amp;imer %n message</numerusform>
+            <numerusform>Suppr&amp;imer %n messages</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cop&amp;y to</source>
+        <translation>C&amp;opier vers</translation>
+    </message>
+    <message>
+        <source>&amp;Move to</source>
+        <translation>&amp;Déplacer vers</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were deleted.</source>
+        <translation>
+            <numerusform>%n message a été supprimé.</numerusform>
+            <numerusform>%n messages ont été supprimés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n messages for good?</source>
+        <translation>
+            <numerusform>Supprimer définitivement %n message&#xa0;?</numerusform>
+            <numerusform>Supprimer définitivement %n messages&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n &amp;messages</source>
+        <translation>
+            <numerusform>Supprim&amp;er %n message</numerusform>
+            <numerusform>Supprim&amp;er %n messages</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageBrowser</name>
+    <message>
+        <source>No message has come yet.</source>
+        <translation>Aucun message n’est encore arrivé.</translation>
+    </message>
+    <message>
+        <source>Nothing waits to be sent.</source>
+        <translation>Rien n’attend d’être envoyé.</translation>
+    </message>
+    <message>
+        <source>You have sent no message yet.</source>
+        <translation>Vous n’avez encore envoyé aucun message.</translation>
+    </message>
+    <message>
+        <source>No drafts. What you write is kept here until you send it.</source>
+        <translation>Aucun brouillon. Ce que vous écrivez est gardé ici jusqu’à l’envoi.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted.</source>
+        <translation>Rien n’a été supprimé.</translation>
+    </message>
+    <message>
+        <source>No delivery report has come yet.</source>
+        <translation>Aucun accusé de réception n’est encore arrivé.</translation>
+    </message>
+    <message>
+        <source>Conversations</source>
+        <translation>Conversations</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>Reading the messages…</source>
+        <translation>Lecture des messages…</translation>
+    </message>
+    <message>
+        <source>No message has all of these words.</source>
+        <translation>Aucun message ne contient tous ces mots.</translation>
+    </message>
+    <message>
+        <source>Nobody has written yet. Press Ctrl+N to write first.</source>
+        <translation>Personne n’a encore écrit. Appuyez sur Ctrl+N pour écrire en premier.</translation>
+    </message>
+    <message>
+        <source>No broadcast has come yet. Choose the channels to listen to above.</source>
+        <translation>Aucune diffusion n’est encore arrivée. Choisissez ci-dessus les canaux à écouter.</translation>
+    </message>
+    <message>
+        <source>Reading the %1…</source>
+        <translation>Lecture en cours&#xa0;: %1…</translation>
+    </message>
+    <message>
+        <source>No message is kept there.</source>
+        <translation>Aucun message n’y est conservé.</translation>
+    </message>
+    <message>
+        <source>It was not read yet. Is a card plugged in?</source>
+        <translation>La lecture n’a pas encore eu lieu. Une carte est-elle branchée&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageDesk</name>
+    <message numerus="yes">
+        <source>%n messages are unread.</source>
+        <translation>
+            <numerusform>%n message n’est pas lu.</numerusform>
+            <numerusform>%n messages ne sont pas lus.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>New message from %1</source>
+        <translation>Nouveau message de %1</translation>
+    </message>
+    <message>
+        <source>Broadcast on channel %1</source>
+        <translation>Diffusion sur le canal %1</translation>
+    </message>
+    <message>
+        <source>Sent successfully %1,failed %2</source>
+        <translation>Envois réussis&#xa0;: %1, échecs&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageExchange</name>
+    <message>
+        <source>Export messages</source>
+        <translation>Exporter les messages</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>Tableaux CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were written to %1.</source>
+        <translation>
+            <numerusform>%n message a été écrit dans %1.</numerusform>
+            <numerusform>%n messages ont été écrits dans %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The messages could not be written: %1</source>
+        <translation>Les messages n’ont pas pu être écrits&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Import messages</source>
+        <translation>Importer des messages</translation>
+    </message>
+    <message>
+        <source>Exported messages (*.csv *.json)</source>
+        <translation>Messages exportés (*.csv *.json)</translation>
+    </message>
+    <message>
+        <source>The file holds no messages that can be read.</source>
+        <translation>Le fichier ne contient aucun message lisible.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were added.</source>
+        <translation>
+            <numerusform>%n message a été ajouté.</numerusform>
+            <numerusform>%n messages ont été ajoutés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were here already.</source>
+        <translation>
+            <numerusform>%n était déjà là.</numerusform>
+            <numerusform>%n étaient déjà là.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n could not be read.</source>
+        <translation>
+            <numerusform>%n n’a pas pu être lu.</numerusform>
+            <numerusform>%n n’ont pas pu être lus.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageListModel</name>
+    <message>
+        <source>Unread</source>
+        <translation>Non lu</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageService</name>
+    <message>
+        <source>The card did not take the broadcast channels: %1</source>
+        <translation>La carte n’a pas accepté les canaux de diffusion&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The text is too long for one message.</source>
+        <translation>Le texte est trop long pour un seul message.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number was not stored: %1</source>
+        <translation>Le numéro du centre de messagerie n’a pas été enregistré&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>La carte n’est plus là.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number was stored.</source>
+        <translation>Le numéro du centre de messagerie a été enregistré.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageSettings</name>
+    <message>
+        <source>Sending</source>
+        <translation>Envoi</translation>
+    </message>
+    <message>
+        <source>The network &amp;tries for</source>
+        <translation>Le réseau &amp;essaie pendant</translation>
+    </message>
+    <message>
+        <source>12 hours</source>
+        <translation>12 heures</translation>
+    </message>
+    <message>
+        <source>24 hours</source>
+        <translation>24 heures</translation>
+    </message>
+    <message>
+        <source>1 week</source>
+        <translation>1 semaine</translation>
+    </message>
+    <message>
+        <source>As long as it may</source>
+        <translation>Aussi longtemps que possible</translation>
+    </message>
+    <message>
+        <source>National &amp;letters</source>
+        <translation>&amp;Lettres nationales</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>Turc</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Espagnol</translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation>Portugais</translation>
+    </message>
+    <message>
+        <source>&amp;Ask for a report when a message is delivered</source>
+        <translation>&amp;Demander un accusé quand un message est remis</translation>
+    </message>
+    <message>
+        <source>Keeping</source>
+        <translation>Conservation</translation>
+    </message>
+    <message>
+        <source>On this computer</source>
+        <translation>Sur cet ordinateur</translation>
+    </message>
+    <message>
+        <source>On the SIM card</source>
+        <translation>Sur la carte SIM</translation>
+    </message>
+    <message>
+        <source>On the data card</source>
+        <translation>Sur la carte de données</translation>
+    </message>
+    <message>
+        <source>Where the network says</source>
+        <translation>Là où le réseau l’indique</translation>
+    </message>
+    <message>
+        <source>&amp;New messages are kept</source>
+        <translation>Les &amp;nouveaux messages sont gardés</translation>
+    </message>
+    <message>
+        <source>The data card&apos;s o&amp;wn memory is used, too</source>
+        <translation>&amp;Utiliser aussi la mémoire de la carte de données</translation>
+    </message>
+    <message>
+        <source>Delete &amp;read messages from a full SIM card</source>
+        <translation>&amp;Supprimer les messages lus d’une carte SIM pleine</translation>
+    </message>
+    <message>
+        <source>What you are told</source>
+        <translation>Ce qui vous est signalé</translation>
+    </message>
+    <message>
+        <source>&amp;Unread messages, when the program starts</source>
+        <translation>&amp;Messages non lus, au démarrage du programme</translation>
+    </message>
+    <message>
+        <source>&amp;Delivery reports, in a box when they come</source>
+        <translation>&amp;Accusés de réception, dans une fenêtre à leur arrivée</translation>
+    </message>
+    <message>
+        <source>Delivery reports, in a &amp;folder of their own</source>
+        <translation>Accusés de réception, dans un dossier à &amp;part</translation>
+    </message>
+    <message>
+        <source>Messages that cells &amp;broadcast to everybody</source>
+        <translation>Messages que les cellules di&amp;ffusent à tous</translation>
+    </message>
+    <message>
+        <source>&amp;Immediate messages show</source>
+        <translation>Les messages &amp;immédiats affichent</translation>
+    </message>
+    <message>
+        <source> lines</source>
+        <translation> lignes</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Messages</translation>
+    </message>
+</context>
+<context>
     <name>corva::MonthsModel</name>
     <message>
         <source>Month</source>
@@ -2493,6 +3675,17 @@ au %2</translation>
     </message>
 </context>
 <context>
+    <name>corva::PlainTextView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Copy %1</source>
+        <translation>Copier «&#xa0;%1&#xa0;»</translation>
+    </message>
+</context>
+<context>
     <name>corva::ProfileList</name>
     <message>
         <source>access point from the network</source>
@@ -2598,6 +3791,134 @@ au %2</translation>
     </message>
 </context>
 <context>
+    <name>corva::ReadingPane</name>
+    <message>
+        <source>De&amp;tails</source>
+        <translation>Détai&amp;ls</translation>
+    </message>
+    <message>
+        <source>The message</source>
+        <translation>Le message</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>  ·  </source>
+        <translation>  ·  </translation>
+    </message>
+    <message>
+        <source>This message cannot be read: %1</source>
+        <translation>Ce message ne peut pas être lu&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 parts are here. The others are added when they come.</source>
+        <translation>Parties reçues&#xa0;: %1. Les autres s’ajouteront à leur arrivée.</translation>
+    </message>
+    <message>
+        <source>Service centre: %1</source>
+        <translation>Centre de messagerie&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Arrived: %1</source>
+        <translation>Arrivé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Channel: %1</source>
+        <translation>Canal&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Part %1: %2</source>
+        <translation>Partie %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>It did not travel yet.</source>
+        <translation>Il n’a pas encore été transmis.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SendBar</name>
+    <message>
+        <source>Sent parts</source>
+        <translation>Parties envoyées</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel sending</source>
+        <translation>Annuler l’en&amp;voi</translation>
+    </message>
+    <message>
+        <source>%1 %2 of %3</source>
+        <translation>%1 %2 sur %3</translation>
+    </message>
+    <message>
+        <source>Sending ...</source>
+        <translation>Envoi en cours...</translation>
+    </message>
+    <message>
+        <source>Do you want to cancel sending the rest SMS?</source>
+        <translation>Voulez-vous annuler l’envoi des SMS restants&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SendQueue</name>
+    <message>
+        <source>The message could not be written to disk and is not sent.</source>
+        <translation>Le message n’a pas pu être écrit sur le disque et n’est pas envoyé.</translation>
+    </message>
+    <message>
+        <source>The message could not be written to disk.</source>
+        <translation>Le message n’a pas pu être écrit sur le disque.</translation>
+    </message>
+    <message>
+        <source>The alphabet&apos;s settings have changed since it was written.</source>
+        <translation>Les réglages de l’alphabet ont changé depuis sa rédaction.</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>La carte n’est plus là.</translation>
+    </message>
+    <message>
+        <source>The message to %1 was not sent: %2</source>
+        <translation>Le message à %1 n’a pas été envoyé&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ServiceCentreDialog</name>
+    <message>
+        <source>&amp;Number</source>
+        <translation>&amp;Numéro</translation>
+    </message>
+    <message>
+        <source>Service centre</source>
+        <translation>Centre de messagerie</translation>
+    </message>
+    <message>
+        <source>Every message goes through the operator&apos;s service centre. Its number is on the SIM card; change it only when your operator asks you to.</source>
+        <translation>Chaque message passe par le centre de messagerie de l’opérateur. Son numéro se trouve sur la carte SIM&#xa0;; ne le modifiez que si votre opérateur vous le demande.</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>One number is needed.</source>
+        <translation>Il faut un numéro.</translation>
+    </message>
+</context>
+<context>
     <name>corva::SettingsPage</name>
     <message>
         <source>The setting could not be stored: %1</source>
@@ -2613,6 +3934,29 @@ au %2</translation>
     <message>
         <source>No signal</source>
         <translation>Aucun signal</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SmsReception</name>
+    <message>
+        <source>A new message could not be read from the card: %1</source>
+        <translation>Un nouveau message n’a pas pu être lu sur la carte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>A new message could not be written to disk and stays on the card.</source>
+        <translation>Un nouveau message n’a pas pu être écrit sur le disque et reste sur la carte.</translation>
+    </message>
+    <message>
+        <source>A delivery report could not be read from the card: %1</source>
+        <translation>Un accusé de réception n’a pas pu être lu sur la carte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Message was successfully sent to %1, in %2,at %3</source>
+        <translation>Message bien remis à %1, envoyé&#xa0;: %2, remis&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>The message to %1: %2</source>
+        <translation>Le message à %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -2674,6 +4018,47 @@ au %2</translation>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TemplateStore</name>
+    <message>
+        <source>%1 cannot be read, and could not be kept beside.</source>
+        <translation>Impossible de lire %1, et ce fichier n’a pas pu être conservé.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ThreadModel</name>
+    <message>
+        <source>  ·  </source>
+        <translation>  ·  </translation>
+    </message>
+    <message>
+        <source>Received: %1, %2</source>
+        <translation>Reçu&#xa0;: %1, %2</translation>
+    </message>
+    <message>
+        <source>Written: %1, %2</source>
+        <translation>Écrit&#xa0;: %1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ThreadPane</name>
+    <message>
+        <source>Show &amp;earlier messages</source>
+        <translation>Afficher les messages précé&amp;dents</translation>
+    </message>
+    <message>
+        <source>&amp;Write</source>
+        <translation>É&amp;crire</translation>
+    </message>
+    <message>
+        <source>Conversation</source>
+        <translation>Conversation</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,92 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
+    <name>CShortMsg</name>
+    <message>
+        <source>&amp;New message</source>
+        <translation>&amp;Nova mensagem</translation>
+    </message>
+    <message>
+        <source>M&amp;ore</source>
+        <translation>Ma&amp;is</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>New message</source>
+        <translation>Nova mensagem</translation>
+    </message>
+    <message>
+        <source>Search all messages</source>
+        <translation>Procurar em todas as mensagens</translation>
+    </message>
+    <message>
+        <source>Search (%1)</source>
+        <translation>Procurar (%1)</translation>
+    </message>
+    <message>
+        <source>Sent successfully %1,failed %2</source>
+        <translation>Enviadas com êxito: %1; falhadas: %2</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>Selecionar &amp;tudo</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importar…</translation>
+    </message>
+    <message>
+        <source>&amp;Undo deleting</source>
+        <translation>Anular a &amp;eliminação</translation>
+    </message>
+    <message>
+        <source>Read the SIM and the data card ane&amp;w</source>
+        <translation>&amp;Voltar a ler o cartão SIM e a placa de dados</translation>
+    </message>
+    <message>
+        <source>&amp;Service centre…</source>
+        <translation>&amp;Centro de serviço…</translation>
+    </message>
+    <message>
+        <source>Choose a message to read it, or write one with Ctrl+N.</source>
+        <translation>Escolha uma mensagem para a ler, ou escreva uma com Ctrl+N.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages are chosen.</source>
+        <translation>
+            <numerusform>Foi escolhida %n mensagem.</numerusform>
+            <numerusform>Foram escolhidas %n mensagens.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The draft was deleted.</source>
+        <translation>O rascunho foi eliminado.</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>An&amp;ular</translation>
+    </message>
+    <message>
+        <source>There is nothing to bring back.</source>
+        <translation>Não há nada para recuperar.</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>Tentar de n&amp;ovo</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 places are used. When it is full, no message can come in.</source>
+        <translation>%1: %2 de %3 posições ocupadas. Quando ficar cheia, não pode entrar nenhuma mensagem.</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Mensagens</translation>
+    </message>
+</context>
+<context>
     <name>CardStatus</name>
     <message>
         <source>Ready</source>
@@ -86,6 +172,268 @@
     <message>
         <source>, </source>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>Channels</name>
+    <message>
+        <source>&quot;%1&quot; is no channel. Channels are numbers from 0 to 65535, or ranges as 10-15.</source>
+        <translation>«%1» não é um canal. Os canais são números de 0 a 65535, ou intervalos como 10-15.</translation>
+    </message>
+    <message>
+        <source>These are more than %1 channels.</source>
+        <translation>São mais de %1 canais.</translation>
+    </message>
+</context>
+<context>
+    <name>CmsErrors</name>
+    <message>
+        <source>The number does not exist.</source>
+        <translation>O número não existe.</translation>
+    </message>
+    <message>
+        <source>The operator has barred messages for this SIM.</source>
+        <translation>O operador bloqueou as mensagens deste cartão SIM.</translation>
+    </message>
+    <message>
+        <source>Sending is barred.</source>
+        <translation>O envio está bloqueado.</translation>
+    </message>
+    <message>
+        <source>The network failed.</source>
+        <translation>A rede falhou.</translation>
+    </message>
+    <message>
+        <source>The network rejected the message.</source>
+        <translation>A rede rejeitou a mensagem.</translation>
+    </message>
+    <message>
+        <source>The memory for messages is full.</source>
+        <translation>A memória de mensagens está cheia.</translation>
+    </message>
+    <message>
+        <source>The recipient cannot be reached.</source>
+        <translation>Não é possível contactar o destinatário.</translation>
+    </message>
+    <message>
+        <source>The network does not know this SIM.</source>
+        <translation>A rede não conhece este cartão SIM.</translation>
+    </message>
+    <message>
+        <source>The network does not offer this service.</source>
+        <translation>A rede não oferece este serviço.</translation>
+    </message>
+    <message>
+        <source>The network is out of order.</source>
+        <translation>A rede está fora de serviço.</translation>
+    </message>
+    <message>
+        <source>The network failed for the moment.</source>
+        <translation>A rede falhou temporariamente.</translation>
+    </message>
+    <message>
+        <source>The network is overloaded.</source>
+        <translation>A rede está sobrecarregada.</translation>
+    </message>
+    <message>
+        <source>The network has no room for the message.</source>
+        <translation>A rede não tem espaço para a mensagem.</translation>
+    </message>
+    <message>
+        <source>Messages are not part of this subscription.</source>
+        <translation>As mensagens não estão incluídas neste contrato.</translation>
+    </message>
+    <message>
+        <source>The network did not understand the message.</source>
+        <translation>A rede não entendeu a mensagem.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s network failed.</source>
+        <translation>A rede do destinatário falhou.</translation>
+    </message>
+    <message>
+        <source>This kind of message is not supported.</source>
+        <translation>Este tipo de mensagem não é suportado.</translation>
+    </message>
+    <message>
+        <source>The message cannot replace another one.</source>
+        <translation>A mensagem não pode substituir outra.</translation>
+    </message>
+    <message>
+        <source>The message&apos;s alphabet is not supported.</source>
+        <translation>O alfabeto da mensagem não é suportado.</translation>
+    </message>
+    <message>
+        <source>The service centre refused the command.</source>
+        <translation>O centro de serviço recusou o comando.</translation>
+    </message>
+    <message>
+        <source>The service centre is busy.</source>
+        <translation>O centro de serviço está ocupado.</translation>
+    </message>
+    <message>
+        <source>The service centre does not serve this SIM.</source>
+        <translation>O centro de serviço não serve este cartão SIM.</translation>
+    </message>
+    <message>
+        <source>The service centre failed.</source>
+        <translation>O centro de serviço falhou.</translation>
+    </message>
+    <message>
+        <source>The number is not valid.</source>
+        <translation>O número não é válido.</translation>
+    </message>
+    <message>
+        <source>The recipient is barred.</source>
+        <translation>O destinatário está bloqueado.</translation>
+    </message>
+    <message>
+        <source>The service centre has this message already.</source>
+        <translation>O centro de serviço já tem esta mensagem.</translation>
+    </message>
+    <message>
+        <source>The service centre refuses the validity period.</source>
+        <translation>O centro de serviço recusa o período de validade.</translation>
+    </message>
+    <message>
+        <source>The SIM&apos;s memory for messages is full.</source>
+        <translation>A memória de mensagens do cartão SIM está cheia.</translation>
+    </message>
+    <message>
+        <source>The SIM cannot hold messages.</source>
+        <translation>O cartão SIM não pode guardar mensagens.</translation>
+    </message>
+    <message>
+        <source>The card failed.</source>
+        <translation>A placa falhou.</translation>
+    </message>
+    <message>
+        <source>The SIM is busy.</source>
+        <translation>O cartão SIM está ocupado.</translation>
+    </message>
+    <message>
+        <source>The SIM failed.</source>
+        <translation>O cartão SIM falhou.</translation>
+    </message>
+    <message>
+        <source>The card&apos;s message service is in use.</source>
+        <translation>O serviço de mensagens da placa está em uso.</translation>
+    </message>
+    <message>
+        <source>The card does not allow this now.</source>
+        <translation>A placa não permite isto agora.</translation>
+    </message>
+    <message>
+        <source>The card cannot do this.</source>
+        <translation>A placa não consegue fazer isto.</translation>
+    </message>
+    <message>
+        <source>The card did not understand the message.</source>
+        <translation>A placa não entendeu a mensagem.</translation>
+    </message>
+    <message>
+        <source>There is no SIM in the card.</source>
+        <translation>Não há nenhum cartão SIM na placa.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN.</source>
+        <translation>O cartão SIM pede o PIN.</translation>
+    </message>
+    <message>
+        <source>The card asks for its own PIN.</source>
+        <translation>A placa pede o seu próprio PIN.</translation>
+    </message>
+    <message>
+        <source>This SIM does not fit the card.</source>
+        <translation>Este cartão SIM não é adequado para a placa.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK.</source>
+        <translation>O cartão SIM pede o PUK.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN2.</source>
+        <translation>O cartão SIM pede o PIN2.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK2.</source>
+        <translation>O cartão SIM pede o PUK2.</translation>
+    </message>
+    <message>
+        <source>The memory for messages failed.</source>
+        <translation>A memória de mensagens falhou.</translation>
+    </message>
+    <message>
+        <source>There is no message at this place.</source>
+        <translation>Não há nenhuma mensagem nesta posição.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number is not known.</source>
+        <translation>O número do centro de serviço não é conhecido.</translation>
+    </message>
+    <message>
+        <source>There is no network.</source>
+        <translation>Não há rede.</translation>
+    </message>
+    <message>
+        <source>The network did not answer in time.</source>
+        <translation>A rede não respondeu a tempo.</translation>
+    </message>
+    <message>
+        <source>The card expected no confirmation.</source>
+        <translation>A placa não esperava nenhuma confirmação.</translation>
+    </message>
+    <message>
+        <source>The card does not say why.</source>
+        <translation>A placa não diz porquê.</translation>
+    </message>
+    <message>
+        <source>The message was delivered.</source>
+        <translation>A mensagem foi entregue.</translation>
+    </message>
+    <message>
+        <source>The message was replaced by a newer one.</source>
+        <translation>A mensagem foi substituída por outra mais recente.</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered yet; the network goes on trying.</source>
+        <translation>Ainda não foi possível entregar a mensagem; a rede continua a tentar.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device cannot take the message.</source>
+        <translation>O dispositivo do destinatário não pode receber a mensagem.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device refused the message.</source>
+        <translation>O dispositivo do destinatário recusou a mensagem.</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered in time.</source>
+        <translation>Não foi possível entregar a mensagem a tempo.</translation>
+    </message>
+    <message>
+        <source>The message was deleted before it was delivered.</source>
+        <translation>A mensagem foi eliminada antes de ser entregue.</translation>
+    </message>
+    <message>
+        <source>The service centre does not know the message.</source>
+        <translation>O centro de serviço não conhece a mensagem.</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered.</source>
+        <translation>Não foi possível entregar a mensagem.</translation>
+    </message>
+    <message>
+        <source>The card says: %1</source>
+        <translation>A placa diz: %1</translation>
+    </message>
+    <message>
+        <source>The card refuses, with the code %1.</source>
+        <translation>A placa recusa, com o código %1.</translation>
+    </message>
+    <message>
+        <source>The card refuses, without saying why.</source>
+        <translation>A placa recusa, sem dizer porquê.</translation>
     </message>
 </context>
 <context>
@@ -399,6 +747,174 @@
     </message>
 </context>
 <context>
+    <name>MessageCounter</name>
+    <message>
+        <source>Symbol: %1 /%2</source>
+        <translation>Caracteres: %1 /%2</translation>
+    </message>
+    <message>
+        <source>The message is too long: it may have %1 parts.</source>
+        <translation>A mensagem é demasiado longa: pode ter %1 partes.</translation>
+    </message>
+    <message>
+        <source>Because of &quot;%1&quot; a message holds 70 characters instead of 160.</source>
+        <translation>Por causa de «%1», uma mensagem leva 70 caracteres em vez de 160.</translation>
+    </message>
+    <message>
+        <source>National letters leave 155 characters of 160.</source>
+        <translation>As letras nacionais deixam 155 caracteres de 160.</translation>
+    </message>
+    <message>
+        <source>It is sent in %1 parts.</source>
+        <translation>É enviada em %1 partes.</translation>
+    </message>
+</context>
+<context>
+    <name>MessagePrint</name>
+    <message>
+        <source>From %1, %2</source>
+        <translation>De %1, %2</translation>
+    </message>
+    <message>
+        <source>To %1, %2</source>
+        <translation>Para %1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>MessageStore</name>
+    <message>
+        <source>%1 was empty.</source>
+        <translation>%1 estava vazio.</translation>
+    </message>
+    <message>
+        <source>%1 could not be read in full. What stood in it is kept as %2.</source>
+        <translation>Não foi possível ler %1 por completo. O que continha foi guardado como %2.</translation>
+    </message>
+    <message>
+        <source>%1 can neither be read nor moved aside.</source>
+        <translation>Não é possível ler %1, nem pô-lo de parte.</translation>
+    </message>
+</context>
+<context>
+    <name>MessageTransfer</name>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>Não é possível ler %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file of messages.</source>
+        <translation>%1 não é um ficheiro de mensagens.</translation>
+    </message>
+    <message>
+        <source>The messages of %1 could not be saved.</source>
+        <translation>Não foi possível guardar as mensagens de %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Messages</name>
+    <message>
+        <source>Inbox</source>
+        <translation>Caixa de entrada</translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation>Caixa de saída</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Drafts</source>
+        <translation>Rascunhos</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Eliminado</translation>
+    </message>
+    <message>
+        <source>Delivery reports</source>
+        <translation>Relatórios de entrega</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Computador</translation>
+    </message>
+    <message>
+        <source>SIM card</source>
+        <translation>Cartão SIM</translation>
+    </message>
+    <message>
+        <source>Data card</source>
+        <translation>Placa de dados</translation>
+    </message>
+    <message>
+        <source>Waiting to be sent</source>
+        <translation>À espera de envio</translation>
+    </message>
+    <message>
+        <source>Being sent</source>
+        <translation>A enviar</translation>
+    </message>
+    <message>
+        <source>Delivered</source>
+        <translation>Entregue</translation>
+    </message>
+    <message>
+        <source>Not delivered yet, the network still tries</source>
+        <translation>Ainda por entregar, a rede continua a tentar</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Falhou</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Part %1: %2</source>
+        <translation>Parte %1: %2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <extracomment>A day without its year, as QDate::toString takes it</extracomment>
+        <translation>d &apos;de&apos; MMM</translation>
+    </message>
+    <message>
+        <source>Nobody yet</source>
+        <translation>Ainda sem destinatário</translation>
+    </message>
+    <message>
+        <source>Unknown sender</source>
+        <translation>Remetente desconhecido</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>This message cannot be read</source>
+        <translation>Não é possível ler esta mensagem</translation>
+    </message>
+    <message>
+        <source>No text</source>
+        <translation>Sem texto</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>Ontem</translation>
+    </message>
+</context>
+<context>
     <name>ModeSwitch</name>
     <message>
         <source>The stick is not there any more. Plug it in again.</source>
@@ -493,22 +1009,6 @@
     <message>
         <source>The card is ringing.</source>
         <translation>A placa está a tocar.</translation>
-    </message>
-    <message>
-        <source>New message</source>
-        <translation>Nova mensagem</translation>
-    </message>
-    <message>
-        <source>A new message has arrived on the card</source>
-        <translation>Chegou uma nova mensagem à placa</translation>
-    </message>
-    <message>
-        <source>A new message has arrived</source>
-        <translation>Chegou uma nova mensagem</translation>
-    </message>
-    <message>
-        <source>An immediate message has arrived</source>
-        <translation>Chegou uma mensagem imediata</translation>
     </message>
     <message>
         <source>Another call is waiting.</source>
@@ -831,6 +1331,53 @@
     </message>
 </context>
 <context>
+    <name>PduError</name>
+    <message>
+        <source>there is nothing</source>
+        <translation>não há nada</translation>
+    </message>
+    <message>
+        <source>this is no hexadecimal digit</source>
+        <translation>isto não é um algarismo hexadecimal</translation>
+    </message>
+    <message>
+        <source>half an octet is missing</source>
+        <translation>falta meio octeto</translation>
+    </message>
+    <message>
+        <source>the message ends too early</source>
+        <translation>a mensagem termina demasiado cedo</translation>
+    </message>
+    <message>
+        <source>the length goes past the end</source>
+        <translation>o comprimento ultrapassa o fim</translation>
+    </message>
+    <message>
+        <source>this is no message of the expected kind</source>
+        <translation>esta não é uma mensagem do tipo esperado</translation>
+    </message>
+    <message>
+        <source>the header is longer than the data</source>
+        <translation>o cabeçalho é mais longo do que os dados</translation>
+    </message>
+    <message>
+        <source>an element goes past the header</source>
+        <translation>um elemento ultrapassa o cabeçalho</translation>
+    </message>
+    <message>
+        <source>there can be no such part</source>
+        <translation>não pode existir tal parte</translation>
+    </message>
+    <message>
+        <source>half a character is missing</source>
+        <translation>falta meio carácter</translation>
+    </message>
+    <message>
+        <source>The message cannot be read: %1 (%2, octet %3).</source>
+        <translation>Não é possível ler a mensagem: %1 (%2, octeto %3).</translation>
+    </message>
+</context>
+<context>
     <name>PortAccess</name>
     <message>
         <source>You may not open %1, which belongs to the group &quot;%2&quot;. Join it with &quot;sudo usermod -aG %2 %3&quot;, then sign out and in again.</source>
@@ -1038,6 +1585,21 @@
     </message>
 </context>
 <context>
+    <name>Recipients</name>
+    <message>
+        <source>&quot;%1&quot; is no number: &quot;%2&quot; cannot be dialled.</source>
+        <translation>«%1» não é um número: não é possível marcar «%2».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number: the digits are missing.</source>
+        <translation>«%1» não é um número: faltam os algarismos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too long: a number has %2 characters at most.</source>
+        <translation>«%1» é demasiado longo: um número tem %2 caracteres no máximo.</translation>
+    </message>
+</context>
+<context>
     <name>SafeFile</name>
     <message>
         <source>The folder %1 cannot be made</source>
@@ -1094,6 +1656,40 @@
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
         <translation>Não é possível ler as cores em «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>SmsFiling</name>
+    <message>
+        <source>The text is compressed and cannot be shown.</source>
+        <translation>O texto está comprimido e não pode ser mostrado.</translation>
+    </message>
+    <message>
+        <source>The message holds data and no text.</source>
+        <translation>A mensagem contém dados e nenhum texto.</translation>
+    </message>
+    <message>
+        <source>The card lists the message without its content.</source>
+        <translation>A placa lista a mensagem sem o seu conteúdo.</translation>
+    </message>
+</context>
+<context>
+    <name>SmsJobs</name>
+    <message>
+        <source>The card did not answer.</source>
+        <translation>A placa não respondeu.</translation>
+    </message>
+    <message>
+        <source>The card does not exchange messages as PDUs: %1</source>
+        <translation>A placa não troca mensagens em forma de PDU: %1</translation>
+    </message>
+    <message>
+        <source>New messages will not be announced: %1</source>
+        <translation>As novas mensagens não serão anunciadas: %1</translation>
+    </message>
+    <message>
+        <source>The message has no content that the card could keep.</source>
+        <translation>A mensagem não tem conteúdo que a placa possa guardar.</translation>
     </message>
 </context>
 <context>
@@ -1286,6 +1882,52 @@
     </message>
 </context>
 <context>
+    <name>corva::ActionButton</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::BoxChooser</name>
+    <message>
+        <source>Boxes</source>
+        <translation>Pastas</translation>
+    </message>
+    <message>
+        <source>Conversations</source>
+        <translation>Conversas</translation>
+    </message>
+    <message>
+        <source>Broadcasts</source>
+        <translation>Difusões</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3</source>
+        <extracomment>What is used of the places of a SIM card: &quot;SIM card, 10 of 20&quot;</extracomment>
+        <translation>%1, %2 de %3</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::BroadcastBar</name>
+    <message>
+        <source>C&amp;hannels</source>
+        <translation>&amp;Canais</translation>
+    </message>
+    <message>
+        <source>Numbers and ranges, as 50, 4370-4372</source>
+        <translation>Números e intervalos, como 50, 4370-4372</translation>
+    </message>
+    <message>
+        <source>L&amp;isten</source>
+        <translation>E&amp;scutar</translation>
+    </message>
+</context>
+<context>
     <name>corva::CSetting</name>
     <message>
         <source>Groups of settings</source>
@@ -1415,6 +2057,49 @@
     </message>
 </context>
 <context>
+    <name>corva::CardPlaces</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>The SIM&apos;s memory for messages is nearly full: %1</source>
+        <translation>A memória de mensagens do cartão SIM está quase cheia: %1</translation>
+    </message>
+    <message>
+        <source>The card&apos;s memory for messages is nearly full: %1</source>
+        <translation>A memória de mensagens da placa está quase cheia: %1</translation>
+    </message>
+    <message>
+        <source>There is no card that takes messages.</source>
+        <translation>Não há nenhuma placa que aceite mensagens.</translation>
+    </message>
+    <message>
+        <source>The messages could not be written to disk and stay on the card.</source>
+        <translation>Não foi possível escrever as mensagens no disco; ficam na placa.</translation>
+    </message>
+    <message>
+        <source>Only short messages can be kept on the card.</source>
+        <translation>Na placa só podem ser guardadas mensagens curtas.</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>A placa já não está ligada.</translation>
+    </message>
+    <message>
+        <source>The message was not written to the SIM: %1</source>
+        <translation>A mensagem não foi escrita no cartão SIM: %1</translation>
+    </message>
+    <message>
+        <source>The message was not written to the card: %1</source>
+        <translation>A mensagem não foi escrita na placa: %1</translation>
+    </message>
+    <message>
+        <source>A message could not be deleted from the card. It is kept on the computer as well.</source>
+        <translation>Não foi possível eliminar uma mensagem da placa. Também é conservada no computador.</translation>
+    </message>
+</context>
+<context>
     <name>corva::CheckPIN</name>
     <message>
         <source>&amp;Show the digits</source>
@@ -1537,6 +2222,121 @@
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Class0Dialog</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fechar</translation>
+    </message>
+    <message>
+        <source>Immediate message</source>
+        <translation>Mensagem imediata</translation>
+    </message>
+    <message>
+        <source>&amp;Keep in the inbox</source>
+        <translation>&amp;Guardar na caixa de entrada</translation>
+    </message>
+    <message>
+        <source>%1 :
+ %2</source>
+        <translation>%1:
+ %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>Mais %n</numerusform>
+            <numerusform>Mais %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Seguinte</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Composer</name>
+    <message>
+        <source>New message</source>
+        <translation>Nova mensagem</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>&amp;Para</translation>
+    </message>
+    <message>
+        <source>Delivery &amp;report</source>
+        <translation>&amp;Relatório de entrega</translation>
+    </message>
+    <message>
+        <source>&amp;Send</source>
+        <translation>&amp;Enviar</translation>
+    </message>
+    <message>
+        <source>Numbers, with commas between them</source>
+        <translation>Números, separados por vírgulas</translation>
+    </message>
+    <message>
+        <source>Text of the message</source>
+        <translation>Texto da mensagem</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>You are told when the message was delivered</source>
+        <translation>É avisado quando a mensagem for entregue</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>Te&amp;mplates</source>
+        <translation>&amp;Modelos</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Descartar</translation>
+    </message>
+    <message>
+        <source>Moves the draft to the deleted messages</source>
+        <translation>Move o rascunho para as mensagens eliminadas</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Rascunho</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>The templates could not be stored: %1</source>
+        <translation>Não foi possível guardar os modelos: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this text as a template</source>
+        <translation>&amp;Guardar este texto como modelo</translation>
+    </message>
+    <message>
+        <source>&amp;Remove a template</source>
+        <translation>Remover um mode&amp;lo</translation>
+    </message>
+    <message>
+        <source>Say whom the message is for.</source>
+        <translation>Indique para quem é a mensagem.</translation>
+    </message>
+    <message>
+        <source>The message says nothing yet.</source>
+        <translation>A mensagem ainda não diz nada.</translation>
     </message>
 </context>
 <context>
@@ -1933,6 +2733,16 @@
     <message>
         <source>It is taken from now on.</source>
         <translation>Será usado a partir de agora.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConversationModel</name>
+    <message numerus="yes">
+        <source>%1, %n unread</source>
+        <translation>
+            <numerusform>%1, %n não lida</numerusform>
+            <numerusform>%1, %n não lidas</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2359,6 +3169,378 @@ a %2</translation>
     </message>
 </context>
 <context>
+    <name>corva::MessageActions</name>
+    <message>
+        <source>&amp;Reply</source>
+        <translation>&amp;Responder</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>Reencamin&amp;har</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>Put &amp;back</source>
+        <translation>Rep&amp;or</translation>
+    </message>
+    <message>
+        <source>Send a&amp;gain</source>
+        <translation>Enviar de no&amp;vo</translation>
+    </message>
+    <message>
+        <source>Mark as rea&amp;d</source>
+        <translation>M&amp;arcar como lida</translation>
+    </message>
+    <message>
+        <source>Mark as &amp;unread</source>
+        <translation>Marcar como não li&amp;da</translation>
+    </message>
+    <message>
+        <source>&amp;Copy the text</source>
+        <translation>&amp;Copiar o texto</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xportar…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>Im&amp;primir…</translation>
+    </message>
+    <message numerus="yes">
+        <source>De&amp;lete %n messages</source>
+        <translation>
+            <numerusform>E&amp;liminar %n mensagem</numerusform>
+            <numerusform>E&amp;liminar %n mensagens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cop&amp;y to</source>
+        <translation>Cop&amp;iar para</translation>
+    </message>
+    <message>
+        <source>&amp;Move to</source>
+        <translation>&amp;Mover para</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were deleted.</source>
+        <translation>
+            <numerusform>Foi eliminada %n mensagem.</numerusform>
+            <numerusform>Foram eliminadas %n mensagens.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n messages for good?</source>
+        <translation>
+            <numerusform>Eliminar %n mensagem definitivamente?</numerusform>
+            <numerusform>Eliminar %n mensagens definitivamente?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n &amp;messages</source>
+        <translation>
+            <numerusform>Eliminar %n men&amp;sagem</numerusform>
+            <numerusform>Eliminar %n men&amp;sagens</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageBrowser</name>
+    <message>
+        <source>No message has come yet.</source>
+        <translation>Ainda não chegou nenhuma mensagem.</translation>
+    </message>
+    <message>
+        <source>Nothing waits to be sent.</source>
+        <translation>Não há nada à espera de envio.</translation>
+    </message>
+    <message>
+        <source>You have sent no message yet.</source>
+        <translation>Ainda não enviou nenhuma mensagem.</translation>
+    </message>
+    <message>
+        <source>No drafts. What you write is kept here until you send it.</source>
+        <translation>Sem rascunhos. O que escrever fica guardado aqui até o enviar.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted.</source>
+        <translation>Nada foi eliminado.</translation>
+    </message>
+    <message>
+        <source>No delivery report has come yet.</source>
+        <translation>Ainda não chegou nenhum relatório de entrega.</translation>
+    </message>
+    <message>
+        <source>Conversations</source>
+        <translation>Conversas</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Mensagens</translation>
+    </message>
+    <message>
+        <source>Reading the messages…</source>
+        <translation>A ler as mensagens…</translation>
+    </message>
+    <message>
+        <source>No message has all of these words.</source>
+        <translation>Nenhuma mensagem contém todas estas palavras.</translation>
+    </message>
+    <message>
+        <source>Nobody has written yet. Press Ctrl+N to write first.</source>
+        <translation>Ainda ninguém escreveu. Prima Ctrl+N para escrever primeiro.</translation>
+    </message>
+    <message>
+        <source>No broadcast has come yet. Choose the channels to listen to above.</source>
+        <translation>Ainda não chegou nenhuma difusão. Escolha acima os canais a escutar.</translation>
+    </message>
+    <message>
+        <source>Reading the %1…</source>
+        <translation>A ler: %1…</translation>
+    </message>
+    <message>
+        <source>No message is kept there.</source>
+        <translation>Não há nenhuma mensagem guardada aí.</translation>
+    </message>
+    <message>
+        <source>It was not read yet. Is a card plugged in?</source>
+        <translation>Ainda não foi lido. Há uma placa ligada?</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageDesk</name>
+    <message numerus="yes">
+        <source>%n messages are unread.</source>
+        <translation>
+            <numerusform>Há %n mensagem não lida.</numerusform>
+            <numerusform>Há %n mensagens não lidas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Mensagens</translation>
+    </message>
+    <message>
+        <source>New message from %1</source>
+        <translation>Nova mensagem de %1</translation>
+    </message>
+    <message>
+        <source>Broadcast on channel %1</source>
+        <translation>Difusão no canal %1</translation>
+    </message>
+    <message>
+        <source>Sent successfully %1,failed %2</source>
+        <translation>Enviadas com êxito: %1; falhadas: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageExchange</name>
+    <message>
+        <source>Export messages</source>
+        <translation>Exportar mensagens</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>Tabelas CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were written to %1.</source>
+        <translation>
+            <numerusform>%n mensagem foi escrita em %1.</numerusform>
+            <numerusform>%n mensagens foram escritas em %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The messages could not be written: %1</source>
+        <translation>Não foi possível escrever as mensagens: %1</translation>
+    </message>
+    <message>
+        <source>Import messages</source>
+        <translation>Importar mensagens</translation>
+    </message>
+    <message>
+        <source>Exported messages (*.csv *.json)</source>
+        <translation>Mensagens exportadas (*.csv *.json)</translation>
+    </message>
+    <message>
+        <source>The file holds no messages that can be read.</source>
+        <translation>O ficheiro não contém mensagens que possam ser lidas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were added.</source>
+        <translation>
+            <numerusform>%n mensagem foi adicionada.</numerusform>
+            <numerusform>%n mensagens foram adicionadas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were here already.</source>
+        <translation>
+            <numerusform>%n já estava aqui.</numerusform>
+            <numerusform>%n já estavam aqui.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n could not be read.</source>
+        <translation>
+            <numerusform>%n não pôde ser lida.</numerusform>
+            <numerusform>%n não puderam ser lidas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageListModel</name>
+    <message>
+        <source>Unread</source>
+        <translation>Não lida</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageService</name>
+    <message>
+        <source>The card did not take the broadcast channels: %1</source>
+        <translation>A placa não aceitou os canais de difusão: %1</translation>
+    </message>
+    <message>
+        <source>The text is too long for one message.</source>
+        <translation>O texto é demasiado longo para uma só mensagem.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number was not stored: %1</source>
+        <translation>O número do centro de serviço não foi guardado: %1</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>A placa já não está ligada.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number was stored.</source>
+        <translation>O número do centro de serviço foi guardado.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageSettings</name>
+    <message>
+        <source>Sending</source>
+        <translation>Envio</translation>
+    </message>
+    <message>
+        <source>The network &amp;tries for</source>
+        <translation>A rede &amp;tenta durante</translation>
+    </message>
+    <message>
+        <source>12 hours</source>
+        <translation>12 horas</translation>
+    </message>
+    <message>
+        <source>24 hours</source>
+        <translation>24 horas</translation>
+    </message>
+    <message>
+        <source>1 week</source>
+        <translation>1 semana</translation>
+    </message>
+    <message>
+        <source>As long as it may</source>
+        <translation>O máximo possível</translation>
+    </message>
+    <message>
+        <source>National &amp;letters</source>
+        <translation>&amp;Letras nacionais</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>Turcas</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>Espanholas</translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation>Portuguesas</translation>
+    </message>
+    <message>
+        <source>&amp;Ask for a report when a message is delivered</source>
+        <translation>&amp;Pedir um relatório quando uma mensagem for entregue</translation>
+    </message>
+    <message>
+        <source>Keeping</source>
+        <translation>Armazenamento</translation>
+    </message>
+    <message>
+        <source>On this computer</source>
+        <translation>Neste computador</translation>
+    </message>
+    <message>
+        <source>On the SIM card</source>
+        <translation>No cartão SIM</translation>
+    </message>
+    <message>
+        <source>On the data card</source>
+        <translation>Na placa de dados</translation>
+    </message>
+    <message>
+        <source>Where the network says</source>
+        <translation>Onde a rede indicar</translation>
+    </message>
+    <message>
+        <source>&amp;New messages are kept</source>
+        <translation>As &amp;novas mensagens são guardadas</translation>
+    </message>
+    <message>
+        <source>The data card&apos;s o&amp;wn memory is used, too</source>
+        <translation>Usar ta&amp;mbém a memória própria da placa de dados</translation>
+    </message>
+    <message>
+        <source>Delete &amp;read messages from a full SIM card</source>
+        <translation>&amp;Eliminar as mensagens lidas de um cartão SIM cheio</translation>
+    </message>
+    <message>
+        <source>What you are told</source>
+        <translation>Avisos</translation>
+    </message>
+    <message>
+        <source>&amp;Unread messages, when the program starts</source>
+        <translation>Mensagens não lidas, no &amp;arranque do programa</translation>
+    </message>
+    <message>
+        <source>&amp;Delivery reports, in a box when they come</source>
+        <translation>&amp;Relatórios de entrega, numa caixa quando chegam</translation>
+    </message>
+    <message>
+        <source>Delivery reports, in a &amp;folder of their own</source>
+        <translation>Relatórios de entrega, numa pa&amp;sta própria</translation>
+    </message>
+    <message>
+        <source>Messages that cells &amp;broadcast to everybody</source>
+        <translation>Mensagens que as células &amp;difundem a todos</translation>
+    </message>
+    <message>
+        <source>&amp;Immediate messages show</source>
+        <translation>As mensagens &amp;imediatas mostram</translation>
+    </message>
+    <message>
+        <source> lines</source>
+        <translation> linhas</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Mensagens</translation>
+    </message>
+</context>
+<context>
     <name>corva::MonthsModel</name>
     <message>
         <source>Month</source>
@@ -2493,6 +3675,17 @@ a %2</translation>
     </message>
 </context>
 <context>
+    <name>corva::PlainTextView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>Copy %1</source>
+        <translation>Copiar «%1»</translation>
+    </message>
+</context>
+<context>
     <name>corva::ProfileList</name>
     <message>
         <source>access point from the network</source>
@@ -2598,6 +3791,134 @@ a %2</translation>
     </message>
 </context>
 <context>
+    <name>corva::ReadingPane</name>
+    <message>
+        <source>De&amp;tails</source>
+        <translation>De&amp;talhes</translation>
+    </message>
+    <message>
+        <source>The message</source>
+        <translation>A mensagem</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalhes</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>  ·  </source>
+        <translation>  ·  </translation>
+    </message>
+    <message>
+        <source>This message cannot be read: %1</source>
+        <translation>Não é possível ler esta mensagem: %1</translation>
+    </message>
+    <message>
+        <source>%1 parts are here. The others are added when they come.</source>
+        <translation>Chegaram %1 partes. As restantes são adicionadas quando chegarem.</translation>
+    </message>
+    <message>
+        <source>Service centre: %1</source>
+        <translation>Centro de serviço: %1</translation>
+    </message>
+    <message>
+        <source>Arrived: %1</source>
+        <translation>Chegada: %1</translation>
+    </message>
+    <message>
+        <source>Channel: %1</source>
+        <translation>Canal: %1</translation>
+    </message>
+    <message>
+        <source>Part %1: %2</source>
+        <translation>Parte %1: %2</translation>
+    </message>
+    <message>
+        <source>It did not travel yet.</source>
+        <translation>Ainda não foi transmitida.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SendBar</name>
+    <message>
+        <source>Sent parts</source>
+        <translation>Partes enviadas</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel sending</source>
+        <translation>&amp;Cancelar o envio</translation>
+    </message>
+    <message>
+        <source>%1 %2 of %3</source>
+        <translation>%1 %2 de %3</translation>
+    </message>
+    <message>
+        <source>Sending ...</source>
+        <translation>A enviar…</translation>
+    </message>
+    <message>
+        <source>Do you want to cancel sending the rest SMS?</source>
+        <translation>Deseja cancelar o envio dos SMS restantes?</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SendQueue</name>
+    <message>
+        <source>The message could not be written to disk and is not sent.</source>
+        <translation>Não foi possível escrever a mensagem no disco; não é enviada.</translation>
+    </message>
+    <message>
+        <source>The message could not be written to disk.</source>
+        <translation>Não foi possível escrever a mensagem no disco.</translation>
+    </message>
+    <message>
+        <source>The alphabet&apos;s settings have changed since it was written.</source>
+        <translation>As definições do alfabeto mudaram desde que foi escrita.</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>A placa já não está ligada.</translation>
+    </message>
+    <message>
+        <source>The message to %1 was not sent: %2</source>
+        <translation>A mensagem para %1 não foi enviada: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ServiceCentreDialog</name>
+    <message>
+        <source>&amp;Number</source>
+        <translation>&amp;Número</translation>
+    </message>
+    <message>
+        <source>Service centre</source>
+        <translation>Centro de serviço</translation>
+    </message>
+    <message>
+        <source>Every message goes through the operator&apos;s service centre. Its number is on the SIM card; change it only when your operator asks you to.</source>
+        <translation>Todas as mensagens passam pelo centro de serviço do operador. O número está no cartão SIM; altere-o só quando o seu operador lho pedir.</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>One number is needed.</source>
+        <translation>É necessário um número.</translation>
+    </message>
+</context>
+<context>
     <name>corva::SettingsPage</name>
     <message>
         <source>The setting could not be stored: %1</source>
@@ -2613,6 +3934,29 @@ a %2</translation>
     <message>
         <source>No signal</source>
         <translation>Sem sinal</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SmsReception</name>
+    <message>
+        <source>A new message could not be read from the card: %1</source>
+        <translation>Não foi possível ler uma nova mensagem da placa: %1</translation>
+    </message>
+    <message>
+        <source>A new message could not be written to disk and stays on the card.</source>
+        <translation>Não foi possível escrever uma nova mensagem no disco; fica na placa.</translation>
+    </message>
+    <message>
+        <source>A delivery report could not be read from the card: %1</source>
+        <translation>Não foi possível ler um relatório de entrega da placa: %1</translation>
+    </message>
+    <message>
+        <source>Message was successfully sent to %1, in %2,at %3</source>
+        <translation>A mensagem foi enviada com êxito para %1 (envio: %2; entrega: %3)</translation>
+    </message>
+    <message>
+        <source>The message to %1: %2</source>
+        <translation>A mensagem para %1: %2</translation>
     </message>
 </context>
 <context>
@@ -2674,6 +4018,47 @@ a %2</translation>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TemplateStore</name>
+    <message>
+        <source>%1 cannot be read, and could not be kept beside.</source>
+        <translation>Não é possível ler %1, nem foi possível conservá-lo à parte.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ThreadModel</name>
+    <message>
+        <source>  ·  </source>
+        <translation>  ·  </translation>
+    </message>
+    <message>
+        <source>Received: %1, %2</source>
+        <translation>Recebida: %1, %2</translation>
+    </message>
+    <message>
+        <source>Written: %1, %2</source>
+        <translation>Escrita: %1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ThreadPane</name>
+    <message>
+        <source>Show &amp;earlier messages</source>
+        <translation>Mostrar mensagens &amp;anteriores</translation>
+    </message>
+    <message>
+        <source>&amp;Write</source>
+        <translation>E&amp;screver</translation>
+    </message>
+    <message>
+        <source>Conversation</source>
+        <translation>Conversa</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
     </message>
 </context>
 <context>

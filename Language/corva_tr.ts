@@ -2,6 +2,91 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr" sourcelanguage="en">
 <context>
+    <name>CShortMsg</name>
+    <message>
+        <source>&amp;New message</source>
+        <translation>&amp;Yeni mesaj</translation>
+    </message>
+    <message>
+        <source>M&amp;ore</source>
+        <translation>Daha &amp;fazla</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>New message</source>
+        <translation>Yeni mesaj</translation>
+    </message>
+    <message>
+        <source>Search all messages</source>
+        <translation>Tüm mesajlarda ara</translation>
+    </message>
+    <message>
+        <source>Search (%1)</source>
+        <translation>Ara (%1)</translation>
+    </message>
+    <message>
+        <source>Sent successfully %1,failed %2</source>
+        <translation>Gönderilen: %1, başarısız: %2</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>&amp;Tümünü seç</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;İçe aktar…</translation>
+    </message>
+    <message>
+        <source>&amp;Undo deleting</source>
+        <translation>Si&amp;lmeyi geri al</translation>
+    </message>
+    <message>
+        <source>Read the SIM and the data card ane&amp;w</source>
+        <translation>SIM kartı ve veri kartını yeniden &amp;oku</translation>
+    </message>
+    <message>
+        <source>&amp;Service centre…</source>
+        <translation>&amp;Mesaj merkezi…</translation>
+    </message>
+    <message>
+        <source>Choose a message to read it, or write one with Ctrl+N.</source>
+        <translation>Okumak için bir mesaj seçin ya da Ctrl+N ile yeni bir mesaj yazın.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages are chosen.</source>
+        <translation>
+            <numerusform>%n mesaj seçildi.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The draft was deleted.</source>
+        <translation>Taslak silindi.</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Geri al</translation>
+    </message>
+    <message>
+        <source>There is nothing to bring back.</source>
+        <translation>Geri getirilecek bir şey yok.</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>Yenid&amp;en dene</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 places are used. When it is full, no message can come in.</source>
+        <translation>%1: %2/%3 yer dolu. Tümü dolunca mesaj alınamaz.</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Mesajlar</translation>
+    </message>
+</context>
+<context>
     <name>CardStatus</name>
     <message>
         <source>Ready</source>
@@ -86,6 +171,268 @@
     <message>
         <source>, </source>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>Channels</name>
+    <message>
+        <source>&quot;%1&quot; is no channel. Channels are numbers from 0 to 65535, or ranges as 10-15.</source>
+        <translation>&quot;%1&quot; bir kanal değil. Kanallar 0 ile 65535 arasında sayılar ya da 10-15 gibi aralıklardır.</translation>
+    </message>
+    <message>
+        <source>These are more than %1 channels.</source>
+        <translation>Kanal sayısı %1 sınırını aşıyor.</translation>
+    </message>
+</context>
+<context>
+    <name>CmsErrors</name>
+    <message>
+        <source>The number does not exist.</source>
+        <translation>Böyle bir numara yok.</translation>
+    </message>
+    <message>
+        <source>The operator has barred messages for this SIM.</source>
+        <translation>Operatör bu SIM kart için mesajları engellemiş.</translation>
+    </message>
+    <message>
+        <source>Sending is barred.</source>
+        <translation>Gönderme engellenmiş.</translation>
+    </message>
+    <message>
+        <source>The network failed.</source>
+        <translation>Ağda bir hata oluştu.</translation>
+    </message>
+    <message>
+        <source>The network rejected the message.</source>
+        <translation>Ağ mesajı geri çevirdi.</translation>
+    </message>
+    <message>
+        <source>The memory for messages is full.</source>
+        <translation>Mesaj belleği dolu.</translation>
+    </message>
+    <message>
+        <source>The recipient cannot be reached.</source>
+        <translation>Alıcıya ulaşılamıyor.</translation>
+    </message>
+    <message>
+        <source>The network does not know this SIM.</source>
+        <translation>Ağ bu SIM kartı tanımıyor.</translation>
+    </message>
+    <message>
+        <source>The network does not offer this service.</source>
+        <translation>Ağ bu hizmeti sunmuyor.</translation>
+    </message>
+    <message>
+        <source>The network is out of order.</source>
+        <translation>Ağ arızalı.</translation>
+    </message>
+    <message>
+        <source>The network failed for the moment.</source>
+        <translation>Ağda geçici bir hata oluştu.</translation>
+    </message>
+    <message>
+        <source>The network is overloaded.</source>
+        <translation>Ağ aşırı yüklü.</translation>
+    </message>
+    <message>
+        <source>The network has no room for the message.</source>
+        <translation>Ağda mesaj için yer yok.</translation>
+    </message>
+    <message>
+        <source>Messages are not part of this subscription.</source>
+        <translation>Mesajlar bu aboneliğe dahil değil.</translation>
+    </message>
+    <message>
+        <source>The network did not understand the message.</source>
+        <translation>Ağ mesajı anlamadı.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s network failed.</source>
+        <translation>Alıcının ağında bir hata oluştu.</translation>
+    </message>
+    <message>
+        <source>This kind of message is not supported.</source>
+        <translation>Bu tür mesajlar desteklenmiyor.</translation>
+    </message>
+    <message>
+        <source>The message cannot replace another one.</source>
+        <translation>Mesaj başka bir mesajın yerine geçemiyor.</translation>
+    </message>
+    <message>
+        <source>The message&apos;s alphabet is not supported.</source>
+        <translation>Mesajın alfabesi desteklenmiyor.</translation>
+    </message>
+    <message>
+        <source>The service centre refused the command.</source>
+        <translation>Mesaj merkezi komutu reddetti.</translation>
+    </message>
+    <message>
+        <source>The service centre is busy.</source>
+        <translation>Mesaj merkezi meşgul.</translation>
+    </message>
+    <message>
+        <source>The service centre does not serve this SIM.</source>
+        <translation>Mesaj merkezi bu SIM karta hizmet vermiyor.</translation>
+    </message>
+    <message>
+        <source>The service centre failed.</source>
+        <translation>Mesaj merkezinde bir hata oluştu.</translation>
+    </message>
+    <message>
+        <source>The number is not valid.</source>
+        <translation>Numara geçersiz.</translation>
+    </message>
+    <message>
+        <source>The recipient is barred.</source>
+        <translation>Alıcı engellenmiş.</translation>
+    </message>
+    <message>
+        <source>The service centre has this message already.</source>
+        <translation>Bu mesaj, mesaj merkezinde zaten var.</translation>
+    </message>
+    <message>
+        <source>The service centre refuses the validity period.</source>
+        <translation>Mesaj merkezi geçerlilik süresini kabul etmiyor.</translation>
+    </message>
+    <message>
+        <source>The SIM&apos;s memory for messages is full.</source>
+        <translation>SIM kartın mesaj belleği dolu.</translation>
+    </message>
+    <message>
+        <source>The SIM cannot hold messages.</source>
+        <translation>SIM kart mesaj saklayamıyor.</translation>
+    </message>
+    <message>
+        <source>The card failed.</source>
+        <translation>Kartta bir hata oluştu.</translation>
+    </message>
+    <message>
+        <source>The SIM is busy.</source>
+        <translation>SIM kart meşgul.</translation>
+    </message>
+    <message>
+        <source>The SIM failed.</source>
+        <translation>SIM kartta bir hata oluştu.</translation>
+    </message>
+    <message>
+        <source>The card&apos;s message service is in use.</source>
+        <translation>Kartın mesaj hizmeti kullanımda.</translation>
+    </message>
+    <message>
+        <source>The card does not allow this now.</source>
+        <translation>Kart şu anda buna izin vermiyor.</translation>
+    </message>
+    <message>
+        <source>The card cannot do this.</source>
+        <translation>Kart bunu yapamıyor.</translation>
+    </message>
+    <message>
+        <source>The card did not understand the message.</source>
+        <translation>Kart mesajı anlamadı.</translation>
+    </message>
+    <message>
+        <source>There is no SIM in the card.</source>
+        <translation>Kartta SIM kart yok.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN.</source>
+        <translation>SIM kart PIN&apos;ini istiyor.</translation>
+    </message>
+    <message>
+        <source>The card asks for its own PIN.</source>
+        <translation>Kart kendi PIN&apos;ini istiyor.</translation>
+    </message>
+    <message>
+        <source>This SIM does not fit the card.</source>
+        <translation>Bu SIM kart karta uygun değil.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK.</source>
+        <translation>SIM kart PUK&apos;unu istiyor.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN2.</source>
+        <translation>SIM kart PIN2&apos;sini istiyor.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK2.</source>
+        <translation>SIM kart PUK2&apos;sini istiyor.</translation>
+    </message>
+    <message>
+        <source>The memory for messages failed.</source>
+        <translation>Mesaj belleğinde bir hata oluştu.</translation>
+    </message>
+    <message>
+        <source>There is no message at this place.</source>
+        <translation>Bu yerde mesaj yok.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number is not known.</source>
+        <translation>Mesaj merkezinin numarası bilinmiyor.</translation>
+    </message>
+    <message>
+        <source>There is no network.</source>
+        <translation>Ağ yok.</translation>
+    </message>
+    <message>
+        <source>The network did not answer in time.</source>
+        <translation>Ağ zamanında yanıt vermedi.</translation>
+    </message>
+    <message>
+        <source>The card expected no confirmation.</source>
+        <translation>Kart onay beklemiyordu.</translation>
+    </message>
+    <message>
+        <source>The card does not say why.</source>
+        <translation>Kart nedenini bildirmiyor.</translation>
+    </message>
+    <message>
+        <source>The message was delivered.</source>
+        <translation>Mesaj iletildi.</translation>
+    </message>
+    <message>
+        <source>The message was replaced by a newer one.</source>
+        <translation>Mesajın yerini daha yenisi aldı.</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered yet; the network goes on trying.</source>
+        <translation>Mesaj henüz iletilemedi; ağ denemeyi sürdürüyor.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device cannot take the message.</source>
+        <translation>Alıcının aygıtı mesajı alamıyor.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device refused the message.</source>
+        <translation>Alıcının aygıtı mesajı reddetti.</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered in time.</source>
+        <translation>Mesaj zamanında iletilemedi.</translation>
+    </message>
+    <message>
+        <source>The message was deleted before it was delivered.</source>
+        <translation>Mesaj iletilmeden silindi.</translation>
+    </message>
+    <message>
+        <source>The service centre does not know the message.</source>
+        <translation>Mesaj merkezi mesajı tanımıyor.</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered.</source>
+        <translation>Mesaj iletilemedi.</translation>
+    </message>
+    <message>
+        <source>The card says: %1</source>
+        <translation>Kartın bildirdiği: %1</translation>
+    </message>
+    <message>
+        <source>The card refuses, with the code %1.</source>
+        <translation>Kart %1 koduyla reddediyor.</translation>
+    </message>
+    <message>
+        <source>The card refuses, without saying why.</source>
+        <translation>Kart, nedenini bildirmeden reddediyor.</translation>
     </message>
 </context>
 <context>
@@ -399,6 +746,174 @@
     </message>
 </context>
 <context>
+    <name>MessageCounter</name>
+    <message>
+        <source>Symbol: %1 /%2</source>
+        <translation>Karakter: %1 /%2</translation>
+    </message>
+    <message>
+        <source>The message is too long: it may have %1 parts.</source>
+        <translation>Mesaj çok uzun: en fazla %1 parça olabilir.</translation>
+    </message>
+    <message>
+        <source>Because of &quot;%1&quot; a message holds 70 characters instead of 160.</source>
+        <translation>&quot;%1&quot; nedeniyle bir mesaj 160 yerine 70 karakter alır.</translation>
+    </message>
+    <message>
+        <source>National letters leave 155 characters of 160.</source>
+        <translation>Ulusal harflerle 160 karakterden 155&apos;i kalır.</translation>
+    </message>
+    <message>
+        <source>It is sent in %1 parts.</source>
+        <translation>%1 parça halinde gönderilir.</translation>
+    </message>
+</context>
+<context>
+    <name>MessagePrint</name>
+    <message>
+        <source>From %1, %2</source>
+        <translation>Gönderen: %1, %2</translation>
+    </message>
+    <message>
+        <source>To %1, %2</source>
+        <translation>Alıcı: %1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>MessageStore</name>
+    <message>
+        <source>%1 was empty.</source>
+        <translation>%1 boştu.</translation>
+    </message>
+    <message>
+        <source>%1 could not be read in full. What stood in it is kept as %2.</source>
+        <translation>%1 tam olarak okunamadı. İçindekiler %2 adıyla saklandı.</translation>
+    </message>
+    <message>
+        <source>%1 can neither be read nor moved aside.</source>
+        <translation>%1 ne okunabiliyor ne de kenara alınabiliyor.</translation>
+    </message>
+</context>
+<context>
+    <name>MessageTransfer</name>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 okunamıyor.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file of messages.</source>
+        <translation>%1 bir mesaj dosyası değil.</translation>
+    </message>
+    <message>
+        <source>The messages of %1 could not be saved.</source>
+        <translation>%1 dosyasındaki mesajlar kaydedilemedi.</translation>
+    </message>
+</context>
+<context>
+    <name>Messages</name>
+    <message>
+        <source>Inbox</source>
+        <translation>Gelen kutusu</translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation>Giden kutusu</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gönderilmiş</translation>
+    </message>
+    <message>
+        <source>Drafts</source>
+        <translation>Taslaklar</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Silinmiş</translation>
+    </message>
+    <message>
+        <source>Delivery reports</source>
+        <translation>İletim raporları</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Bilgisayar</translation>
+    </message>
+    <message>
+        <source>SIM card</source>
+        <translation>SIM kart</translation>
+    </message>
+    <message>
+        <source>Data card</source>
+        <translation>Veri kartı</translation>
+    </message>
+    <message>
+        <source>Waiting to be sent</source>
+        <translation>Gönderilmeyi bekliyor</translation>
+    </message>
+    <message>
+        <source>Being sent</source>
+        <translation>Gönderiliyor</translation>
+    </message>
+    <message>
+        <source>Delivered</source>
+        <translation>İletildi</translation>
+    </message>
+    <message>
+        <source>Not delivered yet, the network still tries</source>
+        <translation>Henüz iletilmedi, ağ hâlâ deniyor</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Başarısız</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Part %1: %2</source>
+        <translation>Parça %1: %2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <extracomment>A day without its year, as QDate::toString takes it</extracomment>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>Nobody yet</source>
+        <translation>Henüz kimse yok</translation>
+    </message>
+    <message>
+        <source>Unknown sender</source>
+        <translation>Bilinmeyen gönderen</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>This message cannot be read</source>
+        <translation>Bu mesaj okunamıyor</translation>
+    </message>
+    <message>
+        <source>No text</source>
+        <translation>Metin yok</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>Dün</translation>
+    </message>
+</context>
+<context>
     <name>ModeSwitch</name>
     <message>
         <source>The stick is not there any more. Plug it in again.</source>
@@ -493,22 +1008,6 @@
     <message>
         <source>The card is ringing.</source>
         <translation>Kart çalıyor.</translation>
-    </message>
-    <message>
-        <source>New message</source>
-        <translation>Yeni mesaj</translation>
-    </message>
-    <message>
-        <source>A new message has arrived on the card</source>
-        <translation>Karta yeni bir mesaj geldi</translation>
-    </message>
-    <message>
-        <source>A new message has arrived</source>
-        <translation>Yeni bir mesaj geldi</translation>
-    </message>
-    <message>
-        <source>An immediate message has arrived</source>
-        <translation>Bir flaş mesaj geldi</translation>
     </message>
     <message>
         <source>Another call is waiting.</source>
@@ -831,6 +1330,53 @@
     </message>
 </context>
 <context>
+    <name>PduError</name>
+    <message>
+        <source>there is nothing</source>
+        <translation>hiçbir şey yok</translation>
+    </message>
+    <message>
+        <source>this is no hexadecimal digit</source>
+        <translation>bu bir onaltılık basamak değil</translation>
+    </message>
+    <message>
+        <source>half an octet is missing</source>
+        <translation>yarım bayt eksik</translation>
+    </message>
+    <message>
+        <source>the message ends too early</source>
+        <translation>mesaj erken bitiyor</translation>
+    </message>
+    <message>
+        <source>the length goes past the end</source>
+        <translation>uzunluk sonu aşıyor</translation>
+    </message>
+    <message>
+        <source>this is no message of the expected kind</source>
+        <translation>bu beklenen türde bir mesaj değil</translation>
+    </message>
+    <message>
+        <source>the header is longer than the data</source>
+        <translation>başlık veriden uzun</translation>
+    </message>
+    <message>
+        <source>an element goes past the header</source>
+        <translation>bir öğe başlığı aşıyor</translation>
+    </message>
+    <message>
+        <source>there can be no such part</source>
+        <translation>böyle bir parça olamaz</translation>
+    </message>
+    <message>
+        <source>half a character is missing</source>
+        <translation>yarım karakter eksik</translation>
+    </message>
+    <message>
+        <source>The message cannot be read: %1 (%2, octet %3).</source>
+        <translation>Mesaj okunamıyor: %1 (%2, bayt %3).</translation>
+    </message>
+</context>
+<context>
     <name>PortAccess</name>
     <message>
         <source>You may not open %1, which belongs to the group &quot;%2&quot;. Join it with &quot;sudo usermod -aG %2 %3&quot;, then sign out and in again.</source>
@@ -1038,6 +1584,21 @@
     </message>
 </context>
 <context>
+    <name>Recipients</name>
+    <message>
+        <source>&quot;%1&quot; is no number: &quot;%2&quot; cannot be dialled.</source>
+        <translation>&quot;%1&quot; bir numara değil: &quot;%2&quot; çevrilemez.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number: the digits are missing.</source>
+        <translation>&quot;%1&quot; bir numara değil: rakamlar eksik.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too long: a number has %2 characters at most.</source>
+        <translation>&quot;%1&quot; çok uzun: bir numara en fazla %2 karakter olabilir.</translation>
+    </message>
+</context>
+<context>
     <name>SafeFile</name>
     <message>
         <source>The folder %1 cannot be made</source>
@@ -1094,6 +1655,40 @@
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
         <translation>&quot;%1&quot; içindeki renkler okunamıyor.</translation>
+    </message>
+</context>
+<context>
+    <name>SmsFiling</name>
+    <message>
+        <source>The text is compressed and cannot be shown.</source>
+        <translation>Metin sıkıştırılmış ve gösterilemiyor.</translation>
+    </message>
+    <message>
+        <source>The message holds data and no text.</source>
+        <translation>Mesajda metin değil, veri var.</translation>
+    </message>
+    <message>
+        <source>The card lists the message without its content.</source>
+        <translation>Kart mesajı içeriği olmadan listeliyor.</translation>
+    </message>
+</context>
+<context>
+    <name>SmsJobs</name>
+    <message>
+        <source>The card did not answer.</source>
+        <translation>Kart yanıt vermedi.</translation>
+    </message>
+    <message>
+        <source>The card does not exchange messages as PDUs: %1</source>
+        <translation>Kart mesajları PDU olarak alıp vermiyor: %1</translation>
+    </message>
+    <message>
+        <source>New messages will not be announced: %1</source>
+        <translation>Yeni mesajlar bildirilmeyecek: %1</translation>
+    </message>
+    <message>
+        <source>The message has no content that the card could keep.</source>
+        <translation>Mesajın, kartın saklayabileceği bir içeriği yok.</translation>
     </message>
 </context>
 <context>
@@ -1286,6 +1881,52 @@
     </message>
 </context>
 <context>
+    <name>corva::ActionButton</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::BoxChooser</name>
+    <message>
+        <source>Boxes</source>
+        <translation>Kutular</translation>
+    </message>
+    <message>
+        <source>Conversations</source>
+        <translation>Yazışmalar</translation>
+    </message>
+    <message>
+        <source>Broadcasts</source>
+        <translation>Yayınlar</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3</source>
+        <extracomment>What is used of the places of a SIM card: &quot;SIM card, 10 of 20&quot;</extracomment>
+        <translation>%1, %2/%3</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::BroadcastBar</name>
+    <message>
+        <source>C&amp;hannels</source>
+        <translation>&amp;Kanallar</translation>
+    </message>
+    <message>
+        <source>Numbers and ranges, as 50, 4370-4372</source>
+        <translation>Numaralar ve aralıklar, ör. 50, 4370-4372</translation>
+    </message>
+    <message>
+        <source>L&amp;isten</source>
+        <translation>&amp;Dinle</translation>
+    </message>
+</context>
+<context>
     <name>corva::CSetting</name>
     <message>
         <source>Groups of settings</source>
@@ -1415,6 +2056,49 @@
     </message>
 </context>
 <context>
+    <name>corva::CardPlaces</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>The SIM&apos;s memory for messages is nearly full: %1</source>
+        <translation>SIM kartın mesaj belleği neredeyse dolu: %1</translation>
+    </message>
+    <message>
+        <source>The card&apos;s memory for messages is nearly full: %1</source>
+        <translation>Kartın mesaj belleği neredeyse dolu: %1</translation>
+    </message>
+    <message>
+        <source>There is no card that takes messages.</source>
+        <translation>Mesaj alan bir kart yok.</translation>
+    </message>
+    <message>
+        <source>The messages could not be written to disk and stay on the card.</source>
+        <translation>Mesajlar diske yazılamadı ve kartta kalıyor.</translation>
+    </message>
+    <message>
+        <source>Only short messages can be kept on the card.</source>
+        <translation>Kartta yalnızca kısa mesajlar saklanabilir.</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>Kart artık yok.</translation>
+    </message>
+    <message>
+        <source>The message was not written to the SIM: %1</source>
+        <translation>Mesaj SIM karta yazılmadı: %1</translation>
+    </message>
+    <message>
+        <source>The message was not written to the card: %1</source>
+        <translation>Mesaj karta yazılmadı: %1</translation>
+    </message>
+    <message>
+        <source>A message could not be deleted from the card. It is kept on the computer as well.</source>
+        <translation>Bir mesaj karttan silinemedi. Bilgisayarda da saklanıyor.</translation>
+    </message>
+</context>
+<context>
     <name>corva::CheckPIN</name>
     <message>
         <source>&amp;Show the digits</source>
@@ -1536,6 +2220,120 @@
     <message>
         <source>&amp;Cancel</source>
         <translation>İ&amp;ptal</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Class0Dialog</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>Ka&amp;pat</translation>
+    </message>
+    <message>
+        <source>Immediate message</source>
+        <translation>Flaş mesaj</translation>
+    </message>
+    <message>
+        <source>&amp;Keep in the inbox</source>
+        <translation>&amp;Gelen kutusunda sakla</translation>
+    </message>
+    <message>
+        <source>%1 :
+ %2</source>
+        <translation>%1:
+ %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n tane daha</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Sonraki</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Composer</name>
+    <message>
+        <source>New message</source>
+        <translation>Yeni mesaj</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>&amp;Kime</translation>
+    </message>
+    <message>
+        <source>Delivery &amp;report</source>
+        <translation>İletim &amp;raporu</translation>
+    </message>
+    <message>
+        <source>&amp;Send</source>
+        <translation>&amp;Gönder</translation>
+    </message>
+    <message>
+        <source>Numbers, with commas between them</source>
+        <translation>Virgülle ayrılmış numaralar</translation>
+    </message>
+    <message>
+        <source>Text of the message</source>
+        <translation>Mesajın metni</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Metin</translation>
+    </message>
+    <message>
+        <source>You are told when the message was delivered</source>
+        <translation>Mesaj iletilince size bildirilir</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Gönder</translation>
+    </message>
+    <message>
+        <source>Te&amp;mplates</source>
+        <translation>Şa&amp;blonlar</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Vazgeç</translation>
+    </message>
+    <message>
+        <source>Moves the draft to the deleted messages</source>
+        <translation>Taslağı silinmiş mesajlara taşır</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Taslak</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>The templates could not be stored: %1</source>
+        <translation>Şablonlar kaydedilemedi: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this text as a template</source>
+        <translation>Bu &amp;metni şablon olarak sakla</translation>
+    </message>
+    <message>
+        <source>&amp;Remove a template</source>
+        <translation>Şablon ka&amp;ldır</translation>
+    </message>
+    <message>
+        <source>Say whom the message is for.</source>
+        <translation>Mesajın kime olduğunu belirtin.</translation>
+    </message>
+    <message>
+        <source>The message says nothing yet.</source>
+        <translation>Mesaj henüz boş.</translation>
     </message>
 </context>
 <context>
@@ -1932,6 +2730,15 @@
     <message>
         <source>It is taken from now on.</source>
         <translation>Bundan sonra bu kullanılır.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConversationModel</name>
+    <message numerus="yes">
+        <source>%1, %n unread</source>
+        <translation>
+            <numerusform>%1, %n okunmamış</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2356,6 +3163,369 @@ Bitiş: %2</translation>
     </message>
 </context>
 <context>
+    <name>corva::MessageActions</name>
+    <message>
+        <source>&amp;Reply</source>
+        <translation>Y&amp;anıtla</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Düzenle</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>İ&amp;let</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>&amp;Sil</translation>
+    </message>
+    <message>
+        <source>Put &amp;back</source>
+        <translation>Geri &amp;koy</translation>
+    </message>
+    <message>
+        <source>Send a&amp;gain</source>
+        <translation>Yeniden &amp;gönder</translation>
+    </message>
+    <message>
+        <source>Mark as rea&amp;d</source>
+        <translation>&amp;Okundu olarak işaretle</translation>
+    </message>
+    <message>
+        <source>Mark as &amp;unread</source>
+        <translation>Ok&amp;unmadı olarak işaretle</translation>
+    </message>
+    <message>
+        <source>&amp;Copy the text</source>
+        <translation>&amp;Metni kopyala</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>&amp;Dışa aktar…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>Ya&amp;zdır…</translation>
+    </message>
+    <message numerus="yes">
+        <source>De&amp;lete %n messages</source>
+        <translation>
+            <numerusform>%n mesajı &amp;sil</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cop&amp;y to</source>
+        <translation>Şuraya ko&amp;pyala</translation>
+    </message>
+    <message>
+        <source>&amp;Move to</source>
+        <translation>Şuraya &amp;taşı</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were deleted.</source>
+        <translation>
+            <numerusform>%n mesaj silindi.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n messages for good?</source>
+        <translation>
+            <numerusform>%n mesaj kalıcı olarak silinsin mi?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n &amp;messages</source>
+        <translation>
+            <numerusform>%n m&amp;esajı sil</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageBrowser</name>
+    <message>
+        <source>No message has come yet.</source>
+        <translation>Henüz mesaj gelmedi.</translation>
+    </message>
+    <message>
+        <source>Nothing waits to be sent.</source>
+        <translation>Gönderilmeyi bekleyen mesaj yok.</translation>
+    </message>
+    <message>
+        <source>You have sent no message yet.</source>
+        <translation>Henüz mesaj göndermediniz.</translation>
+    </message>
+    <message>
+        <source>No drafts. What you write is kept here until you send it.</source>
+        <translation>Taslak yok. Yazdıklarınız, siz gönderene kadar burada saklanır.</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted.</source>
+        <translation>Silinen mesaj yok.</translation>
+    </message>
+    <message>
+        <source>No delivery report has come yet.</source>
+        <translation>Henüz iletim raporu gelmedi.</translation>
+    </message>
+    <message>
+        <source>Conversations</source>
+        <translation>Yazışmalar</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Mesajlar</translation>
+    </message>
+    <message>
+        <source>Reading the messages…</source>
+        <translation>Mesajlar okunuyor…</translation>
+    </message>
+    <message>
+        <source>No message has all of these words.</source>
+        <translation>Bu sözcüklerin tümünü içeren mesaj yok.</translation>
+    </message>
+    <message>
+        <source>Nobody has written yet. Press Ctrl+N to write first.</source>
+        <translation>Henüz kimse yazmadı. İlk yazan olmak için Ctrl+N tuşlarına basın.</translation>
+    </message>
+    <message>
+        <source>No broadcast has come yet. Choose the channels to listen to above.</source>
+        <translation>Henüz yayın gelmedi. Dinlenecek kanalları yukarıdan seçin.</translation>
+    </message>
+    <message>
+        <source>Reading the %1…</source>
+        <translation>Okunuyor: %1…</translation>
+    </message>
+    <message>
+        <source>No message is kept there.</source>
+        <translation>Burada saklanan mesaj yok.</translation>
+    </message>
+    <message>
+        <source>It was not read yet. Is a card plugged in?</source>
+        <translation>Henüz okunmadı. Kart takılı mı?</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageDesk</name>
+    <message numerus="yes">
+        <source>%n messages are unread.</source>
+        <translation>
+            <numerusform>%n okunmamış mesaj var.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Mesajlar</translation>
+    </message>
+    <message>
+        <source>New message from %1</source>
+        <translation>Yeni mesaj, gönderen: %1</translation>
+    </message>
+    <message>
+        <source>Broadcast on channel %1</source>
+        <translation>%1 kanalında yayın</translation>
+    </message>
+    <message>
+        <source>Sent successfully %1,failed %2</source>
+        <translation>Gönderilen: %1, başarısız: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageExchange</name>
+    <message>
+        <source>Export messages</source>
+        <translation>Mesajları dışa aktar</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>CSV tabloları (*.csv)</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were written to %1.</source>
+        <translation>
+            <numerusform>%n mesaj %1 dosyasına yazıldı.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The messages could not be written: %1</source>
+        <translation>Mesajlar yazılamadı: %1</translation>
+    </message>
+    <message>
+        <source>Import messages</source>
+        <translation>Mesajları içe aktar</translation>
+    </message>
+    <message>
+        <source>Exported messages (*.csv *.json)</source>
+        <translation>Dışa aktarılmış mesajlar (*.csv *.json)</translation>
+    </message>
+    <message>
+        <source>The file holds no messages that can be read.</source>
+        <translation>Dosyada okunabilen mesaj yok.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were added.</source>
+        <translation>
+            <numerusform>%n mesaj eklendi.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were here already.</source>
+        <translation>
+            <numerusform>%n mesaj zaten buradaydı.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n could not be read.</source>
+        <translation>
+            <numerusform>%n mesaj okunamadı.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageListModel</name>
+    <message>
+        <source>Unread</source>
+        <translation>Okunmamış</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageService</name>
+    <message>
+        <source>The card did not take the broadcast channels: %1</source>
+        <translation>Kart yayın kanallarını kabul etmedi: %1</translation>
+    </message>
+    <message>
+        <source>The text is too long for one message.</source>
+        <translation>Metin tek bir mesaj için çok uzun.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number was not stored: %1</source>
+        <translation>Mesaj merkezinin numarası kaydedilmedi: %1</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>Kart artık yok.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number was stored.</source>
+        <translation>Mesaj merkezinin numarası kaydedildi.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageSettings</name>
+    <message>
+        <source>Sending</source>
+        <translation>Gönderme</translation>
+    </message>
+    <message>
+        <source>The network &amp;tries for</source>
+        <translation>Ağın &amp;deneme süresi</translation>
+    </message>
+    <message>
+        <source>12 hours</source>
+        <translation>12 saat</translation>
+    </message>
+    <message>
+        <source>24 hours</source>
+        <translation>24 saat</translation>
+    </message>
+    <message>
+        <source>1 week</source>
+        <translation>1 hafta</translation>
+    </message>
+    <message>
+        <source>As long as it may</source>
+        <translation>Olabildiğince uzun</translation>
+    </message>
+    <message>
+        <source>National &amp;letters</source>
+        <translation>&amp;Ulusal harfler</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>Türkçe</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>İspanyolca</translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation>Portekizce</translation>
+    </message>
+    <message>
+        <source>&amp;Ask for a report when a message is delivered</source>
+        <translation>Mesaj iletilince &amp;rapor iste</translation>
+    </message>
+    <message>
+        <source>Keeping</source>
+        <translation>Saklama</translation>
+    </message>
+    <message>
+        <source>On this computer</source>
+        <translation>Bu bilgisayarda</translation>
+    </message>
+    <message>
+        <source>On the SIM card</source>
+        <translation>SIM kartta</translation>
+    </message>
+    <message>
+        <source>On the data card</source>
+        <translation>Veri kartında</translation>
+    </message>
+    <message>
+        <source>Where the network says</source>
+        <translation>Ağın belirttiği yerde</translation>
+    </message>
+    <message>
+        <source>&amp;New messages are kept</source>
+        <translation>&amp;Yeni mesajların saklandığı yer</translation>
+    </message>
+    <message>
+        <source>The data card&apos;s o&amp;wn memory is used, too</source>
+        <translation>Veri kartının &amp;kendi belleğini de kullan</translation>
+    </message>
+    <message>
+        <source>Delete &amp;read messages from a full SIM card</source>
+        <translation>Dolan &amp;SIM karttan okunmuş mesajları sil</translation>
+    </message>
+    <message>
+        <source>What you are told</source>
+        <translation>Size bildirilenler</translation>
+    </message>
+    <message>
+        <source>&amp;Unread messages, when the program starts</source>
+        <translation>&amp;Okunmamış mesajlar, program başlarken</translation>
+    </message>
+    <message>
+        <source>&amp;Delivery reports, in a box when they come</source>
+        <translation>İletim ra&amp;porları, gelince bir pencerede</translation>
+    </message>
+    <message>
+        <source>Delivery reports, in a &amp;folder of their own</source>
+        <translation>İletim raporları, ayrı bir k&amp;lasörde</translation>
+    </message>
+    <message>
+        <source>Messages that cells &amp;broadcast to everybody</source>
+        <translation>&amp;Hücrelerin herkese yayınladığı mesajlar</translation>
+    </message>
+    <message>
+        <source>&amp;Immediate messages show</source>
+        <translation>&amp;Flaş mesajlarda gösterilen</translation>
+    </message>
+    <message>
+        <source> lines</source>
+        <translation> satır</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Mesajlar</translation>
+    </message>
+</context>
+<context>
     <name>corva::MonthsModel</name>
     <message>
         <source>Month</source>
@@ -2490,6 +3660,17 @@ Bitiş: %2</translation>
     </message>
 </context>
 <context>
+    <name>corva::PlainTextView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopyala</translation>
+    </message>
+    <message>
+        <source>Copy %1</source>
+        <translation>Kopyala: %1</translation>
+    </message>
+</context>
+<context>
     <name>corva::ProfileList</name>
     <message>
         <source>access point from the network</source>
@@ -2595,6 +3776,134 @@ Bitiş: %2</translation>
     </message>
 </context>
 <context>
+    <name>corva::ReadingPane</name>
+    <message>
+        <source>De&amp;tails</source>
+        <translation>Ayrın&amp;tılar</translation>
+    </message>
+    <message>
+        <source>The message</source>
+        <translation>Mesaj</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Ayrıntılar</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>  ·  </source>
+        <translation>  ·  </translation>
+    </message>
+    <message>
+        <source>This message cannot be read: %1</source>
+        <translation>Bu mesaj okunamıyor: %1</translation>
+    </message>
+    <message>
+        <source>%1 parts are here. The others are added when they come.</source>
+        <translation>Gelen parçalar: %1. Ötekiler geldikçe eklenir.</translation>
+    </message>
+    <message>
+        <source>Service centre: %1</source>
+        <translation>Mesaj merkezi: %1</translation>
+    </message>
+    <message>
+        <source>Arrived: %1</source>
+        <translation>Geliş: %1</translation>
+    </message>
+    <message>
+        <source>Channel: %1</source>
+        <translation>Kanal: %1</translation>
+    </message>
+    <message>
+        <source>Part %1: %2</source>
+        <translation>Parça %1: %2</translation>
+    </message>
+    <message>
+        <source>It did not travel yet.</source>
+        <translation>Henüz gönderilmedi.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SendBar</name>
+    <message>
+        <source>Sent parts</source>
+        <translation>Gönderilen parçalar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel sending</source>
+        <translation>Göndermeyi i&amp;ptal et</translation>
+    </message>
+    <message>
+        <source>%1 %2 of %3</source>
+        <translation>%1 %2/%3</translation>
+    </message>
+    <message>
+        <source>Sending ...</source>
+        <translation>Gönderiliyor...</translation>
+    </message>
+    <message>
+        <source>Do you want to cancel sending the rest SMS?</source>
+        <translation>Kalan SMS&apos;lerin gönderilmesi iptal edilsin mi?</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SendQueue</name>
+    <message>
+        <source>The message could not be written to disk and is not sent.</source>
+        <translation>Mesaj diske yazılamadı ve gönderilmiyor.</translation>
+    </message>
+    <message>
+        <source>The message could not be written to disk.</source>
+        <translation>Mesaj diske yazılamadı.</translation>
+    </message>
+    <message>
+        <source>The alphabet&apos;s settings have changed since it was written.</source>
+        <translation>Yazıldığından bu yana alfabe ayarları değişti.</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>Kart artık yok.</translation>
+    </message>
+    <message>
+        <source>The message to %1 was not sent: %2</source>
+        <translation>%1 alıcısına mesaj gönderilmedi: %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ServiceCentreDialog</name>
+    <message>
+        <source>&amp;Number</source>
+        <translation>&amp;Numara</translation>
+    </message>
+    <message>
+        <source>Service centre</source>
+        <translation>Mesaj merkezi</translation>
+    </message>
+    <message>
+        <source>Every message goes through the operator&apos;s service centre. Its number is on the SIM card; change it only when your operator asks you to.</source>
+        <translation>Her mesaj operatörün mesaj merkezinden geçer. Numarası SIM karttadır; yalnızca operatörünüz isterse değiştirin.</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>İ&amp;ptal</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Kaydet</translation>
+    </message>
+    <message>
+        <source>One number is needed.</source>
+        <translation>Bir numara gerekli.</translation>
+    </message>
+</context>
+<context>
     <name>corva::SettingsPage</name>
     <message>
         <source>The setting could not be stored: %1</source>
@@ -2610,6 +3919,29 @@ Bitiş: %2</translation>
     <message>
         <source>No signal</source>
         <translation>Sinyal yok</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SmsReception</name>
+    <message>
+        <source>A new message could not be read from the card: %1</source>
+        <translation>Yeni bir mesaj karttan okunamadı: %1</translation>
+    </message>
+    <message>
+        <source>A new message could not be written to disk and stays on the card.</source>
+        <translation>Yeni bir mesaj diske yazılamadı ve kartta kalıyor.</translation>
+    </message>
+    <message>
+        <source>A delivery report could not be read from the card: %1</source>
+        <translation>Bir iletim raporu karttan okunamadı: %1</translation>
+    </message>
+    <message>
+        <source>Message was successfully sent to %1, in %2,at %3</source>
+        <translation>Mesaj %1 alıcısına iletildi, gönderme: %2, iletim: %3</translation>
+    </message>
+    <message>
+        <source>The message to %1: %2</source>
+        <translation>%1 alıcısına mesaj: %2</translation>
     </message>
 </context>
 <context>
@@ -2671,6 +4003,47 @@ Bitiş: %2</translation>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TemplateStore</name>
+    <message>
+        <source>%1 cannot be read, and could not be kept beside.</source>
+        <translation>%1 okunamıyor ve saklanamadı.</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ThreadModel</name>
+    <message>
+        <source>  ·  </source>
+        <translation>  ·  </translation>
+    </message>
+    <message>
+        <source>Received: %1, %2</source>
+        <translation>Alınan: %1, %2</translation>
+    </message>
+    <message>
+        <source>Written: %1, %2</source>
+        <translation>Yazılan: %1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ThreadPane</name>
+    <message>
+        <source>Show &amp;earlier messages</source>
+        <translation>Önceki mesajları göste&amp;r</translation>
+    </message>
+    <message>
+        <source>&amp;Write</source>
+        <translation>Ya&amp;z</translation>
+    </message>
+    <message>
+        <source>Conversation</source>
+        <translation>Yazışma</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
     </message>
 </context>
 <context>

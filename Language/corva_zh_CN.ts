@@ -2,6 +2,91 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>CShortMsg</name>
+    <message>
+        <source>&amp;New message</source>
+        <translation>新建短信(&amp;N)</translation>
+    </message>
+    <message>
+        <source>M&amp;ore</source>
+        <translation>更多(&amp;O)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>New message</source>
+        <translation>新建短信</translation>
+    </message>
+    <message>
+        <source>Search all messages</source>
+        <translation>搜索所有短信</translation>
+    </message>
+    <message>
+        <source>Search (%1)</source>
+        <translation>搜索 (%1)</translation>
+    </message>
+    <message>
+        <source>Sent successfully %1,failed %2</source>
+        <translation>发送成功 %1 条，失败 %2 条</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>导入(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>&amp;Undo deleting</source>
+        <translation>撤销删除(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Read the SIM and the data card ane&amp;w</source>
+        <translation>重新读取 SIM 卡和上网卡(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Service centre…</source>
+        <translation>短信中心(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Choose a message to read it, or write one with Ctrl+N.</source>
+        <translation>请选择一条短信阅读，或按 Ctrl+N 新建短信。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages are chosen.</source>
+        <translation>
+            <numerusform>已选择 %n 条短信。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The draft was deleted.</source>
+        <translation>已删除草稿。</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>There is nothing to bring back.</source>
+        <translation>没有可恢复的内容。</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>重试(&amp;T)</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 places are used. When it is full, no message can come in.</source>
+        <translation>%1：共 %3 个位置，已用 %2 个。存满后将无法接收短信。</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>短信</translation>
+    </message>
+</context>
+<context>
     <name>CardStatus</name>
     <message>
         <source>Ready</source>
@@ -86,6 +171,268 @@
     <message>
         <source>, </source>
         <translation>，</translation>
+    </message>
+</context>
+<context>
+    <name>Channels</name>
+    <message>
+        <source>&quot;%1&quot; is no channel. Channels are numbers from 0 to 65535, or ranges as 10-15.</source>
+        <translation>“%1”不是频道。频道是 0 到 65535 之间的数字，或 10-15 这样的范围。</translation>
+    </message>
+    <message>
+        <source>These are more than %1 channels.</source>
+        <translation>频道数超过 %1 个。</translation>
+    </message>
+</context>
+<context>
+    <name>CmsErrors</name>
+    <message>
+        <source>The number does not exist.</source>
+        <translation>该号码不存在。</translation>
+    </message>
+    <message>
+        <source>The operator has barred messages for this SIM.</source>
+        <translation>运营商已禁止此 SIM 卡使用短信。</translation>
+    </message>
+    <message>
+        <source>Sending is barred.</source>
+        <translation>发送已被禁止。</translation>
+    </message>
+    <message>
+        <source>The network failed.</source>
+        <translation>网络故障。</translation>
+    </message>
+    <message>
+        <source>The network rejected the message.</source>
+        <translation>网络拒绝了该短信。</translation>
+    </message>
+    <message>
+        <source>The memory for messages is full.</source>
+        <translation>短信存储空间已满。</translation>
+    </message>
+    <message>
+        <source>The recipient cannot be reached.</source>
+        <translation>无法联系到收件人。</translation>
+    </message>
+    <message>
+        <source>The network does not know this SIM.</source>
+        <translation>网络不识别此 SIM 卡。</translation>
+    </message>
+    <message>
+        <source>The network does not offer this service.</source>
+        <translation>网络不提供此服务。</translation>
+    </message>
+    <message>
+        <source>The network is out of order.</source>
+        <translation>网络无法正常工作。</translation>
+    </message>
+    <message>
+        <source>The network failed for the moment.</source>
+        <translation>网络暂时出现故障。</translation>
+    </message>
+    <message>
+        <source>The network is overloaded.</source>
+        <translation>网络过载。</translation>
+    </message>
+    <message>
+        <source>The network has no room for the message.</source>
+        <translation>网络没有空间存放该短信。</translation>
+    </message>
+    <message>
+        <source>Messages are not part of this subscription.</source>
+        <translation>此套餐不包含短信服务。</translation>
+    </message>
+    <message>
+        <source>The network did not understand the message.</source>
+        <translation>网络无法理解该短信。</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s network failed.</source>
+        <translation>收件人的网络故障。</translation>
+    </message>
+    <message>
+        <source>This kind of message is not supported.</source>
+        <translation>不支持此类短信。</translation>
+    </message>
+    <message>
+        <source>The message cannot replace another one.</source>
+        <translation>该短信无法替换另一条短信。</translation>
+    </message>
+    <message>
+        <source>The message&apos;s alphabet is not supported.</source>
+        <translation>不支持该短信的字符集。</translation>
+    </message>
+    <message>
+        <source>The service centre refused the command.</source>
+        <translation>短信中心拒绝了该命令。</translation>
+    </message>
+    <message>
+        <source>The service centre is busy.</source>
+        <translation>短信中心忙。</translation>
+    </message>
+    <message>
+        <source>The service centre does not serve this SIM.</source>
+        <translation>短信中心不为此 SIM 卡提供服务。</translation>
+    </message>
+    <message>
+        <source>The service centre failed.</source>
+        <translation>短信中心故障。</translation>
+    </message>
+    <message>
+        <source>The number is not valid.</source>
+        <translation>该号码无效。</translation>
+    </message>
+    <message>
+        <source>The recipient is barred.</source>
+        <translation>收件人已被禁止。</translation>
+    </message>
+    <message>
+        <source>The service centre has this message already.</source>
+        <translation>短信中心已有该短信。</translation>
+    </message>
+    <message>
+        <source>The service centre refuses the validity period.</source>
+        <translation>短信中心拒绝了该有效期。</translation>
+    </message>
+    <message>
+        <source>The SIM&apos;s memory for messages is full.</source>
+        <translation>SIM 卡的短信存储空间已满。</translation>
+    </message>
+    <message>
+        <source>The SIM cannot hold messages.</source>
+        <translation>SIM 卡无法存储短信。</translation>
+    </message>
+    <message>
+        <source>The card failed.</source>
+        <translation>上网卡故障。</translation>
+    </message>
+    <message>
+        <source>The SIM is busy.</source>
+        <translation>SIM 卡忙。</translation>
+    </message>
+    <message>
+        <source>The SIM failed.</source>
+        <translation>SIM 卡故障。</translation>
+    </message>
+    <message>
+        <source>The card&apos;s message service is in use.</source>
+        <translation>上网卡的短信服务正被占用。</translation>
+    </message>
+    <message>
+        <source>The card does not allow this now.</source>
+        <translation>上网卡目前不允许此操作。</translation>
+    </message>
+    <message>
+        <source>The card cannot do this.</source>
+        <translation>上网卡不支持此操作。</translation>
+    </message>
+    <message>
+        <source>The card did not understand the message.</source>
+        <translation>上网卡无法理解该短信。</translation>
+    </message>
+    <message>
+        <source>There is no SIM in the card.</source>
+        <translation>上网卡中没有 SIM 卡。</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN.</source>
+        <translation>SIM 卡要求输入 PIN 码。</translation>
+    </message>
+    <message>
+        <source>The card asks for its own PIN.</source>
+        <translation>上网卡要求输入其自身的 PIN 码。</translation>
+    </message>
+    <message>
+        <source>This SIM does not fit the card.</source>
+        <translation>此 SIM 卡与上网卡不匹配。</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK.</source>
+        <translation>SIM 卡要求输入 PUK 码。</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN2.</source>
+        <translation>SIM 卡要求输入 PIN2 码。</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK2.</source>
+        <translation>SIM 卡要求输入 PUK2 码。</translation>
+    </message>
+    <message>
+        <source>The memory for messages failed.</source>
+        <translation>短信存储器故障。</translation>
+    </message>
+    <message>
+        <source>There is no message at this place.</source>
+        <translation>此位置没有短信。</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number is not known.</source>
+        <translation>短信中心号码未知。</translation>
+    </message>
+    <message>
+        <source>There is no network.</source>
+        <translation>没有网络。</translation>
+    </message>
+    <message>
+        <source>The network did not answer in time.</source>
+        <translation>网络未及时应答。</translation>
+    </message>
+    <message>
+        <source>The card expected no confirmation.</source>
+        <translation>上网卡未等待确认。</translation>
+    </message>
+    <message>
+        <source>The card does not say why.</source>
+        <translation>上网卡未说明原因。</translation>
+    </message>
+    <message>
+        <source>The message was delivered.</source>
+        <translation>短信已送达。</translation>
+    </message>
+    <message>
+        <source>The message was replaced by a newer one.</source>
+        <translation>该短信已被更新的短信替换。</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered yet; the network goes on trying.</source>
+        <translation>短信尚未送达；网络会继续尝试。</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device cannot take the message.</source>
+        <translation>收件人的设备无法接收该短信。</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device refused the message.</source>
+        <translation>收件人的设备拒绝了该短信。</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered in time.</source>
+        <translation>短信未能在期限内送达。</translation>
+    </message>
+    <message>
+        <source>The message was deleted before it was delivered.</source>
+        <translation>短信在送达前已被删除。</translation>
+    </message>
+    <message>
+        <source>The service centre does not know the message.</source>
+        <translation>短信中心没有该短信的记录。</translation>
+    </message>
+    <message>
+        <source>The message could not be delivered.</source>
+        <translation>短信无法送达。</translation>
+    </message>
+    <message>
+        <source>The card says: %1</source>
+        <translation>上网卡报告：%1</translation>
+    </message>
+    <message>
+        <source>The card refuses, with the code %1.</source>
+        <translation>上网卡拒绝，代码为 %1。</translation>
+    </message>
+    <message>
+        <source>The card refuses, without saying why.</source>
+        <translation>上网卡拒绝，未说明原因。</translation>
     </message>
 </context>
 <context>
@@ -399,6 +746,174 @@
     </message>
 </context>
 <context>
+    <name>MessageCounter</name>
+    <message>
+        <source>Symbol: %1 /%2</source>
+        <translation>字符数：%1 /%2</translation>
+    </message>
+    <message>
+        <source>The message is too long: it may have %1 parts.</source>
+        <translation>短信太长：最多可分为 %1 部分。</translation>
+    </message>
+    <message>
+        <source>Because of &quot;%1&quot; a message holds 70 characters instead of 160.</source>
+        <translation>由于含有“%1”，每条短信只能容纳 70 个字符，而不是 160 个。</translation>
+    </message>
+    <message>
+        <source>National letters leave 155 characters of 160.</source>
+        <translation>使用国家语言字符时，160 个字符只剩 155 个。</translation>
+    </message>
+    <message>
+        <source>It is sent in %1 parts.</source>
+        <translation>将分为 %1 部分发送。</translation>
+    </message>
+</context>
+<context>
+    <name>MessagePrint</name>
+    <message>
+        <source>From %1, %2</source>
+        <translation>发件人：%1，%2</translation>
+    </message>
+    <message>
+        <source>To %1, %2</source>
+        <translation>收件人：%1，%2</translation>
+    </message>
+</context>
+<context>
+    <name>MessageStore</name>
+    <message>
+        <source>%1 was empty.</source>
+        <translation>%1 是空的。</translation>
+    </message>
+    <message>
+        <source>%1 could not be read in full. What stood in it is kept as %2.</source>
+        <translation>无法完整读取 %1。其内容已保留为 %2。</translation>
+    </message>
+    <message>
+        <source>%1 can neither be read nor moved aside.</source>
+        <translation>无法读取 %1，也无法将其移走。</translation>
+    </message>
+</context>
+<context>
+    <name>MessageTransfer</name>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>无法读取 %1。</translation>
+    </message>
+    <message>
+        <source>%1 is not a file of messages.</source>
+        <translation>%1 不是短信文件。</translation>
+    </message>
+    <message>
+        <source>The messages of %1 could not be saved.</source>
+        <translation>无法保存 %1 中的短信。</translation>
+    </message>
+</context>
+<context>
+    <name>Messages</name>
+    <message>
+        <source>Inbox</source>
+        <translation>收件箱</translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation>发件箱</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>已发送</translation>
+    </message>
+    <message>
+        <source>Drafts</source>
+        <translation>草稿</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>已删除</translation>
+    </message>
+    <message>
+        <source>Delivery reports</source>
+        <translation>送达报告</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>计算机</translation>
+    </message>
+    <message>
+        <source>SIM card</source>
+        <translation>SIM 卡</translation>
+    </message>
+    <message>
+        <source>Data card</source>
+        <translation>上网卡</translation>
+    </message>
+    <message>
+        <source>Waiting to be sent</source>
+        <translation>等待发送</translation>
+    </message>
+    <message>
+        <source>Being sent</source>
+        <translation>正在发送</translation>
+    </message>
+    <message>
+        <source>Delivered</source>
+        <translation>已送达</translation>
+    </message>
+    <message>
+        <source>Not delivered yet, the network still tries</source>
+        <translation>尚未送达，网络仍在尝试</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>Part %1: %2</source>
+        <translation>第 %1 部分：%2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1。%2</translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <extracomment>A day without its year, as QDate::toString takes it</extracomment>
+        <translation>M月d日</translation>
+    </message>
+    <message>
+        <source>Nobody yet</source>
+        <translation>尚无收件人</translation>
+    </message>
+    <message>
+        <source>Unknown sender</source>
+        <translation>未知发件人</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>This message cannot be read</source>
+        <translation>无法读取此短信</translation>
+    </message>
+    <message>
+        <source>No text</source>
+        <translation>无文本</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>昨天</translation>
+    </message>
+</context>
+<context>
     <name>ModeSwitch</name>
     <message>
         <source>The stick is not there any more. Plug it in again.</source>
@@ -493,22 +1008,6 @@
     <message>
         <source>The card is ringing.</source>
         <translation>上网卡有来电。</translation>
-    </message>
-    <message>
-        <source>New message</source>
-        <translation>新短信</translation>
-    </message>
-    <message>
-        <source>A new message has arrived on the card</source>
-        <translation>上网卡收到一条新短信</translation>
-    </message>
-    <message>
-        <source>A new message has arrived</source>
-        <translation>收到一条新短信</translation>
-    </message>
-    <message>
-        <source>An immediate message has arrived</source>
-        <translation>收到一条即显短信</translation>
     </message>
     <message>
         <source>Another call is waiting.</source>
@@ -831,6 +1330,53 @@
     </message>
 </context>
 <context>
+    <name>PduError</name>
+    <message>
+        <source>there is nothing</source>
+        <translation>没有内容</translation>
+    </message>
+    <message>
+        <source>this is no hexadecimal digit</source>
+        <translation>不是十六进制数字</translation>
+    </message>
+    <message>
+        <source>half an octet is missing</source>
+        <translation>缺少半个八位字节</translation>
+    </message>
+    <message>
+        <source>the message ends too early</source>
+        <translation>短信过早结束</translation>
+    </message>
+    <message>
+        <source>the length goes past the end</source>
+        <translation>长度超出末尾</translation>
+    </message>
+    <message>
+        <source>this is no message of the expected kind</source>
+        <translation>不是预期类型的短信</translation>
+    </message>
+    <message>
+        <source>the header is longer than the data</source>
+        <translation>头部比数据长</translation>
+    </message>
+    <message>
+        <source>an element goes past the header</source>
+        <translation>有元素超出头部</translation>
+    </message>
+    <message>
+        <source>there can be no such part</source>
+        <translation>不可能有这样的部分</translation>
+    </message>
+    <message>
+        <source>half a character is missing</source>
+        <translation>缺少半个字符</translation>
+    </message>
+    <message>
+        <source>The message cannot be read: %1 (%2, octet %3).</source>
+        <translation>无法读取短信：%1（%2，第 %3 个八位字节）。</translation>
+    </message>
+</context>
+<context>
     <name>PortAccess</name>
     <message>
         <source>You may not open %1, which belongs to the group &quot;%2&quot;. Join it with &quot;sudo usermod -aG %2 %3&quot;, then sign out and in again.</source>
@@ -1038,6 +1584,21 @@
     </message>
 </context>
 <context>
+    <name>Recipients</name>
+    <message>
+        <source>&quot;%1&quot; is no number: &quot;%2&quot; cannot be dialled.</source>
+        <translation>“%1”不是号码：无法拨打“%2”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number: the digits are missing.</source>
+        <translation>“%1”不是号码：缺少数字。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too long: a number has %2 characters at most.</source>
+        <translation>“%1”太长：号码最多 %2 个字符。</translation>
+    </message>
+</context>
+<context>
     <name>SafeFile</name>
     <message>
         <source>The folder %1 cannot be made</source>
@@ -1094,6 +1655,40 @@
     <message>
         <source>The colours in &quot;%1&quot; cannot be read.</source>
         <translation>无法读取“%1”中的颜色。</translation>
+    </message>
+</context>
+<context>
+    <name>SmsFiling</name>
+    <message>
+        <source>The text is compressed and cannot be shown.</source>
+        <translation>文本经过压缩，无法显示。</translation>
+    </message>
+    <message>
+        <source>The message holds data and no text.</source>
+        <translation>该短信包含数据，没有文本。</translation>
+    </message>
+    <message>
+        <source>The card lists the message without its content.</source>
+        <translation>上网卡列出了该短信，但没有内容。</translation>
+    </message>
+</context>
+<context>
+    <name>SmsJobs</name>
+    <message>
+        <source>The card did not answer.</source>
+        <translation>上网卡没有应答。</translation>
+    </message>
+    <message>
+        <source>The card does not exchange messages as PDUs: %1</source>
+        <translation>上网卡不以 PDU 方式收发短信：%1</translation>
+    </message>
+    <message>
+        <source>New messages will not be announced: %1</source>
+        <translation>将不会提示新短信：%1</translation>
+    </message>
+    <message>
+        <source>The message has no content that the card could keep.</source>
+        <translation>该短信没有可供上网卡保存的内容。</translation>
     </message>
 </context>
 <context>
@@ -1286,6 +1881,52 @@
     </message>
 </context>
 <context>
+    <name>corva::ActionButton</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::BoxChooser</name>
+    <message>
+        <source>Boxes</source>
+        <translation>信箱</translation>
+    </message>
+    <message>
+        <source>Conversations</source>
+        <translation>会话</translation>
+    </message>
+    <message>
+        <source>Broadcasts</source>
+        <translation>小区广播</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3</source>
+        <extracomment>What is used of the places of a SIM card: &quot;SIM card, 10 of 20&quot;</extracomment>
+        <translation>%1，%2/%3</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::BroadcastBar</name>
+    <message>
+        <source>C&amp;hannels</source>
+        <translation>频道(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Numbers and ranges, as 50, 4370-4372</source>
+        <translation>频道号和范围，例如 50, 4370-4372</translation>
+    </message>
+    <message>
+        <source>L&amp;isten</source>
+        <translation>收听(&amp;I)</translation>
+    </message>
+</context>
+<context>
     <name>corva::CSetting</name>
     <message>
         <source>Groups of settings</source>
@@ -1415,6 +2056,49 @@
     </message>
 </context>
 <context>
+    <name>corva::CardPlaces</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>The SIM&apos;s memory for messages is nearly full: %1</source>
+        <translation>SIM 卡的短信存储空间即将用完：%1</translation>
+    </message>
+    <message>
+        <source>The card&apos;s memory for messages is nearly full: %1</source>
+        <translation>上网卡的短信存储空间即将用完：%1</translation>
+    </message>
+    <message>
+        <source>There is no card that takes messages.</source>
+        <translation>没有可收发短信的上网卡。</translation>
+    </message>
+    <message>
+        <source>The messages could not be written to disk and stay on the card.</source>
+        <translation>无法将短信写入磁盘，短信仍保留在上网卡上。</translation>
+    </message>
+    <message>
+        <source>Only short messages can be kept on the card.</source>
+        <translation>上网卡上只能保存短信。</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>上网卡已不在。</translation>
+    </message>
+    <message>
+        <source>The message was not written to the SIM: %1</source>
+        <translation>短信未能写入 SIM 卡：%1</translation>
+    </message>
+    <message>
+        <source>The message was not written to the card: %1</source>
+        <translation>短信未能写入上网卡：%1</translation>
+    </message>
+    <message>
+        <source>A message could not be deleted from the card. It is kept on the computer as well.</source>
+        <translation>有一条短信无法从上网卡中删除。计算机上也保留了该短信。</translation>
+    </message>
+</context>
+<context>
     <name>corva::CheckPIN</name>
     <message>
         <source>&amp;Show the digits</source>
@@ -1536,6 +2220,120 @@
     <message>
         <source>&amp;Cancel</source>
         <translation>取消(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Class0Dialog</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Immediate message</source>
+        <translation>即显短信</translation>
+    </message>
+    <message>
+        <source>&amp;Keep in the inbox</source>
+        <translation>保存到收件箱(&amp;K)</translation>
+    </message>
+    <message>
+        <source>%1 :
+ %2</source>
+        <translation>%1：
+ %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>还有 %n 条</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>下一条(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::Composer</name>
+    <message>
+        <source>New message</source>
+        <translation>新建短信</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>收件人(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Delivery &amp;report</source>
+        <translation>送达报告(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Send</source>
+        <translation>发送(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Numbers, with commas between them</source>
+        <translation>多个号码之间用逗号分隔</translation>
+    </message>
+    <message>
+        <source>Text of the message</source>
+        <translation>短信正文</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>正文</translation>
+    </message>
+    <message>
+        <source>You are told when the message was delivered</source>
+        <translation>短信送达时会通知您</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>发送</translation>
+    </message>
+    <message>
+        <source>Te&amp;mplates</source>
+        <translation>模板(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>放弃(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Moves the draft to the deleted messages</source>
+        <translation>将草稿移到已删除短信中</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>草稿</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>The templates could not be stored: %1</source>
+        <translation>无法保存模板：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this text as a template</source>
+        <translation>将此文本保存为模板(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove a template</source>
+        <translation>删除模板(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Say whom the message is for.</source>
+        <translation>请填写收件人。</translation>
+    </message>
+    <message>
+        <source>The message says nothing yet.</source>
+        <translation>短信还没有内容。</translation>
     </message>
 </context>
 <context>
@@ -1932,6 +2730,15 @@
     <message>
         <source>It is taken from now on.</source>
         <translation>从现在起将使用它。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ConversationModel</name>
+    <message numerus="yes">
+        <source>%1, %n unread</source>
+        <translation>
+            <numerusform>%1，%n 条未读</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2356,6 +3163,369 @@ to %2</source>
     </message>
 </context>
 <context>
+    <name>corva::MessageActions</name>
+    <message>
+        <source>&amp;Reply</source>
+        <translation>回复(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>转发(&amp;F)</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>删除(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Put &amp;back</source>
+        <translation>恢复(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Send a&amp;gain</source>
+        <translation>重新发送(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Mark as rea&amp;d</source>
+        <translation>标为已读(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Mark as &amp;unread</source>
+        <translation>标为未读(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy the text</source>
+        <translation>复制文本(&amp;C)</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>导出(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>打印(&amp;P)…</translation>
+    </message>
+    <message numerus="yes">
+        <source>De&amp;lete %n messages</source>
+        <translation>
+            <numerusform>删除 %n 条短信(&amp;L)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cop&amp;y to</source>
+        <translation>复制到(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;Move to</source>
+        <translation>移动到(&amp;M)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were deleted.</source>
+        <translation>
+            <numerusform>已删除 %n 条短信。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n messages for good?</source>
+        <translation>
+            <numerusform>永久删除 %n 条短信？</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n &amp;messages</source>
+        <translation>
+            <numerusform>删除 %n 条短信(&amp;M)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageBrowser</name>
+    <message>
+        <source>No message has come yet.</source>
+        <translation>尚未收到短信。</translation>
+    </message>
+    <message>
+        <source>Nothing waits to be sent.</source>
+        <translation>没有等待发送的短信。</translation>
+    </message>
+    <message>
+        <source>You have sent no message yet.</source>
+        <translation>您尚未发送过短信。</translation>
+    </message>
+    <message>
+        <source>No drafts. What you write is kept here until you send it.</source>
+        <translation>没有草稿。您写的内容会保存在这里，直到发送。</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted.</source>
+        <translation>没有已删除的短信。</translation>
+    </message>
+    <message>
+        <source>No delivery report has come yet.</source>
+        <translation>尚未收到送达报告。</translation>
+    </message>
+    <message>
+        <source>Conversations</source>
+        <translation>会话</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>短信</translation>
+    </message>
+    <message>
+        <source>Reading the messages…</source>
+        <translation>正在读取短信…</translation>
+    </message>
+    <message>
+        <source>No message has all of these words.</source>
+        <translation>没有包含所有这些词的短信。</translation>
+    </message>
+    <message>
+        <source>Nobody has written yet. Press Ctrl+N to write first.</source>
+        <translation>还没有人给您发短信。按 Ctrl+N 可先写一条。</translation>
+    </message>
+    <message>
+        <source>No broadcast has come yet. Choose the channels to listen to above.</source>
+        <translation>尚未收到小区广播。请在上方选择要收听的频道。</translation>
+    </message>
+    <message>
+        <source>Reading the %1…</source>
+        <translation>正在读取 %1…</translation>
+    </message>
+    <message>
+        <source>No message is kept there.</source>
+        <translation>那里没有保存短信。</translation>
+    </message>
+    <message>
+        <source>It was not read yet. Is a card plugged in?</source>
+        <translation>尚未读取。上网卡是否已插入？</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageDesk</name>
+    <message numerus="yes">
+        <source>%n messages are unread.</source>
+        <translation>
+            <numerusform>有 %n 条未读短信。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>短信</translation>
+    </message>
+    <message>
+        <source>New message from %1</source>
+        <translation>来自 %1 的新短信</translation>
+    </message>
+    <message>
+        <source>Broadcast on channel %1</source>
+        <translation>频道 %1 上的小区广播</translation>
+    </message>
+    <message>
+        <source>Sent successfully %1,failed %2</source>
+        <translation>发送成功 %1 条，失败 %2 条</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageExchange</name>
+    <message>
+        <source>Export messages</source>
+        <translation>导出短信</translation>
+    </message>
+    <message>
+        <source>CSV tables (*.csv)</source>
+        <translation>CSV 表格 (*.csv)</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were written to %1.</source>
+        <translation>
+            <numerusform>已将 %n 条短信写入 %1。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The messages could not be written: %1</source>
+        <translation>无法写入短信：%1</translation>
+    </message>
+    <message>
+        <source>Import messages</source>
+        <translation>导入短信</translation>
+    </message>
+    <message>
+        <source>Exported messages (*.csv *.json)</source>
+        <translation>已导出的短信 (*.csv *.json)</translation>
+    </message>
+    <message>
+        <source>The file holds no messages that can be read.</source>
+        <translation>文件中没有可读取的短信。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n messages were added.</source>
+        <translation>
+            <numerusform>已添加 %n 条短信。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were here already.</source>
+        <translation>
+            <numerusform>%n 条已存在。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n could not be read.</source>
+        <translation>
+            <numerusform>%n 条无法读取。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageListModel</name>
+    <message>
+        <source>Unread</source>
+        <translation>未读</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageService</name>
+    <message>
+        <source>The card did not take the broadcast channels: %1</source>
+        <translation>上网卡未接受广播频道：%1</translation>
+    </message>
+    <message>
+        <source>The text is too long for one message.</source>
+        <translation>文本太长，一条短信容纳不下。</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number was not stored: %1</source>
+        <translation>短信中心号码未能保存：%1</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>上网卡已不在。</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number was stored.</source>
+        <translation>短信中心号码已保存。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::MessageSettings</name>
+    <message>
+        <source>Sending</source>
+        <translation>发送</translation>
+    </message>
+    <message>
+        <source>The network &amp;tries for</source>
+        <translation>网络尝试发送的期限(&amp;T)</translation>
+    </message>
+    <message>
+        <source>12 hours</source>
+        <translation>12 小时</translation>
+    </message>
+    <message>
+        <source>24 hours</source>
+        <translation>24 小时</translation>
+    </message>
+    <message>
+        <source>1 week</source>
+        <translation>1 周</translation>
+    </message>
+    <message>
+        <source>As long as it may</source>
+        <translation>尽可能长</translation>
+    </message>
+    <message>
+        <source>National &amp;letters</source>
+        <translation>国家语言字符(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>土耳其语</translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation>西班牙语</translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation>葡萄牙语</translation>
+    </message>
+    <message>
+        <source>&amp;Ask for a report when a message is delivered</source>
+        <translation>短信送达时要求报告(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Keeping</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>On this computer</source>
+        <translation>此计算机上</translation>
+    </message>
+    <message>
+        <source>On the SIM card</source>
+        <translation>SIM 卡上</translation>
+    </message>
+    <message>
+        <source>On the data card</source>
+        <translation>上网卡上</translation>
+    </message>
+    <message>
+        <source>Where the network says</source>
+        <translation>网络指定的位置</translation>
+    </message>
+    <message>
+        <source>&amp;New messages are kept</source>
+        <translation>新短信保存在(&amp;N)</translation>
+    </message>
+    <message>
+        <source>The data card&apos;s o&amp;wn memory is used, too</source>
+        <translation>同时使用上网卡自身的存储空间(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Delete &amp;read messages from a full SIM card</source>
+        <translation>SIM 卡存满时删除其中的已读短信(&amp;R)</translation>
+    </message>
+    <message>
+        <source>What you are told</source>
+        <translation>通知内容</translation>
+    </message>
+    <message>
+        <source>&amp;Unread messages, when the program starts</source>
+        <translation>程序启动时提示未读短信(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Delivery reports, in a box when they come</source>
+        <translation>收到送达报告时弹出提示框(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delivery reports, in a &amp;folder of their own</source>
+        <translation>送达报告放入单独的文件夹(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Messages that cells &amp;broadcast to everybody</source>
+        <translation>小区向所有人广播的消息(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Immediate messages show</source>
+        <translation>即显短信显示(&amp;I)</translation>
+    </message>
+    <message>
+        <source> lines</source>
+        <translation> 行</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>短信</translation>
+    </message>
+</context>
+<context>
     <name>corva::MonthsModel</name>
     <message>
         <source>Month</source>
@@ -2490,6 +3660,17 @@ to %2</source>
     </message>
 </context>
 <context>
+    <name>corva::PlainTextView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy %1</source>
+        <translation>复制“%1”</translation>
+    </message>
+</context>
+<context>
     <name>corva::ProfileList</name>
     <message>
         <source>access point from the network</source>
@@ -2595,6 +3776,134 @@ to %2</source>
     </message>
 </context>
 <context>
+    <name>corva::ReadingPane</name>
+    <message>
+        <source>De&amp;tails</source>
+        <translation>详细信息(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The message</source>
+        <translation>短信</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>详细信息</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>  ·  </source>
+        <translation>  ·  </translation>
+    </message>
+    <message>
+        <source>This message cannot be read: %1</source>
+        <translation>无法读取此短信：%1</translation>
+    </message>
+    <message>
+        <source>%1 parts are here. The others are added when they come.</source>
+        <translation>已收到的部分：%1。其余部分到达后会自动添加。</translation>
+    </message>
+    <message>
+        <source>Service centre: %1</source>
+        <translation>短信中心：%1</translation>
+    </message>
+    <message>
+        <source>Arrived: %1</source>
+        <translation>到达时间：%1</translation>
+    </message>
+    <message>
+        <source>Channel: %1</source>
+        <translation>频道：%1</translation>
+    </message>
+    <message>
+        <source>Part %1: %2</source>
+        <translation>第 %1 部分：%2</translation>
+    </message>
+    <message>
+        <source>It did not travel yet.</source>
+        <translation>该短信尚未收发。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SendBar</name>
+    <message>
+        <source>Sent parts</source>
+        <translation>已发送的部分</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel sending</source>
+        <translation>取消发送(&amp;C)</translation>
+    </message>
+    <message>
+        <source>%1 %2 of %3</source>
+        <translation>%1 %2/%3</translation>
+    </message>
+    <message>
+        <source>Sending ...</source>
+        <translation>正在发送…</translation>
+    </message>
+    <message>
+        <source>Do you want to cancel sending the rest SMS?</source>
+        <translation>要取消发送其余短信吗？</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SendQueue</name>
+    <message>
+        <source>The message could not be written to disk and is not sent.</source>
+        <translation>无法将短信写入磁盘，短信未发送。</translation>
+    </message>
+    <message>
+        <source>The message could not be written to disk.</source>
+        <translation>无法将短信写入磁盘。</translation>
+    </message>
+    <message>
+        <source>The alphabet&apos;s settings have changed since it was written.</source>
+        <translation>字符集设置在短信写好之后已更改。</translation>
+    </message>
+    <message>
+        <source>The card is gone.</source>
+        <translation>上网卡已不在。</translation>
+    </message>
+    <message>
+        <source>The message to %1 was not sent: %2</source>
+        <translation>发送给 %1 的短信未发出：%2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ServiceCentreDialog</name>
+    <message>
+        <source>&amp;Number</source>
+        <translation>号码(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Service centre</source>
+        <translation>短信中心</translation>
+    </message>
+    <message>
+        <source>Every message goes through the operator&apos;s service centre. Its number is on the SIM card; change it only when your operator asks you to.</source>
+        <translation>每条短信都经由运营商的短信中心发送。其号码保存在 SIM 卡上；仅在运营商要求时才应更改。</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>One number is needed.</source>
+        <translation>需要填写一个号码。</translation>
+    </message>
+</context>
+<context>
     <name>corva::SettingsPage</name>
     <message>
         <source>The setting could not be stored: %1</source>
@@ -2610,6 +3919,29 @@ to %2</source>
     <message>
         <source>No signal</source>
         <translation>无信号</translation>
+    </message>
+</context>
+<context>
+    <name>corva::SmsReception</name>
+    <message>
+        <source>A new message could not be read from the card: %1</source>
+        <translation>无法从上网卡读取一条新短信：%1</translation>
+    </message>
+    <message>
+        <source>A new message could not be written to disk and stays on the card.</source>
+        <translation>一条新短信无法写入磁盘，仍保留在上网卡上。</translation>
+    </message>
+    <message>
+        <source>A delivery report could not be read from the card: %1</source>
+        <translation>无法从上网卡读取一份送达报告：%1</translation>
+    </message>
+    <message>
+        <source>Message was successfully sent to %1, in %2,at %3</source>
+        <translation>发送给 %1 的短信已成功送达，发送时间 %2，送达时间 %3。</translation>
+    </message>
+    <message>
+        <source>The message to %1: %2</source>
+        <translation>发送给 %1 的短信：%2</translation>
     </message>
 </context>
 <context>
@@ -2671,6 +4003,47 @@ to %2</source>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>corva::TemplateStore</name>
+    <message>
+        <source>%1 cannot be read, and could not be kept beside.</source>
+        <translation>无法读取 %1，也未能保留其备份。</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ThreadModel</name>
+    <message>
+        <source>  ·  </source>
+        <translation>  ·  </translation>
+    </message>
+    <message>
+        <source>Received: %1, %2</source>
+        <translation>已接收：%1，%2</translation>
+    </message>
+    <message>
+        <source>Written: %1, %2</source>
+        <translation>已撰写：%1，%2</translation>
+    </message>
+</context>
+<context>
+    <name>corva::ThreadPane</name>
+    <message>
+        <source>Show &amp;earlier messages</source>
+        <translation>显示更早的短信(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Write</source>
+        <translation>写短信(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Conversation</source>
+        <translation>会话</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,7 @@
 #include "row.h"
 #include "shell/commoncfg.h"
 #include "shell/globals.h"
+#include "sms/smscardjobs.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -61,23 +62,87 @@ void commandToTheCard(benchmark::State &state)
     setRow(state, secondsPerCommand(card) * 1000, "ms");
 }
 
+/// Runs gammu on the card; false when it fails.
+bool runGammu(const Card &card, const QString &command)
+{
+    QFile settings(u"gammurc"_s);
+    if (!settings.open(QIODevice::WriteOnly))
+        return false;
+    settings.write("[gammu]\ndevice = " + card.folder.toLocal8Bit() + "/at\nconnection = at115200\n");
+    settings.close();
+    QProcess gammu;
+    gammu.setStandardOutputFile(QProcess::nullDevice());
+    gammu.start(u"gammu"_s, {u"-c"_s, u"gammurc"_s, command});
+    return gammu.waitForFinished(120'000) && gammu.exitCode() == 0;
+}
+
 void commandOfGammu(benchmark::State &state)
 {
     Card card;
-    QFile settings(u"gammurc"_s);
-    if (!settings.open(QIODevice::WriteOnly))
-        return state.SkipWithError("gammu's settings cannot be written");
-    settings.write("[gammu]\ndevice = " + card.folder.toLocal8Bit() + "/at\nconnection = at115200\n");
-    settings.close();
     for (auto _ : state) {
-        QProcess gammu;
-        gammu.setStandardOutputFile(QProcess::nullDevice());
-        gammu.start(u"gammu"_s, {u"-c"_s, u"gammurc"_s, u"identify"_s});
-        if (!gammu.waitForFinished() || gammu.exitCode() != 0)
+        if (!runGammu(card, u"identify"_s))
             return state.SkipWithError("gammu does not identify the card");
         state.SetIterationTime(0.1);
     }
     setRow(state, secondsPerCommand(card) * 1000, "ms");
+}
+
+int commandsHeard(Card &card)
+{
+    int count = 0;
+    for (const QJsonValue entry : card.thread.control(R"({"command": "log"})")[u"log"_s].toArray())
+        count += !entry[u"received"_s].isUndefined();
+    return count;
+}
+
+/// The card with 200 messages on its SIM, 20 ms a command.
+struct FullCard : Card {
+    FullCard()
+    {
+        thread.control(R"({"command": "store", "name": "SM", "clear": true, "capacity": 255})");
+        thread.control(R"({"command": "fill", "name": "SM", "count": 200, "status": 1})");
+        thread.control(R"({"command": "pace", "delay": 20})");
+    }
+};
+
+void messagesListed(benchmark::State &state)
+{
+    constexpr std::size_t count = 200;
+    FullCard card;
+    FakeOwner owner;
+    SerialThread link(&owner);
+    link.openPort(card.folder + u"/at"_s);
+    foundPortFlag = true;
+    for (auto _ : state) {
+        const auto begin = Clock::now();
+        const auto listing = corva::smsjobs::list(link, corva::MessagePlace::Sim);
+        const double own = std::chrono::duration<double>(Clock::now() - begin).count();
+        link.closePortNormal(link.descriptor());
+        if (listing.messages.size() != count)
+            return state.SkipWithError("the list is not whole");
+        const auto other = Clock::now();
+        if (!runGammu(card, u"getallsms"_s))
+            return state.SkipWithError("gammu does not list the messages");
+        const double gammus = std::chrono::duration<double>(Clock::now() - other).count();
+        state.SetIterationTime(own);
+        setRow(state, own / gammus, "x", 0.2);
+    }
+}
+
+void commandsForAList(benchmark::State &state)
+{
+    FullCard card;
+    FakeOwner owner;
+    SerialThread link(&owner);
+    link.openPort(card.folder + u"/at"_s);
+    foundPortFlag = true;
+    for (auto _ : state) {
+        const int before = commandsHeard(card);
+        corva::smsjobs::list(link, corva::MessagePlace::Sim);
+        state.SetIterationTime(0.1);
+        setRow(state, commandsHeard(card) - before, "", 6);
+    }
+    link.closePortNormal(link.descriptor());
 }
 
 void portToFullState(benchmark::State &state)
@@ -119,6 +184,11 @@ BENCHMARK(commandOfGammu)
     ->Name("  the same by gammu identify, on the same port")
     ->Iterations(1)
     ->UseManualTime();
+BENCHMARK(messagesListed)
+    ->Name("200 messages listed and decoded, share of gammu getallsms' time")
+    ->Iterations(1)
+    ->UseManualTime();
+BENCHMARK(commandsForAList)->Name("  commands for it")->Iterations(1)->UseManualTime();
 BENCHMARK(portToFullState)
     ->Name("port found to the card's full state, 20 ms a command, median")
     ->Iterations(9)

@@ -149,6 +149,33 @@ void pauseOfAdding(benchmark::State &state)
     });
 }
 
+/// What the card lists at the start of a day.
+void addTwoHundred(benchmark::State &state)
+{
+    FullStore full;
+    int number = storedMessages + 2000;
+    measure(state, 20, [&] {
+        std::vector<Message> messages;
+        for (int i = 0; i < 200; ++i)
+            messages.push_back(messageOf(number++));
+        const auto start = Clock::now();
+        const QFuture<bool> stored = full.store.add(std::move(messages));
+        return std::max(Clock::now() - start, longestRoundUntil([&] { return stored.isFinished(); }));
+    });
+}
+
+void changeAll(benchmark::State &state)
+{
+    FullStore full;
+    const QStringList ids = full.store.ids(MessagePlace::Computer);
+    bool isRead = false;
+    measure(state, 100, [&] {
+        const auto start = Clock::now();
+        full.store.setRead(ids, std::exchange(isRead, !isRead));
+        return Clock::now() - start;
+    });
+}
+
 void slowestKey(benchmark::State &state)
 {
     FullStore full;
@@ -192,5 +219,10 @@ BENCHMARK(pauseOfAdding)
     ->Name("  the window's longest pause in that, median")
     ->Iterations(20)
     ->UseManualTime();
+BENCHMARK(addTwoHundred)
+    ->Name("  200 more: the window's longest pause, median")
+    ->Iterations(9)
+    ->UseManualTime();
+BENCHMARK(changeAll)->Name("  all of them marked as read, median")->Iterations(9)->UseManualTime();
 BENCHMARK(slowestKey)->Name("  search as typed: the slowest key, median")->Iterations(9)->UseManualTime();
 BENCHMARK(conversationsAnew)->Name("  conversations by person, median")->Iterations(9)->UseManualTime();

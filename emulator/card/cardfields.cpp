@@ -328,6 +328,7 @@ const Fields<Messages> &messagesFields()
         indicationsField(),
         textField(u"receiveStore"_s, &Messages::receiveStore, storeName),
         numberField(u"preferred"_s, &Messages::preferred, 0, 3),
+        flagField(u"blankLine"_s, &Messages::blankLine),
         numberField(u"service"_s, &Messages::service, 0, 1),
         sectionField(u"network"_s, &Messages::network, messageNetworkFields()),
     };

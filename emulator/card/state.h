@@ -132,6 +132,7 @@ struct Messages {
     QList<int> indications{2, 1, 0, 0, 0};       ///< "+CNMI": mode, mt, bm, ds, bfr
     QString receiveStore = QStringLiteral("SM"); ///< the third of "+CPMS"
     int preferred = 0;                           ///< "+JSMSD": 0 as "+CPMS" says, 1 the SIM, 2 and 3 the card
+    bool blankLine = false;                      ///< behind PDUs that come unasked
     int service = 0;                             ///< "+CSMS": 1 wants "+CNMA" for what is handed over
     int lastReference = 0;                       ///< TP-MR of the last message sent
     BroadcastChannels broadcast;

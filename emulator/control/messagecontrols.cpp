@@ -44,12 +44,18 @@ Field<Letter> timeField()
             [](const Letter &) { return QJsonValue(); }};
 }
 
+Complaint senderText(const QString &text)
+{
+    return fitsAddress(text) ? Complaint()
+                             : u"must be up to 20 digits, or 11 letters of the default alphabet"_s;
+}
+
 const Fields<TextForm> &formFields()
 {
     static const Fields<TextForm> fields{
         choiceField<TextForm, Alphabet>(u"alphabet"_s, &TextForm::alphabet, alphabets),
         numberField(u"class"_s, &TextForm::messageClass, -1, 3),
-        numberField(u"reference"_s, &TextForm::reference, 0, 0xFFFF),
+        numberField(u"reference"_s, &TextForm::reference, -1, 0xFFFF),
         flagField(u"wide"_s, &TextForm::wideReference),
     };
     return fields;
@@ -58,8 +64,8 @@ const Fields<TextForm> &formFields()
 const Fields<Letter> &letterFields()
 {
     static const Fields<Letter> fields = [] {
-        Fields<Letter> all{textField(u"text"_s, &Letter::text), textField(u"from"_s, &Letter::sender),
-                           orderField(), timeField()};
+        Fields<Letter> all{textField(u"text"_s, &Letter::text),
+                           textField(u"from"_s, &Letter::sender, senderText), orderField(), timeField()};
         for (const Field<TextForm> &field : formFields())
             all.push_back(
                 {field.key,
@@ -193,6 +199,13 @@ Outcome broadcastText(EmulatedCard &emulated, const QJsonObject &values)
 
 Outcome reportDelivery(EmulatedCard &emulated, const QJsonObject &values)
 {
+    if (values.contains(u"pdu"_s)) {
+        const QByteArray pdu = values[u"pdu"_s].toString().toLatin1();
+        emulated.card().mailbox().receive({Incoming::Kind::StatusReport, pdu, {}});
+        return done();
+    }
+    if (const Complaint complaint = senderText(values[u"to"_s].toString()); !complaint.isEmpty())
+        return refused(u"to: "_s + complaint);
     const auto number = [&values](const QString &key) {
         return values.contains(key) ? std::optional(values[key].toInt() & 0xFF) : std::nullopt;
     };
@@ -257,8 +270,8 @@ const std::vector<ControlRow> &messageControls()
          u"how the network treats messages: times in ms, refusals, order"_s,
          changeNetwork},
         {u"sms-report"_s,
-         {{u"status"_s, Number}, {u"reference"_s, Number}, {u"to"_s, Text}},
-         u"a delivery report comes in, on the message sent last or another"_s,
+         {{u"status"_s, Number}, {u"reference"_s, Number}, {u"to"_s, Text}, {u"pdu"_s, Text}},
+         u"a delivery report comes in, on the message sent last or another, or as it is given"_s,
          reportDelivery},
         {u"broadcast"_s,
          {{u"text"_s, Text},

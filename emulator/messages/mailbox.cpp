@@ -114,8 +114,7 @@ bool Mailbox::deliver(const Incoming &incoming)
     case Route::Keep: return keep(incoming, false);
     case Route::Announce: return keep(incoming, true);
     case Route::HandOver: return handOver(incoming);
-    case Route::Show:
-        indicate("+JCLAS: ," + QByteArray::number(lengthOf(incoming.pdu)) + "\r\n" + incoming.pdu);
+    case Route::Show: show("+JCLAS: ,", lengthOf(incoming.pdu), incoming.pdu);
     }
     return true;
 }
@@ -173,8 +172,7 @@ bool Mailbox::handOver(const Incoming &incoming)
     if (m_unacknowledged)
         return false;
     const bool isReport = incoming.kind == Incoming::Kind::StatusReport;
-    indicate((isReport ? "+CDS: " : "+CMT: ,") + QByteArray::number(lengthOf(incoming.pdu)) + "\r\n" +
-             incoming.pdu);
+    show(isReport ? "+CDS: " : "+CMT: ,", lengthOf(incoming.pdu), incoming.pdu);
     if (m_card.state().messages.service == 1) {
         m_unacknowledged = incoming;
         m_patience.start(patience(), [this] { acknowledgementMissing(); });
@@ -221,8 +219,14 @@ bool Mailbox::receivePage(const QByteArray &page)
     const int channel = static_cast<unsigned char>(octets[2]) << 8 | static_cast<unsigned char>(octets[3]);
     if (isOneOf(channel, messages.broadcast.channels) == messages.broadcast.except)
         return false;
-    indicate("+CBM: " + QByteArray::number(octets.size()) + "\r\n" + page);
+    show("+CBM: ", octets.size(), page);
     return true;
+}
+
+void Mailbox::show(const QByteArray &report, qsizetype length, const QByteArray &pdu)
+{
+    indicate(report + QByteArray::number(length) + "\r\n" + pdu +
+             (m_card.state().messages.blankLine ? "\r\n" : ""));
 }
 
 void Mailbox::indicate(const QByteArray &line)

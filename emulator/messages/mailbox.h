@@ -66,6 +66,8 @@ private:
     QString storeFor(const Incoming &incoming) const;
     bool keep(const Incoming &incoming, bool announced);
     bool handOver(const Incoming &incoming);
+    /// A report with a PDU in the line behind it.
+    void show(const QByteArray &report, qsizetype length, const QByteArray &pdu);
     void indicate(const QByteArray &line);
     std::chrono::milliseconds patience() const;
     void acknowledgementMissing();

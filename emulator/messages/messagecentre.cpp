@@ -110,9 +110,12 @@ Complaint MessageCentre::report(std::optional<int> reference, std::optional<int>
     return {};
 }
 
-QByteArrayList MessageCentre::pdusOf(const Letter &letter, Complaint *complaint) const
+QByteArrayList MessageCentre::pdusOf(const Letter &letter, Complaint *complaint)
 {
-    const std::vector<UserData> parts = segmentText(letter.text, letter.form);
+    TextForm form = letter.form;
+    if (form.reference < 0)
+        form.reference = ++m_lastReference;
+    const std::vector<UserData> parts = segmentText(letter.text, form);
     if (parts.empty()) {
         *complaint = u"text: does not fit into the alphabet, or into 255 parts"_s;
         return {};

@@ -39,7 +39,7 @@ public:
     /// A delivery report on the message sent last, or on another one.
     Complaint report(std::optional<int> reference, std::optional<int> status, const QString &recipient);
     /// The PDUs of a letter in the order in which they come; empty, with a complaint, when it cannot be sent.
-    QByteArrayList pdusOf(const Letter &letter, Complaint *complaint) const;
+    QByteArrayList pdusOf(const Letter &letter, Complaint *complaint);
     /// The newest `count` messages that were taken: {"reference", "to", "pdu", "time"}.
     QJsonArray sent(qsizetype count) const;
     void forgetSent() { m_sent.clear(); }
@@ -61,7 +61,8 @@ private:
 
     Card &m_card;
     QList<Sent> m_sent;
-    QList<Incoming> m_held; ///< messages that come in backwards
+    int m_lastReference = 0; ///< of a letter in parts
+    QList<Incoming> m_held;  ///< messages that come in backwards
 };
 
 } // namespace cardemu

@@ -14,7 +14,7 @@ enum class Alphabet { Automatic, Gsm7, EightBit, Ucs2 };
 struct TextForm {
     Alphabet alphabet = Alphabet::Automatic; ///< Automatic: Gsm7 where that has every character, else Ucs2
     int messageClass = -1;
-    int reference = 1;          ///< of a long message
+    int reference = -1;         ///< of a long message; below 0: one that was not used yet
     bool wideReference = false; ///< 16 bits
 };
 

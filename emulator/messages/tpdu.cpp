@@ -36,7 +36,7 @@ public:
     QByteArray take(qsizetype count)
     {
         m_good = m_good && count <= m_octets.size() - m_at;
-        const QByteArray octets = m_good ? m_octets.mid(m_at, count) : QByteArray();
+        QByteArray octets = m_good ? m_octets.mid(m_at, count) : QByteArray();
         m_at += octets.size();
         return octets;
     }
@@ -114,6 +114,8 @@ qsizetype octetCount(const UserData &data)
     return isSevenBit(data.coding) ? (data.length * 7 + 7) / 8 : data.length;
 }
 
+constexpr int mostDigits = 20;
+
 constexpr std::array<int, 4> validityLengths = {0, 7, 1, 7}; // by TP-VPF: none, enhanced, relative, absolute
 
 } // namespace
@@ -143,6 +145,14 @@ QByteArray addressOctets(const QString &number)
     const QByteArray septets = toSeptets(number).value_or("?");
     const qsizetype halves = (septets.size() * 7 + 3) / 4;
     return static_cast<char>(halves) + (static_cast<char>(alphanumeric) + packSeptets(septets));
+}
+
+bool fitsAddress(const QString &number)
+{
+    constexpr qsizetype mostLetters = 11;
+    const auto septets = toSeptets(number);
+    return isNumber(number) ? digitsOf(number).size() <= mostDigits
+                            : septets && septets->size() <= mostLetters;
 }
 
 QString addressNumber(const QByteArray &address)
@@ -210,7 +220,6 @@ std::optional<Submit> Submit::parse(const QByteArray &pdu)
     const qsizetype needed = octetCount(submit.data);
     const qsizetype given = submit.data.octets.size();
     constexpr qsizetype most = 140;
-    constexpr int mostDigits = 20;
     if (!cursor.isGood() || (first & typeMask) != submitType || needed > most || given < needed ||
         given > needed + 1 || submit.destination[0] > mostDigits || submit.destination[0] < 1)
         return std::nullopt;

@@ -24,6 +24,8 @@ qsizetype tpduLength(const QByteArray &pdu);
 
 /// <length in digits><type><digits>; a text that is no number becomes an alphanumeric address. 9.1.2.5.
 QByteArray addressOctets(const QString &number);
+/// Whether it does so without loss.
+bool fitsAddress(const QString &number);
 /// The number that an address holds, international ones with their "+".
 QString addressNumber(const QByteArray &address);
 /// <length in octets><type><digits>; 00 for an empty number. 3GPP TS 24.011 8.2.5.1.

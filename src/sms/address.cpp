@@ -21,17 +21,29 @@ constexpr int filling = 0x0f;
 /// 3GPP TS 23.040 9.1.2.3.
 constexpr char16_t numberDigits[] = u"0123456789*#abc";
 
-QString number(OctetView octets, qsizetype digits)
+int digitAt(OctetView octets, qsizetype i)
 {
-    QString text;
-    text.reserve(digits + 1); // the caller may put a "+" before it
-    for (qsizetype i = 0; i < digits; ++i) {
-        const quint8 octet = octets[std::size_t(i / 2)];
-        const int digit = i % 2 == 0 ? octet & 0x0f : octet >> 4;
-        if (digit == filling)
-            break;
-        text += QChar(numberDigits[digit]);
-    }
+    const quint8 octet = octets[std::size_t(i / 2)];
+    return i % 2 == 0 ? octet & 0x0f : octet >> 4;
+}
+
+/// Up to the filling.
+qsizetype digitsOf(OctetView octets, qsizetype digits)
+{
+    qsizetype count = 0;
+    while (count < digits && digitAt(octets, count) != filling)
+        ++count;
+    return count;
+}
+
+QString number(OctetView octets, qsizetype digits, bool hasPlus = false)
+{
+    QString text(digits + hasPlus, Qt::Uninitialized);
+    QChar *out = text.data();
+    if (hasPlus)
+        *out++ = u'+';
+    for (qsizetype i = 0; i < digits; ++i)
+        *out++ = numberDigits[digitAt(octets, i)];
     return text;
 }
 
@@ -42,11 +54,11 @@ QString packedText(OctetView octets, qsizetype semiOctets)
     return textOfSeptets(septets, GsmCoding::standard());
 }
 
-bool getsPlus(const QString &number, quint8 type, PlusRule rule)
+bool getsPlus(qsizetype digits, quint8 type, PlusRule rule)
 {
     if (rule == PlusRule::TypeOfNumber)
         return (type & typeOfNumber) == international;
-    return type == internationalTelephone && number.size() < longestWithPlus;
+    return type == internationalTelephone && digits < longestWithPlus;
 }
 
 } // namespace
@@ -64,10 +76,8 @@ Address readAddress(OctetReader &reader, QLatin1StringView field, PlusRule rule)
         return {};
     if ((type & alphanumeric) == alphanumeric)
         return {packedText(octets, semiOctets), true};
-    QString text = number(octets, semiOctets);
-    if (getsPlus(text, type, rule))
-        text.prepend(u'+');
-    return {text, false};
+    const qsizetype digits = digitsOf(octets, semiOctets);
+    return {number(octets, digits, getsPlus(digits, type, rule)), false};
 }
 
 QString readServiceCentre(OctetReader &reader)
@@ -78,7 +88,10 @@ QString readServiceCentre(OctetReader &reader)
     if (size > reader.left())
         reader.fail(field, start, PduFault::LengthPastEnd);
     const OctetView octets = reader.octets(field, size);
-    return octets.empty() ? QString() : number(octets.subspan(1), (size - 1) * 2);
+    if (octets.empty())
+        return {};
+    const OctetView packed = octets.subspan(1);
+    return number(packed, digitsOf(packed, qsizetype(packed.size()) * 2));
 }
 
 } // namespace corva

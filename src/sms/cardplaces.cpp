@@ -36,16 +36,20 @@ bool isOnCard(const Message &message)
     return message.place != MessagePlace::Computer;
 }
 
-/// The message as the computer keeps it.
+/// The message as the computer keeps it, with its places on the card as long as it lies there too.
 Message copyForComputer(Message message, MessageBox box)
 {
     message.id.clear();
     message.place = MessagePlace::Computer;
     message.deletedFrom = message.box == MessageBox::Outbox ? MessageBox::Sent : message.box;
     message.box = box;
+    return message;
+}
+
+void forgetIndices(Message &message)
+{
     for (MessagePart &part : message.parts)
         part.storageIndex = -1;
-    return message;
 }
 
 /// What was sent from elsewhere is sent; our own outbox is for what goes out from here.
@@ -90,7 +94,9 @@ void CardPlaces::change(MessagePlace place, const PlaceState &state)
 
 bool CardPlaces::hasCardStore() const
 {
-    return cmcfg.getNumber(u"function"_s, u"modemSide_enabled"_s) == 1 && !m_isCardStoreMissing;
+    // A card without a place for messages in its settings may hold some all the same.
+    return !m_isCardStoreMissing && (cmcfg.getNumber(u"function"_s, u"modemSide_enabled"_s) == 1 ||
+                                     !m_store->ids(MessagePlace::Card).isEmpty());
 }
 
 // --- Listing
@@ -98,7 +104,7 @@ bool CardPlaces::hasCardStore() const
 
 void CardPlaces::refresh(MessagePlace place)
 {
-    if (place == MessagePlace::Computer || !m_isReady || (place == MessagePlace::Card && !hasCardStore()))
+    if (place == MessagePlace::Computer || !m_isReady)
         return;
     if (state(place).isLoading) {
         m_listsAgain[slot(place)] = true;
@@ -120,7 +126,7 @@ void CardPlaces::took(MessagePlace place, smsjobs::Listing listing)
     PlaceState now = state(place);
     const bool isFirst = !now.isRead;
     now.isLoading = false;
-    now.error = listing.fault;
+    now.error = listing.isMissing ? QString() : listing.fault;
     now.isRead = listing.isRead;
     change(place, now);
     if (std::exchange(m_listsAgain[slot(place)], false))
@@ -207,15 +213,12 @@ void CardPlaces::toComputer(const std::vector<Message> &messages, After after)
     if (messages.empty())
         return;
     std::vector<Message> copies;
-    for (const Message &message : messages)
+    for (const Message &message : messages) {
         copies.push_back(copyForComputer(message, boxOnComputer(message)));
-    const auto stored = m_store->insert(std::move(copies), MessageStore::DeletedOnes::ComeBack).stored;
-    whenDone(stored, this, [this, messages, after](std::optional<bool> isStored) {
-        if (!isStored.value_or(false))
-            Q_EMIT sigNotice(tr("The messages could not be written to disk and stay on the card."));
-        else if (after == After::Remove)
-            removeParts(messages);
-    });
+        if (after == After::Keep)
+            forgetIndices(copies.back());
+    }
+    storedHere(m_store->insert(std::move(copies), MessageStore::DeletedOnes::ComeBack), messages, after);
 }
 
 QStringList CardPlaces::moveToDeleted(const std::vector<Message> &messages)
@@ -224,13 +227,21 @@ QStringList CardPlaces::moveToDeleted(const std::vector<Message> &messages)
     for (const Message &message : messages)
         copies.push_back(copyForComputer(message, MessageBox::Deleted));
     const MessageStore::Added added = m_store->insert(std::move(copies));
-    whenDone(added.stored, this, [this, messages](std::optional<bool> isStored) {
-        if (isStored.value_or(false))
-            removeParts(messages);
-        else
-            Q_EMIT sigNotice(tr("The messages could not be written to disk and stay on the card."));
-    });
+    storedHere(added, messages, After::Remove);
     return added.made;
+}
+
+void CardPlaces::storedHere(const MessageStore::Added &added, const std::vector<Message> &originals,
+                            After after)
+{
+    whenDone(added.stored, this, [this, ids = added.ids, originals, after](std::optional<bool> isStored) {
+        if (!isStored.value_or(false)) {
+            Q_EMIT sigNotice(tr("The messages could not be written to disk and stay on the card."));
+            return;
+        }
+        for (std::size_t i = 0; after == After::Remove && i < originals.size(); ++i)
+            takeFromCard({ids.value(qsizetype(i))}, originals[i]);
+    });
 }
 
 /// The parts as the card is to keep them: what came or went as it was, a draft as it would go out.
@@ -275,34 +286,63 @@ void CardPlaces::wroteToCard(const Message &message, MessagePlace to, After afte
     }
     if (after == After::Keep)
         return;
-    if (isOnCard(message))
-        removeParts({message});
-    else
+    if (!isOnCard(message)) {
         m_store->purge({message.id});
+        return;
+    }
+    takeFromCard({}, message);
 }
 
-void CardPlaces::removeParts(const std::vector<Message> &messages)
+// --- Taking
+// ------------------------------------------------------------------------------------------------------
+
+void CardPlaces::takeFromCard(const QStringList &copies, const Message &original)
 {
-    for (const Message &message : messages) {
-        for (const MessagePart &part : message.parts) {
-            if (part.storageIndex >= 0)
-                removePart(message.place, part.storageIndex, part.pdu);
+    for (const MessagePart &part : original.parts)
+        removePart(original.place, part, copies);
+}
+
+void CardPlaces::finishTaking()
+{
+    for (Message &message : m_store->messages(m_store->ids(MessagePlace::Computer))) {
+        // Which of the two it was is not kept; another message under that index stays where it is.
+        for (const MessagePlace place : {MessagePlace::Sim, MessagePlace::Card}) {
+            message.place = place;
+            takeFromCard({message.id}, message);
         }
     }
 }
 
-void CardPlaces::removePart(MessagePlace place, int index, const QString &pdu)
+void CardPlaces::removePart(MessagePlace place, const MessagePart &part, const QStringList &copies)
 {
+    if (part.storageIndex < 0)
+        return;
     ++m_removals[slot(place)];
-    const auto job = m_worker.submit(
-        [place, index, pdu](SerialThread &link) { return smsjobs::remove(link, place, index, pdu); });
-    whenDone(job, this, [this, place](std::optional<smsjobs::Removal> removal) {
-        if (removal.value_or(smsjobs::Removal::Failed) == smsjobs::Removal::Failed)
+    const auto job = m_worker.submit([place, index = part.storageIndex, pdu = part.pdu](SerialThread &link) {
+        return smsjobs::remove(link, place, index, pdu);
+    });
+    whenDone(job, this, [this, place, part, copies](std::optional<smsjobs::Removal> removal) {
+        if (removal == smsjobs::Removal::Failed)
             Q_EMIT sigNotice(
                 tr("A message could not be deleted from the card. It is kept on the computer as well."));
+        else if (removal)
+            forgetIndex(copies, part);
         if (--m_removals[slot(place)] == 0)
             refresh(place);
     });
+}
+
+/// The part is only here from now on.
+void CardPlaces::forgetIndex(const QStringList &copies, const MessagePart &part)
+{
+    for (const QString &id : copies) {
+        m_store->change(id, [&](Message &message) {
+            for (MessagePart &kept : message.parts) {
+                if (kept.storageIndex == part.storageIndex && kept.pdu == part.pdu)
+                    kept.storageIndex = -1;
+            }
+        });
+    }
 }
 
 } // namespace corva

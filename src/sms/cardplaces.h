@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sms/messageservice.h"
+#include "sms/messagestore.h"
 #include "sms/smscardjobs.h"
 
 #include <QObject>
@@ -11,10 +12,11 @@ namespace corva
 {
 
 class CardWorker;
-class MessageStore;
 
 /// The messages on the SIM and in the card's memory: listed into the store's mirror, copied, moved, taken
-/// away. Nothing is taken from the card before its copy is on the computer's disk.
+/// away. Nothing is taken from the card before its copy is on the computer's disk. Until it is taken, the
+/// copy's parts keep the `storageIndex` that they had there, so that a taking that was cut short is finished
+/// the next time.
 class CardPlaces final : public QObject
 {
     Q_OBJECT
@@ -38,8 +40,10 @@ public:
     /// Copies into the computer's deleted box, then takes the originals from the card. Returns the copies'
     /// ids.
     QStringList moveToDeleted(const std::vector<Message> &messages);
-    /// Takes one part from the card, if it is still that one; lists the place anew.
-    void removePart(MessagePlace place, int index, const QString &pdu);
+    /// Takes `original` from the card, now that it is in `copies`, ids of the computer's messages.
+    void takeFromCard(const QStringList &copies, const Message &original);
+    /// Takes what a former run kept and did not take any more.
+    void finishTaking();
 
 Q_SIGNALS:
     void sigChanged(corva::MessagePlace place);
@@ -57,7 +61,9 @@ private:
     std::vector<smsjobs::CardEntry> entriesOf(const Message &message) const;
     void wroteToCard(const Message &message, MessagePlace to, After after,
                      const std::optional<QString> &fault);
-    void removeParts(const std::vector<Message> &messages);
+    void removePart(MessagePlace place, const MessagePart &part, const QStringList &copies);
+    void forgetIndex(const QStringList &copies, const MessagePart &part);
+    void storedHere(const MessageStore::Added &added, const std::vector<Message> &originals, After after);
     void took(MessagePlace place, smsjobs::Listing listing);
     void warnBeforeFull(MessagePlace place, const StoreCapacity &now);
     void makeRoom(MessagePlace place);

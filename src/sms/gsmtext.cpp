@@ -57,9 +57,14 @@ QString textOfSeptets(std::span<const quint8> septets, const GsmCoding &coding)
 {
     QString text(qsizetype(septets.size()), Qt::Uninitialized);
     QChar *out = text.data();
-    for (auto septet = septets.begin(); septet != septets.end(); ++septet) {
-        const bool isEscaped = *septet == gsmEscape && septet + 1 != septets.end();
-        *out++ = isEscaped ? coding.escaped(*++septet) : inTable(coding.base, *septet);
+    const quint8 *const end = septets.data() + septets.size();
+    for (const quint8 *septet = septets.data(); septet != end; ++septet) {
+        // Only the escape has no character in a base table.
+        const char16_t character = coding.base[*septet & 0x7f];
+        if (character)
+            *out++ = character;
+        else
+            *out++ = septet + 1 != end ? coding.escaped(*++septet) : blank;
     }
     text.truncate(out - text.constData());
     return text;

@@ -136,6 +136,7 @@ void MessageService::Private::prepared(const smsjobs::Preparation &made)
 
 void MessageService::Private::listAll()
 {
+    places.finishTaking();
     places.refresh(MessagePlace::Sim);
     places.refresh(MessagePlace::Card);
     reception.readKeptReports();

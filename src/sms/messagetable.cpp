@@ -38,6 +38,25 @@ bool isAhead(const RecordPtr &one, const RecordPtr &other)
            std::tie(other->when, other->arrived, other->message.id);
 }
 
+/// Whether the search finds both alike.
+bool readsAlike(const Message &one, const Message &other)
+{
+    return one.recipients == other.recipients && one.total == other.total &&
+           std::ranges::equal(one.parts, other.parts, [](const MessagePart &part, const MessagePart &like) {
+               return part.sequence == like.sequence && part.recipient == like.recipient &&
+                      part.text == like.text;
+           });
+}
+
+/// Whether both are found by the same keys.
+bool isFoundAlike(const Message &one, const Message &other)
+{
+    return one.home() == other.home() && one.recipients == other.recipients && one.total == other.total &&
+           one.concatReference == other.concatReference && one.is16Bit == other.is16Bit &&
+           one.isBroadcast == other.isBroadcast &&
+           std::ranges::equal(one.parts, other.parts, {}, &MessagePart::pdu, &MessagePart::pdu);
+}
+
 qint64 inMilliseconds(const QDateTime &time)
 {
     return time.isValid() ? time.toMSecsSinceEpoch() : 0;
@@ -50,16 +69,18 @@ bool isLong(const Message &message)
 
 } // namespace
 
-MessageRecord::MessageRecord(Message with, int matchingLength)
+MessageRecord::MessageRecord(Message with, int matchingLength, const MessageRecord *before)
     : message(std::move(with)), when(inMilliseconds(message.time)), arrived(inMilliseconds(message.arrived)),
-      persons(personsOf(message, matchingLength))
+      persons(personsOf(message, matchingLength)),
+      m_folded(before && readsAlike(before->message, message) ? before->m_folded
+                                                              : std::make_shared<FoldedOnce>())
 {
 }
 
 const QString &MessageRecord::folded() const
 {
-    std::call_once(m_foldedOnce, [this] { m_folded = searchedText(message); });
-    return m_folded;
+    std::call_once(m_folded->once, [this] { m_folded->text = searchedText(message); });
+    return m_folded->text;
 }
 
 QString newMessageId()
@@ -100,16 +121,21 @@ MessageTable::Place MessageTable::placeOf(const RecordPtr &record)
 void MessageTable::put(Message message)
 {
     const RecordPtr before = find(message.id);
-    const auto record = std::make_shared<const MessageRecord>(std::move(message), m_matchingLength);
+    const auto record =
+        std::make_shared<const MessageRecord>(std::move(message), m_matchingLength, before.get());
+    const bool isInPlace = before && before->when == record->when && before->arrived == record->arrived;
+    if (isInPlace)
+        *placeOf(record) = record;
+    else if (before)
+        m_records.erase(placeOf(before));
+    if (!isInPlace)
+        m_records.insert(placeOf(record), record);
+    if (before && isFoundAlike(before->message, record->message)) {
+        m_byId[record->message.id] = record;
+        return;
+    }
     if (before)
         leave(before);
-    if (before && before->when == record->when && before->arrived == record->arrived) {
-        *placeOf(record) = record;
-    } else {
-        if (before)
-            m_records.erase(placeOf(before));
-        m_records.insert(placeOf(record), record);
-    }
     enter(record);
 }
 

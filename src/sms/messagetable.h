@@ -14,7 +14,8 @@ namespace corva
 /// A message with what is found by it. Another one takes its place when the message changes, so that a list
 /// of these can be handed to other threads as it is.
 struct MessageRecord {
-    MessageRecord(Message message, int matchingLength);
+    /// `before` is what it takes the place of; null for a new one.
+    MessageRecord(Message message, int matchingLength, const MessageRecord *before = nullptr);
 
     const Message message;
     const qint64 when;         ///< `message.time` in ms since 1970
@@ -27,8 +28,11 @@ struct MessageRecord {
     mutable QByteArray xml; ///< once it was written; of the writing thread alone
 
 private:
-    mutable QString m_folded;
-    mutable std::once_flag m_foldedOnce;
+    struct FoldedOnce {
+        std::once_flag once;
+        QString text;
+    };
+    std::shared_ptr<FoldedOnce> m_folded; ///< one for all that have the same text
 };
 using RecordPtr = std::shared_ptr<const MessageRecord>;
 

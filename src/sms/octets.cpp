@@ -11,69 +11,50 @@ namespace corva
 namespace
 {
 
-constexpr char digits[] = "0123456789ABCDEF";
 constexpr auto pduField = "PDU"_L1;
 
-constexpr std::array<qint8, 256> makeHexValues()
+/// For each character the value of the digit, shifted; negative for what is no digit.
+constexpr std::array<qint16, 256> hexValues(int shift)
 {
-    std::array<qint8, 256> values{};
+    std::array<qint16, 256> values{};
     values.fill(-1);
     for (int i = 0; i < 16; ++i) {
-        values[quint8(digits[i])] = qint8(i);
+        const char digit = hexDigit(i);
+        values[quint8(digit)] = qint16(i << shift);
         if (i >= 10)
-            values[quint8(digits[i] - 'A' + 'a')] = qint8(i);
+            values[quint8(digit - 'A' + 'a')] = qint16(i << shift);
     }
     return values;
 }
 
-constexpr auto hexValues = makeHexValues();
+constexpr auto highDigits = hexValues(4);
+constexpr auto lowDigits = hexValues(0);
+
+int octetAt(const char *digits)
+{
+    return highDigits[quint8(digits[0])] | lowDigits[quint8(digits[1])];
+}
 
 } // namespace
-
-int hexValue(char digit)
-{
-    return hexValues[quint8(digit)];
-}
-
-char hexDigit(int value)
-{
-    return digits[value & 0x0f];
-}
 
 std::optional<PduError> readHex(QByteArrayView hex, Octets &octets)
 {
     if (hex.isEmpty())
         return pduError(pduField, 0, PduFault::Empty);
     const qsizetype whole = hex.size() / 2;
-    octets.reserve(octets.size() + whole);
-    for (qsizetype i = 0; i < whole; ++i) {
-        const int value = hexValue(hex[2 * i]) * 16 | hexValue(hex[2 * i + 1]);
+    const qsizetype before = octets.size();
+    octets.resize(before + whole);
+    const char *digits = hex.data();
+    quint8 *out = octets.data() + before;
+    for (qsizetype i = 0; i < whole; ++i, digits += 2) {
+        const int value = octetAt(digits);
         if (value < 0)
             return pduError(pduField, i, PduFault::NotHex);
-        octets.append(quint8(value));
+        out[i] = quint8(value);
     }
     if (hex.size() % 2 != 0)
         return pduError(pduField, whole, PduFault::HalfOctet);
     return std::nullopt;
-}
-
-quint8 OctetReader::octet(QLatin1StringView field)
-{
-    const OctetView one = octets(field, 1);
-    return one.empty() ? quint8(0) : one.front();
-}
-
-OctetView OctetReader::octets(QLatin1StringView field, qsizetype count)
-{
-    if (m_error)
-        return {};
-    if (count > left()) {
-        fail(field, m_offset, PduFault::EndsEarly);
-        return {};
-    }
-    const OctetView read = m_octets.subspan(std::size_t(m_offset), std::size_t(count));
-    m_offset += count;
-    return read;
 }
 
 void OctetReader::fail(QLatin1StringView field, qsizetype offset, PduFault fault)

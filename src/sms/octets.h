@@ -15,10 +15,11 @@ namespace corva
 using Octets = QVarLengthArray<quint8, 256>;
 using OctetView = std::span<const quint8>;
 
-/// The value of a hexadecimal digit, or -1.
-int hexValue(char digit);
 /// Upper-case digit of a value 0..15.
-char hexDigit(int value);
+constexpr char hexDigit(int value)
+{
+    return "0123456789ABCDEF"[value & 0x0f];
+}
 
 /// Appends the octets of hex text in either case. The error of the first digit that is none, or of a missing
 /// one.
@@ -31,8 +32,20 @@ class OctetReader
 public:
     explicit OctetReader(OctetView octets) : m_octets(octets) {}
 
-    quint8 octet(QLatin1StringView field);
-    OctetView octets(QLatin1StringView field, qsizetype count);
+    quint8 octet(QLatin1StringView field)
+    {
+        const OctetView one = octets(field, 1);
+        return one.empty() ? quint8(0) : one.front();
+    }
+    OctetView octets(QLatin1StringView field, qsizetype count)
+    {
+        if (count > left())
+            fail(field, m_offset, PduFault::EndsEarly);
+        if (m_error)
+            return {};
+        m_offset += count;
+        return m_octets.subspan(std::size_t(m_offset - count), std::size_t(count));
+    }
 
     qsizetype offset() const { return m_offset; }
     qsizetype left() const { return qsizetype(m_octets.size()) - m_offset; }

@@ -117,7 +117,8 @@ template <typename Body> SmsResult decode(QByteArrayView hex, Body body)
     if (auto error = readHex(hex, octets))
         return *error;
     OctetReader reader(octets);
-    DecodedSms sms;
+    SmsResult result;
+    auto &sms = std::get<DecodedSms>(result);
     sms.serviceCentre = readServiceCentre(reader);
     sms.tpduLength = int(reader.left());
     const quint8 first = reader.octet(typeField);
@@ -125,7 +126,7 @@ template <typename Body> SmsResult decode(QByteArrayView hex, Body body)
     body(reader, first, sms);
     if (reader.hasFailed())
         return *reader.error();
-    return sms;
+    return result;
 }
 
 } // namespace

@@ -99,16 +99,13 @@ void SmsReception::keep(const Message &message)
 {
     Message copy = message;
     copy.place = MessagePlace::Computer;
-    copy.parts.front().storageIndex = -1;
     const MessageStore::Added added = m_store->insert({copy});
     announce(added.made);
-    const MessagePart &part = message.parts.front();
-    if (part.storageIndex < 0)
+    if (message.parts.front().storageIndex < 0)
         return;
-    whenDone(added.stored, this, [this, message](std::optional<bool> isStored) {
-        const MessagePart &original = message.parts.front();
+    whenDone(added.stored, this, [this, message, ids = added.ids](std::optional<bool> isStored) {
         if (isStored.value_or(false))
-            m_places->removePart(message.place, original.storageIndex, original.pdu);
+            m_places->takeFromCard(ids, message);
         else
             Q_EMIT sigNotice(tr("A new message could not be written to disk and stays on the card."));
     });

@@ -96,7 +96,7 @@ QDateTime localTimeOf(QStringView digits, StampOrder order)
 {
     Fields fields{};
     for (std::size_t i = 0; i < fields.size(); ++i) {
-        fields[i] = pairOf(digits.mid(qsizetype(2 * placeOf(i, order)), 2));
+        fields[i] = pairOf(digits.mid(2 * qsizetype(placeOf(i, order)), 2));
         if (fields[i] < 0)
             return {};
     }

@@ -100,6 +100,8 @@ void TestEmulatorControl::refusesWithAReason_data()
         u"the PDU must be hex digits, two for each octet"_s);
     row("character that the alphabet lacks", R"({"command": "sms", "text": "Ж", "alphabet": "gsm7"})",
         u"text: does not fit into the alphabet, or into 255 parts"_s);
+    row("sender of twelve letters", R"({"command": "sms", "from": "abcdefghijkl"})",
+        u"from: must be up to 20 digits, or 11 letters of the default alphabet"_s);
     row("part that the text lacks", R"({"command": "sms", "text": "short", "order": "2"})",
         u"order: the text has 1 parts"_s);
     row("order that is none", R"({"command": "sms", "text": "x", "order": "1,,2"})",

@@ -59,6 +59,8 @@ void TestEmulatorMessages::comesInAsIndicationsSay()
     QCOMPARE(arrives("AT+CNMI=2,1,0,0,0"), "\r\n+CMTI: \"SM\",1\r\n");
     QCOMPARE(arrives("AT+CNMI=2,0,0,0,0"), "");
     QCOMPARE(arrives("AT+CNMI=1,2,0,2,0"), "\r\n+CMT: ,23\r\n" + received + "\r\n");
+    talk.card.tell(R"({"command": "set", "key": "messages.blankLine", "value": true})");
+    QCOMPARE(arrives("AT+CNMI=1,2,0,2,0"), "\r\n+CMT: ,23\r\n" + received + "\r\n\r\n");
     QCOMPARE(arrives("AT+CNMI=3,1,2,2,0;+CPMS=\"SM\",\"SM\",\"ME\""), "\r\n+CMTI: \"ME\",1\r\n");
     QCOMPARE(arrives("AT+JSMSD=1"), "\r\n+CMTI: \"SM\",3\r\n");
     QCOMPARE(arrives("AT+JSMSD=3"), "\r\n+CMTI: \"ME\",2\r\n");
@@ -197,6 +199,8 @@ void TestEmulatorMessages::deliveryReportComesLater()
     talk.card.tell(R"({"command": "sms-report", "reference": 1, "status": 0})");
     const QByteArray direct = talk.card.pending(talk.port);
     QVERIFY2(direct.startsWith("\r\n+CDS: 25\r\n" + centre + "0601") && direct.endsWith("00\r\n"), direct);
+    talk.card.tell(R"({"command": "sms-report", "pdu": "0006"})");
+    QCOMPARE(talk.card.pending(talk.port), "\r\n+CDS: 1\r\n0006\r\n");
     QVERIFY(!talk.card.control(R"({"command": "sms-report", "reference": 9})")[u"ok"_s].toBool());
     QVERIFY(talk.card.tell(R"({"command": "sms-report", "reference": 9, "to": "+4912345678"})"));
 }

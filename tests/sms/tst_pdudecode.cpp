@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "sms/gsmalphabet.h"
 #include "sms/smsdecoder.h"
 #include "sms/smspdu.h"
 
 #include <QRegularExpression>
 #include <QTest>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -37,6 +39,14 @@ BroadcastPage decodedPage(const QByteArray &hex)
     if (const auto *error = std::get_if<PduError>(&result))
         qFatal("%s", qPrintable(error->text()));
     return std::get<BroadcastPage>(result);
+}
+
+QString charactersAt(const GsmTable &table, std::initializer_list<std::size_t> septets)
+{
+    QString characters;
+    for (const std::size_t septet : septets)
+        characters += QChar(table[septet]);
+    return characters;
 }
 
 const QByteArray helloTwice = "07917283010010F5040BC87238880900F10000993092516195800AE8329BFD4697D9EC37";
@@ -105,6 +115,28 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, pdu);
         QTEST(decoded(pdu).text, "text");
+    }
+
+    /// What every language's tables share stands where the standard has it; no other character is there
+    /// twice.
+    void tables_data()
+    {
+        QTest::addColumn<int>("language");
+        for (int language = DefaultLanguage; language <= Urdu + 1; ++language)
+            QTest::addRow("%d", language) << language;
+    }
+    void tables()
+    {
+        QFETCH(int, language);
+        const GsmTable &base = gsmLockingTable(language);
+        QCOMPARE(charactersAt(base, {0x0a, 0x0d, 0x20, 0x30, 0x39, 0x61, 0x7a}), u"\n\r 09az"_s);
+        QCOMPARE(base[gsmEscape], u'\0');
+        for (const char16_t character : base)
+            QVERIFY(character == u' ' || std::ranges::count(base, character) == 1);
+        const GsmTable &shift = gsmShiftTable(language);
+        QCOMPARE(charactersAt(shift, {0x0a, 0x14, 0x28, 0x29, 0x2f, 0x3c, 0x3d, 0x3e, 0x40, 0x65}),
+                 u"\f^{}\\[~]|€"_s);
+        QCOMPARE(shift[gsmEscape], u'\0');
     }
 
     void parts()

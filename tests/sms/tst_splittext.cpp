@@ -169,8 +169,9 @@ private Q_SLOTS:
 
     void tooManyPartsAreSeen()
     {
-        QVERIFY(splitText(QString(255 * 153, u'a'), {}).isSendable());
-        QVERIFY(!splitText(QString(255 * 153 + 1, u'a'), {}).isSendable());
+        constexpr qsizetype fullest = qsizetype(255) * 153;
+        QVERIFY(splitText(QString(fullest, u'a'), {}).isSendable());
+        QVERIFY(!splitText(QString(fullest + 1, u'a'), {}).isSendable());
     }
 
     void specialCode_data()
@@ -193,7 +194,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("written");
         QTest::addColumn<std::optional<QString>>("sendable");
-        const auto row = [](const char *name, const QString &written, std::optional<QString> sendable = {}) {
+        const auto row = [](const char *name, const QString &written,
+                            const std::optional<QString> &sendable = {}) {
             QTest::newRow(name) << written << sendable;
         };
         row("as people write it", u" +49 (171) 12-34.5 "_s, u"+4917112345"_s);
