@@ -12,6 +12,7 @@ namespace
 {
 
 constexpr auto pause = 700ms; ///< of typing, after which the draft is stored
+constexpr auto longest = 5s;  ///< without a pause
 
 void put(const DraftKeeper::Content &content, Message &draft)
 {
@@ -37,9 +38,12 @@ Message newDraft()
 
 DraftKeeper::DraftKeeper(MessageStore *store, QObject *parent) : QObject(parent), m_store(store)
 {
-    m_soon.setSingleShot(true);
+    for (QTimer *timer : {&m_soon, &m_latest}) {
+        timer->setSingleShot(true);
+        connect(timer, &QTimer::timeout, this, &DraftKeeper::save);
+    }
     m_soon.setInterval(pause);
-    connect(&m_soon, &QTimer::timeout, this, &DraftKeeper::save);
+    m_latest.setInterval(longest);
     connect(store, &MessageStore::sigLoaded, &m_soon, qOverload<>(&QTimer::start));
     connect(store, &MessageStore::sigRemoved, this, [this](const QStringList &ids) {
         if (ids.contains(m_id))
@@ -64,6 +68,8 @@ void DraftKeeper::setContent(const Content &content)
 {
     m_content = content;
     m_soon.start();
+    if (!m_latest.isActive())
+        m_latest.start();
 }
 
 void DraftKeeper::flush()
@@ -77,6 +83,7 @@ void DraftKeeper::flush()
 void DraftKeeper::release()
 {
     m_soon.stop();
+    m_latest.stop();
     m_id.clear();
     m_content = m_stored = {};
 }
@@ -84,6 +91,7 @@ void DraftKeeper::release()
 void DraftKeeper::save()
 {
     m_soon.stop();
+    m_latest.stop();
     // Before the store is loaded it gives no ids: this is called again then.
     if (m_content == m_stored || !m_store->isLoaded() || (m_id.isEmpty() && m_content.isEmpty()))
         return;

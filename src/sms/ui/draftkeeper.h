@@ -43,7 +43,8 @@ private:
     void removeEmpty();
 
     QPointer<MessageStore> m_store; ///< may be gone before the window
-    QTimer m_soon;
+    QTimer m_soon;                  ///< after a pause
+    QTimer m_latest;                ///< while nobody pauses
     QString m_id;
     Content m_content;
     Content m_stored;

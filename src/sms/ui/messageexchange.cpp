@@ -9,6 +9,7 @@
 #include <QDate>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QPromise>
 #include <QStandardPaths>
 #include <QThreadPool>
@@ -63,7 +64,9 @@ void MessageExchange::exportMessages(const QStringList &ids)
     dialog->setDefaultSuffix(u"csv"_s);
     dialog->selectFile(u"messages-%1.csv"_s.arg(QDate::currentDate().toString(Qt::ISODate)));
     connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString &filter) {
-        dialog->setDefaultSuffix(filter.contains("json"_L1) ? u"json"_s : u"csv"_s);
+        const QString suffix = filter.contains("json"_L1) ? u"json"_s : u"csv"_s;
+        dialog->setDefaultSuffix(suffix);
+        dialog->selectFile(QFileInfo(dialog->selectedFiles().value(0)).completeBaseName() + u'.' + suffix);
     });
     connect(dialog, &QFileDialog::fileSelected, this,
             [this, messages = m_store->messages(ids)](const QString &path) { write(path, messages); });

@@ -139,12 +139,17 @@ QString stateTitle(DeliveryState state)
     return row ? text(row->title) : QString();
 }
 
-QString deliveryDetails(const Message &message)
+QString deliveryDetails(const Message &message, const NameOf &nameOf)
 {
     QStringList lines;
-    for (const MessagePart &part : message.parts)
-        if (const QString line = partDetails(message, part); !line.isEmpty())
-            lines += line;
+    for (const MessagePart &part : message.parts) {
+        const QString line = partDetails(message, part);
+        const QString recipient = nameOf(message.recipients.value(part.recipient)).simplified();
+        if (!line.isEmpty())
+            lines += message.recipients.size() > 1
+                         ? text(QT_TRANSLATE_NOOP("Messages", "%1: %2")).arg(recipient, line)
+                         : line;
+    }
     return lines.join(u'\n');
 }
 

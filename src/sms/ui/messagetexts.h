@@ -23,8 +23,9 @@ QString partsNote(const Message &message);
 
 /// In a word or two; empty for DeliveryState::None.
 QString stateTitle(DeliveryState state);
-/// The state of each part in a sentence, with when and why where that is known. Empty for what was received.
-QString deliveryDetails(const Message &message);
+/// The state of each part in a line, with to whom, when and why where that matters and is known. Empty for
+/// what was received.
+QString deliveryDetails(const Message &message, const NameOf &nameOf);
 
 /// As people say it: "12:34", "Yesterday", "3 May", a date; empty for an invalid time.
 QString shortWhen(const QDateTime &time, const QDateTime &now);

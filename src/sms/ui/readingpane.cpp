@@ -88,16 +88,20 @@ void ReadingPane::show(const Message &message)
     showHead(message);
     showNotice(message);
     m_text->setText(message.text());
-    const QString delivery = deliveryDetails(message);
+    const QString delivery = deliveryDetails(message, nameOf());
     m_delivery->setText(delivery);
     m_delivery->setVisible(!delivery.isEmpty());
     m_details->setPlainText(details(message));
 }
 
+NameOf ReadingPane::nameOf() const
+{
+    return [this](const QString &number) { return m_service->nameFor(number); };
+}
+
 void ReadingPane::showHead(const Message &message)
 {
-    const auto nameOf = [this](const QString &number) { return m_service->nameFor(number); };
-    m_people->setFullText(peopleOf(message, nameOf));
+    m_people->setFullText(peopleOf(message, nameOf()));
     QStringList about;
     const QString numbers = message.recipients.join(tr(", "));
     if (numbers != m_people->fullText())

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "sms/message.h"
+#include "sms/ui/messagetexts.h"
 
 #include <QWidget>
 
@@ -32,6 +32,7 @@ public:
 private:
     void build();
     void openMenu(const QPoint &position);
+    NameOf nameOf() const;
     void showHead(const Message &message);
     void showNotice(const Message &message);
     QString details(const Message &message) const;
