@@ -10,6 +10,7 @@
 #include "shell/safefile.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -84,6 +85,7 @@ public:
     bool putAllBack(bool copiesMayBeMissing);
     Result putOneBack(const KeptFile &file, Phase before);
     bool writeOurs(const KeptFile &file, const QByteArray &content);
+    QStringList pppdsBackups();
 
     SystemFiles files;
     FileLock lock;
@@ -169,11 +171,33 @@ Result DiallerFiles::Private::putOneBack(const KeptFile &file, Phase before)
     return file.putBack(journal.files[file.name()], before == Phase::Restoring, &detail);
 }
 
+/// The resolver files that pppd's script set aside for links that are gone: it puts them back itself, unless
+/// pppd was cut off. Those alone that hold what was there at the saving.
+QStringList DiallerFiles::Private::pppdsBackups()
+{
+    const KeptFile &resolver = kept.back();
+    const QByteArray original = journal.files.value(resolver.name()).original;
+    const QFileInfo file(QFileInfo(resolver.path()).canonicalFilePath());
+    const QString prefix = file.fileName() + u".pppd-backup."_s;
+    QStringList backups;
+    for (const QFileInfo &backup : file.dir().entryInfoList({prefix + u'*'}, QDir::Files | QDir::Hidden)) {
+        const QString interfaceName = backup.fileName().sliced(prefix.size());
+        if (!QFileInfo::exists(u"/sys/class/net/"_s + interfaceName) &&
+            DiallerJournal::hashOf(contentOf(backup.filePath(), longestResolver)) == original)
+            backups += backup.filePath();
+    }
+    return backups;
+}
+
 /// Every file is tried. What is known of a file whose copy is lost is kept, apart from the journal: the
 /// program's own that stands in its place must not be saved as the person's next time.
 bool DiallerFiles::Private::putAllBack(bool copiesMayBeMissing)
 {
     const Phase before = journal.phase;
+    const QStringList backups = pppdsBackups();
+    if (const KeptFile &resolver = kept.back(); !backups.isEmpty())
+        journal.files[resolver.name()].written +=
+            DiallerJournal::hashOf(contentOf(resolver.path(), longestResolver));
     if (before == Phase::Saved && !note(Phase::Restoring))
         return false;
     DiallerJournal lost;
@@ -191,6 +215,8 @@ bool DiallerFiles::Private::putAllBack(bool copiesMayBeMissing)
     }
     if (!isAllTried)
         return false;
+    for (const QString &backup : backups)
+        removeFile(backup);
     if (lost.files.isEmpty()) {
         forget();
         return isAllBack;

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <algorithm>
 #include <csignal>
 
 using namespace Qt::StringLiterals;
@@ -19,6 +20,8 @@ namespace
 constexpr int stateField = 0;
 constexpr int sessionField = 3;
 constexpr int startTimeField = 19;
+
+constexpr qint64 longestCommand = 4096;
 
 struct Note {
     pid_t pid = 0; ///< 0 where there is none
@@ -82,6 +85,23 @@ int signalSession(pid_t session, int signal, const QByteArray &name)
         if ((name.isEmpty() || member.name == name) && kill(member.pid, signal) == 0)
             ++count;
     return count;
+}
+
+bool arePppScriptsRunning()
+{
+    const QStringList entries = QDir(u"/proc"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::NoSort);
+    return std::ranges::any_of(entries, [](const QString &entry) {
+        QFile file(u"/proc/%1/cmdline"_s.arg(entry));
+        if (entry.toInt() <= 0 || !file.open(QIODevice::ReadOnly))
+            return false;
+        // "/bin/sh /etc/ppp/ip-up ppp0 ...", "run-parts /etc/ppp/ip-up.d ...": an editor's second word, too,
+        // but that is not waited for without end.
+        const QList<QByteArray> words = file.read(longestCommand).split('\0');
+        return std::any_of(words.begin(), words.begin() + std::min<qsizetype>(words.size(), 3),
+                           [](const QByteArray &word) {
+                               return word.startsWith("/etc/ppp/ip-") || word.startsWith("/etc/ppp/ipv6-");
+                           });
+    });
 }
 
 QByteArray processNote(const ProcessStat &process)

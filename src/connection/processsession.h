@@ -32,6 +32,10 @@ std::vector<ProcessStat> membersOfSession(pid_t session);
 /// Sends `signal` to those of that name, or to all with an empty name. How many there were.
 int signalSession(pid_t session, int signal, const QByteArray &name = {});
 
+/// Whether a script runs with which pppd tells the system that a link came up or went down. They lead
+/// sessions of their own, and go on when pppd ends before them.
+bool arePppScriptsRunning();
+
 /// A process as a file names it for other programs: "<pid> <start time>".
 QByteArray processNote(const ProcessStat &process);
 /// Whether the process that the file names lives. A stranger that got the same process id meanwhile is

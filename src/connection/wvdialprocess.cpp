@@ -23,6 +23,8 @@ namespace
 constexpr auto pollPeriod = 100ms;
 /// How long output is waited for that nobody can write any more.
 constexpr int mostEmptyPolls = 10;
+/// How long pppd's scripts are waited for that outlive it. They write the system's resolver file.
+constexpr int mostScriptPolls = 50;
 
 /// What is sent, and to whom, at which poll after the kill was asked for. wvdial hangs up and ends pppd by
 /// itself when it is asked to, which takes it up to 7 s; killed outright it leaves pppd and the link behind.
@@ -181,7 +183,9 @@ bool WvdialProcess::isGone()
             .arg(stat));
     if (!m_isReaped || !membersOfSession(m_child).empty())
         return false;
-    return m_isOutputEnded || ++m_emptyPolls > mostEmptyPolls;
+    ++m_emptyPolls;
+    return (m_isOutputEnded || m_emptyPolls > mostEmptyPolls) &&
+           (m_emptyPolls > mostScriptPolls || !arePppScriptsRunning());
 }
 
 bool WvdialProcess::defunctWvdial() const

@@ -149,6 +149,8 @@ private Q_SLOTS:
     void foreignCopiesGoBack();
     void editedMeanwhile();
     void resolverOfOthers();
+    void resolverOfPppd_data();
+    void resolverOfPppd();
     void secretsOfOthers_data();
     void secretsOfOthers();
     void otherProgram();
@@ -377,6 +379,36 @@ void TestDiallerFiles::resolverOfOthers()
     QVERIFY(files.recoverConfigData());
     QCOMPARE(contentOf(m_files.resolvConf), QByteArray("nameserver 9.9.9.9\n"));
     QVERIFY(!QFileInfo::exists(m_files.savedResolvConf));
+}
+
+void TestDiallerFiles::resolverOfPppd_data()
+{
+    QTest::addColumn<QString>("interfaceName");
+    QTest::addColumn<QByteArray>("setAside");
+    QTest::addColumn<bool>("goesBack");
+    const QByteArray before = "search example.org\nnameserver 1.1.1.1\n";
+    QTest::newRow("pppd was killed before it put it back") << u"ppp97"_s << before << true;
+    QTest::newRow("the link of another program is up") << u"lo"_s << before << false;
+    QTest::newRow("of another time") << u"ppp97"_s << QByteArray("nameserver 4.4.4.4\n") << false;
+}
+
+/// pppd's script keeps beside what it replaces.
+void TestDiallerFiles::resolverOfPppd()
+{
+    QFETCH(const QString, interfaceName);
+    QFETCH(const QByteArray, setAside);
+    QFETCH(const bool, goesBack);
+    DiallerFiles files(m_files);
+    QVERIFY(files.saveConfigData());
+    const QByteArray before = contentOf(m_files.resolvConf);
+    const QByteArray ofLink = "nameserver 10.0.0.1\nsearch example.org\n";
+    const QString backup = path(u"/run/resolv.conf.pppd-backup."_s + interfaceName);
+    put(backup, setAside);
+    put(path(u"/run/resolv.conf"_s), ofLink);
+    QVERIFY(files.recoverConfigData());
+    QCOMPARE(contentOf(m_files.resolvConf), goesBack ? before : ofLink);
+    QVERIFY(QFileInfo(m_files.resolvConf).isSymLink());
+    QCOMPARE(QFileInfo::exists(backup), !goesBack);
 }
 
 void TestDiallerFiles::secretsOfOthers_data()
