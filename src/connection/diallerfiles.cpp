@@ -84,7 +84,6 @@ public:
     bool save();
     bool putAllBack(bool copiesMayBeMissing);
     Result putOneBack(const KeptFile &file, Phase before);
-    bool writeOurs(const KeptFile &file, const QByteArray &content);
     QStringList pppdsBackups();
 
     SystemFiles files;
@@ -225,12 +224,6 @@ bool DiallerFiles::Private::putAllBack(bool copiesMayBeMissing)
     return writeFileSafely(files.lost, lost.toJson(), &detail) && removeFile(files.journal) && isAllBack;
 }
 
-bool DiallerFiles::Private::writeOurs(const KeptFile &file, const QByteArray &content)
-{
-    journal.files[file.name()].written += DiallerJournal::hashOf(content);
-    return note(Phase::Saved) && file.write(content, &detail);
-}
-
 DiallerFiles::DiallerFiles(const SystemFiles &files) : d(std::make_unique<Private>(files)) {}
 
 DiallerFiles::~DiallerFiles() = default;
@@ -282,7 +275,12 @@ bool DiallerFiles::readDeafaultConfigData(const ConnectionProfile &profile, cons
     for (std::size_t i = 0; i < std::size(contents); ++i) {
         if (!QFileInfo::exists(QFileInfo(d->kept[i].path()).path()))
             return d->fail(openFailed, d->kept[i].path() + u": no such folder"_s, error, d->kept[i].path());
-        if (!d->writeOurs(d->kept[i], contents[i]))
+        d->journal.files[d->kept[i].name()].written += DiallerJournal::hashOf(contents[i]);
+    }
+    if (!d->note(Phase::Saved)) // once for all: each note waits for the disk
+        return d->fail(openFailed, {}, error, d->files.journal);
+    for (std::size_t i = 0; i < std::size(contents); ++i) {
+        if (!d->kept[i].write(contents[i], &d->detail))
             return d->fail(openFailed, {}, error, d->kept[i].path());
     }
     return true;
