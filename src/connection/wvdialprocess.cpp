@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <csignal>
 #include <sys/wait.h>
 
@@ -35,6 +36,9 @@ struct KillStep {
 };
 constexpr KillStep killSteps[] = {
     {0, SIGTERM, "wvdial"}, {90, SIGTERM, "pppd"}, {120, SIGTERM, ""}, {140, SIGKILL, ""}};
+/// For how many polls wvdial may go on without pppd. It is hanging up then, mostly for half a second and at
+/// times for 7; the port that closes when it is killed hangs up too.
+constexpr int mostPartingPolls = 5;
 /// The kernel may hold a process for ever, in a driver that waits for the card.
 constexpr int givenUpPoll = 170;
 
@@ -135,6 +139,7 @@ void WvdialProcess::safeKillWvdail()
 {
     m_killWvdialCount = 0;
     m_killStep = 0;
+    m_partingPolls = 0;
     slotWaitWvdialClose();
     if (isPresent())
         m_poll.start();
@@ -170,6 +175,11 @@ void WvdialProcess::takeKillStep()
             ++m_killStep;
         ++m_killStep;
     }
+    const auto members = membersOfSession(m_child);
+    const bool hasPppd = std::ranges::find(members, "pppd", &ProcessStat::name) != members.end();
+    m_partingPolls = hasPppd ? 0 : m_partingPolls + 1;
+    if (m_partingPolls == mostPartingPolls)
+        signalSession(m_child, SIGKILL, "wvdial");
     ++m_killWvdialCount;
 }
 

@@ -62,6 +62,7 @@ private:
     int m_run = 0;             ///< tells one dialler's signals from the next one's
     int m_killWvdialCount = 0; ///< polls since the kill
     int m_emptyPolls = 0;      ///< polls since nobody was left
+    int m_partingPolls = 0;    ///< polls of the killing in which there was no pppd
     std::size_t m_killStep = 0;
 };
 
