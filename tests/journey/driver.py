@@ -14,7 +14,7 @@ import time
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi  # noqa: E402
+from gi.repository import Atspi, GLib  # noqa: E402, F401
 
 APP = pathlib.Path(os.environ["CORVA_APP"])
 
@@ -92,30 +92,33 @@ class Program:
                     return application
         return None
 
-    def nodes(self):
-        """Everything that is shown: (role, name, text, node)."""
-        def walk(node, depth):
-            if node is None or depth > 40:
+    @staticmethod
+    def shown_in(node, depth=0):
+        """Everything that is shown in a node, itself included; asked for one by one, since each costs some time."""
+        if node is None or depth > 40:
+            return
+        with contextlib.suppress(Exception):
+            if depth >= 2 and not node.get_state_set().contains(Atspi.StateType.SHOWING):
                 return
+            yield node
+            for i in range(node.get_child_count()):
+                yield from Program.shown_in(node.get_child_at_index(i), depth + 1)
+
+    def nodes(self):
+        """Everything that is shown."""
+        return self.shown_in(self.accessible())
+
+    def each_text(self):
+        for node in self.nodes():
             with contextlib.suppress(Exception):
-                states = node.get_state_set()
-                if depth < 2 or states.contains(Atspi.StateType.SHOWING):
-                    yield node
-                    for i in range(node.get_child_count()):
-                        yield from walk(node.get_child_at_index(i), depth + 1)
-        root = self.accessible()
-        return list(walk(root, 0)) if root else []
+                yield from (text for text in (node.get_name(), node.get_description()) if text)
 
     def texts(self):
         """Every text that a person can read now."""
-        found = []
-        for node in self.nodes():
-            with contextlib.suppress(Exception):
-                found += [t for t in (node.get_name(), node.get_description()) if t]
-        return found
+        return list(self.each_text())
 
     def shows(self, text):
-        return any(text in each for each in self.texts())
+        return any(text in each for each in self.each_text())
 
     def wait_text(self, text, seconds=20.0):
         return wait_for(f"the text “{text}”", lambda: self.shows(text), seconds)

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """What the scenarios act on: the network behind the card, the card on its USB gadget, the program, the system's files."""
 import contextlib
+import faulthandler
 import hashlib
 import json
 import os
@@ -17,11 +18,12 @@ import time
 
 HERE = pathlib.Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE.parent / "journey"))
-from driver import APP, Atspi, Card, Program, wait_for  # noqa: E402
+from driver import APP, Card, GLib, Program, wait_for  # noqa: E402
 
 USER, PASSWORD = "tester", "secret"
 WEB = "198.51.100.80"
 DOWNLOAD = 20 * 1000 * 1000
+GADGET_BINDING = pathlib.Path("/sys/kernel/config/usb_gadget/card/UDC")
 EXCHANGE = pathlib.Path("/exchange")
 
 
@@ -33,7 +35,13 @@ def run(*words, **options):
 
 
 def pids(name):
-    return [int(word) for word in subprocess.run(["pgrep", "-x", name], capture_output=True, text=True).stdout.split()]
+    """The processes of this name. Read directly: a program that looks them up costs ten times as much in here."""
+    found = []
+    for folder in pathlib.Path("/proc").glob("[0-9]*"):
+        with contextlib.suppress(OSError):
+            if (folder / "comm").read_text().rstrip("\n") == name and ") Z " not in (folder / "stat").read_text():
+                found.append(int(folder.name))
+    return found
 
 
 class Etc:
@@ -138,6 +146,30 @@ class Recorder:
             time.sleep(0.05)
 
 
+class ProcessTimes:
+    """The kernel's own notes of when programs began and processes ended, on time.monotonic()."""
+
+    TRACE = pathlib.Path("/sys/kernel/tracing/instances/processes")
+
+    def __init__(self):
+        self.TRACE.mkdir(exist_ok=True)
+        (self.TRACE / "trace_clock").write_text("mono")
+        for event in ("exec", "exit"):
+            (self.TRACE / f"events/sched/sched_process_{event}/enable").write_text("1")
+
+    def moments(self, pattern):
+        lines = (self.TRACE / "trace").read_text().splitlines()
+        return [float(found[1]) for found in (re.search(rf" (\d+\.\d+): sched_process_{pattern}\b", line) for line in lines)
+                if found]
+
+    def began(self, program):
+        """The last start of this program."""
+        return self.moments(f"exec: filename={program}")[-1]
+
+    def ended(self, pid):
+        return self.moments(rf"exit: comm=\S+ pid={pid}")[-1]
+
+
 class DtrWatch:
     """Calls `changed` with an interface's number and whether its DTR is up, whenever the computer sets it.
 
@@ -163,7 +195,8 @@ class DtrWatch:
             for line in pipe:
                 found = re.search(r"value=(\d+) index=(\d+)", line)
                 if found:
-                    self.changed(int(found[2]), bool(int(found[1]) & 1))
+                    with contextlib.suppress(subprocess.CalledProcessError):  # the card ends at this moment
+                        self.changed(int(found[2]), bool(int(found[1]) & 1))
 
 
 class GadgetCard(Card):
@@ -171,15 +204,12 @@ class GadgetCard(Card):
 
     INTERFACES = {"modem": 0, "voice": 1, "at": 2}
 
-    def __init__(self, folder, has_network_card=False, auth="noauth", **data):
+    def __init__(self, folder, auth="noauth", **data):
         self.folder = folder
         self.hang_up = threading.Timer(0, self.end_call, [None])
-        functions = ["gser.0", "gser.1", "gser.2"] + (["ecm.0"] if has_network_card else [])
-        run(HERE / "gadget", "make", "1209", "0001", *functions)
         profile = {"line": {"dialResult": "CONNECT"},
-                   "data": {"accessPoint": "internet", "peer": self.peer(auth), **data}}
-        if has_network_card:
-            profile["data"]["hook"] = str(HERE / "network-card-side")
+                   "data": {"accessPoint": "internet", "peer": self.peer(auth), "hook": str(HERE / "network-card-side"),
+                            **data}}
         file = folder.with_suffix(".json")
         file.write_text(json.dumps(profile))
         devices = [f"--device={port}=/dev/ttyGS{number}" for port, number in self.INTERFACES.items()]
@@ -218,6 +248,10 @@ class GadgetCard(Card):
     def pull(self):
         run(HERE / "gadget", "unplug")
 
+    @staticmethod
+    def is_plugged():
+        return bool(GADGET_BINDING.read_text().strip())
+
     def port(self, name):
         """The device under which the computer has this port now, or None."""
         found = list(pathlib.Path("/sys/bus/usb/devices").glob(f"*:1.{self.INTERFACES[name]}/ttyUSB*"))
@@ -228,9 +262,9 @@ class GadgetCard(Card):
         return json.loads(self.say("show"))["state"]["ports"]["modem"].get("peer")
 
     def end(self):
-        self.pull()
+        if self.is_plugged():
+            self.pull()
         super().end()
-        run(HERE / "gadget", "remove")
         self.output.close()
 
 
@@ -269,7 +303,7 @@ class Internet(Program):
                     "network_dialer_setting__dial_timeout": "40", "network_dialer_setting__lcp-echo-interval": "2",
                     "network_dialer_setting__lcp-echo-failure": "3"}
         super().__init__(folder, **{**defaults, **settings})
-        self.state_node = None
+        self.state_node = self.button = None
 
     def set_profile(self, **changes):
         """Makes the profile that is dialled; fields by the beginnings of their labels."""
@@ -287,34 +321,54 @@ class Internet(Program):
             file.write_text(text)
             file.chmod(0o600)
 
+    @contextlib.contextmanager
+    def running_bench(self):
+        """The window that connects by itself, and says what it measured; with this program's settings."""
+        bench = shutil.copy(APP.parent / "benchmarks/diallingbench", self.folder)
+        with open(self.folder / "output.txt", "wb") as log:
+            self.process = subprocess.Popen([bench], cwd=self.folder, stdout=subprocess.PIPE, stderr=log, text=True)
+        try:
+            yield self.process
+        finally:
+            self.end()
+
+    # Every question to the program goes over the bus, which is slow in here: what stays is looked up once.
+
     def begin(self):
         """Starts the program and returns once it has found the card and its network."""
         self.start()
         self.wait_text("Test Network", 90)
-        self.state_node = wait_for("the state of the connection", self.find_state)
+        self.state_node, self.button = wait_for("the page of the connection", self.find_page)
         return self
 
-    def find_state(self):
+    def find_page(self):
+        found = {}
         for node in self.nodes():
             with contextlib.suppress(Exception):
-                if node.get_name().startswith(("Status:", "Initializing", "Disconnecting")):
-                    return node
+                name = node.get_name()
+                if name.startswith(("Status:", "Initializing", "Disconnecting")):
+                    found["state"] = node
+                elif name in ("Connect", "Cancel", "Disconnect") and node.get_role_name() == "push button":
+                    found["button"] = node
+            if len(found) == 2:
+                return found["state"], found["button"]
         return None
 
-    def state(self):
-        self.state_node.clear_cache()
-        return self.state_node.get_name()
+    @staticmethod
+    def name_now(node):
+        node.clear_cache()
+        return node.get_name()
 
     def wait_state(self, state, seconds=60.0):
         """Returns the moment at which the state was seen, on time.monotonic()."""
-        wait_for(f"“{state}”", lambda: self.state() == state, seconds)
+        wait_for(f"“{state}”", lambda: self.name_now(self.state_node) == state, seconds)
         return time.monotonic()
 
     def press_now(self, name):
-        """Presses a button; returns the moment just before."""
-        button = wait_for(f"the button “{name}”", lambda: self.node(name, "push button"))
+        """Presses the large button, when it has this name; returns the moment just before."""
+        wait_for(f"the button “{name}”", lambda: self.name_now(self.button) == name)
         moment = time.monotonic()
-        button.get_action_iface().do_action(0)
+        self.button.get_action_iface().do_action(0)
         return moment
 
     def connect(self, seconds=90.0):
@@ -325,17 +379,41 @@ class Internet(Program):
         begin = self.press_now("Disconnect")
         return self.wait_state("Status: Disconnected", 40) - begin
 
+    def boxes(self):
+        """The open boxes, each as the list of what it shows."""
+        found = []
+        with contextlib.suppress(GLib.Error):  # one goes at this moment
+            application = self.accessible()
+            for number in range(application.get_child_count()):
+                window = application.get_child_at_index(number)
+                if window and window.get_role_name() != "frame":
+                    found.append(list(self.shown_in(window, 2)))
+        return found
+
+    def box(self, text=""):
+        """The button that closes the box with this text, or None."""
+        for shown in self.boxes():
+            with contextlib.suppress(GLib.Error):
+                names = [node.get_name() for node in shown]
+                if "OK" in names and any(text in name for name in names):
+                    return shown[names.index("OK")]
+        return None
+
+    def close(self, text):
+        """Closes the box with this text, if there is one."""
+        with contextlib.suppress(GLib.Error, AttributeError):
+            self.box(text).get_action_iface().do_action(0)
+
     def dismiss(self, text, seconds=60.0):
         """Waits for a box with this text and closes it."""
-        self.wait_text(text, seconds)
-        self.press("OK")
-        self.wait_no_text(text)
+        wait_for(f"a box with “{text}”", lambda: self.box(text), seconds)
+        self.close(text)
+        wait_for(f"no box with “{text}” any more", lambda: not self.box(text))
 
     def dismiss_all(self):
         """Closes the boxes that may be open, whatever they say."""
-        while self.node("OK", "push button"):
-            self.press("OK", "push button")
-            time.sleep(0.3)
+        while self.box():
+            self.close("")
 
     def kill(self):
         self.process.send_signal(signal.SIGKILL)
@@ -378,10 +456,13 @@ class World:
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="corva-vm-"))
         prepare_system()
         self.network = Network(self.folder)
+        # Once for all: the kernel does not always let go of a serial function that was pulled out while in use.
+        run(HERE / "gadget", "make", "1209", "0001", "gser.0", "gser.1", "gser.2", "ecm.0")
         self.etc = Etc()
         self.dialler_words = Recorder("/tmp/connect_info")
         self.current_card = None
         DtrWatch(lambda interface, is_up: self.current_card and self.current_card.dtr_changed(interface, is_up))
+        self.process_times = ProcessTimes()
         self.count = 0
 
     def new_folder(self, name):
@@ -403,7 +484,8 @@ class World:
         program.set_profile(**(profile or {}))
         try:
             yield program.begin()
-        except BaseException:
+        except BaseException as problem:
+            print("      failed at:", problem)  # what is tidied up below may fail too
             self.keep_evidence(program)
             raise
         finally:
@@ -417,7 +499,8 @@ class World:
             print("      shown:", "; ".join(program.texts()))
         with open(EXCHANGE / f"failed{self.count}-system.txt", "w") as log:
             for words in ("ip -s address", "ip route", "ip -n net -s address", "ip -n net route", "ps ax", "ls -lR /etc/ppp",
-                          "cat /etc/ppp/options", "dmesg"):
+                          "cat /etc/ppp/options", "ls -l /run", "cat /etc/resolv.conf", f"cat {ProcessTimes.TRACE}/trace",
+                          "dmesg"):
                 log.write(f"=== {words}\n")
                 log.flush()
                 subprocess.run(words.split(), stdout=log, stderr=log)
@@ -426,6 +509,18 @@ class World:
                              (pathlib.Path("/tmp/network-side.log"), "network-side")):
             with contextlib.suppress(Exception):
                 (EXCHANGE / f"failed{self.count}-{name}.txt").write_bytes(source.read_bytes())
+
+    def tell_where_it_hangs(self):
+        """For a scenario that does not end: where it stands, and whom the kernel holds. Then the machine ends."""
+        with open(EXCHANGE / "hang.txt", "w") as log:
+            faulthandler.dump_traceback(log)
+            pathlib.Path("/proc/sysrq-trigger").write_text("w")
+            subprocess.run(["dmesg"], stdout=log)
+            subprocess.run(["ps", "axl"], stdout=log)
+        print("FAILED  no end: see hang.txt", flush=True)
+        with contextlib.suppress(Exception):
+            run("import", "-window", "root", EXCHANGE / "hang.png", timeout=20)
+        os._exit(1)
 
     def check_clean(self):
         """Nothing of a connection is left: no process, no interface, and /etc as before."""
@@ -438,5 +533,4 @@ class World:
             for pid in pids(name):
                 with contextlib.suppress(ProcessLookupError):
                     os.kill(pid, signal.SIGKILL)
-        for step in ("unplug", "remove"):
-            subprocess.run([HERE / "gadget", step], capture_output=True)
+        subprocess.run([HERE / "gadget", "unplug"], capture_output=True)
