@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/wvdiaconfigthread.h"
 
-#include "connection/cleanchild.h"
 #include "shell/logging.h"
 
 #include <array>
 #include <cerrno>
-#include <cstdlib>
+#include <csignal>
 #include <fcntl.h>
 #include <poll.h>
+#include <spawn.h>
 #include <sys/eventfd.h>
 #include <sys/socket.h>
-#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -68,30 +67,53 @@ bool makePipe(Descriptor &readEnd, Descriptor &writeEnd)
     return true;
 }
 
-/// The child's part behind the fork. The other threads of the program do not exist here, whatever locks they
-/// held: plain system calls alone.
-[[noreturn]] void runShell(const char *command, int goAhead, int output)
-{
-    setsid();
-    char go = 0;
-    if (read(goAhead, &go, 1) != 1)
-        _exit(EXIT_FAILURE); // the program died before it had noted this child
+constexpr int goAheadInChild = STDERR_FILENO + 1;
 
-    makeCleanChild();
-    dup2(open("/dev/null", O_RDONLY), STDIN_FILENO);
-    dup2(output, STDOUT_FILENO);
-    dup2(output, STDERR_FILENO);
-    syscall(SYS_close_range, STDERR_FILENO + 1, ~0U, 0); // the card's ports and locks are not the dialler's
+/// Nothing runs before the line on the descriptor of the go-ahead; at its end, nothing at all: the program
+/// died before it had noted this child. The helper's mask would make the resolver file unreadable for others.
+QByteArray guarded(const QByteArray &command)
+{
+    const QByteArray descriptor = QByteArray::number(goAheadInChild);
+    return "read -r go <&" + descriptor + " || exit 1; exec " + descriptor + "<&-; umask 022; " + command;
+}
+
+/// A shell in a session of its own; -1 when there is none. No plain fork: that marks the whole program's
+/// memory for copying, and its window stands still meanwhile.
+pid_t startShell(const QByteArray &command, int goAhead, int output)
+{
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, output, STDERR_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, goAhead, goAheadInChild);
+    // The card's ports and locks are not the dialler's.
+    posix_spawn_file_actions_addclosefrom_np(&actions, goAheadInChild + 1);
+
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    posix_spawnattr_setflags(&attributes,
+                             POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+    sigset_t signalSet;
+    sigemptyset(&signalSet);
+    posix_spawnattr_setsigmask(&attributes, &signalSet);
+    sigfillset(&signalSet);
+    posix_spawnattr_setsigdefault(&attributes, &signalSet);
 
     // A person's own ~/.wvdialrc must not change what the system's file says. And wvdial's small stacks do
     // not hold the registers of newer processors, which the loader keeps there when it binds a function late.
     std::array environment = {const_cast<char *>("PATH=/usr/sbin:/usr/bin:/sbin:/bin"),
                               const_cast<char *>("HOME=/nonexistent"), const_cast<char *>("LC_ALL=C"),
                               const_cast<char *>("LD_BIND_NOW=1"), static_cast<char *>(nullptr)};
-    std::array arguments = {const_cast<char *>("sh"), const_cast<char *>("-c"), const_cast<char *>(command),
+    QByteArray text = guarded(command);
+    std::array arguments = {const_cast<char *>("sh"), const_cast<char *>("-c"), text.data(),
                             static_cast<char *>(nullptr)};
-    execve("/bin/sh", arguments.data(), environment.data());
-    _exit(EXIT_FAILURE);
+    pid_t pid = -1;
+    const bool isStarted =
+        posix_spawn(&pid, "/bin/sh", &actions, &attributes, arguments.data(), environment.data()) == 0;
+    posix_spawnattr_destroy(&attributes);
+    posix_spawn_file_actions_destroy(&actions);
+    return isStarted ? pid : -1;
 }
 
 } // namespace
@@ -115,12 +137,7 @@ void WvdiaConfigThread::run()
     Descriptor childGoAhead;
     Descriptor goAhead;
     const bool hasPipes = makePipe(output, childOutput) && makePair(goAhead, childGoAhead);
-    const int goAheadEnd = goAhead.get();
-    const pid_t pid = hasPipes ? fork() : -1;
-    if (pid == 0) {
-        close(goAheadEnd); // or the child would wait for itself
-        runShell(m_command.constData(), childGoAhead.get(), childOutput.get());
-    }
+    const pid_t pid = hasPipes ? startShell(m_command, childGoAhead.get(), childOutput.get()) : -1;
     if (pid < 0) {
         qCWarning(lcConnection).noquote() << logTime() + u"Error : the fork call didn't worked\n"_s;
         Q_EMIT sigStarted(-1);
@@ -128,13 +145,14 @@ void WvdiaConfigThread::run()
     }
     qCDebug(lcConnection).noquote() << logTime() + u"child pid is: %1\n"_s.arg(pid);
     childOutput.close();
+    childGoAhead.close();
     if (!m_onFork(pid)) {
         goAhead.close();
         waitpid(pid, nullptr, 0);
         Q_EMIT sigStarted(-1);
         return;
     }
-    send(goAhead.get(), "", 1, MSG_NOSIGNAL); // a child that died meanwhile is seen by its output's end
+    send(goAhead.get(), "\n", 1, MSG_NOSIGNAL); // a child that died meanwhile is seen by its output's end
     Q_EMIT sigStarted(pid);
     passOutputOn(output.get());
 }
