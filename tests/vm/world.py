@@ -157,17 +157,20 @@ class ProcessTimes:
         for event in ("exec", "exit"):
             (self.TRACE / f"events/sched/sched_process_{event}/enable").write_text("1")
 
-    def moments(self, pattern):
-        lines = (self.TRACE / "trace").read_text().splitlines()
-        return [float(found[1]) for found in (re.search(rf" (\d+\.\d+): sched_process_{pattern}\b", line) for line in lines)
-                if found]
+    def find(self, pattern):
+        """The last note of this pattern: its moment and what its group says."""
+        lines = (self.TRACE / "trace").read_text()
+        moment, said = re.findall(rf" (\d+\.\d+): sched_process_{pattern}", lines)[-1]
+        return float(moment), said
 
     def began(self, program):
-        """The last start of this program."""
-        return self.moments(f"exec: filename={program}")[-1]
+        return self.find(f"(exec): filename={program} ")[0]
+
+    def pid_of(self, program):
+        return int(self.find(rf"exec: filename={program} pid=(\d+)")[1])
 
     def ended(self, pid):
-        return self.moments(rf"exit: comm=\S+ pid={pid}")[-1]
+        return self.find(rf"(exit): comm=\S+ pid={pid} ")[0]
 
 
 class DtrWatch:
