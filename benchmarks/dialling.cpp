@@ -98,8 +98,10 @@ int main(int argc, char **argv)
     };
     const bool isReady = longestGapUntil(90s, showsNetwork) >= 0;
     std::printf("idle %.4f\n", longestGapDuring(5s));
-    const bool isDone = isReady && press("connect", window, u"Status: Connected"_s) &&
-                        press("disconnect", window, u"Status: Disconnected"_s);
+    bool isDone = isReady;
+    for (int rounds = application.arguments().value(1).toInt(); rounds > 0 && isDone; --rounds)
+        isDone = press("connect", window, u"Status: Connected"_s) &&
+                 press("disconnect", window, u"Status: Disconnected"_s);
     window.stopLink();
     return isDone ? 0 : 1;
 }

@@ -19,6 +19,9 @@ from gi.repository import Atspi, GLib  # noqa: E402, F401
 APP = pathlib.Path(os.environ["CORVA_APP"])
 
 
+PAUSE = float(os.environ.get("CORVA_PAUSE", "0.05"))  # between two looks; longer where looking is slow
+
+
 def wait_for(what, condition, seconds=20.0):
     """Waits on a state; fails with the state's name."""
     end = time.monotonic() + seconds
@@ -26,7 +29,7 @@ def wait_for(what, condition, seconds=20.0):
         value = condition()
         if value:
             return value
-        time.sleep(0.05)
+        time.sleep(PAUSE)
     raise AssertionError(f"not seen within {seconds} s: {what}")
 
 

@@ -154,23 +154,25 @@ class ProcessTimes:
     def __init__(self):
         self.TRACE.mkdir(exist_ok=True)
         (self.TRACE / "trace_clock").write_text("mono")
-        for event in ("exec", "exit"):
+        for event in ("fork", "exec", "exit"):
             (self.TRACE / f"events/sched/sched_process_{event}/enable").write_text("1")
 
     def find(self, pattern):
-        """The last note of this pattern: its moment and what its group says."""
-        lines = (self.TRACE / "trace").read_text()
-        moment, said = re.findall(rf" (\d+\.\d+): sched_process_{pattern}", lines)[-1]
-        return float(moment), said
+        """Every note of this pattern: its moment and what its group says."""
+        found = re.findall(rf" (\d+\.\d+): sched_process_{pattern}", (self.TRACE / "trace").read_text())
+        return [(float(moment), said) for moment, said in found]
 
     def began(self, program):
-        return self.find(f"(exec): filename={program} ")[0]
+        """When it began, each time."""
+        return [moment for moment, _ in self.find(f"(exec): filename={program} ")]
 
-    def pid_of(self, program):
-        return int(self.find(rf"exec: filename={program} pid=(\d+)")[1])
-
-    def ended(self, pid):
-        return self.find(rf"(exit): comm=\S+ pid={pid} ")[0]
+    def link_ended(self):
+        """When this computer's pppds and their scripts ended. The network's side has a pppd too, and no scripts."""
+        of_wvdial = {pid for _, pid in self.find(r"fork: comm=wvdial pid=\d+ child_comm=\S+ child_pid=(\d+)")}
+        pppds = {pid for _, pid in self.find(r"exec: filename=/usr/sbin/pppd pid=(\d+) ")} & of_wvdial
+        scripts = {pid for _, pid in self.find(r"exec: filename=/etc/ppp/ip-\S+ pid=(\d+) ")}
+        ends = {pid: moment for moment, pid in self.find(r"exit: comm=\S+ pid=(\d+) ")}
+        return [ends[pid] for pid in pppds | scripts if pid in ends]
 
 
 class DtrWatch:
@@ -325,11 +327,11 @@ class Internet(Program):
             file.chmod(0o600)
 
     @contextlib.contextmanager
-    def running_bench(self):
-        """The window that connects by itself, and says what it measured; with this program's settings."""
+    def running_bench(self, rounds):
+        """The window that connects by itself so many times, and says what it measured; with this program's settings."""
         bench = shutil.copy(APP.parent / "benchmarks/diallingbench", self.folder)
         with open(self.folder / "output.txt", "wb") as log:
-            self.process = subprocess.Popen([bench], cwd=self.folder, stdout=subprocess.PIPE, stderr=log, text=True)
+            self.process = subprocess.Popen([bench, str(rounds)], cwd=self.folder, stdout=subprocess.PIPE, stderr=log, text=True)
         try:
             yield self.process
         finally:
