@@ -171,18 +171,21 @@ Result DiallerFiles::Private::putOneBack(const KeptFile &file, Phase before)
 }
 
 /// The resolver files that pppd's script set aside for links that are gone: it puts them back itself, unless
-/// pppd was cut off. Those alone that hold what was there at the saving.
+/// pppd was cut off. Those alone that hold what was there at the saving, or what was written since.
 QStringList DiallerFiles::Private::pppdsBackups()
 {
     const KeptFile &resolver = kept.back();
-    const QByteArray original = journal.files.value(resolver.name()).original;
+    const DiallerJournal::File known = journal.files.value(resolver.name());
+    const auto isKnown = [&](const QByteArray &hash) {
+        return hash == known.original || known.written.contains(hash);
+    };
     const QFileInfo file(QFileInfo(resolver.path()).canonicalFilePath());
     const QString prefix = file.fileName() + u".pppd-backup."_s;
     QStringList backups;
     for (const QFileInfo &backup : file.dir().entryInfoList({prefix + u'*'}, QDir::Files | QDir::Hidden)) {
         const QString interfaceName = backup.fileName().sliced(prefix.size());
         if (!QFileInfo::exists(u"/sys/class/net/"_s + interfaceName) &&
-            DiallerJournal::hashOf(contentOf(backup.filePath(), longestResolver)) == original)
+            isKnown(DiallerJournal::hashOf(contentOf(backup.filePath(), longestResolver))))
             backups += backup.filePath();
     }
     return backups;

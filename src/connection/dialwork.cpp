@@ -2,6 +2,7 @@
 #include "connection/dialwork.h"
 
 #include "connection/cleanchild.h"
+#include "connection/processsession.h"
 #include "connection/rootowned.h"
 #include "shell/logging.h"
 
@@ -19,6 +20,8 @@ namespace
 {
 
 constexpr auto longestRouteHelper = 10s;
+constexpr auto longestScripts = 5s;
+constexpr auto scriptsLook = 100ms;
 
 bool endsALink(DialVerb verb)
 {
@@ -113,11 +116,8 @@ void DialWork::carryOut(DialRequest request)
         break;
     case DialVerb::Dial: dial(); break;
     case DialVerb::NameServers:
-        if (m_isLinked)
-            answer(m_files.saveManualDNS(request.nameServers.value(0), request.nameServers.value(1), &error),
-                   error);
-        else
-            answer(false, tr("The network interface has no address from here."));
+        m_scriptsEnd.setRemainingTime(longestScripts);
+        setNameServers(0);
         break;
     case DialVerb::RouteHelper: runRouteHelper(); break;
     case DialVerb::HangUp: m_wvdial.slotKillWvdial(); break;
@@ -197,6 +197,24 @@ void DialWork::recoverFiles()
     m_hasSaved = false;
     m_files.deleteTmpFile();
     answer(isDone, error);
+}
+
+/// Behind pppd's script, which would put those of the network over them. The script comes a moment after the
+/// address: nobody is there only when two looks in a row say so.
+void DialWork::setNameServers(int quietLooks)
+{
+    if (!m_isLinked || isEndWaiting()) {
+        answer(false, tr("The network interface has no address from here."));
+        return;
+    }
+    const int quiet = arePppScriptsRunning() ? 0 : quietLooks + 1;
+    if (quiet < 2 && !m_scriptsEnd.hasExpired()) {
+        QTimer::singleShot(scriptsLook, this, [this, quiet] { setNameServers(quiet); });
+        return;
+    }
+    const QStringList servers = m_requests.front().nameServers;
+    QString error;
+    answer(m_files.saveManualDNS(servers.value(0), servers.value(1), &error), error);
 }
 
 void DialWork::runRouteHelper()

@@ -5,6 +5,7 @@
 #include "connection/dialrequest.h"
 #include "connection/wvdialprocess.h"
 
+#include <QDeadlineTimer>
 #include <QObject>
 #include <deque>
 
@@ -54,6 +55,7 @@ private:
     void leaseDone(const QString &error);
     void saveFiles();
     void recoverFiles();
+    void setNameServers(int quietLooks);
     void runRouteHelper();
     void answer(const DialResult &result);
     void answer(bool isDone, const QString &error);
@@ -64,6 +66,7 @@ private:
     DhcpClient m_dhcp;
     QString m_leased;
     std::deque<DialRequest> m_requests; ///< the first is being carried out, while busy
+    QDeadlineTimer m_scriptsEnd;        ///< pppd's scripts are not waited for any longer
     bool m_isBusy = false;
     bool m_hasSaved = false;
     bool m_isWritten = false;

@@ -389,6 +389,8 @@ void TestDiallerFiles::resolverOfPppd_data()
     const QByteArray before = "search example.org\nnameserver 1.1.1.1\n";
     QTest::newRow("pppd was killed before it put it back") << u"ppp97"_s << before << true;
     QTest::newRow("the link of another program is up") << u"lo"_s << before << false;
+    QTest::newRow("what it replaced were the person's own name servers")
+        << u"ppp97"_s << QByteArray("nameserver 8.8.8.8\nsearch example.org\n") << true;
     QTest::newRow("of another time") << u"ppp97"_s << QByteArray("nameserver 4.4.4.4\n") << false;
 }
 
@@ -401,6 +403,7 @@ void TestDiallerFiles::resolverOfPppd()
     DiallerFiles files(m_files);
     QVERIFY(files.saveConfigData());
     const QByteArray before = contentOf(m_files.resolvConf);
+    QVERIFY(files.saveManualDNS(u"8.8.8.8"_s, {}));
     const QByteArray ofLink = "nameserver 10.0.0.1\nsearch example.org\n";
     const QString backup = path(u"/run/resolv.conf.pppd-backup."_s + interfaceName);
     put(backup, setAside);
