@@ -534,8 +534,12 @@ class World:
         self.etc.wait_same()
 
     def clean(self):
+        """After a failure: what follows begins anew, with the system's files too."""
         for name in ("wvdial", "pppd"):
             for pid in pids(name):
                 with contextlib.suppress(ProcessLookupError):
                     os.kill(pid, signal.SIGKILL)
-        subprocess.run([HERE / "gadget", "unplug"], capture_output=True)
+        for backup in pathlib.Path("/run").glob("resolver.conf.*"):
+            backup.unlink()
+        prepare_system()
+        self.etc = Etc()
