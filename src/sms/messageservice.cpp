@@ -222,6 +222,11 @@ void MessageService::takeBroadcasts(const QString &text)
 
 bool MessageService::send(const OutgoingSms &sms)
 {
+    // The encoder asks for reports by the setting: what was chosen for this message is the setting from now
+    // on.
+    const bool asksReports = cmcfg.getNumber(u"sms"_s, u"deliveryReport"_s) == 1;
+    if (sms.asksReport != asksReports)
+        cmcfg.setValue(u"sms"_s, u"deliveryReport"_s, sms.asksReport ? u"1"_s : u"0"_s);
     if (d->queue.add(sms))
         return true;
     Q_EMIT sigNotice(tr("The text is too long for one message."));
