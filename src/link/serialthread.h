@@ -14,7 +14,6 @@
 class LinkOwner;
 struct SM_PARAM;
 
-
 namespace corva
 {
 class ReplyReader;
