@@ -917,6 +917,10 @@
         <source>Yesterday</source>
         <translation>أمس</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ModeSwitch</name>

@@ -913,6 +913,10 @@
         <source>Yesterday</source>
         <translation>Hier</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
 </context>
 <context>
     <name>ModeSwitch</name>

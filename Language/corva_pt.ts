@@ -913,6 +913,10 @@
         <source>Yesterday</source>
         <translation>Ontem</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ModeSwitch</name>

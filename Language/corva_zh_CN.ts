@@ -912,6 +912,10 @@
         <source>Yesterday</source>
         <translation>昨天</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
 </context>
 <context>
     <name>ModeSwitch</name>

@@ -65,6 +65,14 @@ bool isOn(const QString &section, const QString &key)
     return cmcfg.getNumber(section, key) != 0;
 }
 
+/// Whether the last line says that a message follows: handed over directly, it is nowhere else.
+bool announcesPdu(const QByteArray &text)
+{
+    const QByteArray line = text.trimmed().mid(text.trimmed().lastIndexOf('\n') + 1);
+    constexpr const char *marks[] = {"+CMT:", "+CBM:", "+JCLAS:"};
+    return std::ranges::any_of(marks, [&](const char *mark) { return line.startsWith(mark); });
+}
+
 void readTimeouts()
 {
     const int seconds = settingIn("send_nullatcommand_timer_s", 0, 15, 0);
@@ -259,7 +267,8 @@ std::optional<QByteArray> SerialThread::drain()
         if (receive_flag || m_locked)
             return std::nullopt;
         if (m_ahead.isEmpty()) {
-            const bool isWhole = text.isEmpty() || text.endsWith('\n') || text.endsWith("> ");
+            const bool isWhole =
+                text.isEmpty() || (text.endsWith('\n') && !announcesPdu(text)) || text.endsWith("> ");
             const Wait wait = waitFor(fd, POLLIN, int((isWhole ? drainSilence : halfLineSilence).count()));
             if (wait != Wait::Ready || !fillBuffer(fd))
                 break;

@@ -14,7 +14,6 @@
 class LinkOwner;
 struct SM_PARAM;
 
-
 namespace corva
 {
 class ReplyReader;
@@ -375,7 +374,6 @@ private:
                      std::chrono::microseconds timeout);
     int simFile(const QByteArray &cmd, char *text);
     int phonebookCapacity(const char *store);
-    bool writePdu(const QByteArray &command, QByteArray pdu);
     int deleteMessage(int storage, int index, const char *what);
 
     LinkOwner *const m_owner;

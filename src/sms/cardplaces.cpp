@@ -8,6 +8,7 @@
 #include "sms/sendqueue.h"
 #include "sms/smsfiling.h"
 
+#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -46,6 +47,25 @@ Message copyForComputer(Message message, MessageBox box)
     return message;
 }
 
+/// Without its PDU a message on the card can be neither copied nor told from another one.
+bool hasEmptyEntry(const Message &message)
+{
+    return isOnCard(message) &&
+           std::ranges::any_of(message.parts, [](const MessagePart &part) { return part.pdu.isEmpty(); });
+}
+
+/// Whether the card can keep the whole of it: what came or went has a PDU for each part, a draft goes to one
+/// person and fits.
+bool canBeWritten(const Message &message, const std::vector<smsjobs::OutgoingPart> &drafted)
+{
+    const auto hasPdu = [](const MessagePart &part) { return !part.pdu.isEmpty(); };
+    const bool isUnderWay =
+        message.state() == DeliveryState::Queued || message.state() == DeliveryState::Sending;
+    if (drafted.empty())
+        return !isUnderWay && !message.parts.empty() && std::ranges::all_of(message.parts, hasPdu);
+    return !isUnderWay && message.recipients.size() <= 1;
+}
+
 void forgetIndices(Message &message)
 {
     for (MessagePart &part : message.parts)
@@ -67,8 +87,11 @@ CardPlaces::CardPlaces(CardWorker &worker, MessageStore *store, QObject *parent)
 
 void CardPlaces::forget()
 {
+    ++m_generation;
     m_isCardStoreMissing = false;
+    m_hasMadeRoom = false;
     m_hasWarned = {};
+    m_listsAgain = {};
     for (const MessagePlace place : {MessagePlace::Sim, MessagePlace::Card})
         change(place, {});
 }
@@ -114,8 +137,9 @@ void CardPlaces::refresh(MessagePlace place)
     loading.isLoading = true;
     change(place, loading);
     const auto job = m_worker.submit([place](SerialThread &link) { return smsjobs::list(link, place); });
-    whenDone(job, this, [this, place](std::optional<smsjobs::Listing> listing) {
-        took(place, std::move(listing).value_or(smsjobs::Listing()));
+    whenDone(job, this, [this, place, generation = m_generation](std::optional<smsjobs::Listing> listing) {
+        if (generation == m_generation)
+            took(place, std::move(listing).value_or(smsjobs::Listing()));
     });
 }
 
@@ -127,7 +151,7 @@ void CardPlaces::took(MessagePlace place, smsjobs::Listing listing)
     const bool isFirst = !now.isRead;
     now.isLoading = false;
     now.error = listing.isMissing ? QString() : listing.fault;
-    now.isRead = listing.isRead;
+    now.isRead = now.isRead || listing.isRead;
     change(place, now);
     if (std::exchange(m_listsAgain[slot(place)], false))
         refresh(place);
@@ -165,7 +189,9 @@ void CardPlaces::warnBeforeFull(MessagePlace place, const StoreCapacity &now)
     const int left = now.total - now.used;
     const bool isNearlyFull =
         left <= std::min(warningPlaces, now.total / 2) || left * warningShare < now.total;
-    if (left <= 0 && place == MessagePlace::Sim && cmcfg.getNumber(u"sms"_s, u"deleteSimSmsWhenFull"_s) == 1)
+    if (place == MessagePlace::Sim && left > 0)
+        m_hasMadeRoom = false;
+    else if (place == MessagePlace::Sim && cmcfg.getNumber(u"sms"_s, u"deleteSimSmsWhenFull"_s) == 1)
         makeRoom(place);
     if (isNearlyFull && !m_hasWarned[slot(place)]) {
         const QString fill = tr("%1 of %2").arg(now.used).arg(now.total);
@@ -179,12 +205,14 @@ void CardPlaces::warnBeforeFull(MessagePlace place, const StoreCapacity &now)
 /// The oldest messages that were read go to the computer, and only then from the SIM.
 void CardPlaces::makeRoom(MessagePlace place)
 {
+    if (std::exchange(m_hasMadeRoom, true))
+        return;
     std::vector<Message> oldest = m_store->messages(m_store->ids(MessageBox::Inbox, place));
     std::erase_if(oldest, [](const Message &message) { return !message.isRead || !message.error.isEmpty(); });
     std::ranges::sort(oldest, {}, &Message::time);
     if (oldest.size() > roomToMake)
         oldest.resize(roomToMake);
-    toComputer(oldest, After::Remove);
+    toComputer(oldest, After::Remove, MessageStore::DeletedOnes::StayDeleted);
 }
 
 // --- Copying and moving
@@ -193,9 +221,10 @@ void CardPlaces::makeRoom(MessagePlace place)
 void CardPlaces::transfer(const QStringList &ids, MessagePlace to, After after)
 {
     std::vector<Message> messages = m_store->messages(ids);
-    std::erase_if(messages, [&](const Message &message) { return message.place == to; });
+    std::erase_if(messages,
+                  [&](const Message &message) { return message.place == to || hasEmptyEntry(message); });
     if (to == MessagePlace::Computer) {
-        toComputer(messages, after);
+        toComputer(messages, after, MessageStore::DeletedOnes::ComeBack);
         return;
     }
     if (!m_isReady) {
@@ -208,7 +237,8 @@ void CardPlaces::transfer(const QStringList &ids, MessagePlace to, After after)
         refresh(to);
 }
 
-void CardPlaces::toComputer(const std::vector<Message> &messages, After after)
+void CardPlaces::toComputer(const std::vector<Message> &messages, After after,
+                            MessageStore::DeletedOnes deleted)
 {
     if (messages.empty())
         return;
@@ -218,11 +248,13 @@ void CardPlaces::toComputer(const std::vector<Message> &messages, After after)
         if (after == After::Keep)
             forgetIndices(copies.back());
     }
-    storedHere(m_store->insert(std::move(copies), MessageStore::DeletedOnes::ComeBack), messages, after);
+    storedHere(m_store->insert(std::move(copies), deleted), messages, after);
 }
 
-QStringList CardPlaces::moveToDeleted(const std::vector<Message> &messages)
+QStringList CardPlaces::moveToDeleted(const std::vector<Message> &chosen)
 {
+    std::vector<Message> messages = chosen;
+    std::erase_if(messages, hasEmptyEntry);
     std::vector<Message> copies;
     for (const Message &message : messages)
         copies.push_back(copyForComputer(message, MessageBox::Deleted));
@@ -264,6 +296,12 @@ void CardPlaces::toCard(const Message &message, MessagePlace to, After after)
         return;
     }
     const auto drafted = draftParts(message, m_serviceCentre);
+    if (!canBeWritten(message, drafted)) {
+        wroteToCard(
+            message, to, after,
+            QCoreApplication::translate("SmsJobs", "The message has no content that the card could keep."));
+        return;
+    }
     const auto job = m_worker.submit([to, drafted, entries = entriesOf(message)](SerialThread &link) mutable {
         constexpr int unsent = 2;
         for (const smsjobs::OutgoingPart &part : drafted)
@@ -287,7 +325,9 @@ void CardPlaces::wroteToCard(const Message &message, MessagePlace to, After afte
     if (after == After::Keep)
         return;
     if (!isOnCard(message)) {
-        m_store->purge({message.id});
+        const auto now = m_store->find(message.id);
+        if (now && now->parts == message.parts) // or else another part came meanwhile
+            m_store->purge({message.id});
         return;
     }
     takeFromCard({}, message);
@@ -304,11 +344,20 @@ void CardPlaces::takeFromCard(const QStringList &copies, const Message &original
 
 void CardPlaces::finishTaking()
 {
-    for (Message &message : m_store->messages(m_store->ids(MessagePlace::Computer))) {
-        // Which of the two it was is not kept; another message under that index stays where it is.
-        for (const MessagePlace place : {MessagePlace::Sim, MessagePlace::Card}) {
-            message.place = place;
-            takeFromCard({message.id}, message);
+    for (const Message &message : m_store->messages(m_store->ids(MessagePlace::Computer))) {
+        for (const MessagePart &part : message.parts) {
+            if (part.storageIndex < 0)
+                continue;
+            // Which of the two stores it was is not kept. Another message under that index stays where it is,
+            // and with another SIM in the card the taking waits for the right one.
+            const auto job = m_worker.submit([index = part.storageIndex, pdu = part.pdu](SerialThread &link) {
+                return smsjobs::remove(link, MessagePlace::Sim, index, pdu) == smsjobs::Removal::Removed ||
+                       smsjobs::remove(link, MessagePlace::Card, index, pdu) == smsjobs::Removal::Removed;
+            });
+            whenDone(job, this, [this, part, id = message.id](std::optional<bool> isRemoved) {
+                if (isRemoved.value_or(false))
+                    forgetIndex({id}, part);
+            });
         }
     }
 }

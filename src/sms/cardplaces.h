@@ -39,7 +39,7 @@ public:
     void move(const QStringList &ids, MessagePlace to) { transfer(ids, to, After::Remove); }
     /// Copies into the computer's deleted box, then takes the originals from the card. Returns the copies'
     /// ids.
-    QStringList moveToDeleted(const std::vector<Message> &messages);
+    QStringList moveToDeleted(const std::vector<Message> &chosen);
     /// Takes `original` from the card, now that it is in `copies`, ids of the computer's messages.
     void takeFromCard(const QStringList &copies, const Message &original);
     /// Takes what a former run kept and did not take any more.
@@ -56,7 +56,7 @@ private:
     enum class After { Keep, Remove };
 
     void transfer(const QStringList &ids, MessagePlace to, After after);
-    void toComputer(const std::vector<Message> &messages, After after);
+    void toComputer(const std::vector<Message> &messages, After after, MessageStore::DeletedOnes deleted);
     void toCard(const Message &message, MessagePlace to, After after);
     std::vector<smsjobs::CardEntry> entriesOf(const Message &message) const;
     void wroteToCard(const Message &message, MessagePlace to, After after,
@@ -75,6 +75,9 @@ private:
     QString m_serviceCentre;
     std::array<PlaceState, 2> m_states; ///< SIM, card
     std::array<bool, 2> m_hasWarned{};
+    bool m_hasMadeRoom =
+        false;            ///< since the SIM was full; once, or a SIM that deletes nothing is asked for ever
+    int m_generation = 0; ///< of the card: what was asked of a former one is not of interest
     std::array<bool, 2> m_listsAgain{}; ///< asked for while a listing was under way
     std::array<int, 2> m_removals{};    ///< under way; the place is listed anew behind the last
     bool m_isCardStoreMissing = false;

@@ -65,9 +65,9 @@ std::optional<Message> messageOf(const QJsonObject &object)
     Message message;
     if (!takeFields(message, object, messageFields()))
         return std::nullopt;
-    for (const QJsonValue &number : object.value(numbersKey).toArray())
+    for (const QJsonValue number : object.value(numbersKey).toArray())
         message.recipients += number.toString();
-    for (const QJsonValue &value : object.value(partsKey).toArray()) {
+    for (const QJsonValue value : object.value(partsKey).toArray()) {
         MessagePart part;
         part.text = value[textKey].toString();
         if (!takeFields(part, value.toObject(), partFields()))
@@ -95,7 +95,7 @@ ExportedMessages parseMessagesJson(const QByteArray &bytes)
     exported.isKnown = root.value(formatKey) == formatName && root.value(versionKey) == formatVersion;
     if (!exported.isKnown)
         return exported;
-    for (const QJsonValue &value : root.value(messagesKey).toArray()) {
+    for (const QJsonValue value : root.value(messagesKey).toArray()) {
         if (std::optional<Message> message = messageOf(value.toObject()))
             exported.messages.push_back(std::move(*message));
         else

@@ -11,9 +11,13 @@
 #include "sms/sendqueue.h"
 #include "sms/smsreception.h"
 
-#include <algorithm>
+#include <QTimer>
+
+#include <chrono>
+#include <vector>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace corva
 {
@@ -21,9 +25,21 @@ namespace corva
 namespace
 {
 
+constexpr int mostTries = 5;
+constexpr auto pauseBetweenTries = 10s;
+constexpr auto routingPeriod = 2s;
+
 bool takesMessages(const CardState &card)
 {
     return card.modemReady && card.sim == SimState::Ready;
+}
+
+/// What decides where new messages go.
+QString routingKeys()
+{
+    return cmcfg.getValue(u"sms"_s, u"newsmsLocation"_s) + u',' +
+           cmcfg.getValue(u"function"_s, u"modemSide_enabled"_s) + u',' +
+           cmcfg.getValue(u"function"_s, u"cell_board_enabled"_s);
 }
 
 /// "50,919": what a person chose.
@@ -59,8 +75,18 @@ public:
     SendQueue queue;
     NameLookup lookup;
     QString serviceCentre;
-    QStringList lastRemoved; ///< the copies of what was taken from the card last
-    bool isReady = false;
+    /// What was removed together.
+    struct Removed {
+        bool hasOwn;        ///< messages of the computer
+        QStringList copies; ///< of what was taken from the card
+    };
+    std::vector<Removed> removals; ///< the last one last
+    QTimer again;                  ///< to the next try of preparing the card
+    int tries = 0;
+    QString routing;      ///< the settings by which the card was told where new messages go
+    QTimer watchRouting;  ///< for the settings to change
+    bool isReady = false; ///< the card takes messages
+    bool isPrepared = false;
     bool hasAnnouncedUnread = false;
 };
 
@@ -74,6 +100,13 @@ MessageService::Private::Private(MessageService *service, CardMonitor *cardMonit
 
 void MessageService::Private::connectParts()
 {
+    again.setSingleShot(true);
+    connect(&again, &QTimer::timeout, q, [this] { prepare(); });
+    watchRouting.setInterval(routingPeriod);
+    connect(&watchRouting, &QTimer::timeout, q, [this] {
+        if (routing != routingKeys())
+            prepare();
+    });
     connect(monitor, &CardMonitor::sigStateChanged, q, [this](const CardState &card) { takeCard(card); });
     connect(store, &MessageStore::sigLoaded, q, [this] {
         queue.resume();
@@ -101,10 +134,15 @@ void MessageService::Private::takeCard(const CardState &card)
     if (isNow == isReady)
         return;
     isReady = isNow;
+    isPrepared = false;
+    tries = 0;
     if (isReady) {
         prepare();
+        watchRouting.start();
         return;
     }
+    again.stop();
+    watchRouting.stop();
     queue.setReady(false);
     places.setReady(false);
     places.forget();
@@ -113,6 +151,8 @@ void MessageService::Private::takeCard(const CardState &card)
 
 void MessageService::Private::prepare()
 {
+    again.stop();
+    routing = routingKeys();
     whenDone(monitor->worker().submit(smsjobs::prepare), q,
              [this](const std::optional<smsjobs::Preparation> &made) {
                  if (made && isReady)
@@ -124,12 +164,15 @@ void MessageService::Private::prepared(const smsjobs::Preparation &made)
 {
     if (!made.fault.isEmpty())
         Q_EMIT q->sigNotice(made.fault);
+    isPrepared = made.isReady;
+    if (!made.fault.isEmpty() && ++tries < mostTries)
+        again.start(pauseBetweenTries);
     if (!made.isReady)
         return;
     setServiceCentre(made.serviceCentre);
     places.setReady(true);
     listAll();
-    if (cmcfg.getNumber(u"function"_s, u"cell_board_enabled"_s) == 1)
+    if (cmcfg.getNumber(u"function"_s, u"cell_board_enabled"_s) == 1 && !q->broadcastChannels().isEmpty())
         sendChannels();
     queue.setReady(true);
 }
@@ -144,11 +187,11 @@ void MessageService::Private::listAll()
 
 void MessageService::Private::takeUnread(const QStringList &ids)
 {
+    const int unread = int(ids.size()) + store->unreadCount(MessageBox::Inbox);
     reception.takeOver(ids);
-    if (std::exchange(hasAnnouncedUnread, true) ||
-        cmcfg.getNumber(u"sms"_s, u"newSmsNoticeShowWhenProgramStart"_s) != 1)
-        return;
-    Q_EMIT q->sigUnreadAtStart(int(ids.size()));
+    if (!std::exchange(hasAnnouncedUnread, true) &&
+        cmcfg.getNumber(u"sms"_s, u"newSmsNoticeShowWhenProgramStart"_s) == 1)
+        Q_EMIT q->sigUnreadAtStart(unread);
 }
 
 void MessageService::Private::setServiceCentre(const QString &number)
@@ -222,6 +265,11 @@ void MessageService::takeBroadcasts(const QString &text)
 
 bool MessageService::send(const OutgoingSms &sms)
 {
+    // The encoder asks for reports by the setting: what was chosen for this message is the setting from now
+    // on.
+    const bool asksReports = cmcfg.getNumber(u"sms"_s, u"deliveryReport"_s) == 1;
+    if (sms.asksReport != asksReports)
+        cmcfg.setValue(u"sms"_s, u"deliveryReport"_s, sms.asksReport ? u"1"_s : u"0"_s);
     if (d->queue.add(sms))
         return true;
     Q_EMIT sigNotice(tr("The text is too long for one message."));
@@ -245,6 +293,8 @@ const SendProgress &MessageService::sending() const
 
 void MessageService::refreshPlace(MessagePlace place)
 {
+    if (d->isReady && !d->isPrepared)
+        d->prepare();
     d->places.refresh(place);
 }
 
@@ -280,15 +330,21 @@ void MessageService::removeMessages(const QStringList &ids)
     }
     if (!here.isEmpty())
         d->store->remove(here);
-    d->lastRemoved = onCard.empty() ? QStringList() : d->places.moveToDeleted(onCard);
+    d->removals.push_back(
+        {!here.isEmpty(), onCard.empty() ? QStringList() : d->places.moveToDeleted(onCard)});
 }
 
 bool MessageService::undoRemoval()
 {
-    const QStringList copies = std::exchange(d->lastRemoved, {});
-    if (!copies.isEmpty())
-        d->store->restore(copies);
-    return !copies.isEmpty() || !d->store->undo().isEmpty();
+    if (d->removals.empty())
+        return !d->store->undo().isEmpty();
+    const Private::Removed removed = d->removals.back();
+    d->removals.pop_back();
+    if (!removed.copies.isEmpty())
+        d->store->restore(removed.copies);
+    if (removed.hasOwn)
+        d->store->undo();
+    return true;
 }
 
 void MessageService::setRead(const QStringList &ids, bool isRead)

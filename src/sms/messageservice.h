@@ -20,8 +20,8 @@ class MessageStore;
 struct OutgoingSms {
     QStringList recipients;
     QString text;
-    bool asksReport = false;
-    QString draftId; ///< the draft that it was, which goes once the message is queued; may be empty
+    bool asksReport = false; ///< becomes the setting "deliveryReport"
+    QString draftId;         ///< the draft that it was, which goes once the message is queued; may be empty
 };
 
 /// How far the sending has come.

@@ -14,6 +14,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <chrono>
+#include <mutex>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -26,14 +27,6 @@ namespace
 
 constexpr auto retryAfter = 10s; ///< when a file could not be written
 constexpr qsizetype mostUndone = 100;
-
-QFuture<bool> bothOf(const QFuture<bool> &one, const QFuture<bool> &other)
-{
-    QList<QFuture<bool>> futures{one, other};
-    return QtFuture::whenAll(futures.begin(), futures.end()).then([](const QList<QFuture<bool>> &results) {
-        return std::ranges::all_of(results, [](const QFuture<bool> &result) { return result.result(); });
-    });
-}
 
 /// Moves what a file had to where that file belongs, whatever it says itself.
 std::vector<Message> placed(std::vector<Message> messages, bool isMirror)
@@ -92,14 +85,16 @@ public:
 
     void read();
     void takeLoaded();
-    QFuture<bool> whenLoaded(std::function<QFuture<bool>()> action);
+    /// `action` ends in `commit`.
+    QFuture<bool> whenLoaded(std::function<void()> action);
 
     RecordPtr find(const QString &id) const;
     /// The next three note what is to be saved and said by `commit`.
     void put(Message message);
     void remove(const QStringList &ids);
+    /// Without changes: when all is on disk.
     QFuture<bool> commit();
-    QFuture<bool> settled();
+    void settle(const TicketPtr &ticket);
 
     QString file(Message message, DeletedOnes deleted);
     bool moveToDeleted(const QString &id);
@@ -117,8 +112,10 @@ public:
         MessageTable computer;
         MessageTable mirror;
     };
-    std::unique_ptr<Tables> loaded; ///< of the pool's thread until `takeLoaded`
+    std::mutex loadedMutex;
+    std::unique_ptr<Tables> loaded; ///< from the pool's thread to `takeLoaded`
     std::vector<std::function<void()>> waiting;
+    TicketPtr givenOut; ///< for the next `commit`, whose future somebody has already
 
     MessageTable computer{matchingLength};
     MessageTable mirror{matchingLength}; ///< of the SIM and the card
@@ -155,7 +152,7 @@ void MessageStore::Private::scheduleRetry()
         return;
     QTimer::singleShot(retryAfter, q, [this] {
         isRetrying = false;
-        settled();
+        commit();
     });
 }
 
@@ -170,14 +167,20 @@ void MessageStore::Private::read()
             message.id.clear();
     }
     tables->mirror = MessageTable(std::move(ofMirror), matchingLength);
-    const QList<RecordPtr> records = tables->computer.records();
-    const QList<RecordPtr> mirrored = tables->mirror.records();
-    loaded = std::move(tables);
+    const auto listed = [](const MessageTable &table) {
+        return std::vector<RecordPtr>(table.records().begin(), table.records().end());
+    };
+    const std::vector<RecordPtr> records = listed(tables->computer);
+    const std::vector<RecordPtr> mirrored = listed(tables->mirror);
+    {
+        const std::scoped_lock lock(loadedMutex);
+        loaded = std::move(tables);
+    }
     QMetaObject::invokeMethod(
         q, [this] { takeLoaded(); }, Qt::QueuedConnection);
     // By now they are shown: what the first search and the first change would have to wait for.
-    for (const QList<RecordPtr> &list : {records, mirrored})
-        std::ranges::for_each(list, &MessageRecord::folded);
+    std::ranges::for_each(records, &MessageRecord::folded);
+    std::ranges::for_each(mirrored, &MessageRecord::folded);
     StoreFile::prepare(records);
 }
 
@@ -186,9 +189,12 @@ void MessageStore::Private::takeLoaded()
     if (phase != Phase::Loading)
         return;
     phase = Phase::Loaded;
-    computer = std::move(loaded->computer);
-    mirror = std::move(loaded->mirror);
-    loaded.reset();
+    {
+        const std::scoped_lock lock(loadedMutex);
+        computer = std::move(loaded->computer);
+        mirror = std::move(loaded->mirror);
+        loaded.reset();
+    }
     changes.isComputer = computerFile.isDamaged();
     changes.isMirror = mirrorFile.isDamaged();
     commit();
@@ -197,17 +203,14 @@ void MessageStore::Private::takeLoaded()
         action();
 }
 
-QFuture<bool> MessageStore::Private::whenLoaded(std::function<QFuture<bool>()> action)
+QFuture<bool> MessageStore::Private::whenLoaded(std::function<void()> action)
 {
-    const auto promise = std::make_shared<QPromise<bool>>();
-    promise->start();
-    waiting.push_back([promise, action = std::move(action)] {
-        action().then([promise](bool isStored) {
-            promise->addResult(isStored);
-            promise->finish();
-        });
+    const auto ticket = std::make_shared<StoreTicket>();
+    waiting.push_back([this, ticket, action = std::move(action)] {
+        givenOut = ticket;
+        action();
     });
-    return promise->future();
+    return ticket->future();
 }
 
 RecordPtr MessageStore::Private::find(const QString &id) const
@@ -241,16 +244,19 @@ void MessageStore::Private::remove(const QStringList &ids)
 QFuture<bool> MessageStore::Private::commit()
 {
     Changes done = std::exchange(changes, {});
-    if (!done.isComputer && !done.isMirror)
-        return computerFile.settle(computer.records());
-    search.forgetResult();
-    conversations.reset();
-    QFuture<bool> stored;
+    TicketPtr ticket = std::exchange(givenOut, {});
+    if (!ticket)
+        ticket = std::make_shared<StoreTicket>();
     if (done.isComputer)
-        stored = computerFile.write(computer.records());
-    if (done.isMirror) {
-        const QFuture<bool> mirrored = mirrorFile.write(mirror.records());
-        stored = done.isComputer ? bothOf(stored, mirrored) : mirrored;
+        computerFile.write(computer.records(), ticket);
+    if (done.isMirror)
+        mirrorFile.write(mirror.records(), ticket);
+    if (!done.isComputer && !done.isMirror)
+        settle(ticket);
+    ticket->settle(true);
+    if (done.isComputer || done.isMirror) {
+        search.forgetResult();
+        conversations.reset();
     }
     const QSet<QString> isNew(done.added.begin(), done.added.end());
     done.changed.removeIf([&](const QString &id) { return isNew.contains(id); });
@@ -261,12 +267,13 @@ QFuture<bool> MessageStore::Private::commit()
         Q_EMIT q->sigChanged(done.changed);
     if (!done.removed.isEmpty())
         Q_EMIT q->sigRemoved(done.removed);
-    return stored;
+    return ticket->future();
 }
 
-QFuture<bool> MessageStore::Private::settled()
+void MessageStore::Private::settle(const TicketPtr &ticket)
 {
-    return bothOf(computerFile.settle(computer.records()), mirrorFile.settle(mirror.records()));
+    computerFile.settle(computer.records(), ticket);
+    mirrorFile.settle(mirror.records(), ticket);
 }
 
 /// Returns where the message is now.
@@ -285,7 +292,7 @@ QString MessageStore::Private::file(Message message, DeletedOnes deleted)
     }
     if (message.id.isEmpty() || find(message.id))
         message.id = newMessageId();
-    const QString id = message.id;
+    QString id = message.id;
     put(std::move(message));
     return id;
 }
@@ -315,7 +322,7 @@ void MessageStore::Private::restore(const QStringList &ids)
 
 std::optional<PartPlace> MessageStore::Private::enterReport(const StatusReport &report, Message entry)
 {
-    const std::optional<PartPlace> place = reportedPart(computer.records(), report, matchingLength);
+    std::optional<PartPlace> place = reportedPart(computer.records(), report, matchingLength);
     if (place) {
         Message message = computer.find(place->id)->message;
         applyTo(message.parts[size_t(place->part)], report);
@@ -364,14 +371,13 @@ bool MessageStore::flush()
         d->pool.waitForDone();
         d->takeLoaded();
     }
-    return d->phase == Private::Phase::New || d->settled().result();
+    return d->phase == Private::Phase::New || d->commit().result();
 }
 
 MessageStore::Added MessageStore::insert(std::vector<Message> messages, DeletedOnes deleted)
 {
     if (!isLoaded())
-        return {
-            d->whenLoaded([this, messages, deleted] { return insert(messages, deleted).stored; }), {}, {}};
+        return {d->whenLoaded([this, messages, deleted] { insert(messages, deleted); }), {}, {}};
     Added added;
     for (Message &message : messages)
         added.ids += d->file(std::move(message), deleted);
@@ -390,7 +396,7 @@ QFuture<bool> MessageStore::change(const QString &id, const std::function<void(M
     message.id = id;
     message.place = record->message.place;
     if (message == record->message)
-        return d->settled();
+        return d->commit();
     d->put(message);
     if (hasNewReference(record->message, message)) {
         for (const RecordPtr &entry : waitingReports(d->computer.records(), message, d->matchingLength))
@@ -437,7 +443,7 @@ QStringList MessageStore::undo()
         return {};
     const QStringList ids = d->removals.takeLast();
     d->restore(ids);
-    const QStringList back = d->changes.changed;
+    QStringList back = d->changes.changed;
     d->commit();
     return back;
 }
@@ -465,7 +471,7 @@ MessageStore::Reported MessageStore::applyReport(const StatusReport &given)
     if (!report.arrived.isValid())
         report.arrived = QDateTime::currentDateTime();
     if (!isLoaded())
-        return {d->whenLoaded([this, report] { return applyReport(report).stored; }), {}, -1, {}, true};
+        return {d->whenLoaded([this, report] { applyReport(report); }), {}, -1, {}, true};
     Message entry = reportEntry(report);
     if (const RecordPtr known = takeKnownParts(d->computer, entry))
         return {d->commit(), known->message.about, -1, known->message.id, false};
@@ -476,10 +482,10 @@ MessageStore::Reported MessageStore::applyReport(const StatusReport &given)
 
 QFuture<bool> MessageStore::replaceMirror(MessagePlace place, std::vector<Message> messages)
 {
-    if (!isLoaded())
-        return d->whenLoaded([this, place, messages] { return replaceMirror(place, messages); });
     if (place == MessagePlace::Computer)
         return QtFuture::makeReadyFuture(false);
+    if (!isLoaded())
+        return d->whenLoaded([this, place, messages] { replaceMirror(place, messages); });
     QSet<QString> listed;
     for (Message &message : mirrored(d->mirror, place, std::move(messages), d->matchingLength)) {
         listed += message.id;

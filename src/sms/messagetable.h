@@ -11,8 +11,8 @@
 namespace corva
 {
 
-/// A message with what is found by it. Another one takes its place when the message changes, so that a list
-/// of these can be handed to other threads as it is.
+/// A message with what is found by it. Another one takes its place when the message changes, so that other
+/// threads may have it as it is.
 struct MessageRecord {
     /// `before` is what it takes the place of; null for a new one.
     MessageRecord(Message message, int matchingLength, const MessageRecord *before = nullptr);

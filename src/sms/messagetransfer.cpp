@@ -107,7 +107,7 @@ QFuture<ImportOutcome> importMessages(MessageStore *store, const QString &path)
     import->store = store;
     import->name = QFileInfo(path).fileName();
     import->promise.start();
-    const QFuture<ImportOutcome> future = import->promise.future();
+    QFuture<ImportOutcome> future = import->promise.future();
     const auto wasRead = std::make_shared<QPromise<void>>();
     wasRead->start();
     wasRead->future().then(store, [import] {

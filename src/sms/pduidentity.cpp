@@ -24,7 +24,7 @@ int octetAt(const QString &hex, qsizetype place)
 
 QString pduIdentity(const QString &pdu)
 {
-    const QString hex = pdu.trimmed().toUpper();
+    QString hex = pdu.trimmed().toUpper();
     const int centreOctets = octetAt(hex, 0);
     const qsizetype start = 2 + qsizetype(centreOctets) * 2;
     const int first = centreOctets < 0 ? -1 : octetAt(hex, start);

@@ -73,8 +73,8 @@ smsjobs::OutgoingPart outgoing(const Message &message, int part, const QString &
 bool isSplitAsQueued(const Message &message, int part, const SplitText &split)
 {
     const MessagePart &chosen = message.parts[std::size_t(part)];
-    return int(split.parts.size()) == message.total &&
-           split.parts[std::size_t(chosen.sequence - 1)] == chosen.text;
+    return int(split.parts.size()) == message.total && chosen.sequence >= 1 &&
+           chosen.sequence <= message.total && split.parts[std::size_t(chosen.sequence - 1)] == chosen.text;
 }
 
 /// What was not sent of a recipient's message stays unsent when one of its parts failed: half a message helps
@@ -83,6 +83,14 @@ void failRest(Message &message, int recipient)
 {
     for (MessagePart &part : message.parts) {
         if (part.recipient == recipient && part.state == DeliveryState::Queued)
+            part.state = DeliveryState::Failed;
+    }
+}
+
+void failQueued(Message &message)
+{
+    for (MessagePart &part : message.parts) {
+        if (part.state == DeliveryState::Queued)
             part.state = DeliveryState::Failed;
     }
 }
@@ -103,7 +111,7 @@ void takeOutcome(Message &message, int part, const smsjobs::SentPart &sent)
                each.state == DeliveryState::StillTrying;
     };
     if (std::ranges::all_of(message.parts, isOut))
-        message.box = MessageBox::Sent;
+        (message.box == MessageBox::Deleted ? message.deletedFrom : message.box) = MessageBox::Sent;
 }
 
 } // namespace
@@ -168,12 +176,16 @@ bool SendQueue::add(const OutgoingSms &sms)
     const MessageStore::Added added = m_store->insert({message});
     whenDone(added.stored, this, [this, ids = added.ids, draft = sms.draftId](std::optional<bool> isStored) {
         if (!isStored.value_or(false)) {
+            for (const QString &id : ids) // or the next start would send what was said not to be
+                m_store->change(id, failQueued);
             Q_EMIT sigRefused(tr("The message could not be written to disk and is not sent."));
             return;
         }
         if (!draft.isEmpty())
             m_store->purge({draft});
-        for (const QString &id : ids)
+        // Before the store was loaded it gave no ids.
+        const QStringList waiting = ids.isEmpty() ? m_store->ids(MessageBox::Outbox) : ids;
+        for (const QString &id : waiting)
             enqueue(id);
         pump();
     });
@@ -201,6 +213,7 @@ void SendQueue::retry(const QStringList &ids)
                 }
             }
         });
+        std::erase_if(m_failed, [&](const auto &each) { return each.first == id; });
         enqueue(id);
     }
     pump();
@@ -225,6 +238,7 @@ SendQueue::Target SendQueue::next()
             if (part != message->parts.end())
                 return {id, int(part - message->parts.begin())};
         }
+        m_store->change(id, failQueued); // deleted while it waited: put back, it waits for the person
         m_waiting.pop_front();
     }
     return {};

@@ -14,7 +14,7 @@ corva::SubmitSettings configuredSettings()
 {
     corva::SubmitSettings settings;
     settings.validPeriod = cmcfg.getNumber(u"sms"_s, u"validPeriod"_s);
-    settings.asksReport = cmcfg.getNumber(u"sms"_s, u"deliveryReport"_s) != 0;
+    settings.asksReport = cmcfg.getNumber(u"sms"_s, u"deliveryReport"_s) == 1;
     settings.isUcs2 = gUnicodeFlag;
     return settings;
 }

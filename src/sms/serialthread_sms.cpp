@@ -160,8 +160,7 @@ QByteArray SerialThread::getNewMsgNoticeModes()
 
 int SerialThread::setBroadcastChannels(const QByteArray &channels)
 {
-    const QByteArray mode = channels.isEmpty() ? "1" : "0"; // 1: what is named is not wanted, so nothing is
-    return outcome(transactMessage("AT+CSCB=" + mode + ",\"" + channels + "\"\r\n", shortWait));
+    return outcome(transactMessage("AT+CSCB=0,\"" + channels + "\"\r\n", shortWait));
 }
 
 int SerialThread::getMsgFormat()
@@ -235,9 +234,8 @@ int SerialThread::sendMsgCMGSCmd(int length, const char *pdu)
 int SerialThread::sendPDU(const char *pdu)
 {
     const auto reply = transactMessage(pdu, sendWait);
-    if (!reply || corva::parseMessageReference(*reply) < 0 || !reply->contains("OK\r\n"))
-        return -1;
-    return 1;
+    // With its reference the network has taken it, whatever ended the reply.
+    return reply && corva::parseMessageReference(*reply) >= 0 ? 1 : -1;
 }
 
 bool SerialThread::moveMsgCMGWCmd(int length, int stat, const char *pdu)
@@ -286,7 +284,11 @@ int SerialThread::deleteSmsStatusReport(int index)
 
 int SerialThread::get_sms_number(char *text)
 {
-    return rawText("AT+CSCA?\r\n", text, shortWait, false);
+    const QByteArray reply = transactMessage("AT+CSCA?\r\n", shortWait).value_or(QByteArray());
+    const qsizetype length = std::min<qsizetype>(reply.size(), replyBufferSize - 1);
+    std::copy_n(reply.constData(), length, text);
+    text[length] = '\0';
+    return reply.isEmpty() ? -1 : 1;
 }
 
 int SerialThread::set_sms_number(QString number)

@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -50,8 +51,9 @@ int routeMessages(SerialThread &link)
     if (result == 1)
         return result;
     // Stored and announced is what every card with these commands knows, and loses nothing.
-    const QByteArray nearest = nearestNoticeModes("2,1,0,2,0", link.getNewMsgNoticeModes());
-    return link.setNewMsgNoticeMode(nearest);
+    const bool wantsBroadcast = cmcfg.getNumber(u"function"_s, u"cell_board_enabled"_s) == 1;
+    return link.setNewMsgNoticeMode(
+        nearestNoticeModes(wantsBroadcast ? "2,1,2,2,0" : "2,1,0,2,0", link.getNewMsgNoticeModes()));
 }
 
 /// The fill that the card told when the store was selected, or tells when it is asked.
@@ -75,11 +77,30 @@ bool isSamePdu(const ListedSms &listed, const QByteArray &pdu)
     return listed.pdu.compare(pdu, Qt::CaseInsensitive) == 0;
 }
 
-/// Whether the message at `index` of the selected store is the one with that PDU.
-bool isStillThere(SerialThread &link, int index, const QByteArray &pdu)
+/// What "AT+CMGR" said of a place: that nothing is there, or nothing about it.
+bool isEmptyPlace(const QByteArray &reply)
 {
-    const auto read = parseReadSms(link.getIndexSms(QByteArray::number(index).constData()));
-    return read && isSamePdu(*read, pdu);
+    constexpr int invalidIndex = 321;
+    const auto error = cmsErrorIn(reply);
+    return error ? error->code == invalidIndex : reply.contains("OK\r\n");
+}
+
+/// Whether the message at `index` of the selected store is the one with that PDU: NotThere when it is not,
+/// Failed when the card does not say; nothing when it is.
+std::optional<Removal> whyNotToRemove(SerialThread &link, int index, const QByteArray &pdu)
+{
+    const QByteArray reply = link.getIndexSms(QByteArray::number(index).constData());
+    const auto read = parseReadSms(reply);
+    if (!read)
+        return isEmptyPlace(reply) ? Removal::NotThere : Removal::Failed;
+    return isSamePdu(*read, pdu) ? std::nullopt : std::optional(Removal::NotThere);
+}
+
+/// Whether a refused selection means that the card has no such store, and not that it is busy.
+bool meansMissing(const std::optional<CmsError> &error)
+{
+    constexpr std::array<int, 3> codes = {-1, 302, 303}; // "ERROR" alone, not allowed, not supported
+    return error && error->detail.isEmpty() && std::ranges::find(codes, error->code) != codes.end();
 }
 
 Removal outcomeOf(int result)
@@ -117,7 +138,7 @@ Listing list(SerialThread &link, MessagePlace place)
 {
     Listing listing;
     if (link.setShortMsgStorageMode(storageOf(place)) != 1) {
-        listing.isMissing = cmsErrorIn(link.lastReply()).has_value();
+        listing.isMissing = place == MessagePlace::Card && meansMissing(cmsErrorIn(link.lastReply()));
         listing.fault = whyFailed(link);
         return listing;
     }
@@ -145,7 +166,7 @@ Fetched fetch(SerialThread &link, MessagePlace place, int index)
     const QByteArray reply = link.getIndexSms(QByteArray::number(index).constData());
     auto listed = parseReadSms(reply);
     if (!listed) {
-        if (reply.isEmpty())
+        if (!isEmptyPlace(reply))
             fetched.fault = whyFailed(link);
         return fetched;
     }
@@ -166,8 +187,12 @@ Fetched fetchReport(SerialThread &link, int index)
         return fetched;
     }
     const auto listed = parseReadSms(link.getIndexSms(QByteArray::number(index).constData()));
-    if (listed)
-        fetched.report = fileReport(listed->pdu, QDateTime::currentDateTime());
+    if (!listed)
+        return fetched;
+    const QDateTime now = QDateTime::currentDateTime();
+    fetched.report = fileReport(listed->pdu, now);
+    if (!fetched.report)
+        fetched.message = fileBrokenReport(listed->pdu, now);
     return fetched;
 }
 
@@ -183,8 +208,8 @@ Removal remove(SerialThread &link, MessagePlace place, int index, const QString 
 {
     if (link.setShortMsgStorageMode(storageOf(place)) != 1)
         return Removal::Failed;
-    if (!isStillThere(link, index, pdu.toLatin1()))
-        return Removal::NotThere;
+    if (const auto why = whyNotToRemove(link, index, pdu.toLatin1()))
+        return *why;
     return outcomeOf(place == MessagePlace::Card ? link.deleteMeSMS(index) : link.deleteSimSMS(index));
 }
 
@@ -192,20 +217,20 @@ Removal removeReport(SerialThread &link, int index, const QByteArray &pdu)
 {
     if (link.setShortMsgStorageMode(reportStorage) != 1)
         return Removal::Failed;
-    if (!isStillThere(link, index, pdu))
-        return Removal::NotThere;
+    if (const auto why = whyNotToRemove(link, index, pdu))
+        return *why;
     return outcomeOf(link.deleteSmsStatusReport(index));
 }
 
 std::optional<QString> write(SerialThread &link, MessagePlace place, const std::vector<CardEntry> &entries)
 {
+    const auto isNoPdu = [](const CardEntry &entry) { return tpduLength(entry.pdu) < 0; };
+    if (entries.empty() || std::ranges::any_of(entries, isNoPdu))
+        return QCoreApplication::translate("SmsJobs", "The message has no content that the card could keep.");
     if (link.setShortMsgStorageMode(storageOf(place)) != 1)
         return whyFailed(link);
     for (const auto &[pdu, status] : entries) {
         const int length = tpduLength(pdu);
-        if (length < 0)
-            return QCoreApplication::translate("SmsJobs",
-                                               "The message has no content that the card could keep.");
         if (!link.moveMsgCMGWCmd(length, status, pdu.toLatin1().constData()))
             return whyFailed(link);
     }

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sms/smsfiling.h"
 
+#include "shell/logging.h"
 #include "sms/smspdu.h"
 
 #include <QCoreApplication>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace corva
 {
@@ -42,6 +47,8 @@ StatusReport reportOf(const DecodedSms &sms, const QByteArray &pdu, const QDateT
 
 void takeContent(Message &message, const DecodedSms &sms)
 {
+    qCDebug(lcSms).noquote() << logTime() + (sms.hasHeader ? u"this is a cancatinate sms"_s
+                                                           : u"this is a normal sms"_s);
     MessagePart &part = message.parts.front();
     message.serviceCentre = sms.serviceCentre;
     if (!sms.address.isEmpty())
@@ -133,6 +140,18 @@ Message fileBroadcast(const QByteArray &pdu, const QDateTime &arrived)
     return message;
 }
 
+Message fileBrokenReport(const QByteArray &pdu, const QDateTime &arrived)
+{
+    Message message;
+    message.box = MessageBox::Reports;
+    message.time = message.arrived = arrived;
+    message.parts.emplace_back().pdu = QString::fromLatin1(pdu);
+    const SmsResult result = decodeStatusReport(pdu);
+    if (const auto *error = std::get_if<PduError>(&result))
+        message.error = error->text();
+    return message;
+}
+
 std::optional<StatusReport> fileReport(const QByteArray &pdu, const QDateTime &arrived)
 {
     const SmsResult result = decodeStatusReport(pdu);
@@ -142,10 +161,12 @@ std::optional<StatusReport> fileReport(const QByteArray &pdu, const QDateTime &a
 
 int tpduLength(const QString &pdu)
 {
-    bool isHex = false;
-    const int centre = pdu.first(std::min<qsizetype>(pdu.size(), 2)).toInt(&isHex, 16);
-    const int length = int(pdu.size() / 2) - (centre + 1);
-    return isHex && length > 0 ? length : -1;
+    constexpr qsizetype longest = 2 * 256;
+    const auto isDigit = [](QChar c) { return c.unicode() < 0x80 && isxdigit(c.unicode()) != 0; };
+    if (pdu.size() < 2 || pdu.size() > longest || pdu.size() % 2 != 0 || !std::ranges::all_of(pdu, isDigit))
+        return -1;
+    const int length = int(pdu.size() / 2) - (pdu.first(2).toInt(nullptr, 16) + 1);
+    return length > 0 ? length : -1;
 }
 
 } // namespace corva

@@ -28,7 +28,11 @@ Message fileBroadcast(const QByteArray &pdu, const QDateTime &arrived);
 /// The report in `pdu`; nothing when it cannot be read.
 std::optional<StatusReport> fileReport(const QByteArray &pdu, const QDateTime &arrived);
 
-/// Octets of a PDU behind its service centre part, as "AT+CMGW" counts them; -1 when it has none.
+/// A report that cannot be read, as an entry that says why and holds the PDU.
+Message fileBrokenReport(const QByteArray &pdu, const QDateTime &arrived);
+
+/// Octets of a PDU behind its service centre part, as "AT+CMGW" counts them; -1 for what is no PDU in
+/// hexadecimal digits, which would be a command to the card.
 int tpduLength(const QString &pdu);
 
 } // namespace corva

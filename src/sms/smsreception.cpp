@@ -65,7 +65,7 @@ void SmsReception::fileDelivered(const std::vector<ReportedPdu> &reports)
         constexpr int unread = 0;
         const FiledSms filed = fileSms({-1, unread, report.length, report.pdu}, MessagePlace::Computer, now);
         if (const auto *message = std::get_if<Message>(&filed))
-            keep(*message);
+            announce(keep(*message));
         else
             fileReport(std::get<StatusReport>(filed), -1);
     }
@@ -88,48 +88,59 @@ void SmsReception::took(MessagePlace place, const smsjobs::Fetched &fetched)
         fileReport(*fetched.report, -1);
     if (!fetched.fault.isEmpty())
         Q_EMIT sigNotice(tr("A new message could not be read from the card: %1").arg(fetched.fault));
-    if (!fetched.message)
+    if (!fetched.message) {
+        m_places->refresh(place); // it may be there all the same
         return;
+    }
     Message message = *fetched.message;
     message.isRead = false; // reading it from the card marked it there, and nobody saw it
-    keep(message);
+    announce(keep(message));
 }
 
-void SmsReception::keep(const Message &message)
+QStringList SmsReception::keep(const Message &message)
 {
     Message copy = message;
     copy.place = MessagePlace::Computer;
     const MessageStore::Added added = m_store->insert({copy});
-    announce(added.made);
     if (message.parts.front().storageIndex < 0)
-        return;
+        return added.made;
     whenDone(added.stored, this, [this, message, ids = added.ids](std::optional<bool> isStored) {
         if (isStored.value_or(false))
             m_places->takeFromCard(ids, message);
         else
             Q_EMIT sigNotice(tr("A new message could not be written to disk and stays on the card."));
     });
+    return added.made;
 }
 
 void SmsReception::takeListed(const QStringList &ids)
 {
-    if (!takeOver(ids))
+    if (goToComputer())
+        announce(takenOver(ids));
+    else
         announce(ids);
 }
 
-bool SmsReception::takeOver(const QStringList &ids)
+void SmsReception::takeOver(const QStringList &ids)
 {
-    if (!goToComputer())
-        return false;
+    if (goToComputer())
+        takenOver(ids);
+}
+
+QStringList SmsReception::takenOver(const QStringList &ids)
+{
+    QStringList made;
     for (const Message &message : m_store->messages(ids)) {
         for (const MessagePart &part : message.parts) {
+            if (part.pdu.isEmpty())
+                continue;
             Message single = message;
             single.id.clear();
             single.parts = {part};
-            keep(single);
+            made += keep(single);
         }
     }
-    return true;
+    return made;
 }
 
 void SmsReception::announce(const QStringList &ids)
@@ -144,7 +155,7 @@ void SmsReception::takeImmediate(const QByteArray &text)
         const SmsResult result = decodeSms(report.pdu, SmsDirection::FromNetwork);
         const QString pdu = QString::fromLatin1(report.pdu);
         if (const auto *sms = std::get_if<DecodedSms>(&result))
-            Q_EMIT sigClass0(m_nameFor(sms->address), sms->text, pdu);
+            Q_EMIT sigClass0(sms->address, sms->text, pdu);
         else
             Q_EMIT sigClass0({}, std::get<PduError>(result).text(), pdu);
     }
@@ -175,6 +186,8 @@ void SmsReception::fetchReport(int index)
     whenDone(job, this, [this, index](const std::optional<smsjobs::Fetched> &fetched) {
         if (fetched && fetched->report)
             fileReport(*fetched->report, index);
+        else if (fetched && fetched->message)
+            m_store->insert({*fetched->message});
         else if (fetched && !fetched->fault.isEmpty())
             Q_EMIT sigNotice(tr("A delivery report could not be read from the card: %1").arg(fetched->fault));
     });
@@ -187,8 +200,11 @@ void SmsReception::readKeptReports()
         if (!kept)
             return;
         for (const auto &[index, pdu] : *kept) {
-            if (const auto report = corva::fileReport(pdu, QDateTime::currentDateTime()))
+            const QDateTime now = QDateTime::currentDateTime();
+            if (const auto report = corva::fileReport(pdu, now))
                 fileReport(*report, index);
+            else
+                m_store->insert({fileBrokenReport(pdu, now)});
         }
     });
 }

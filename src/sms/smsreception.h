@@ -38,9 +38,8 @@ public:
     /// What came into the report store while nobody looked.
     void readKeptReports();
     /// Unread messages of the SIM or the card: takes them over to the computer where they belong there.
-    /// Whether they do.
-    bool takeOver(const QStringList &ids);
-    /// The same for new ones, which are announced where they stay.
+    void takeOver(const QStringList &ids);
+    /// The same for new ones, which are announced, wherever they are then.
     void takeListed(const QStringList &ids);
 
 Q_SIGNALS:
@@ -54,8 +53,9 @@ private:
     void fileDelivered(const std::vector<ReportedPdu> &reports);
     void fetch(MessagePlace place, int index);
     void took(MessagePlace place, const smsjobs::Fetched &fetched);
-    /// Files the message on the computer; then takes it from where it was.
-    void keep(const Message &message);
+    /// Files the message on the computer; then takes it from where it was. The id if it is new.
+    QStringList keep(const Message &message);
+    QStringList takenOver(const QStringList &ids);
     void announce(const QStringList &ids);
     void fileReport(const StatusReport &report, int index);
     QString sentenceFor(const StatusReport &report) const;

@@ -261,6 +261,9 @@ QByteArray nearestNoticeModes(const QByteArray &wanted, const QByteArray &testRe
         if (!choices.empty())
             values[i] = QByteArray::number(nearest(values[i].toInt(), choices));
     }
+    constexpr qsizetype reports = 3;
+    if (values.value(reports) == "1") // handed over directly, which nobody takes; kept, they are read later
+        values[reports] = "0";
     return values.join(',');
 }
 

@@ -35,7 +35,7 @@ QString keepCopy(const QString &path, const QByteArray &bytes, QString *error)
     return writeFileSafely(name, bytes, error) ? name : QString();
 }
 
-QByteArray storeBytes(const QList<RecordPtr> &records)
+QByteArray storeBytes(const std::vector<RecordPtr> &records)
 {
     StoreFile::prepare(records);
     qsizetype size = storeXmlHead().size() + storeXmlTail().size();
@@ -51,12 +51,22 @@ QByteArray storeBytes(const QList<RecordPtr> &records)
 
 } // namespace
 
+void StoreTicket::settle(bool isWritten)
+{
+    if (!isWritten)
+        m_isWritten = false;
+    if (--m_open > 0)
+        return;
+    m_promise.addResult(m_isWritten.load());
+    m_promise.finish();
+}
+
 StoreFile::StoreFile(const QString &path, QThreadPool &pool, Listener listener)
     : m_path(path), m_pool(pool), m_listener(std::move(listener))
 {
 }
 
-void StoreFile::prepare(const QList<RecordPtr> &records)
+void StoreFile::prepare(const std::vector<RecordPtr> &records)
 {
     for (const RecordPtr &record : records) {
         if (record->xml.isEmpty())
@@ -110,31 +120,29 @@ bool StoreFile::keepDamaged(QString *error)
     return m_isKept;
 }
 
-QFuture<bool> StoreFile::write(const QList<RecordPtr> &records)
+void StoreFile::write(const QList<RecordPtr> &records, const TicketPtr &ticket)
 {
     const std::scoped_lock lock(m_mutex);
-    return enqueue(records);
+    enqueue(records, ticket);
 }
 
-QFuture<bool> StoreFile::settle(const QList<RecordPtr> &records)
+void StoreFile::settle(const QList<RecordPtr> &records, const TicketPtr &ticket)
 {
     const std::scoped_lock lock(m_mutex);
-    const bool isSettled = m_isWritten && !m_isRunning && !m_order;
-    return isSettled ? QtFuture::makeReadyFuture(true) : enqueue(records);
+    if (!m_isWritten || m_isRunning || m_order)
+        enqueue(records, ticket);
 }
 
-QFuture<bool> StoreFile::enqueue(const QList<RecordPtr> &records)
+void StoreFile::enqueue(const QList<RecordPtr> &records, const TicketPtr &ticket)
 {
     if (!m_order)
         m_order.emplace();
-    m_order->records = records;
-    QPromise<bool> &promise = m_order->waiting.emplace_back();
-    promise.start();
-    const QFuture<bool> future = promise.future();
+    m_order->records.assign(records.begin(), records.end());
+    ticket->hold();
+    m_order->waiting.push_back(ticket);
     if (!m_isRunning)
         m_pool.start([this] { run(); });
     m_isRunning = true;
-    return future;
 }
 
 std::optional<StoreFile::Order> StoreFile::next()
@@ -154,14 +162,12 @@ void StoreFile::run()
             const std::scoped_lock lock(m_mutex);
             m_isWritten = isWritten;
         }
-        for (QPromise<bool> &promise : order->waiting) {
-            promise.addResult(isWritten);
-            promise.finish();
-        }
+        for (const TicketPtr &ticket : order->waiting)
+            ticket->settle(isWritten);
     }
 }
 
-bool StoreFile::carryOut(const QList<RecordPtr> &records)
+bool StoreFile::carryOut(const std::vector<RecordPtr> &records)
 {
     QString error;
     const bool isWritten =

@@ -6,12 +6,31 @@
 #include <QFuture>
 #include <QPromise>
 #include <QThreadPool>
+#include <atomic>
 #include <functional>
 #include <mutex>
 #include <optional>
 
 namespace corva
 {
+
+/// What waits until one or two files are written; resolved by the last of them, on whatever thread.
+class StoreTicket
+{
+public:
+    StoreTicket() { m_promise.start(); }
+    QFuture<bool> future() const { return m_promise.future(); }
+
+    /// One more has to settle. There is one from the beginning.
+    void hold() { ++m_open; }
+    void settle(bool isWritten);
+
+private:
+    QPromise<bool> m_promise;
+    std::atomic<int> m_open = 1;
+    std::atomic<bool> m_isWritten = true;
+};
+using TicketPtr = std::shared_ptr<StoreTicket>;
 
 /// One file of messages, read and written whole on a thread of its own.
 class StoreFile
@@ -33,24 +52,24 @@ public:
     bool isDamaged() const { return m_isDamaged; }
 
     /// On the pool's thread. Makes the first write as fast as the others.
-    static void prepare(const QList<RecordPtr> &records);
+    static void prepare(const std::vector<RecordPtr> &records);
 
-    /// Any thread. What is asked for while the file is being written is written together behind that. True
-    /// once it is flushed to disk.
-    QFuture<bool> write(const QList<RecordPtr> &records);
-    /// True as soon as all that was asked for is on disk; tries again when that failed.
-    QFuture<bool> settle(const QList<RecordPtr> &records);
+    /// Any thread. What is asked for while the file is being written is written together behind that. The
+    /// ticket is held until then, and settled once it is flushed to disk or failed to be.
+    void write(const QList<RecordPtr> &records, const TicketPtr &ticket);
+    /// The same if not all that was asked for is on disk yet; tries again when that failed.
+    void settle(const QList<RecordPtr> &records, const TicketPtr &ticket);
 
 private:
     struct Order {
-        QList<RecordPtr> records;
-        std::vector<QPromise<bool>> waiting;
+        std::vector<RecordPtr> records; ///< not the table's own list: that one changes meanwhile
+        std::vector<TicketPtr> waiting;
     };
 
-    QFuture<bool> enqueue(const QList<RecordPtr> &records);
+    void enqueue(const QList<RecordPtr> &records, const TicketPtr &ticket);
     std::optional<Order> next();
     void run();
-    bool carryOut(const QList<RecordPtr> &records);
+    bool carryOut(const std::vector<RecordPtr> &records);
     bool keepDamaged(QString *error);
 
     const QString m_path;

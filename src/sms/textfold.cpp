@@ -46,9 +46,7 @@ bool isAscii(QChar c)
 QString foldedText(const QString &text)
 {
     const QString lower = text.toLower();
-    auto at = std::ranges::find_if_not(lower, isAscii);
-    if (at == lower.end())
-        return lower;
+    const QChar *at = std::ranges::find_if_not(lower, isAscii);
     QString folded;
     folded.reserve(lower.size());
     for (auto done = lower.begin(); done != lower.end();) {

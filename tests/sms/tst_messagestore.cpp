@@ -11,7 +11,7 @@ using namespace corva;
 namespace
 {
 
-constexpr qint64 day = 24 * 60 * 60;
+constexpr qint64 day = 86'400; // seconds
 const QString alice = u"+49171234567"_s;
 
 std::vector<Message> threeParts(int reference, qint64 seconds = 0)

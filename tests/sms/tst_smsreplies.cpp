@@ -120,7 +120,7 @@ private Q_SLOTS:
     void nearestModes()
     {
         const QByteArray offered = "+CNMI: (0-2),(0-3),(0,2),(0,1),(0,1)\r\nOK\r\n";
-        QCOMPARE(nearestNoticeModes("3,1,2,2,0", offered), QByteArray("2,1,2,1,0"));
+        QCOMPARE(nearestNoticeModes("3,1,2,2,0", offered), QByteArray("2,1,2,0,0"));
         QCOMPARE(nearestNoticeModes("3,1,2,2,0", "ERROR\r\n"), QByteArray("3,1,2,2,0"));
         QCOMPARE(nearestNoticeModes("3,1", "+CNMI: (),(9-4),("), QByteArray("3,1"));
     }

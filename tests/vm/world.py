@@ -361,8 +361,11 @@ class Internet(Program):
 
     @staticmethod
     def name_now(node):
-        node.clear_cache()
-        return node.get_name()
+        """None when the program is too busy to say it, on a computer that is too."""
+        with contextlib.suppress(GLib.Error):
+            node.clear_cache()
+            return node.get_name()
+        return None
 
     def wait_state(self, state, seconds=60.0):
         """Returns the moment at which the state was seen, on time.monotonic()."""

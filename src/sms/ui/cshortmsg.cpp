@@ -257,7 +257,7 @@ void CShortMsg::search(const QString &words)
 void CShortMsg::follow()
 {
     // A list that changes by itself takes nobody out of what is being written.
-    if (m_isWriting && m_composer->isAncestorOf(QApplication::focusWidget()))
+    if (m_isWriting && m_composer->isAncestorOf(window()->focusWidget()))
         return;
     leaveComposer();
     if (m_browser->isByPerson()) {
@@ -320,7 +320,10 @@ void CShortMsg::activate()
     if (message && message->box == MessageBox::Drafts) {
         leaveComposer();
         setWriting(true);
-        m_composer->open(message->id);
+        if (message->place == MessagePlace::Computer)
+            m_composer->open(message->id);
+        else // the one on the card stays as it is
+            m_composer->begin(message->recipients, message->text());
     } else if (message) {
         m_reading->takeFocus();
     }

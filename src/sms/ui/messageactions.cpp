@@ -160,8 +160,13 @@ void MessageActions::deleteChosen()
         return;
     const auto count = int(again.size());
     m_messages->ask(tr("Delete %n messages for good?", nullptr, count),
-                    tr("Delete %n &messages", nullptr, count),
-                    [store = m_service->store(), again] { store->purge(again); });
+                    tr("Delete %n &messages", nullptr, count), [store = m_service->store(), again]() mutable {
+                        again.removeIf([&](const QString &id) { // brought back before the answer
+                            const auto message = store->find(id);
+                            return !message || message->box != MessageBox::Deleted;
+                        });
+                        store->purge(again);
+                    });
 }
 
 void MessageActions::restoreChosen()

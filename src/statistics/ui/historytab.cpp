@@ -3,9 +3,9 @@
 
 #include "statistics/trafficservice.h"
 #include "statistics/ui/historymodel.h"
-#include "widgets/noticebar.h"
 #include "statistics/ui/tablelook.h"
 #include "widgets/buttonkind.h"
+#include "widgets/noticebar.h"
 #include "widgets/textlabel.h"
 
 #include <QHBoxLayout>

@@ -6,10 +6,10 @@
 #include "statistics/ui/daystab.h"
 #include "statistics/ui/historytab.h"
 #include "statistics/ui/monthsmodel.h"
-#include "widgets/noticebar.h"
 #include "statistics/ui/overviewtab.h"
 #include "statistics/ui/tablelook.h"
 #include "statistics/ui/tabstrip.h"
+#include "widgets/noticebar.h"
 #include "widgets/skin.h"
 
 #include <QDir>
