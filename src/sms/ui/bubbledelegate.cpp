@@ -109,11 +109,11 @@ void BubbleDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
     paint::box(*painter, place, skinColor(isOwn ? SkinRole::Selection : SkinRole::Surface), line);
     const QColor ink = skinColor(isOwn ? SkinRole::OnSelection : SkinRole::Text);
     bubble.paint(*painter, place, ink, isOwn ? ink : skinColor(SkinRole::MutedText));
-    if (isSelected || option.state.testFlag(QStyle::State_HasFocus)) {
-        QStyleOption ring = option;
-        ring.rect = place.adjusted(-2, -2, 2, 2);
-        if (option.state.testFlag(QStyle::State_HasFocus))
-            paint::focusRing(ring, *painter, option.widget);
+    if (option.state.testFlag(QStyle::State_HasFocus)) {
+        QStyleOption ring;
+        ring.rect = place.adjusted(-metrics::FocusWidth, -metrics::FocusWidth, metrics::FocusWidth,
+                                   metrics::FocusWidth);
+        paint::focusRing(ring, *painter, option.widget);
     }
     painter->restore();
 }

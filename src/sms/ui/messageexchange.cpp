@@ -23,7 +23,7 @@ namespace corva
 namespace
 {
 
-constexpr qint64 largestFile = 256 * 1024 * 1024;
+constexpr qint64 largestFile = 256'000'000;
 
 /// The result of a function that runs on another thread.
 template <typename Function> auto elsewhere(Function function)
@@ -31,7 +31,7 @@ template <typename Function> auto elsewhere(Function function)
     using Result = decltype(function());
     auto promise = std::make_shared<QPromise<Result>>();
     promise->start();
-    const QFuture<Result> future = promise->future();
+    QFuture<Result> future = promise->future();
     QThreadPool::globalInstance()->start([promise, function = std::move(function)] {
         promise->addResult(function());
         promise->finish();

@@ -16,7 +16,7 @@ namespace corva
 namespace
 {
 
-constexpr qint64 largestFile = 4 * 1024 * 1024;
+constexpr qint64 largestFile = 4'000'000;
 const QString listName = u"templates"_s;
 
 std::optional<QStringList> readTemplates(const QByteArray &content)
@@ -26,7 +26,7 @@ std::optional<QStringList> readTemplates(const QByteArray &content)
         return std::nullopt;
     QStringList texts;
     const QJsonArray entries = list.toArray();
-    for (const QJsonValue &entry : entries)
+    for (const auto &entry : entries)
         if (!entry.toString().isEmpty())
             texts += entry.toString();
     texts.removeDuplicates();
