@@ -29,17 +29,29 @@ public:
     QObject context;
     MessageService *service = nullptr;
 
-    void getSmsAndVoice(const QString &text) override { pass(&MessageService::takeMessages, text); }
-    void smsStatusReported(const QString &text) override { pass(&MessageService::takeDeliveryReports, text); }
-    void class0SmsReceived(const QString &text) override { pass(&MessageService::takeImmediate, text); }
-    void cellBroadcastReceived(const QString &text) override { pass(&MessageService::takeBroadcasts, text); }
+    void getSmsAndVoice(const QString &text) override
+    {
+        pass([text](MessageService &to) { to.takeMessages(text); });
+    }
+    void smsStatusReported(const QString &text) override
+    {
+        pass([text](MessageService &to) { to.takeDeliveryReports(text); });
+    }
+    void class0SmsReceived(const QString &text) override
+    {
+        pass([text](MessageService &to) { to.takeImmediate(text); });
+    }
+    void cellBroadcastReceived(const QString &text) override
+    {
+        pass([text](MessageService &to) { to.takeBroadcasts(text); });
+    }
 
 private:
-    void pass(void (MessageService::*take)(const QString &), const QString &text)
+    template <typename Take> void pass(Take take)
     {
-        QMetaObject::invokeMethod(&context, [this, take, text] {
+        QMetaObject::invokeMethod(&context, [this, take] {
             if (service)
-                (service->*take)(text);
+                take(*service);
         });
     }
 };
