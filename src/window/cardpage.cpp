@@ -102,7 +102,7 @@ CardPage::CardPage(const PageInfo &info, const PageContext &context, QWidget *pa
     m_refresh->setObjectName(u"refresh"_s);
     m_refresh->setToolTip(tr("%1 (%2)").arg(tr("Ask the card for everything anew"), u"F5"_s));
     addAction(m_refresh);
-    connect(m_refresh, &QPushButton::clicked, this, &CardPage::refresh);
+    connect(m_refresh, &QPushButton::clicked, m_context.monitor, &CardMonitor::refreshNow);
     m_stack->addWidget(m_empty);
     m_stack->addWidget(buildFacts());
     body()->addWidget(m_stack, 1);
@@ -197,11 +197,6 @@ void CardPage::resizeEvent(QResizeEvent *event)
     const int needed = m_columnWidths[0] + m_columnWidths[1] + m_columns->spacing();
     const bool isWide = width() >= needed + 2 * metrics::PageMargin;
     m_columns->setDirection(isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-}
-
-void CardPage::refresh()
-{
-    m_context.monitor->refreshNow();
 }
 
 PageEntry cardPageEntry()

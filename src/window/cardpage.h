@@ -25,8 +25,6 @@ class CardPage final : public Page
 public:
     CardPage(const PageInfo &info, const PageContext &context, QWidget *parent);
 
-    void refresh() override;
-
 protected:
     void resizeEvent(QResizeEvent *event) override;
 

@@ -33,7 +33,7 @@ public:
     const PageInfo &info() const { return m_info; }
     const QString &badge() const { return m_badge; }
 
-    /// Fetches the shown data anew ("F5").
+    /// Fetches the shown data anew, beside the card's state ("F5").
     virtual void refresh() {}
 
 Q_SIGNALS:

@@ -39,6 +39,12 @@ Page *PageHost::build(const PageEntry &entry)
     return page;
 }
 
+void PageHost::refresh()
+{
+    if (Page *page = m_pages.value(m_currentPage))
+        page->refresh();
+}
+
 void PageHost::openDiagnosis()
 {
     if (!m_diagnosis) {

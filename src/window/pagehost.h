@@ -26,6 +26,8 @@ public:
     /// An unknown id changes nothing.
     void openPage(const QString &pageId);
     void openDiagnosis();
+    /// Has the page that is open fetch its data anew.
+    void refresh();
 
 Q_SIGNALS:
     /// `pageId` is empty for the diagnosis.

@@ -145,7 +145,10 @@ void WTMainWindow::buildMenu(QMenu *menu)
     };
     m_connect = add(tr("&Connect"), Qt::CTRL | Qt::Key_D, [this] { toggleConnection(); });
     add(tr("&Why am I offline?"), Qt::Key_F1, [this] { showOfflinePanel(); });
-    add(tr("&Refresh"), Qt::Key_F5, [this] { m_monitor->refreshNow(); });
+    add(tr("&Refresh"), Qt::Key_F5, [this] {
+        m_pages->refresh();
+        m_monitor->refreshNow();
+    });
     menu->addSeparator();
     add(tr("&Move"), Qt::ALT | Qt::Key_F7, [this] { m_mover->startMove(); });
     add(tr("Re&size"), Qt::ALT | Qt::Key_F8, [this] { m_mover->startResize(); });

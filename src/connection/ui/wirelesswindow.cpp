@@ -90,7 +90,6 @@ void WirelessWindow::refresh()
 {
     m_context.profiles->reload();
     say(m_context.profiles->problem());
-    m_context.monitor->refreshNow();
 }
 
 void WirelessWindow::say(const QString &sentence)
