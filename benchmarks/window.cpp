@@ -102,6 +102,7 @@ int main(int argc, char **argv)
 
     WTMainWindow window(nullptr, "wtmainwindowbase", Qt::Window | Qt::FramelessWindowHint);
     window.show();
+    window.showPage(u"card"_s);
     processFor(3s); // the echo is set, the window has settled
 
     card.control(R"({"command": "plug"})");
