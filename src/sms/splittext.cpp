@@ -227,19 +227,4 @@ SM_PARAM smParamFor(const SplitText &split, int index, const QString &number, co
     return record;
 }
 
-std::optional<QString> sendableNumber(const QString &written)
-{
-    constexpr qsizetype longest = 15;
-    QString number;
-    for (const QChar c : written) {
-        const bool isDigit = c >= u'0' && c <= u'9';
-        if (isDigit || (c == u'+' && number.isEmpty()))
-            number += c;
-        else if (!c.isSpace() && !u"-/.()"_s.contains(c))
-            return std::nullopt;
-    }
-    const bool hasDigits = number.size() > (number.startsWith(u'+') ? 1 : 0);
-    return hasDigits && number.size() <= longest ? std::optional(number) : std::nullopt;
-}
-
 } // namespace corva

@@ -45,14 +45,11 @@ SplitText splitText(const QString &text, const TextCoding &coding);
 /// The tables that the septets of such a text are made with.
 GsmCoding gsmCodingOf(const SplitText &split);
 
-/// The record of part `index` for the encoder, to be made anew for each sending. `number` as `sendableNumber`
-/// gives it, `serviceCentre` digits only. A report is asked for on the last part only. The text for the
-/// encoder is `split.parts[index]`, its Unicode flag `split.alphabet == Alphabet::Ucs2`.
+/// The record of part `index` for the encoder, to be made anew for each sending. `number` is checked: digits
+/// behind at most one "+", 15 characters; `serviceCentre` is digits only. A report is asked for on the last
+/// part only. The text for the encoder is `split.parts[index]`, its Unicode flag `split.alphabet ==
+/// Alphabet::Ucs2`.
 SM_PARAM smParamFor(const SplitText &split, int index, const QString &number, const QString &serviceCentre,
                     int concatReference, bool asksReport);
-
-/// A number as people write it without blanks, hyphens, brackets and dots; nullopt when anything but digits
-/// behind at most one leading "+" is left, or more than 15 characters.
-std::optional<QString> sendableNumber(const QString &written);
 
 } // namespace corva

@@ -190,31 +190,6 @@ private Q_SLOTS:
         QTEST(TextCoding::fromSpecialCode(value).language, "language");
     }
 
-    void numbers_data()
-    {
-        QTest::addColumn<QString>("written");
-        QTest::addColumn<std::optional<QString>>("sendable");
-        const auto row = [](const char *name, const QString &written,
-                            const std::optional<QString> &sendable = {}) {
-            QTest::newRow(name) << written << sendable;
-        };
-        row("as people write it", u" +49 (171) 12-34.5 "_s, u"+4917112345"_s);
-        row("fifteen characters", u"+12345678901234"_s, u"+12345678901234"_s);
-        row("sixteen", u"+123456789012345"_s);
-        row("plus inside", u"49+171"_s);
-        row("plus alone", u"+"_s);
-        row("letters", u"12ab"_s);
-        row("star", u"*123#"_s);
-        row("digits of another script", u"\u0661\u0662"_s);
-        row("line end", u"123\u2028;ATH"_s);
-        row("nothing", QString());
-    }
-    void numbers()
-    {
-        QFETCH(QString, written);
-        QTEST(sendableNumber(written), "sendable");
-    }
-
     /// The configuration is missing here: Turkish.
     void members()
     {
