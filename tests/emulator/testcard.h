@@ -108,6 +108,14 @@ public:
             qWarning("%s: %s", json.constData(), qPrintable(answer[u"error"_s].toString()));
         return answer[u"ok"_s].toBool();
     }
+    /// Waits until the card has noticed that the last client closed the port.
+    bool isLeft(const QString &role)
+    {
+        return QTest::qWaitFor([&] {
+            const QJsonObject state = control(R"({"command": "show"})")[u"state"_s].toObject();
+            return !state[u"ports"_s][role][u"open"_s].toBool();
+        });
+    }
     /// Waits until the card has taken in `text`, as its log shows it, or has answered.
     bool hears(const QString &text)
     {

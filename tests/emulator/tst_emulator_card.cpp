@@ -254,6 +254,7 @@ void TestEmulatorCard::whateverIsTypedEndsADial()
         TestPort other(talk.card.path(u"modem"_s));
         QCOMPARE(other.exchange("ATD*99#\r", "#\r"), "ATD*99#\r");
     }
+    QVERIFY(talk.card.isLeft(u"modem"_s));
     TestPort again(talk.card.path(u"modem"_s));
     QCOMPARE(again.exchange("ATE0\r", "OK\r\n"), "ATE0\r\r\nOK\r\n");
 }
@@ -291,6 +292,7 @@ void TestEmulatorCard::dataCallEndsByEscapeOrClosing()
         TestPort other(talk.card.path(u"modem"_s));
         QCOMPARE(other.exchange("ATE0D*99#\r", "CONNECT\r\n"), "ATE0D*99#\r\r\nCONNECT\r\n");
     }
+    QVERIFY(talk.card.isLeft(u"modem"_s));
     TestPort again(talk.card.path(u"modem"_s));
     QCOMPARE(again.exchange("ATO\r", "CARRIER\r\n"), "\r\nNO CARRIER\r\n");
 }
