@@ -3,8 +3,8 @@
 
 #include "connection/profilechecks.h"
 #include "connection/profilestore.h"
+#include "shell/safefile.h"
 
-#include <QFile>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -148,10 +148,10 @@ std::vector<Found> readDatabase(QXmlStreamReader &xml, const QString &imsi)
 
 std::vector<ApnProposal> apnProposals(const QString &imsi, const QString &databasePath)
 {
-    QFile file(databasePath);
-    if (imsi.size() < 6 || file.size() > largestDatabase || !file.open(QIODevice::ReadOnly))
+    const QByteArray text = imsi.size() < 6 ? QByteArray() : readAtMost(databasePath, largestDatabase + 1);
+    if (text.size() > largestDatabase)
         return {};
-    QXmlStreamReader xml(file.read(largestDatabase));
+    QXmlStreamReader xml(text);
     std::vector<Found> all = readDatabase(xml, imsi);
 
     qsizetype longest = 0;

@@ -47,12 +47,6 @@ bool removeFile(const QString &path)
     return ::unlink(QFile::encodeName(path).constData()) == 0 || errno == ENOENT;
 }
 
-QByteArray contentOf(const QString &path, qint64 most)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(most) : QByteArray();
-}
-
 QString systemError(const QString &path)
 {
     return path + u": "_s + QString::fromLocal8Bit(std::strerror(errno));
@@ -117,9 +111,9 @@ bool DiallerFiles::Private::takeInHand()
     }
     removeUnfinishedFiles(files.journal);
     removeUnfinishedFiles(files.lost);
-    journal = DiallerJournal::fromJson(contentOf(files.journal, longestJournal));
+    journal = DiallerJournal::fromJson(readAtMost(files.journal, longestJournal));
     if (journal.phase == Phase::None)
-        journal.files = DiallerJournal::fromJson(contentOf(files.lost, longestJournal)).files;
+        journal.files = DiallerJournal::fromJson(readAtMost(files.lost, longestJournal)).files;
     return true;
 }
 
@@ -185,7 +179,7 @@ QStringList DiallerFiles::Private::pppdsBackups()
     for (const QFileInfo &backup : file.dir().entryInfoList({prefix + u'*'}, QDir::Files | QDir::Hidden)) {
         const QString interfaceName = backup.fileName().sliced(prefix.size());
         if (!QFileInfo::exists(u"/sys/class/net/"_s + interfaceName) &&
-            isKnown(DiallerJournal::hashOf(contentOf(backup.filePath(), longestResolver))))
+            isKnown(DiallerJournal::hashOf(readAtMost(backup.filePath(), longestResolver))))
             backups += backup.filePath();
     }
     return backups;
@@ -199,7 +193,7 @@ bool DiallerFiles::Private::putAllBack(bool copiesMayBeMissing)
     const QStringList backups = pppdsBackups();
     if (const KeptFile &resolver = kept.back(); !backups.isEmpty())
         journal.files[resolver.name()].written +=
-            DiallerJournal::hashOf(contentOf(resolver.path(), longestResolver));
+            DiallerJournal::hashOf(readAtMost(resolver.path(), longestResolver));
     if (before == Phase::Saved && !note(Phase::Restoring))
         return false;
     DiallerJournal lost;
@@ -323,7 +317,7 @@ bool DiallerFiles::hasLeftovers() const
     const QFileInfo info(d->files.journal);
     if (info.exists() && !info.isReadable())
         return true;
-    d->journal = DiallerJournal::fromJson(contentOf(d->files.journal, longestJournal));
+    d->journal = DiallerJournal::fromJson(readAtMost(d->files.journal, longestJournal));
     return d->isLeftOver();
 }
 
@@ -349,7 +343,7 @@ bool DiallerFiles::noteResolver()
         return false;
     const KeptFile &resolver = d->kept.back();
     d->journal.files[resolver.name()].written +=
-        DiallerJournal::hashOf(contentOf(resolver.path(), longestResolver));
+        DiallerJournal::hashOf(readAtMost(resolver.path(), longestResolver));
     return d->note(Phase::Saved);
 }
 
@@ -365,7 +359,7 @@ bool DiallerFiles::saveManualDNS(const QString &preferred, const QString &altern
     const KeptFile &resolver = d->kept.back();
     const QStringList servers =
         alternative.isEmpty() ? QStringList{preferred} : QStringList{preferred, alternative};
-    const QByteArray content = resolverText(contentOf(resolver.path(), longestResolver), servers);
+    const QByteArray content = resolverText(readAtMost(resolver.path(), longestResolver), servers);
     // Every program must be able to read it.
     FileRights rights{S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH, ::geteuid(), ::getegid(), {0, UTIME_NOW}};
     if (const auto present = fileRights(resolver.path())) {
@@ -393,7 +387,7 @@ bool DiallerFiles::makeConnectInfo(QString *error)
 bool DiallerFiles::isOSDistro(const QString &name) const
 {
     constexpr qint64 longestIssue = 64LL * 1024;
-    return QString::fromUtf8(contentOf(d->files.issue, longestIssue)).contains(name, Qt::CaseInsensitive);
+    return QString::fromUtf8(readAtMost(d->files.issue, longestIssue)).contains(name, Qt::CaseInsensitive);
 }
 
 bool DiallerFiles::isSuse() const

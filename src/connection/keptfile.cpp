@@ -29,17 +29,13 @@ struct Reading {
     std::optional<QByteArray> content; ///< none when it cannot be read
 };
 
-/// A pipe or a device is not opened: that could last for ever.
 Reading read(const QString &path)
 {
-    const QFileInfo info(path);
-    if (!info.exists())
+    if (!QFileInfo::exists(path))
         return {};
-    QFile file(path);
-    if (!info.isFile() || info.size() > largestFile || !file.open(QIODevice::ReadOnly))
-        return {true, {}};
-    const QByteArray content = file.readAll();
-    return {true, file.error() == QFile::NoError ? std::optional(content) : std::nullopt};
+    const QByteArray content = readAtMost(path, largestFile + 1);
+    const bool isRead = !content.isNull() && content.size() <= largestFile;
+    return {true, isRead ? std::optional(content) : std::nullopt};
 }
 
 bool isSame(const FileRights &a, const FileRights &b)

@@ -2,8 +2,8 @@
 #include "connection/linkfacts.h"
 
 #include "connection/processsession.h"
+#include "shell/safefile.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QNetworkInterface>
 #include <algorithm>
@@ -19,12 +19,6 @@ namespace
 
 constexpr qint64 longestFile = 65536;
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(longestFile) : QByteArray();
-}
-
 /// The kernel prints addresses as one hexadecimal number in the machine's byte order.
 QString dottedQuad(const QByteArray &hex)
 {
@@ -39,7 +33,7 @@ bool isAlive(const QString &linkFile)
     if (!QFileInfo::exists(linkFile))
         return false;
     bool isNumber = false;
-    const int pid = contentOf(linkFile).simplified().split(' ').at(0).toInt(&isNumber);
+    const int pid = readAtMost(linkFile, longestFile).simplified().split(' ').at(0).toInt(&isNumber);
     const auto process = isNumber ? processStat(pid) : std::nullopt;
     return process && process->name == "pppd" && !process->isZombie();
 }
@@ -87,12 +81,12 @@ LinkFacts linkFacts(const QString &interfaceName, const QString &resolverFile)
     for (const QNetworkAddressEntry &entry : interface.addressEntries())
         if (entry.ip().protocol() == QAbstractSocket::IPv4Protocol && facts.localAddress.isEmpty())
             facts.localAddress = entry.ip().toString();
-    if (const auto route = defaultRouteIn(contentOf(u"/proc/net/route"_s));
+    if (const auto route = defaultRouteIn(readAtMost(u"/proc/net/route"_s, longestFile));
         route && route->interfaceName == interfaceName) {
         facts.hasDefaultRoute = true;
         facts.peerAddress = route->gateway;
     }
-    facts.nameServers = nameServersIn(contentOf(resolverFile));
+    facts.nameServers = nameServersIn(readAtMost(resolverFile, longestFile));
     return facts;
 }
 

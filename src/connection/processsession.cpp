@@ -30,9 +30,8 @@ struct Note {
 
 Note noteIn(const QString &path)
 {
-    QFile file(path);
-    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.read(64) : QByteArray();
-    const QList<QByteArray> words = text.simplified().split(' ');
+    constexpr qint64 longestNote = 64;
+    const QList<QByteArray> words = readAtMost(path, longestNote).simplified().split(' ');
     return {words.at(0).toInt(), words.value(1).toULongLong()};
 }
 

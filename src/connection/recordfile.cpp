@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 namespace corva
@@ -27,16 +26,13 @@ void RecordFile::load()
 {
     m_records = {};
     m_problem.clear();
-    const QFileInfo info(m_path);
-    if (!info.exists())
+    if (!QFileInfo::exists(m_path))
         return;
-    QFile file(m_path);
-    bool isRead = info.isFile() && info.size() <= largestFile && file.open(QIODevice::ReadOnly);
-    if (isRead) {
-        m_records = ProfileRecords(file.read(largestFile));
-        isRead = file.error() == QFile::NoError && m_records.isReadable();
-    }
+    const QByteArray content = readAtMost(m_path, largestFile + 1);
+    const bool isRead = !content.isNull() && content.size() <= largestFile;
     if (isRead)
+        m_records = ProfileRecords(content);
+    if (isRead && m_records.isReadable())
         return;
     m_records = {};
     m_problem = say(QT_TRANSLATE_NOOP("ProfileStore", "The profiles in %1 cannot be read."), m_path);

@@ -2,11 +2,11 @@
 #include "statistics/trafficservice.h"
 
 #include "shell/globals.h"
+#include "shell/safefile.h"
 #include "statistics/runningsession.h"
 #include "statistics/statisticsstore.h"
 #include "statistics/traffictexts.h"
 
-#include <QFile>
 #include <QLocale>
 #include <QTimer>
 #include <QUuid>
@@ -38,8 +38,7 @@ milliseconds bootTime()
 QString readBootId(const QString &path)
 {
     constexpr qint64 longest = 64;
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.read(longest)).trimmed() : QString();
+    return QString::fromLatin1(readAtMost(path, longest)).trimmed();
 }
 
 /// An interface that the dialler makes for the link: all that its counters say belongs to it.
