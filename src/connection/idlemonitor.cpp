@@ -8,15 +8,19 @@ using namespace Qt::StringLiterals;
 namespace corva
 {
 
-IdleMonitor::IdleMonitor(QObject *parent) : QObject(parent)
+IdleMonitor::IdleMonitor(QObject *parent, std::chrono::milliseconds readingPeriod) : QObject(parent)
 {
+    m_timer.setInterval(readingPeriod);
     connect(&m_timer, &QTimer::timeout, this, &IdleMonitor::slotAutoDisconnectMonitor);
 }
 
-void IdleMonitor::launchAutoDisconnectMonitor(std::chrono::milliseconds period)
+void IdleMonitor::launchAutoDisconnectMonitor(std::chrono::milliseconds limit)
 {
+    m_limit = limit;
     m_last = m_counter ? m_counter() : std::nullopt;
-    m_timer.start(period);
+    m_sinceUse.start();
+    m_sinceNoted.start();
+    m_timer.start();
 }
 
 void IdleMonitor::stopAutoDisconnectMonitor()
@@ -28,16 +32,25 @@ void IdleMonitor::stopAutoDisconnectMonitor()
 void IdleMonitor::slotAutoDisconnectMonitor()
 {
     const std::optional<quint64> now = m_counter ? m_counter() : std::nullopt;
-    const bool isIdle = now && m_last && *now == *m_last;
+    const bool isUsed = !now || now != m_last;
     m_last = now;
-    if (isIdle) {
+    if (isUsed) {
+        noteUse();
+    } else if (m_sinceUse.hasExpired(m_limit.count() - 1)) { // at the limit, not behind it
         stopAutoDisconnectMonitor();
         Q_EMIT sigIdle();
-    } else if (now) {
-        qCDebug(lcConnection).noquote()
-            << logTime() + u"There are new data transported recently. Auto Disconnect will "
-                           u"not close your internet link."_s;
     }
+}
+
+void IdleMonitor::noteUse()
+{
+    m_sinceUse.start();
+    if (!m_last || !m_sinceNoted.hasExpired(m_limit.count()))
+        return;
+    m_sinceNoted.start();
+    qCDebug(lcConnection).noquote() << logTime() +
+                                           u"There are new data transported recently. Auto Disconnect will "
+                                           u"not close your internet link."_s;
 }
 
 } // namespace corva

@@ -8,6 +8,7 @@
 #include "shell/commoncfg.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -411,19 +412,29 @@ private Q_SLOTS:
         QTEST(!opened.isEmpty(), "opens");
     }
 
+    /// The limit counts from the last byte on, not from a reading that found none.
     void idleness()
     {
+        constexpr qint64 limit = 200;
+        QElapsedTimer clock;
+        clock.start();
+        std::vector<qint64> readings;
         quint64 bytes = 1;
-        IdleMonitor monitor;
-        int asked = 0;
+        qint64 lastUse = 0;
+        IdleMonitor monitor(nullptr, std::chrono::milliseconds(10));
         monitor.setCounter([&] {
-            ++asked;
-            return std::optional(asked < 4 ? ++bytes : bytes);
+            readings.push_back(clock.elapsed());
+            if (readings.size() < 4) {
+                lastUse = readings.back();
+                ++bytes;
+            }
+            return std::optional(bytes);
         });
         QSignalSpy idle(&monitor, &IdleMonitor::sigIdle);
-        monitor.launchAutoDisconnectMonitor(std::chrono::milliseconds(10));
+        monitor.launchAutoDisconnectMonitor(std::chrono::milliseconds(limit));
         QTRY_COMPARE(idle.size(), 1);
-        QCOMPARE(asked, 4); // at the start, twice with new bytes, and once without
+        QVERIFY(readings.back() - lastUse >= limit - 1);
+        QVERIFY(readings.at(readings.size() - 2) - lastUse <= limit + 1);
     }
 
     void leftoversAreRecoveredOnce()
