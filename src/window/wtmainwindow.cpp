@@ -510,7 +510,7 @@ void WTMainWindow::quit()
         return;
     }
     QTimer::singleShot(longestHangUp, this, &WTMainWindow::finishQuitting);
-    m_connector->disconnectNow();
+    m_connector->disconnectNow(ConnectionEnd::ByProgram);
 }
 
 void WTMainWindow::finishQuitting()

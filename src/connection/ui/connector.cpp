@@ -56,10 +56,10 @@ void Connector::toggle()
         connectNow();
 }
 
-void Connector::disconnectNow()
+void Connector::disconnectNow(ConnectionEnd why)
 {
     if (m_connection->status().state != ConnectionState::Disconnecting)
-        m_connection->disconnectNow();
+        m_connection->disconnectNow(why);
 }
 
 void Connector::connectNow()

@@ -41,7 +41,7 @@ public:
     /// Connects, or ends what is active.
     void toggle();
     void connectNow();
-    void disconnectNow();
+    void disconnectNow(ConnectionEnd why = ConnectionEnd::ByPerson);
 
     /// The access points that the database knows for this SIM; none yet while it is searched.
     const std::vector<ApnProposal> &proposals() const { return m_proposals; }
