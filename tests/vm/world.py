@@ -327,11 +327,11 @@ class Internet(Program):
             file.chmod(0o600)
 
     @contextlib.contextmanager
-    def running_bench(self, rounds):
+    def running_bench(self, rounds, *further):
         """The window that connects by itself so many times, and says what it measured; with this program's settings."""
         bench = shutil.copy(APP.parent / "benchmarks/diallingbench", self.folder)
         with open(self.folder / "output.txt", "wb") as log:
-            self.process = subprocess.Popen([bench, str(rounds)], cwd=self.folder, stdout=subprocess.PIPE, stderr=log, text=True)
+            self.process = subprocess.Popen([bench, str(rounds), *further], cwd=self.folder, stdout=subprocess.PIPE, stderr=log, text=True)
         try:
             yield self.process
         finally:
