@@ -8,6 +8,13 @@
 namespace corva
 {
 
+/// A link that came up.
+struct TrafficSession {
+    QString profileName;
+    QString interfaceName; ///< "ppp0": whose counters are read
+    bool isRoaming = false;
+};
+
 /// A link that is up, and what it carried so far; on disk what is known of it should the program stop.
 struct RunningSession {
     QString id;

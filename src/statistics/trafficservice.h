@@ -6,38 +6,17 @@
 #include "statistics/historyrecord.h"
 #include "statistics/quota.h"
 #include "statistics/ratetrace.h"
-#include "statistics/trafficsettings.h"
-#include "statistics/traffictotals.h"
+#include "statistics/runningsession.h"
+#include "statistics/trafficsurroundings.h"
 
 #include <QDateTime>
 #include <QObject>
 #include <QSet>
 #include <QStringList>
-#include <functional>
 #include <memory>
 
 namespace corva
 {
-
-/// A link that came up.
-struct TrafficSession {
-    QString profileName;
-    QString interfaceName; ///< "ppp0": whose counters are read
-    bool isRoaming = false;
-};
-
-/// What the service leans on; a test puts its own in place.
-struct TrafficSurroundings {
-    QString dataFolder; ///< of the files
-    QString countersFolder = QStringLiteral("/sys/class/net");
-    QString bootIdFile = QStringLiteral("/proc/sys/kernel/random/boot_id");
-    std::function<QDateTime()> now;                    ///< local time, which may jump
-    std::function<std::chrono::milliseconds()> uptime; ///< never jumps; runs on while the machine sleeps
-    std::function<TrafficSettings()> settings;         ///< asked at each use
-
-    /// Those of the program: `basePath` + "/Data", the system's clocks, `cmcfg`.
-    static TrafficSurroundings ofProgram();
-};
 
 /// The billing period that runs.
 struct PeriodUse {
