@@ -2,11 +2,9 @@
 #include "connection/connectionservice.h"
 
 #include "connection/dialleroptions.h"
-#include "connection/dialuplink.h"
 #include "connection/endsentence.h"
 #include "connection/idlemonitor.h"
-#include "connection/networkcard.h"
-#include "connection/networkcardlink.h"
+#include "connection/linkplanning.h"
 #include "connection/profilechecks.h"
 #include "connection/profilestore.h"
 #include "connection/redial.h"
@@ -14,9 +12,7 @@
 #include "device/cardmonitor.h"
 #include "shell/logging.h"
 
-#include <QFileInfo>
-
-#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -30,27 +26,6 @@ namespace
 {
 
 constexpr auto refreshPeriod = 500ms;
-
-/// Whether the network carries data beside a call.
-bool carriesDataBesideCalls(NetworkType type)
-{
-    using enum NetworkType;
-    constexpr NetworkType types[] = {Umts, Hsdpa, Hsupa, Hspa, HspaPlus, TdScdma, TdHspa};
-    return std::ranges::find(types, type) != std::end(types);
-}
-
-bool isRoaming(const CardState &card)
-{
-    return card.roaming.value_or(card.registration == Registration::Roaming);
-}
-
-/// Ends after which another dial may do better. What a person refused or has to change is not tried again.
-bool isWorthAnotherDial(ConnectionEnd end)
-{
-    using enum ConnectionEnd;
-    constexpr ConnectionEnd ends[] = {NoCarrier, Busy, TimeOut, DiallerFailed, ByPeer, LinkLost, CardGone};
-    return std::ranges::find(ends, end) != std::end(ends);
-}
 
 QUrl pageOf(const ConnectionProfile &profile)
 {
@@ -71,12 +46,6 @@ ConnectionParts::ConnectionParts()
 ConnectionParts::ConnectionParts(ConnectionParts &&) noexcept = default;
 ConnectionParts::~ConnectionParts() = default;
 
-/// What the person allowed for one link and its redials.
-struct DialPermission {
-    std::optional<DialCredentials> credentials;
-    bool mayRoam = false; ///< dialled while roaming, and so agreed to it
-};
-
 class ConnectionService::Private
 {
 public:
@@ -86,9 +55,6 @@ public:
     bool mayDial();
     bool dialDefault();
     bool dial(ConnectionProfile profile);
-    bool mayDialUnasked(const ConnectionProfile &profile) const;
-    bool start(const ConnectionProfile &profile);
-    LinkPlan planFor(const ConnectionProfile &profile, const DiallerOptions &options) const;
     void wentUp(const ConnectionProfile &profile);
     ConnectionStatus ended(ConnectionEnd end) const;
     void isOver(const LinkOutcome &outcome);
@@ -190,63 +156,14 @@ bool ConnectionService::Private::dialDefault()
 
 bool ConnectionService::Private::dial(ConnectionProfile profile)
 {
-    if (given.credentials && given.credentials->profileName == profile.name()) {
-        profile.setText(ProfileField::UserName, given.credentials->userName);
-        profile.setText(ProfileField::Password, given.credentials->password);
-    }
-    return start(profile);
-}
-
-/// Whether nobody has to be asked for the user name.
-bool ConnectionService::Private::mayDialUnasked(const ConnectionProfile &profile) const
-{
-    return !profile.isOn(ProfileField::AsksUserName) || profile.isOn(ProfileField::NoAuthentication) ||
-           !profile.text(ProfileField::UserName).isEmpty() ||
-           (given.credentials && given.credentials->profileName == profile.name());
-}
-
-LinkPlan ConnectionService::Private::planFor(const ConnectionProfile &profile,
-                                             const DiallerOptions &options) const
-{
-    const CardState &card = monitor->state();
-    LinkPlan plan;
-    plan.profile = profile;
-    plan.modemPort = QFileInfo(card.modemPortName).canonicalFilePath();
-    if (profile.linkKind() != LinkKind::DialUp)
-        plan.interfaceName =
-            options.networkInterface.isEmpty() ? networkCardOf(plan.modemPort) : options.networkInterface;
-    plan.contextId = options.contextId;
-    plan.hasContexts = card.family != CardFamily::Cdma;
-    plan.options = options.ppp;
-    plan.limit = options.dialTimeout;
-    plan.showsExitCode = options.showsExitCode;
-    return plan;
-}
-
-bool ConnectionService::Private::start(const ConnectionProfile &profile)
-{
+    given.fillIn(profile);
     const DiallerOptions options = DiallerOptions::fromConfiguration();
-    LinkPlan plan = planFor(profile, options);
-    const bool isNetworkCard = profile.linkKind() == LinkKind::NetworkCard ||
-                               (profile.linkKind() == LinkKind::Automatic && !plan.interfaceName.isEmpty());
-    if (isNetworkCard)
-        plan.contextId = NetworkCardLink::contextId;
-    if (isNetworkCard && plan.interfaceName.isEmpty()) {
-        refuse(ConnectionEnd::DiallerFailed,
-               tr("This card has no network interface. Please choose dial-up in the profile."));
+    const PlannedLink planned = planLink(profile, monitor->state(), options);
+    if (!planned.refusal.isEmpty()) {
+        refuse(ConnectionEnd::DiallerFailed, planned.refusal);
         return false;
     }
-    if (!isNetworkCard && plan.modemPort.isEmpty()) {
-        refuse(ConnectionEnd::DiallerFailed, tr("The card has no data port that could be dialled on."));
-        return false;
-    }
-    if (isNetworkCard) {
-        link = new NetworkCardLink(*monitor, *parts.backend, parts.facts, plan, q);
-    } else {
-        auto *dialUp = new DialUpLink(*monitor, *parts.backend, parts.facts, plan, q);
-        dialUp->setLinkFiles(options.linkFiles);
-        link = dialUp;
-    }
+    link = makeLink(planned, options, *monitor, *parts.backend, parts.facts, q);
     connect(link, &DataLink::sigUp, q, [this, profile] { wentUp(profile); });
     connect(link, &DataLink::sigPDPSetCommand, q, &ConnectionService::sigPDPSetCommand);
     connect(link, &DataLink::sigMessage, q, &ConnectionService::sigMessage);
@@ -259,7 +176,7 @@ bool ConnectionService::Private::start(const ConnectionProfile &profile)
     update([&](ConnectionStatus &status) {
         status = {};
         status.state = ConnectionState::Connecting;
-        status.kind = isNetworkCard ? LinkKind::NetworkCard : LinkKind::DialUp;
+        status.kind = planned.kind;
         status.profileName = profile.name();
         status.apn = profile.isOn(ProfileField::UsesApn) ? profile.text(ProfileField::Apn) : QString();
         status.isRoaming = isRoaming(monitor->state());
@@ -396,7 +313,7 @@ bool ConnectionService::Private::dialUnasked()
         return false;
     const auto profile = profileForSim(*profiles, monitor->state().identity.imsi);
     if (profile)
-        return mayDialUnasked(*profile) && dial(*profile);
+        return given.mayDialUnasked(*profile) && dial(*profile);
     return !profiles->defaultProfile() && dialDefault(); // which says that there is none
 }
 
@@ -499,12 +416,7 @@ void ConnectionService::recoverLeftovers()
 
 ConnectObstacle ConnectionService::obstacle() const
 {
-    const CardState &card = d->monitor->state();
-    if (card.presence != CardPresence::Ready)
-        return ConnectObstacle::CardGone;
-    if (d->isCallUp && !carriesDataBesideCalls(card.networkType))
-        return ConnectObstacle::CallOnOtherNetwork;
-    return isRoaming(card) ? ConnectObstacle::Roaming : ConnectObstacle::None;
+    return obstacleOf(d->monitor->state(), d->isCallUp);
 }
 
 bool ConnectionService::connectNow(const std::optional<DialCredentials> &credentials)

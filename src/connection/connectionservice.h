@@ -2,6 +2,7 @@
 #pragma once
 
 #include "connection/connectionstate.h"
+#include "connection/dialpermission.h"
 
 #include <QObject>
 #include <QUrl>
@@ -20,22 +21,6 @@ class CardMonitor;
 class DiallerBackend;
 class ProfileStore;
 struct LinkFacts;
-
-/// What has to be settled with the person before a dial.
-enum class ConnectObstacle {
-    None,
-    CallOnOtherNetwork, ///< a call is up on a network that carries no data beside it
-    Roaming,            ///< the card is on a foreign network: ask
-    CardGone            ///< no card that answers
-};
-
-/// What the person was asked for at connect time, in place of the profile's own. Kept for one link and its
-/// redials, never stored, and given to no other profile.
-struct DialCredentials {
-    QString profileName;
-    QString userName;
-    QString password;
-};
 
 /// What the service works with: who has the rights to dial, and who knows the system's network interfaces.
 struct ConnectionParts {

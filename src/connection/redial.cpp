@@ -3,10 +3,19 @@
 
 #include "shell/logging.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace corva
 {
+
+bool isWorthAnotherDial(ConnectionEnd end)
+{
+    using enum ConnectionEnd;
+    constexpr ConnectionEnd ends[] = {NoCarrier, Busy, TimeOut, DiallerFailed, ByPeer, LinkLost, CardGone};
+    return std::ranges::find(ends, end) != std::end(ends);
+}
 
 Redial::Redial(QObject *parent) : QObject(parent)
 {

@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "connection/connectionstate.h"
+
 #include <QObject>
 #include <QTimer>
 #include <chrono>
 
 namespace corva
 {
+
+/// Whether another dial may do better after such an end. What a person refused or has to change is not tried
+/// again.
+bool isWorthAnotherDial(ConnectionEnd end);
 
 /// A row of automatic dials: so many, the first after one wait, each further one after another.
 class Redial : public QObject
