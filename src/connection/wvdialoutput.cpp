@@ -52,17 +52,6 @@ constexpr Rule rules[] = {
 
 constexpr QByteArrayView exitMark = "(exit code = ";
 
-struct PhaseOf {
-    Kind kind;
-    WvdialPhase phase;
-};
-constexpr PhaseOf phases[] = {
-    {Kind::Initializing, WvdialPhase::Initializing}, {Kind::Dialling, WvdialPhase::Dialling},
-    {Kind::Carrier, WvdialPhase::Negotiating},       {Kind::LocalAddress, WvdialPhase::Up},
-    {Kind::PppEnded, WvdialPhase::Ending},           {Kind::Disconnecting, WvdialPhase::Ending},
-    {Kind::Terminating, WvdialPhase::Ending},
-};
-
 /// The digits at the beginning of `text`; -1 without any, or for a number that no `int` holds.
 int leadingNumber(QByteArrayView text)
 {
@@ -100,10 +89,6 @@ void WvdialOutput::take(const WvdialEvent &event, std::vector<WvdialEvent> &even
     // wvdial says the status twice.
     if (event.kind == Kind::PppEnded && std::exchange(m_pppEnded, true))
         return;
-    for (const PhaseOf &row : phases) {
-        if (row.kind == event.kind)
-            m_phase = row.phase;
-    }
     events.push_back(event);
     // With pppd's option "debug" wvdial has heard of the refusal from pppd, and does not say the status any
     // more.

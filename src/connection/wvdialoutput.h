@@ -42,9 +42,6 @@ struct WvdialEvent {
     bool operator==(const WvdialEvent &) const = default;
 };
 
-/// How far a dial has come.
-enum class WvdialPhase { Starting, Initializing, Dialling, Negotiating, Up, Ending };
-
 /// Reads what wvdial and pppd say, in pieces of any size. Pure. Source: output of wvdial 1.61 with
 /// pppd 2.4.9.
 class WvdialOutput
@@ -56,8 +53,6 @@ public:
     /// The events of a last line without an end.
     std::vector<WvdialEvent> finish();
 
-    WvdialPhase phase() const { return m_phase; }
-
     static constexpr qsizetype longestLine = 1024;
 
 private:
@@ -65,7 +60,6 @@ private:
     void take(const WvdialEvent &event, std::vector<WvdialEvent> &events);
 
     QByteArray m_line;
-    WvdialPhase m_phase = WvdialPhase::Starting;
     bool m_pppEnded = false;
 };
 

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "connection/ppperrors.h"
 #include "connection/wvdialoutput.h"
 
 #include <QFile>
@@ -58,8 +57,6 @@ private Q_SLOTS:
     void realOutput();
     void hostileOutput_data();
     void hostileOutput();
-    void phase();
-    void exitTexts();
 };
 
 void TestWvdialOutput::realOutput_data()
@@ -133,32 +130,6 @@ void TestWvdialOutput::hostileOutput()
     QFETCH(QByteArray, text);
     QFETCH(QString, expected);
     QCOMPARE(summary(readInPieces(text, 4096)), expected);
-}
-
-void TestWvdialOutput::phase()
-{
-    WvdialOutput output;
-    QCOMPARE(output.phase(), WvdialPhase::Starting);
-    const QByteArray text = transcript("success");
-    const qsizetype address = text.indexOf("local  IP");
-    const qsizetype signal = text.indexOf("Caught signal");
-    output.feed(text.first(address));
-    QCOMPARE(output.phase(), WvdialPhase::Negotiating);
-    output.feed(text.sliced(address, signal - address));
-    QCOMPARE(output.phase(), WvdialPhase::Up);
-    output.feed(text.sliced(signal));
-    QCOMPARE(output.phase(), WvdialPhase::Ending);
-}
-
-void TestWvdialOutput::exitTexts()
-{
-    QCOMPARE(initPppErrorInfoStringList().size(), 20);
-    QCOMPARE(getPppErrorInfo(10),
-             u"The  PPP  negotiation failed, that is, it didn't reach the point where at "
-             "least one network protocol (e.g. IP) was running."_s);
-    QCOMPARE(getPppErrorInfo(19), u"We failed to authenticate ourselves to the peer."_s);
-    QCOMPARE(getPppErrorInfo(20), QString());
-    QCOMPARE(getPppErrorInfo(-1), QString());
 }
 
 QTEST_APPLESS_MAIN(TestWvdialOutput)
