@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/connectionservice.h"
+#include "connection/dialuplink.h"
 #include "connection/idlemonitor.h"
 #include "connection/linkfacts.h"
 #include "connection/profilestore.h"
@@ -110,20 +111,14 @@ private Q_SLOTS:
         QTest::addColumn<ConnectionEnd>("end");
         QTest::addColumn<int>("exitCode");
         QTest::addColumn<QString>("message");
-        const auto row = [](const char *name, const char *output, ConnectionEnd end, int code = -1,
-                            const QString &message = u"Connection is failed!"_s) {
-            QTest::newRow(name) << QByteArray(output) << end << code << message;
-        };
-        row("busy", "BUSY\n--> The line is busy.\n", ConnectionEnd::Busy);
-        row("no carrier", "--> Waiting for carrier.\nNO CARRIER\n--> No Carrier!  Trying again.\n",
-            ConnectionEnd::NoCarrier);
-        row("wrong password",
-            "--> The PPP daemon has died: Authentication error.\n--> Maybe bad account or password? (exit "
-            "code = 19)\n",
-            ConnectionEnd::Refused, 19,
-            u"Fail to connect! exit code is 19\nWe failed to authenticate ourselves to the peer."_s);
-        row("a status without a text", "--> The PPP daemon has died. (exit code = 20)\n",
-            ConnectionEnd::DiallerFailed, 20, u"Fail to connect! exit code is 20"_s);
+        QTest::newRow("wrong password")
+            << QByteArray("--> The PPP daemon has died: Authentication error.\n--> Maybe bad account or "
+                          "password? (exit code = 19)\n")
+            << ConnectionEnd::Refused << 19
+            << u"Fail to connect! exit code is 19\nWe failed to authenticate ourselves to the peer."_s;
+        QTest::newRow("a status without a text")
+            << QByteArray("--> The PPP daemon has died. (exit code = 20)\n") << ConnectionEnd::DiallerFailed
+            << 20 << u"Fail to connect! exit code is 20"_s;
     }
     void failedDials()
     {
@@ -191,14 +186,6 @@ private Q_SLOTS:
         beginDial();
         m_backend->say("BUSY\n--> The line is busy.\n");
         QTRY_COMPARE(m_messages, QStringList{u"Connection is failed!\n\nNot restored."_s});
-    }
-
-    void timeOut()
-    {
-        set("dial_timeout", "1");
-        beginDial();
-        QTRY_COMPARE(m_messages, QStringList{u"Fail to connect! Link ppp0 wasn't built !"_s});
-        QCOMPARE(m_service->status().end, ConnectionEnd::TimeOut);
     }
 
     void cancelledAtAnyStep_data()
@@ -304,28 +291,20 @@ private Q_SLOTS:
         QCOMPARE(m_service->status().redial, 0);
     }
 
-    void connectsByItself_data()
-    {
-        QTest::addColumn<bool>("isRoaming");
-        QTest::addColumn<int>("dials");
-        QTest::newRow("at home") << false << 1;
-        QTest::newRow("abroad it would cost") << true << 0;
-    }
     void connectsByItself()
     {
-        QFETCH(bool, isRoaming);
-        CardState away = card();
-        away.presence = CardPresence::Absent;
-        put(away);
         set("AutoConnectFlag", "1");
-        CardState back = card();
-        back.roaming = isRoaming;
-        put(back);
-        QTRY_COMPARE(m_service->status().redial, 0 + (isRoaming ? 0 : 1));
-        QTRY_COMPARE(m_backend->asked.count(DialVerb::Dial), isRoaming ? 0 : 1);
-        if (!isRoaming)
-            goUp();
-        QTEST(int(m_backend->asked.count(DialVerb::Dial)), "dials");
+        for (const bool isRoaming : {true, false}) { // abroad it would cost
+            CardState away = card();
+            away.presence = CardPresence::Absent;
+            put(away);
+            CardState back = card();
+            back.roaming = isRoaming;
+            put(back);
+            QTRY_COMPARE(m_service->status().redial, isRoaming ? 0 : 1);
+            QTRY_COMPARE(m_backend->asked.count(DialVerb::Dial), isRoaming ? 0 : 1);
+        }
+        goUp();
         QCOMPARE(m_service->status().redial, 0);
     }
 
@@ -437,10 +416,24 @@ private Q_SLOTS:
         QVERIFY(readings.at(readings.size() - 2) - lastUse <= limit + 1);
     }
 
-    void leftoversAreRecoveredOnce()
+    /// The kernel holds the dialler: the files go back all the same, and the person may go on.
+    void hangingUpWithoutEnd()
     {
-        m_service->recoverLeftovers();
-        QCOMPARE(m_backend->asked, QList{DialVerb::Recover});
+        LinkPlan plan;
+        plan.hasContexts = false;
+        plan.endLimit = std::chrono::milliseconds(20);
+        DialUpLink link(
+            *m_monitor, *m_backend, [](const QString &) { return LinkFacts(); }, plan);
+        QSignalSpy over(&link, &DataLink::sigOver);
+        m_backend->holds = DialVerb::HangUp;
+        link.start();
+        QTRY_VERIFY(m_backend->asked.contains(DialVerb::Dial));
+        link.end({ConnectionEnd::ByPerson, -1, {}, {}});
+        QTRY_COMPARE(over.size(), 1);
+        QCOMPARE(m_backend->asked.last(), DialVerb::Recover);
+        m_backend->held({}); // it let go after all
+        QCoreApplication::processEvents();
+        QCOMPARE(over.size(), 1);
     }
 
     void endOfTheProgram()

@@ -3,6 +3,7 @@
 // says so after the card's CONNECT, which is one more way for a dial to fail.
 #include "cardthread.h"
 #include "connection/connectionservice.h"
+#include "connection/dialwork.h"
 #include "connection/helperbackend.h"
 #include "connection/linkfacts.h"
 #include "connection/ownbackend.h"
@@ -18,8 +19,12 @@
 #include <QDir>
 #include <QJsonDocument>
 #include <QProcess>
+#include <QSignalSpy>
 #include <QTest>
 #include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -110,6 +115,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, dial);
         tell(R"({"command": "dial-result", )" + dial + '}');
+        const LogCapture log;
         QVERIFY(m_service->connectNow());
         QVERIFY(!m_service->connectNow()); // a second press changes nothing
         QTRY_VERIFY_WITH_TIMEOUT(!m_messages.isEmpty(), patience);
@@ -119,14 +125,6 @@ private Q_SLOTS:
         QVERIFY(!m_service->status().endSentence.isEmpty());
         QTEST(m_messages.join(u'|'), "message");
         QCOMPARE(UpdateCfg::value(UpdateKey::Wvdial), u"1"_s);
-    }
-
-    void accessPointGoesToTheCard()
-    {
-        tell(R"({"command": "dial-result", "result": "no-carrier"})");
-        const LogCapture log;
-        QVERIFY(m_service->connectNow());
-        QTRY_VERIFY_WITH_TIMEOUT(!m_messages.isEmpty(), patience);
         QVERIFY(log.lines().contains(u"*****sigPDPSetCommand_result is 1*****"_s));
         const QByteArray heard = QJsonDocument(m_card->control(R"({"command": "log"})")).toJson();
         QVERIFY2(heard.contains(R"(AT+CGDCONT=1,\"IP\",\"internet\")"), heard.constData());
@@ -142,8 +140,12 @@ private Q_SLOTS:
         QCOMPARE(m_service->status().end, ConnectionEnd::TimeOut);
     }
 
+    /// Somebody else's dialler lives on.
     void cancelledWhileDialling()
     {
+        QProcess other;
+        other.start(u"sh"_s, {u"-c"_s, u"cp /bin/sleep /tmp/wvdial; exec /tmp/wvdial 600"_s});
+        QVERIFY(other.waitForStarted());
         tell(R"({"command": "dial-result", "result": "silence"})");
         QVERIFY(m_service->connectNow());
         QTRY_VERIFY_WITH_TIMEOUT(!dialler().empty(), patience);
@@ -153,31 +155,9 @@ private Q_SLOTS:
         QCOMPARE(m_service->status().end, ConnectionEnd::ByPerson);
         QVERIFY(dialler().empty());
         QCOMPARE(m_messages, QStringList());
-    }
-
-    void somebodyElsesDiallerLives()
-    {
-        QProcess other;
-        other.start(u"sh"_s, {u"-c"_s, u"cp /bin/sleep /tmp/wvdial; exec /tmp/wvdial 600"_s});
-        QVERIFY(other.waitForStarted());
-        cancelledWhileDialling();
         QCOMPARE(other.state(), QProcess::Running);
         other.kill();
         other.waitForFinished();
-    }
-
-    /// A link that somebody left in the shared folder must not be written through.
-    void plantedConnectInfo()
-    {
-        QFile victim(m_folder->filePath(u"victim"_s));
-        QVERIFY(victim.open(QIODevice::WriteOnly) && victim.write("precious") > 0);
-        victim.close();
-        QVERIFY(QFile::link(victim.fileName(), u"/tmp/connect_info"_s));
-        tell(R"({"command": "dial-result", "result": "no-carrier"})");
-        QVERIFY(m_service->connectNow());
-        QTRY_VERIFY_WITH_TIMEOUT(!m_messages.isEmpty(), patience);
-        QVERIFY(victim.open(QIODevice::ReadOnly));
-        QCOMPARE(victim.readAll(), QByteArray("precious"));
     }
 
     /// Killed at a moment at which it cannot put anything back: the next start finds dialler and files.
@@ -257,8 +237,17 @@ private Q_SLOTS:
         QVERIFY(dialler().empty());
     }
 
-    void windowKilledWhileTheHelperDials()
+    void helperEndsWhileItDials_data()
     {
+        QTest::addColumn<QByteArray>("said"); ///< none: the window was killed
+        QTest::addColumn<int>("exitCode");
+        QTest::newRow("the window is gone") << QByteArray() << 0;
+        QTest::newRow("requests without end")
+            << toLine({.verb = DialVerb::HangUp}) + toLine({.verb = DialVerb::RouteHelper}).repeated(40) << 2;
+    }
+    void helperEndsWhileItDials()
+    {
+        QFETCH(QByteArray, said);
         tell(R"({"command": "dial-result", "result": "silence"})");
         QProcess helper;
         helper.start(helperProgram, QStringList());
@@ -266,9 +255,12 @@ private Q_SLOTS:
             helper.write(toLine(request(verb, modemPort())));
         QTRY_VERIFY_WITH_TIMEOUT(!dialler().empty(), patience);
         QVERIFY(etcAsText() != m_before);
-        helper.closeWriteChannel();
+        if (said.isEmpty())
+            helper.closeWriteChannel();
+        else
+            helper.write(said);
         QVERIFY(helper.waitForFinished(patience));
-        QCOMPARE(helper.exitCode(), 0);
+        QTEST(helper.exitCode(), "exitCode");
         QVERIFY(dialler().empty());
         QCOMPARE(etcAsText(), m_before);
     }
@@ -287,9 +279,6 @@ private Q_SLOTS:
         const QString notYours = u"You may not use this card's data port."_s;
         const QByteArray servers = R"({"verb":"nameServers","servers":["1.1.1.1\nsearch evil"]})";
         QTest::newRow("an unknown verb") << QByteArray(R"({"verb":"shell","text":"id"})") << QString();
-        QTest::newRow("a path beside a verb")
-            << QByteArray(R"({"verb":"save","path":"/etc/shadow"})") << QString();
-        QTest::newRow("no JSON") << QByteArray("save") << QString();
         QTest::newRow("an endless line") << QByteArray(100000, 'x') << QString();
         QTest::newRow("a phone number that is two lines")
             << write(port, ProfileField::Phone, u"*99#\nInit2 = AT+X"_s)
@@ -299,7 +288,6 @@ private Q_SLOTS:
             << u"The user name must not hold quotes, backslashes, a brace at its beginning or blanks at its "
                u"ends, not be a single asterisk, and be 255 bytes long at most."_s;
         QTest::newRow("a disk") << write(u"/dev/null"_s, ProfileField::Name, u"x"_s) << notYours;
-        QTest::newRow("a console") << write(u"/dev/tty1"_s, ProfileField::Name, u"x"_s) << notYours;
         QTest::newRow("no device") << write(u"/etc/passwd"_s, ProfileField::Name, u"x"_s) << notYours;
         QTest::newRow("another's network interface")
             << QByteArray(R"({"verb":"lease","port":"%PORT%","interface":"lo"})")
@@ -355,6 +343,58 @@ private Q_SLOTS:
             helper.closeWriteChannel();
             QVERIFY(helper.waitForFinished(patience));
         }
+    }
+
+    /// The port that was checked is the one that is dialled on: not another that has its name meanwhile.
+    void portSwappedBeforeTheDial()
+    {
+        const int other = posix_openpt(O_RDWR | O_NOCTTY);
+        QVERIFY(other >= 0 && grantpt(other) == 0 && unlockpt(other) == 0);
+        const QByteArray port = modemPort().toLocal8Bit();
+        QProcess helper;
+        helper.start(helperProgram, QStringList());
+        helper.write(toLine(request(DialVerb::Save, {})) + toLine(request(DialVerb::Write, modemPort())));
+        QByteArray said;
+        QTRY_COMPARE_WITH_TIMEOUT((said += helper.readAllStandardOutput()).count("done"), 2, patience);
+        QVERIFY(!said.contains("error"));
+        QCOMPARE(mount(ptsname(other), port.constData(), nullptr, MS_BIND, nullptr), 0);
+        helper.write(toLine(request(DialVerb::Dial, {})));
+        QTRY_COMPARE_WITH_TIMEOUT((said += helper.readAllStandardOutput()).count("done"), 3, patience);
+        QCOMPARE(umount(port.constData()), 0);
+        ::close(other);
+        QCOMPARE(eventFromLine(said.trimmed().split('\n').last())->result.error,
+                 u"You may not use this card's data port."_s);
+        helper.closeWriteChannel();
+        QVERIFY(helper.waitForFinished(patience));
+    }
+
+    /// The program ends while a DHCP client hangs, which then hangs again over giving the address back.
+    void hangingDhcpClient()
+    {
+        const char *client = "/usr/sbin/dhclient";
+        if (!QFile::exists(QString::fromLatin1(client)))
+            QSKIP("no dhclient to take the place of");
+        QFile stubborn(m_folder->filePath(u"dhclient"_s));
+        QVERIFY(stubborn.open(QIODevice::WriteOnly));
+        stubborn.write("#!/bin/sh\ntrap '' TERM\necho $$ >> /tmp/hangs\nexec sleep 600\n");
+        stubborn.close();
+        QVERIFY(stubborn.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+        const QByteArray place = QFile::encodeName(stubborn.fileName());
+        QCOMPARE(mount(place.constData(), client, nullptr, MS_BIND, nullptr), 0);
+        DialWork work{SystemFiles(), {}};
+        QSignalSpy over(&work, &DialWork::sigShutDown);
+        work.ask({.verb = DialVerb::Lease, .interfaceName = u"none0"_s});
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(u"/tmp/hangs"_s), patience);
+        work.shutDown();
+        QTRY_COMPARE_WITH_TIMEOUT(over.size(), 1, int(DiallerBackend::longestShutDown.count()));
+        QCOMPARE(umount(client), 0);
+        QFile hangs(u"/tmp/hangs"_s);
+        QVERIFY(hangs.open(QIODevice::ReadOnly));
+        const QList<QByteArray> pids = hangs.readAll().simplified().split(' ');
+        QCOMPARE(pids.size(), 2);
+        for (const QByteArray &pid : pids)
+            QVERIFY(!processStat(pid.toInt()));
+        QVERIFY(hangs.remove());
     }
 
 private:

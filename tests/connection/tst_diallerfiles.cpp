@@ -139,10 +139,8 @@ private Q_SLOTS:
     void texts();
     void authentication_data();
     void authentication();
-    void numbers();
     void nameServers();
     void thereAndBack();
-    void twoConnects();
     void missingCopy();
     void unreadableCopy();
     void ownFilesAreNotSaved();
@@ -156,7 +154,6 @@ private Q_SLOTS:
     void otherProgram();
     void refusals();
     void connectInfo();
-    void distribution();
     void killedAnywhere();
 
 private:
@@ -204,6 +201,9 @@ void TestDiallerFiles::texts()
                         "#show-password\r\n"));
     QCOMPARE(peerText(false), QByteArray("ipcp-accept-local\r\nipcp-accept-remote\r\n#lcp-echo-failure 0\r\n"
                                          "#lcp-echo-interval 0\r\n"));
+    QVERIFY(peerText(true).endsWith("#lcp-echo-interval 0\r\nplugin passwordfd.so\r\n"));
+    put(m_files.issue, "Welcome to openSUSE Leap 15.4\n");
+    QVERIFY(DiallerFiles(m_files).isSuse());
     p.setText(F::UserName, {});
     p.setText(F::Password, {});
     p.setOn(F::UsesDns, true);
@@ -243,19 +243,6 @@ void TestDiallerFiles::authentication()
     QCOMPARE(text.sliced(text.indexOf("-detach \r\n") + 10), expected + "#show-password\r\n");
 }
 
-void TestDiallerFiles::numbers()
-{
-    const QMap<QString, QString> given = {{u"lcp-echo-failure"_s, u"0"_s},
-                                          {u"lcp-max-configure"_s, u"0"_s},
-                                          {u"ipcp-max-failure"_s, u"ten"_s},
-                                          {u"mtu"_s, u"127"_s},
-                                          {u"mru"_s, u"16384"_s}};
-    PppOptions expected;
-    expected.values[0] = 0;
-    expected.values[7] = 16384;
-    QCOMPARE(PppOptions::from([&given](QLatin1StringView name) { return given[QString(name)]; }), expected);
-}
-
 void TestDiallerFiles::nameServers()
 {
     DiallerFiles files(m_files);
@@ -282,15 +269,7 @@ void TestDiallerFiles::thereAndBack()
         QCOMPARE(modeOf(file), 0600u);
     QVERIFY(!contentOf(m_files.journal).contains("#cret"));
     QVERIFY(!files.hasLeftovers());
-    QVERIFY(files.recoverConfigData());
-    QCOMPARE(snapshot(m_root->path()), before);
-}
-
-void TestDiallerFiles::twoConnects()
-{
-    const auto before = snapshot(m_root->path());
-    DiallerFiles files(m_files);
-    QVERIFY(connectOnce(files));
+    // Saved and written once more, and dialled as somebody else: the owner's files are what goes back.
     QVERIFY(connectOnce(files));
     ConnectionProfile other = profile();
     other.setText(F::UserName, u"other"_s);
@@ -517,18 +496,6 @@ void TestDiallerFiles::connectInfo()
     QString error;
     QVERIFY(!files.makeConnectInfo(&error));
     QCOMPARE(error, u"open file operation error!\n"_s + m_files.connectInfo);
-}
-
-void TestDiallerFiles::distribution()
-{
-    DiallerFiles files(m_files);
-    QVERIFY(!files.isSuse());
-    put(m_files.issue, "Welcome to openSUSE Leap 15.4\n");
-    QVERIFY(files.isSuse());
-    QVERIFY(files.isOSDistro(u"leap"_s));
-    QVERIFY(!files.isOSDistro(u"Debian"_s));
-    QVERIFY(files.saveConfigData() && files.readDeafaultConfigData(profile(), u"/dev/ttyUSB1"_s, {}));
-    QVERIFY(contentOf(m_files.peer).endsWith("#lcp-echo-interval 0\r\nplugin passwordfd.so\r\n"));
 }
 
 void TestDiallerFiles::killedAnywhere()
