@@ -107,7 +107,6 @@ private Q_SLOTS:
         QTest::newRow("another kind of file") << QByteArray("<traffic version=\"1\"/>") << 0;
         QTest::newRow("of a later version") << changed("Record version=\"1\"", "Record version=\"2\"") << 0;
         QTest::newRow("one id twice") << changed("id=\"2\"", "id=\"1\"") << 1;
-        QTest::newRow("no id") << changed("id=\"2\"", "id=\"\"") << 1;
         QTest::newRow("an end that is no time") << changed("end=\"2024-05-03T12", "end=\"2024-15-03T12") << 0;
         QTest::newRow("negative volume") << changed("sent=\"2\"", "sent=\"-2\"") << 0;
         QTest::newRow("endless duration") << changed("\"61000\"", "\"9223372036854775807\"") << 0;
@@ -137,15 +136,6 @@ private Q_SLOTS:
         QFile whole(folder.filePath(kept.front()));
         QVERIFY(whole.open(QIODevice::ReadOnly));
         QCOMPARE(whole.readAll(), content);
-    }
-
-    void startsWithNothing()
-    {
-        const QTemporaryDir folder;
-        const LoadedStatistics loaded = StatisticsStore(folder.path()).load();
-        QVERIFY(loaded.problems.isEmpty());
-        QVERIFY(loaded.totals == StoredTotals());
-        QVERIFY(!loaded.left);
     }
 
     void saysWhyItCannotWrite()

@@ -10,53 +10,6 @@
 using namespace Qt::StringLiterals;
 using namespace corva;
 
-namespace
-{
-
-using Table = QList<QStringList>;
-
-/// A reader that takes RFC 4180 to the letter; std::nullopt for anything else.
-std::optional<Table> readStrictly(const QByteArray &bytes)
-{
-    if (!bytes.startsWith("\xEF\xBB\xBF") || !bytes.endsWith("\r\n"))
-        return std::nullopt;
-    const QString text = QString::fromUtf8(bytes.sliced(3));
-    Table table;
-    QStringList row;
-    for (qsizetype at = 0; at < text.size();) {
-        QString field;
-        if (text.at(at) == u'"') {
-            for (++at;; ++at) {
-                if (at >= text.size())
-                    return std::nullopt;
-                if (text.at(at) == u'"' && (at + 1 >= text.size() || text.at(++at) != u'"'))
-                    break;
-                field += text.at(at);
-            }
-        } else {
-            for (; at < text.size() && text.at(at) != u',' && text.at(at) != u'\r'; ++at) {
-                if (text.at(at) == u'"' || text.at(at) == u'\n')
-                    return std::nullopt;
-                field += text.at(at);
-            }
-        }
-        row += field;
-        if (text.mid(at, 2) == "\r\n"_L1) {
-            if (!table.isEmpty() && row.size() != table.front().size())
-                return std::nullopt;
-            table += std::exchange(row, {});
-            at += 2;
-        } else if (at < text.size() && text.at(at) == u',') {
-            ++at;
-        } else {
-            return std::nullopt;
-        }
-    }
-    return table;
-}
-
-} // namespace
-
 class TestTrafficCsv : public QObject
 {
     Q_OBJECT
@@ -64,45 +17,40 @@ class TestTrafficCsv : public QObject
 private Q_SLOTS:
     void cleanup() { QLocale::setDefault(QLocale::c()); }
 
-    void fieldsComeBack_data()
+    /// RFC 4180, and nothing that a spreadsheet would calculate.
+    void fields_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("field");
-        const auto same = [](const char *name, const QString &text) { QTest::newRow(name) << text << text; };
-        const auto guarded = [](const char *name, const QString &text) {
-            QTest::newRow(name) << text << QString(u'\'' + text);
+        QTest::addColumn<QByteArray>("written");
+        const auto row = [](const char *name, const QString &text, const char *written) {
+            QTest::newRow(name) << text << QByteArray(written);
         };
-        same("plain", u"Home"_s);
-        same("empty", {});
-        same("comma", u"a,b"_s);
-        same("quotes", u"the \"fast\" one\""_s);
-        same("line break", u"two\r\nlines"_s);
-        same("blanks at the edges", u" a "_s);
-        same("every script", u"بيت 家 🏠"_s);
-        same("minus inside", u"A-Net"_s);
-        guarded("formula", u"=HYPERLINK(\"http://x\")"_s);
-        guarded("plus", u"+49 30"_s);
-        guarded("minus", u"-1"_s);
-        guarded("at", u"@SUM(A1)"_s);
-        guarded("tab", u"\t=1"_s);
-        guarded("carriage return", u"\r=1"_s);
-        guarded("behind blanks", u"  =1"_s);
-        guarded("wide equals sign", u"\uFF1D1"_s);
-        QTest::newRow("NUL") << u"a\0b"_s << u"ab"_s;
+        row("every script", u"بيت 家 🏠"_s, "بيت 家 🏠");
+        row("minus inside", u"A-Net"_s, "A-Net");
+        row("comma", u"a,b"_s, "\"a,b\"");
+        row("quotes", u"the \"fast\" one"_s, "\"the \"\"fast\"\" one\"");
+        row("line break", u"two\r\nlines"_s, "\"two\r\nlines\"");
+        row("blanks at the edges", u" a "_s, "\" a \"");
+        row("formula", u"=HYPERLINK(x)"_s, "'=HYPERLINK(x)");
+        row("signs", u"+49 30"_s, "'+49 30");
+        row("behind blanks", u"  =1"_s, "'  =1");
+        row("behind a tab", u"\t=1"_s, "\"'\t=1\"");
+        row("wide equals sign", u"\uFF1D1"_s, "'\uFF1D1");
+        QTest::newRow("NUL") << u"a\0b"_s << QByteArray("ab");
     }
 
-    void fieldsComeBack()
+    void fields()
     {
         QFETCH(const QString, text);
-        QFETCH(const QString, field);
+        QFETCH(const QByteArray, written);
         CsvTable csv({u"first"_s, u"second"_s});
         csv.addRow({text, u"x"_s});
-        const auto table = readStrictly(csv.bytes());
-        QVERIFY2(table, csv.bytes().constData());
-        QCOMPARE(*table, (Table{{u"first"_s, u"second"_s}, {field, u"x"_s}}));
+        QCOMPARE(csv.bytes(), "\xEF\xBB\xBF"
+                              "first,second\r\n" +
+                                  written + ",x\r\n");
     }
 
-    void exportsTheHistoryForOtherPrograms()
+    void exportsForOtherPrograms()
     {
         QLocale::setDefault(QLocale(QLocale::German)); // what people see is written otherwise
         HistoryRecord record;
@@ -113,24 +61,14 @@ private Q_SLOTS:
         record.volumes = {{1234567890123, 5}, {7, 8}};
         record.isRoaming = true;
         record.ended = historyend::Peer;
-        const auto table = readStrictly(historyCsv({record}));
-        QVERIFY(table);
-        QCOMPARE(table->size(), 2);
-        QCOMPARE(table->at(1), (QStringList{u"2024-05-03T12:34:56+02:00"_s, u"2024-05-03T13:36:59+02:00"_s,
-                                            u"3723"_s, u"'=evil, \"quoted\""_s, u"1234567890130"_s, u"13"_s,
-                                            u"7"_s, u"8"_s, u"1"_s, u"network"_s}));
-    }
-
-    void exportsDaysAndFoldedMonths()
-    {
+        QCOMPARE(historyCsv({record}).split('\n').at(1),
+                 QByteArray("2024-05-03T12:34:56+02:00,2024-05-03T13:36:59+02:00,3723,"
+                            "\"'=evil, \"\"quoted\"\"\",1234567890130,13,7,8,1,network\r"));
         TrafficTotals totals;
         totals.add(QDate(2024, 5, 3), {10, 20}, false);
         totals.add(QDate(2024, 5, 3), {1, 2}, true);
         totals.addMonth(QDate(2021, 5, 1), {{5, 6}, {0, 0}});
-        const auto table = readStrictly(totalsCsv(totals));
-        QVERIFY(table);
-        QCOMPARE(table->at(1), (QStringList{u"2021-05"_s, u"5"_s, u"6"_s, u"0"_s, u"0"_s}));
-        QCOMPARE(table->at(2), (QStringList{u"2024-05-03"_s, u"11"_s, u"22"_s, u"1"_s, u"2"_s}));
+        QVERIFY(totalsCsv(totals).endsWith("\r\n2021-05,5,6,0,0\r\n2024-05-03,11,22,1,2\r\n"));
     }
 
     void writesVolumesAsOperatorsBill_data()
@@ -138,12 +76,10 @@ private Q_SLOTS:
         QTest::addColumn<quint64>("bytes");
         QTest::addColumn<QString>("english");
         QTest::addColumn<QString>("german");
-        QTest::newRow("none") << 0ULL << u"0 bytes"_s << u"0 Bytes"_s;
         QTest::newRow("below the first unit") << 999ULL << u"999 bytes"_s << u"999 Bytes"_s;
         QTest::newRow("first unit") << 1000ULL << u"1.00 kB"_s << u"1,00 kB"_s;
         QTest::newRow("rounds up to a unit") << 999'999ULL << u"1.00 MB"_s << u"1,00 MB"_s;
         QTest::newRow("tens") << 12'345'678ULL << u"12.3 MB"_s << u"12,3 MB"_s;
-        QTest::newRow("hundreds") << 999'499'999ULL << u"999 MB"_s << u"999 MB"_s;
         QTest::newRow("gigabytes") << 1'234'567'890ULL << u"1.23 GB"_s << u"1,23 GB"_s;
         QTest::newRow("any number") << ~0ULL << u"9.22 EB"_s << u"9,22 EB"_s;
     }

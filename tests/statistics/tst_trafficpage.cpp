@@ -236,10 +236,8 @@ private Q_SLOTS:
         QTest::addColumn<quint64>("most");
         QTest::addColumn<quint64>("step");
         QTest::newRow("nothing") << 0ULL << 1ULL;
-        QTest::newRow("one") << 1ULL << 1ULL;
         QTest::newRow("exactly four") << 400ULL << 100ULL;
         QTest::newRow("a little more") << 401ULL << 200ULL;
-        QTest::newRow("five") << 2'000ULL << 500ULL;
         QTest::newRow("to the next power") << 2'001ULL << 1000ULL;
         QTest::newRow("largest") << ~0ULL << 5'000'000'000'000'000'000ULL;
     }
