@@ -60,9 +60,6 @@ Found readApn(QXmlStreamReader &xml)
             proposal.userName = textOf(xml);
         } else if (element == "password"_L1) {
             proposal.password = textOf(xml);
-        } else if (element == "dns"_L1) {
-            if (const QString server = textOf(xml); isHostAddress(server))
-                proposal.nameServers += server;
         } else {
             if (element == "usage"_L1)
                 usage = xml.attributes().value("type"_L1).toString();

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 #include <vector>
 
 namespace corva
@@ -15,9 +14,8 @@ struct ApnProposal {
     QString apn;
     QString userName;
     QString password;
-    QStringList nameServers; ///< dotted quads; mostly none
-    bool usesChap = false;   ///< the database asks for CHAP
-    QString network;         ///< MCC and MNC, 5 or 6 digits
+    bool usesChap = false; ///< the database asks for CHAP
+    QString network;       ///< MCC and MNC, 5 or 6 digits
     bool operator==(const ApnProposal &) const = default;
 };
 

@@ -58,7 +58,7 @@ Finding checkProfile(const Facts &facts)
                       QT_TRANSLATE_NOOP("ConnectionDiagnosis",
                                         "A profile says how to reach the internet through your operator. "
                                         "Those of most operators are known; choose one, or add your own."),
-                      MendAction::ChooseProfile);
+                      MendAction::Connect);
     return ok(facts.profile->name());
 }
 
@@ -100,6 +100,8 @@ constexpr EndRow endRows[] = {
      MendAction::Connect},
     {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "No right to dial"), ConnectionEnd::NoRights,
      MendAction::Connect},
+    {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The profile cannot be used"), ConnectionEnd::ProfileRefused,
+     MendAction::EditProfile},
     {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The network ended the connection"), ConnectionEnd::ByPeer,
      MendAction::Connect},
     {QT_TRANSLATE_NOOP("ConnectionDiagnosis", "The connection broke off"), ConnectionEnd::LinkLost,

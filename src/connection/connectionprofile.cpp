@@ -67,6 +67,12 @@ LinkKind ConnectionProfile::linkKind() const
     return LinkKind::Automatic;
 }
 
+bool ConnectionProfile::asksForUser() const
+{
+    return isOn(ProfileField::AsksUserName) && !isOn(ProfileField::NoAuthentication) &&
+           linkKind() != LinkKind::NetworkCard;
+}
+
 void ConnectionProfile::setLinkKind(LinkKind kind)
 {
     for (const LinkName &name : linkNames) {

@@ -65,6 +65,8 @@ public:
     /// Whether the list shows it: anything but "0".
     bool isShown() const { return text(ProfileField::SectionShow) != u'0'; }
     LinkKind linkKind() const;
+    /// Whether the user name is asked for at each connection. A data call over the network card takes none.
+    bool asksForUser() const;
     void setLinkKind(LinkKind kind);
 
     bool operator==(const ConnectionProfile &) const = default;

@@ -241,7 +241,8 @@ void ConnectionService::Private::isOver(const LinkOutcome &outcome)
     tellOrRedial(outcome, wasUp);
 }
 
-/// A box only where no further dial follows; the status first, so that who reads the box sees it.
+/// A box of the outcome only where no further dial follows; the status first, so that who reads the box sees
+/// it.
 void ConnectionService::Private::tellOrRedial(const LinkOutcome &outcome, bool wasUp)
 {
     const QString sentence = outcome.sentence.isEmpty() ? endSentence(outcome.end) : outcome.sentence;
@@ -265,6 +266,8 @@ void ConnectionService::Private::tellOrRedial(const LinkOutcome &outcome, bool w
     const QString message = outcome.message.isEmpty() && wasUp && isWorthIt ? sentence : outcome.message;
     if (!message.isEmpty() && !dialsAgain)
         Q_EMIT q->sigMessage(message);
+    if (!outcome.notPutBack.isEmpty()) // a file of the system's own: told whatever follows
+        Q_EMIT q->sigMessage(outcome.notPutBack);
 }
 
 /// What stays known of a link that is over.
@@ -312,8 +315,11 @@ bool ConnectionService::Private::dialUnasked()
     if ((isRoaming(monitor->state()) && !given.mayRoam) || !mayDial())
         return false;
     const auto profile = profileForSim(*profiles, monitor->state().identity.imsi);
-    if (profile)
+    if (profile) {
+        if (const auto chosen = profiles->defaultProfile(); !chosen || chosen->name() != profile->name())
+            profiles->setDefault(profile->name()); // as a press on Connect does
         return given.mayDialUnasked(*profile) && dial(*profile);
+    }
     return !profiles->defaultProfile() && dialDefault(); // which says that there is none
 }
 
@@ -409,7 +415,11 @@ void ConnectionService::recoverLeftovers()
     if (!d->parts.hasLeftovers())
         return;
     d->parts.backend->ask({.verb = DialVerb::Recover}, [this](const DialResult &result) {
-        if (!result.isDone())
+        if (result.kind == DialResult::Kind::NoRights)
+            Q_EMIT sigMessage(
+                tr("An earlier connection was cut off and has left its own settings in files of "
+                   "the system. Start Corva again and enter the password: it puts them back."));
+        else if (!result.isDone())
             Q_EMIT sigMessage(result.error);
     });
 }

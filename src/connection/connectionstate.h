@@ -21,15 +21,16 @@ enum class ConnectionEnd {
     NoCarrier, ///< the card or the network did not take the call: NO CARRIER, NO ANSWER, NO DIALTONE, ERROR
     Busy,      ///< BUSY
     TimeOut,   ///< no link when "dial_timeout" was over
-    DiallerFailed, ///< wvdial or pppd ended by itself, see `exitCode`
-    FilesFailed,   ///< the system's files could not be saved or written
-    NoRights,      ///< the right to dial was not given
-    ByPeer,        ///< the network ended the link
-    LinkLost,      ///< no answer to the link's echoes
-    CardGone,      ///< the card was pulled out
-    Idle,          ///< ended because nothing was carried
-    Quota,         ///< ended because the month's volume was used up
-    ByProgram      ///< the program was closed
+    DiallerFailed,  ///< wvdial or pppd ended by itself, see `exitCode`
+    FilesFailed,    ///< the system's files could not be saved or written
+    NoRights,       ///< the right to dial was not given
+    ProfileRefused, ///< a value of the profile cannot be used, or the card does not take it
+    ByPeer,         ///< the network ended the link
+    LinkLost,       ///< no answer to the link's echoes
+    CardGone,       ///< the card was pulled out
+    Idle,           ///< ended because nothing was carried
+    Quota,          ///< ended because the month's volume was used up
+    ByProgram       ///< the program was closed
 };
 
 /// Everything about the data connection that the window shows. A plain value.

@@ -7,6 +7,8 @@
 #include "shell/logging.h"
 #include "shell/whendone.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -44,7 +46,9 @@ void DataLink::start()
 {
     m_stage = Stage::Context;
     armLimit();
-    if (m_plan.hasContexts)
+    if (const QString refused = refusal(); !refused.isEmpty())
+        explain(ConnectionEnd::ProfileRefused, refused);
+    else if (m_plan.hasContexts)
         setContext();
     else
         save();
@@ -63,7 +67,7 @@ void DataLink::timeIsUp()
     }
     qCWarning(lcConnection).noquote()
         << logTime() + u"the link was not taken down in time, and counts as gone"_s;
-    // What is still being done is done before this.
+    // What is still being done is done before this. What cannot be put back, the next start says.
     if (m_isSaved || m_isSavePending)
         m_backend.ask({.verb = DialVerb::Recover}, [](const DialResult &) {});
     over();
@@ -105,7 +109,7 @@ void DataLink::contextSet(std::optional<int> result)
     if (!result)
         fail(ConnectionEnd::CardGone, tr("The device has been disconnected or is unavailable."));
     else if (isRefused)
-        explain(ConnectionEnd::NoCarrier,
+        explain(ConnectionEnd::ProfileRefused,
                 tr("The card did not accept the access point \"%1\". Please check the APN of the profile.")
                     .arg(m_plan.profile.text(ProfileField::Apn)));
     else
@@ -154,6 +158,10 @@ void DataLink::useOwnNameServers()
     for (const ProfileField field : {ProfileField::PreferredDns, ProfileField::AlternativeDns})
         if (const QString server = m_plan.profile.text(field).trimmed(); !server.isEmpty())
             request.nameServers += server;
+    if (request.nameServers.isEmpty()) {
+        Q_EMIT sigMessage(QCoreApplication::translate("DiallerFiles", "The DNS is invalid !"));
+        return;
+    }
     m_backend.ask(request, [this, guard = QPointer(this)](const DialResult &result) {
         if (guard && isUp() && !result.isDone())
             Q_EMIT sigMessage(result.error);
@@ -206,8 +214,7 @@ void DataLink::takenDown()
     m_backend.ask({.verb = DialVerb::Recover}, [this, guard = QPointer(this)](const DialResult &result) {
         if (!guard || m_stage != Stage::Ending)
             return;
-        if (!result.isDone()) // one box, not two
-            m_outcome.message += (m_outcome.message.isEmpty() ? u""_s : u"\n\n"_s) + result.error;
+        m_outcome.notPutBack = result.error;
         over();
     });
 }

@@ -34,9 +34,10 @@ struct LinkPlan {
 /// How a link ended, or why it was not made.
 struct LinkOutcome {
     ConnectionEnd end = ConnectionEnd::ByPerson;
-    int exitCode = -1; ///< pppd's
-    QString message;   ///< a box for the person; may be empty
-    QString sentence;  ///< the same in words where the end alone does not say enough
+    int exitCode = -1;       ///< pppd's
+    QString message;         ///< a box for the person; may be empty
+    QString sentence;        ///< the same in words where the end alone does not say enough
+    QString notPutBack = {}; ///< a box of its own: system files that could not be put back; mostly empty
 };
 
 /// What the ways of making a link share: the card's context comes first, and everything that was changed is
@@ -77,6 +78,8 @@ Q_SIGNALS:
 protected:
     enum class Stage { New, Context, Saving, Making, Up, Ending, Over };
 
+    /// Why the plan cannot be carried out, in words; empty when it can.
+    virtual QString refusal() const { return {}; }
     /// The system's files are saved: goes on.
     virtual void make() = 0;
     /// Undoes what `make` did; then `takenDown`.

@@ -24,8 +24,9 @@ QString text(QLatin1StringView key)
 /// The number of a key within limits; `otherwise` when it is absent, no number or below `least`.
 int number(QLatin1StringView key, int least, int most, int otherwise)
 {
-    const int value = cmcfg.getNumber(u"network_dialer_setting"_s, key);
-    return text(key).isEmpty() || value < least ? otherwise : std::min(value, most);
+    bool isNumber = false;
+    const int value = text(key).toInt(&isNumber);
+    return !isNumber || value < least ? otherwise : std::min(value, most);
 }
 
 bool isOn(QLatin1StringView key)
@@ -55,7 +56,6 @@ std::chrono::seconds getDialTimeoutParam()
 SystemFiles systemFilesFromConfiguration()
 {
     SystemFiles files;
-    setPath(files.pppResolvConf, "ppp_resolve_conf_file"_L1);
     setPath(files.routeHelper, "get_route_info_cmd"_L1);
     // Named on purpose, it goes over the layout of the package resolvconf.
     if (setPath(files.resolvConf, "resolve_conf_file"_L1))

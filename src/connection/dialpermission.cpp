@@ -50,8 +50,8 @@ void DialPermission::fillIn(ConnectionProfile &profile) const
 
 bool DialPermission::mayDialUnasked(const ConnectionProfile &profile) const
 {
-    return !profile.isOn(ProfileField::AsksUserName) || profile.isOn(ProfileField::NoAuthentication) ||
-           !profile.text(ProfileField::UserName).isEmpty() || hasCredentialsFor(profile);
+    return !profile.asksForUser() || !profile.text(ProfileField::UserName).isEmpty() ||
+           hasCredentialsFor(profile);
 }
 
 } // namespace corva

@@ -2,6 +2,7 @@
 #include "connection/dialuplink.h"
 
 #include "connection/ppperrors.h"
+#include "connection/profilechecks.h"
 #include "device/cardmonitor.h"
 #include "link/serialthread.h"
 #include "shell/logging.h"
@@ -50,6 +51,12 @@ template <std::size_t count> ConnectionEnd endFor(const EndByCode (&rows)[count]
 
 } // namespace
 
+/// Said before anything is changed, and in the profile's terms; the dialler's side looks again itself.
+QString DialUpLink::refusal() const
+{
+    return dialRefusal(m_plan.profile, m_plan.modemPort);
+}
+
 void DialUpLink::make()
 {
     connect(&m_backend, &DiallerBackend::sigOutput, this, &DialUpLink::takeOutput);
@@ -61,17 +68,19 @@ void DialUpLink::make()
     m_backend.ask(request, [this, guard = QPointer(this)](const DialResult &result) {
         if (!guard || !isMaking())
             return;
-        if (result.isDone())
-            slotStartWvdial();
-        else
+        if (!result.isDone()) {
             explain(result);
+            return;
+        }
+        armLimit(); // once: a dialler that is started again has what is left of it
+        slotStartWvdial();
     });
 }
 
 void DialUpLink::slotStartWvdial()
 {
     m_isDialled = true;
-    armLimit();
+    m_dialledAt = QDateTime::currentDateTime();
     m_backend.ask({.verb = DialVerb::Dial}, [this, guard = QPointer(this)](const DialResult &result) {
         if (guard && isMaking() && !result.isDone())
             explain(ConnectionEnd::DiallerFailed, result.error);
@@ -173,12 +182,21 @@ void DialUpLink::look()
         setUp();
 }
 
-/// A link file, or an interface, comes before the addresses are agreed: alone they carry nothing yet.
+/// A link without an IPv4 address is one too, which shows only when no such address came in all that time.
+void DialUpLink::slotDelayMessageBox()
+{
+    if (isMaking() && m_facts(m_interface).isUp)
+        setUp();
+    else
+        DataLink::slotDelayMessageBox();
+}
+
+/// pppd's own file, or an interface, comes before the addresses are agreed: alone they carry nothing yet.
 bool DialUpLink::isBuilt() const
 {
     const LinkFacts now = m_facts(m_interface);
     const bool hasAddress = !m_said.localAddress.isEmpty() || !now.localAddress.isEmpty();
-    return hasAddress && (now.isUp || hasLinkFile(m_linkFiles));
+    return (hasAddress && (now.isUp || hasLinkFile(m_linkFiles))) || hasLinkMark(m_linkFiles, m_dialledAt);
 }
 
 LinkFacts DialUpLink::facts() const

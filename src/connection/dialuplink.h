@@ -4,6 +4,8 @@
 #include "connection/datalink.h"
 #include "connection/wvdialoutput.h"
 
+#include <QDateTime>
+
 namespace corva
 {
 
@@ -21,9 +23,11 @@ public:
     void setLinkFiles(const QStringList &files) { m_linkFiles = files; }
 
 protected:
+    QString refusal() const override;
     void make() override;
     void takeDown() override;
     void look() override;
+    void slotDelayMessageBox() override;
 
 private:
     void slotStartWvdial();
@@ -36,6 +40,7 @@ private:
     QString failureMessage(int exitCode) const;
 
     QStringList m_linkFiles;
+    QDateTime m_dialledAt;
     WvdialOutput m_output;
     LinkFacts m_said;     ///< what the dialler told
     int m_killRounds = 0; ///< how often the kill waited for the card's reply

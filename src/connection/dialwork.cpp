@@ -99,7 +99,7 @@ void DialWork::carryOut(DialRequest request)
 {
     QString error = m_check ? m_check(request) : QString();
     if (!error.isEmpty()) {
-        answer(false, error);
+        answer({DialResult::Kind::NoRights, error});
         return;
     }
     switch (request.verb) {

@@ -28,13 +28,18 @@ QString dottedQuad(const QByteArray &hex)
     return address.s_addr == 0 ? QString() : QString::fromLatin1(text);
 }
 
-bool isAlive(const QString &linkFile)
+/// std::nullopt for a file that holds none, or that is not there.
+std::optional<int> processNumberIn(const QString &linkFile)
 {
-    if (!QFileInfo::exists(linkFile))
-        return false;
     bool isNumber = false;
     const int pid = readAtMost(linkFile, longestFile).simplified().split(' ').at(0).toInt(&isNumber);
-    const auto process = isNumber ? processStat(pid) : std::nullopt;
+    return isNumber ? std::optional(pid) : std::nullopt;
+}
+
+bool isAlive(const QString &linkFile)
+{
+    const auto pid = processNumberIn(linkFile);
+    const auto process = pid ? processStat(*pid) : std::nullopt;
     return process && process->name == "pppd" && !process->isZombie();
 }
 
@@ -93,6 +98,14 @@ LinkFacts linkFacts(const QString &interfaceName, const QString &resolverFile)
 bool hasLinkFile(const QStringList &files)
 {
     return std::ranges::any_of(files, isAlive);
+}
+
+bool hasLinkMark(const QStringList &files, const QDateTime &since)
+{
+    return std::ranges::any_of(files, [&](const QString &path) {
+        const QFileInfo file(path);
+        return file.isFile() && file.lastModified() >= since && !processNumberIn(path);
+    });
 }
 
 } // namespace corva

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -38,8 +39,10 @@ QStringList nameServersIn(const QByteArray &resolvConf);
 /// Asks the system. An empty name knows no interface.
 LinkFacts linkFacts(const QString &interfaceName, const QString &resolverFile);
 
-/// Whether one of the files says that pppd built the link. A file with a process number counts only while
-/// that process lives and is a pppd: files outlive their writers.
+/// Whether one of the files holds the process number of a pppd that lives: files outlive their writers.
 bool hasLinkFile(const QStringList &files);
+/// Whether one of the files holds no process number and is newer than `since`: a script's mark for a link
+/// that is up.
+bool hasLinkMark(const QStringList &files, const QDateTime &since);
 
 } // namespace corva

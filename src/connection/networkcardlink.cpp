@@ -22,9 +22,6 @@ namespace
 // "+JPDPACT: <context>,<state>".
 enum DataCallState { Down, Up, BeingMade, Refused };
 
-/// The one whose data call the card reports about.
-constexpr int reportedContext = 1;
-
 constexpr int accepted = 1;
 constexpr int refusedPlainly = 0;
 
@@ -43,7 +40,7 @@ void NetworkCardLink::make()
 {
     m_interface = m_plan.interfaceName;
     const auto future = m_monitor.worker().submit([cid = m_plan.contextId](SerialThread &link) {
-        const int result = cid == reportedContext ? link.setDataCall(cid, true) : refusedPlainly;
+        const int result = link.setDataCall(cid, true);
         if (result != refusedPlainly)
             return std::pair(Activation::DataCall, result);
         return std::pair(Activation::Context, link.activatePdpContext(cid, true));
@@ -108,7 +105,7 @@ void NetworkCardLink::lease()
         if (result.isDone())
             setUp();
         else
-            explain(ConnectionEnd::TimeOut, result.error);
+            explain(ConnectionEnd::DiallerFailed, result.error);
     });
 }
 

@@ -9,12 +9,25 @@ namespace corva
 SystemFiles SystemFiles::below(const QString &root)
 {
     SystemFiles files;
-    QString *const paths[] = {
-        &files.wvdialConf,     &files.savedWvdialConf, &files.pppOptions,  &files.savedPppOptions,
-        &files.peer,           &files.savedPeer,       &files.resolvConf,  &files.savedResolvConf,
-        &files.papSecrets,     &files.savedPapSecrets, &files.chapSecrets, &files.savedChapSecrets,
-        &files.resolvconfFile, &files.pppResolvConf,   &files.routeHelper, &files.connectInfo,
-        &files.issue,          &files.journal,         &files.lost,        &files.lock};
+    QString *const paths[] = {&files.wvdialConf,
+                              &files.savedWvdialConf,
+                              &files.pppOptions,
+                              &files.savedPppOptions,
+                              &files.peer,
+                              &files.savedPeer,
+                              &files.resolvConf,
+                              &files.savedResolvConf,
+                              &files.papSecrets,
+                              &files.savedPapSecrets,
+                              &files.chapSecrets,
+                              &files.savedChapSecrets,
+                              &files.resolvconfFile,
+                              &files.routeHelper,
+                              &files.connectInfo,
+                              &files.issue,
+                              &files.journal,
+                              &files.lost,
+                              &files.lock};
     for (QString *path : paths)
         path->prepend(root);
     for (QString &path : files.pppLinkFiles)

@@ -28,7 +28,6 @@ struct SystemFiles {
     QString savedChapSecrets = QStringLiteral("/etc/ppp/tmpchap-secrets");
 
     /// Where pppd leaves the network's name servers.
-    QString pppResolvConf = QStringLiteral("/etc/ppp/resolv.conf");
     /// The files of which one says that the link is built.
     QStringList pppLinkFiles = {QStringLiteral("/etc/ppp/ppp0.lnk"), QStringLiteral("/tmp/ppp0.lnk")};
     QString routeHelper = QStringLiteral("/etc/ppp/get_route_info");

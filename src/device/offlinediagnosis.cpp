@@ -301,7 +301,6 @@ QString mendActionText(MendAction action)
         QT_TRANSLATE_NOOP("OfflineDiagnosis", "&Switch radio on"),
         QT_TRANSLATE_NOOP("OfflineDiagnosis", "&Ask again"),
         QT_TRANSLATE_NOOP("OfflineDiagnosis", "&Connect"),
-        QT_TRANSLATE_NOOP("OfflineDiagnosis", "&Choose profile"),
         QT_TRANSLATE_NOOP("OfflineDiagnosis", "&Edit profile"),
     };
     return action == MendAction::None ? QString() : text(texts.at(static_cast<std::size_t>(action)));

@@ -48,7 +48,6 @@ enum class MendAction {
     SwitchRadioOn,
     AskAgain,
     Connect,
-    ChooseProfile,
     EditProfile
 };
 

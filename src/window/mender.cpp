@@ -46,7 +46,6 @@ void Mender::mend(MendAction action)
         m_monitor->refreshNow();
         return;
     case MendAction::Connect:
-    case MendAction::ChooseProfile:
     case MendAction::EditProfile: Q_EMIT sigConnectionWanted(action); return;
     }
 }

@@ -4,6 +4,7 @@
 #include "connection/connectiondiagnosis.h"
 #include "connection/connectionservice.h"
 #include "connection/profilestore.h"
+#include "connection/simprofile.h"
 #include "device/cardmonitor.h"
 #include "widgets/buttonkind.h"
 #include "widgets/cdepaint.h"
@@ -181,7 +182,8 @@ OfflinePanel::OfflinePanel(const PageContext &context, QWidget *parent)
 
 std::vector<DiagnosisStep> OfflinePanel::steps() const
 {
-    return diagnose(m_monitor->state(), m_connection->status(), m_profiles->defaultProfile());
+    const CardState &card = m_monitor->state();
+    return diagnose(card, m_connection->status(), profileForSim(*m_profiles, card.identity.imsi));
 }
 
 void OfflinePanel::update()

@@ -312,10 +312,8 @@ void WTMainWindow::mendConnection(MendAction action)
     showPage(u"connection"_s);
     if (action == MendAction::Connect)
         m_connector->connectNow();
-    else if (action == MendAction::EditProfile)
-        m_connector->editProfile();
     else
-        m_connector->chooseProfile();
+        m_connector->editProfile();
 }
 
 void WTMainWindow::showPage(const QString &pageId)

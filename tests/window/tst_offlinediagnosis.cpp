@@ -109,13 +109,15 @@ private Q_SLOTS:
         };
         using enum DiagnosisStepId;
         const ConnectionStatus none;
-        row("no profile", none, {}, Profile, MendAction::ChooseProfile, u"choose one"_s);
+        row("no profile", none, {}, Profile, MendAction::Connect, u"choose one"_s);
         row("no APN", none, noApn, AccessPoint, MendAction::EditProfile, u"(APN)"_s);
         row("not tried yet", none, supplied, Dialler, MendAction::Connect, u"everything is there"_s);
         row("ended by the person", fakeconnection::ended(ConnectionEnd::ByPerson, {}), good, Dialler,
             MendAction::Connect, u"everything is there"_s);
         row("refused", fakeconnection::ended(ConnectionEnd::Refused, u"Wrong password."_s), good, Dialler,
             MendAction::EditProfile, u"Wrong password."_s);
+        row("profile refused", fakeconnection::ended(ConnectionEnd::ProfileRefused, u"The APN."_s), good,
+            Dialler, MendAction::EditProfile, u"The APN."_s);
         row("no carrier", fakeconnection::ended(ConnectionEnd::NoCarrier, u"Not taken."_s), good, Dialler,
             MendAction::Connect, u"Not taken."_s);
         row("no address", up([](ConnectionStatus &s) { s.localAddress.clear(); }), good, Address,

@@ -189,6 +189,7 @@ void Config::buildGeneral(QVBoxLayout *form)
     m_kind->addItem(tr("Modem (dial-up)"), int(LinkKind::DialUp));
     m_kind->addItem(tr("Network card"), int(LinkKind::NetworkCard));
     caption->setBuddy(m_kind);
+    connect(m_kind, &QComboBox::currentIndexChanged, this, &Config::followChoices);
     auto *layout = new QVBoxLayout(kind);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(metrics::HalfGrid);
@@ -311,7 +312,10 @@ void Config::followChoices()
     m_fields[ProfileField::Pdp]->setEnabled(m_address->chosen() == ProfileField::UsesPdp);
     for (const ProfileField field : {ProfileField::PreferredDns, ProfileField::AlternativeDns})
         m_fields[field]->setEnabled(m_nameServers->chosen() == ProfileField::UsesDns);
-    const bool authenticates = m_authentication->chosen() != ProfileField::NoAuthentication;
+    // A data call over the network card takes no name and no password.
+    const bool isDialled = LinkKind(m_kind->currentData().toInt()) != LinkKind::NetworkCard;
+    m_authentication->setEnabled(isDialled);
+    const bool authenticates = isDialled && m_authentication->chosen() != ProfileField::NoAuthentication;
     for (QWidget *widget : std::initializer_list<QWidget *>{
              m_fields[ProfileField::UserName], m_fields[ProfileField::Password], m_asks, m_keeps})
         widget->setEnabled(authenticates);

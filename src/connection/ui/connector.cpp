@@ -201,8 +201,7 @@ void Connector::useProfile(const QString &name)
 void Connector::askForCredentials()
 {
     const auto profile = m_profiles->defaultProfile();
-    if (!profile || !profile->isOn(ProfileField::AsksUserName) ||
-        profile->isOn(ProfileField::NoAuthentication)) {
+    if (!profile || !profile->asksForUser()) {
         dial();
         return;
     }

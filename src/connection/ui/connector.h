@@ -35,8 +35,7 @@ public:
     MessageQueue &messages() { return *m_messages; }
     /// Whether there is something to end: a link, a dial, or a row of redials.
     bool isActive() const;
-    /// What the person is to do with the profiles, for whoever shows them.
-    void chooseProfile() { Q_EMIT sigChoiceWanted(); }
+    /// Asks whoever shows the profiles to open the one that is dialled.
     void editProfile() { Q_EMIT sigEditWanted(); }
     /// Connects, or ends what is active.
     void toggle();
@@ -50,7 +49,6 @@ Q_SIGNALS:
     void sigProposalsChanged();
     /// The person has to write a profile: nothing is known for this SIM.
     void sigProfileWanted();
-    void sigChoiceWanted();
     /// Of the profile that is dialled.
     void sigEditWanted();
 

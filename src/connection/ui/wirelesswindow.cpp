@@ -3,6 +3,7 @@
 
 #include "connection/connectionservice.h"
 #include "connection/profilestore.h"
+#include "connection/simprofile.h"
 #include "connection/ui/connectionfacts.h"
 #include "connection/ui/connectionhead.h"
 #include "connection/ui/connector.h"
@@ -40,7 +41,6 @@ WirelessWindow::WirelessWindow(const PageInfo &info, const PageContext &context,
     connect(context.profiles, &ProfileStore::sigChanged, this, &WirelessWindow::takeStatus);
     connect(context.connector, &Connector::sigProposalsChanged, this, &WirelessWindow::takeStatus);
     connect(context.connector, &Connector::sigProfileWanted, m_profiles, &ProfileList::add);
-    connect(context.connector, &Connector::sigChoiceWanted, m_profiles, &ProfileList::takeFocus);
     connect(context.connector, &Connector::sigEditWanted, m_profiles, &ProfileList::editDefault);
     connect(context.meter, &LinkMeter::sigChanged, m_facts, &ConnectionFacts::setTraffic);
     connect(new QShortcut(QKeySequence::New, this), &QShortcut::activated, m_profiles, &ProfileList::add);
@@ -109,7 +109,8 @@ QString WirelessWindow::hint() const
 {
     if (m_context.monitor->state().presence != CardPresence::Ready)
         return tr("Plug the card in to connect.");
-    if (const auto chosen = m_context.profiles->defaultProfile())
+    const QString &imsi = m_context.monitor->state().identity.imsi;
+    if (const auto chosen = profileForSim(*m_context.profiles, imsi))
         return tr("Connect goes by the profile \"%1\".").arg(chosen->name());
     const auto &proposals = m_context.connector->proposals();
     if (proposals.size() == 1)
