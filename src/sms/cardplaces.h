@@ -56,12 +56,14 @@ private:
     enum class After { Keep, Remove };
 
     void transfer(const QStringList &ids, MessagePlace to, After after);
+    void leaveEmptyEntries(std::vector<Message> &messages);
     void toComputer(const std::vector<Message> &messages, After after, MessageStore::DeletedOnes deleted);
     void toCard(const Message &message, MessagePlace to, After after);
     std::vector<smsjobs::CardEntry> entriesOf(const Message &message) const;
     void wroteToCard(const Message &message, MessagePlace to, After after,
                      const std::optional<QString> &fault);
     void removePart(MessagePlace place, const MessagePart &part, const QStringList &copies);
+    void sayNotDeleted();
     void forgetIndex(const QStringList &copies, const MessagePart &part);
     void storedHere(const MessageStore::Added &added, const std::vector<Message> &originals, After after);
     void took(MessagePlace place, smsjobs::Listing listing);

@@ -150,7 +150,7 @@ Listing list(SerialThread &link, MessagePlace place)
     }
     listing.isRead = true;
     const QDateTime now = QDateTime::currentDateTime();
-    for (const ListedSms &each : parseSmsList(reply).messages)
+    for (const ListedSms &each : parseSmsList(reply))
         sortIn(listing, fileSms(each, place, now));
     return listing;
 }
@@ -199,7 +199,7 @@ Fetched fetchReport(SerialThread &link, int index)
 std::vector<KeptReport> listReports(SerialThread &link)
 {
     std::vector<KeptReport> reports;
-    for (const ListedSms &each : parseSmsList(link.getSmsContent(everyStatus, reportStorage)).messages)
+    for (const ListedSms &each : parseSmsList(link.getSmsContent(everyStatus, reportStorage)))
         reports.push_back({each.index, each.pdu});
     return reports;
 }

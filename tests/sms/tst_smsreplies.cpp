@@ -41,13 +41,13 @@ private Q_SLOTS:
         QTest::newRow("cut off") << QByteArray("+CMGL: 1,1,,9\r\n00AA\r\n+CMGL: 2,1")
                                  << QByteArray("1,1,9:00AA 2,1,-1:");
         QTest::newRow("no numbers") << QByteArray("+CMGL: a,b,,c\r\n00AA\r\n+CMGL: 2,1,,9\r\n00BB\r\nOK\r\n")
-                                    << QByteArray("2,1,9:00BB");
+                                    << QByteArray("-1,-1,-1:00AA 2,1,9:00BB");
     }
     void lists()
     {
         QFETCH(QByteArray, reply);
         QByteArrayList messages;
-        for (const ListedSms &each : parseSmsList(reply).messages)
+        for (const ListedSms &each : parseSmsList(reply))
             messages += QByteArray::number(each.index) + ',' + QByteArray::number(each.status) + ',' +
                         QByteArray::number(each.length) + ':' + each.pdu;
         QTEST(messages.join(' '), "messages");
