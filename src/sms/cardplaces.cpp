@@ -158,8 +158,8 @@ void CardPlaces::took(MessagePlace place, smsjobs::Listing listing)
         return;
     const QStringList before = m_store->ids(MessageBox::Inbox, place);
     const QSet<QString> known(before.begin(), before.end());
-    for (const StatusReport &report : listing.reports)
-        m_store->applyReport(report);
+    for (const smsjobs::KeptReport &report : listing.reports)
+        Q_EMIT sigReportListed(report);
     m_store->replaceMirror(place, std::move(listing.messages));
     takeFill(place, listing.fill);
     QStringList unread = m_store->ids(MessageBox::Inbox, place);
@@ -357,8 +357,9 @@ void CardPlaces::finishTaking()
             // Which of the two stores it was is not kept. Another message under that index stays where it is,
             // and with another SIM in the card the taking waits for the right one.
             const auto job = m_worker.submit([index = part.storageIndex, pdu = part.pdu](SerialThread &link) {
-                return smsjobs::remove(link, MessagePlace::Sim, index, pdu) == smsjobs::Removal::Removed ||
-                       smsjobs::remove(link, MessagePlace::Card, index, pdu) == smsjobs::Removal::Removed;
+                using enum smsjobs::Storage;
+                return smsjobs::remove(link, {Sim, index, pdu}) == smsjobs::Removal::Removed ||
+                       smsjobs::remove(link, {Card, index, pdu}) == smsjobs::Removal::Removed;
             });
             whenDone(job, this, [this, part, id = message.id](std::optional<bool> isRemoved) {
                 if (isRemoved.value_or(false))
@@ -375,9 +376,8 @@ void CardPlaces::removePart(MessagePlace place, const MessagePart &part, const Q
         return;
     }
     ++m_removals[slot(place)];
-    const auto job = m_worker.submit([place, index = part.storageIndex, pdu = part.pdu](SerialThread &link) {
-        return smsjobs::remove(link, place, index, pdu);
-    });
+    const smsjobs::KeptPdu kept{smsjobs::storageOf(place), part.storageIndex, part.pdu};
+    const auto job = m_worker.submit([kept](SerialThread &link) { return smsjobs::remove(link, kept); });
     whenDone(job, this, [this, place, part, copies](std::optional<smsjobs::Removal> removal) {
         if (removal == smsjobs::Removal::Failed)
             sayNotDeleted();

@@ -51,6 +51,8 @@ Q_SIGNALS:
     /// What the first listing of a place met unread, and what a later one met that was not there before.
     void sigUnreadMet(const QStringList &ids);
     void sigNewListed(const QStringList &ids);
+    /// A delivery report that lies among the messages.
+    void sigReportListed(const corva::smsjobs::KeptReport &report);
 
 private:
     enum class After { Keep, Remove };

@@ -120,6 +120,7 @@ void MessageService::Private::connectParts()
     connect(&places, &CardPlaces::sigNotice, q, &MessageService::sigNotice);
     connect(&places, &CardPlaces::sigUnreadMet, q, [this](const QStringList &ids) { takeUnread(ids); });
     connect(&places, &CardPlaces::sigNewListed, &reception, &SmsReception::takeListed);
+    connect(&places, &CardPlaces::sigReportListed, &reception, &SmsReception::deliveryReportSaveToSmsXml);
     connect(&reception, &SmsReception::sigNewMessage, q, &MessageService::sigNewMessage);
     connect(&reception, &SmsReception::sigClass0, q, &MessageService::sigClass0);
     connect(&reception, &SmsReception::sigDelivered, q, &MessageService::sigDelivered);
@@ -143,7 +144,7 @@ void MessageService::Private::takeCard(const CardState &card)
     }
     again.stop();
     watchRouting.stop();
-    queue.setReady(false);
+    queue.pause();
     places.setReady(false);
     places.forget();
     setServiceCentre({});
@@ -174,7 +175,7 @@ void MessageService::Private::prepared(const smsjobs::Preparation &made)
     listAll();
     if (cmcfg.getNumber(u"function"_s, u"cell_board_enabled"_s) == 1 && !q->broadcastChannels().isEmpty())
         sendChannels();
-    queue.setReady(true);
+    queue.begin(made.subscriber);
 }
 
 void MessageService::Private::listAll()

@@ -29,7 +29,8 @@ bool goToComputer()
 /// The store that a report names; the SIM's for one that is not known by its name.
 MessagePlace placeOf(const QString &store)
 {
-    return store == "ME"_L1 || store == "MT"_L1 ? MessagePlace::Card : MessagePlace::Sim;
+    const bool isCard = smsjobs::storageNamed(store, smsjobs::Storage::Sim) == smsjobs::Storage::Card;
+    return isCard ? MessagePlace::Card : MessagePlace::Sim;
 }
 
 QString timeText(const QDateTime &time)
@@ -67,7 +68,7 @@ void SmsReception::fileDelivered(const std::vector<ReportedPdu> &reports)
         if (const auto *message = std::get_if<Message>(&filed))
             announce(keep(*message));
         else
-            fileReport(std::get<StatusReport>(filed), -1);
+            fileReport(std::get<StatusReport>(filed));
     }
 }
 
@@ -85,9 +86,11 @@ void SmsReception::took(MessagePlace place, const smsjobs::Fetched &fetched)
 {
     m_places->takeFill(place, fetched.fill);
     if (fetched.report)
-        fileReport(*fetched.report, -1);
+        deliveryReportSaveToSmsXml(*fetched.report);
     if (!fetched.fault.isEmpty())
         Q_EMIT sigNotice(tr("A new message could not be read from the card: %1").arg(fetched.fault));
+    if (fetched.report)
+        return;
     if (!fetched.message) {
         m_places->refresh(place); // it may be there all the same
         return;
@@ -175,19 +178,20 @@ void SmsReception::takeBroadcasts(const QByteArray &text)
 
 void SmsReception::takeDeliveryReports(const QByteArray &text)
 {
+    using smsjobs::Storage;
     for (const StoredReport &report : parseStoredReports(text, "+CDSI:"))
-        fetchReport(report.index);
+        readAndDisplaySmsStatusReport(smsjobs::storageNamed(report.store, Storage::Reports), report.index);
 }
 
-void SmsReception::fetchReport(int index)
+void SmsReception::readAndDisplaySmsStatusReport(smsjobs::Storage storage, int index)
 {
-    const auto job =
-        m_worker.submit([index](SerialThread &link) { return smsjobs::fetchReport(link, index); });
-    whenDone(job, this, [this, index](const std::optional<smsjobs::Fetched> &fetched) {
-        if (fetched && fetched->report)
-            fileReport(*fetched->report, index);
-        else if (fetched && fetched->message)
-            m_store->insert({*fetched->message});
+    const auto job = m_worker.submit(
+        [storage, index](SerialThread &link) { return smsjobs::fetchReport(link, storage, index); });
+    whenDone(job, this, [this, storage](const std::optional<smsjobs::Fetched> &fetched) {
+        if (fetched && fetched->message)
+            took(storage == smsjobs::Storage::Card ? MessagePlace::Card : MessagePlace::Sim, *fetched);
+        else if (fetched && fetched->report)
+            deliveryReportSaveToSmsXml(*fetched->report);
         else if (fetched && !fetched->fault.isEmpty())
             Q_EMIT sigNotice(tr("A delivery report could not be read from the card: %1").arg(fetched->fault));
     });
@@ -196,35 +200,31 @@ void SmsReception::fetchReport(int index)
 void SmsReception::readKeptReports()
 {
     const auto job = m_worker.submit([](SerialThread &link) { return smsjobs::listReports(link); });
-    whenDone(job, this, [this](const std::optional<std::vector<smsjobs::KeptReport>> &kept) {
-        if (!kept)
-            return;
-        for (const auto &[index, pdu] : *kept) {
-            const QDateTime now = QDateTime::currentDateTime();
-            if (const auto report = corva::fileReport(pdu, now))
-                fileReport(*report, index);
-            else
-                m_store->insert({fileBrokenReport(pdu, now)});
-        }
+    whenDone(job, this, [this](const std::optional<std::vector<smsjobs::KeptReport>> &reports) {
+        for (const smsjobs::KeptReport &report : reports.value_or(std::vector<smsjobs::KeptReport>()))
+            deliveryReportSaveToSmsXml(report);
     });
 }
 
-void SmsReception::fileReport(const StatusReport &report, int index)
+void SmsReception::deliveryReportSaveToSmsXml(const smsjobs::KeptReport &report)
+{
+    const auto *status = std::get_if<StatusReport>(&report.content);
+    const QFuture<bool> stored =
+        status ? fileReport(*status) : m_store->add({std::get<Message>(report.content)});
+    if (report.kept.index < 0)
+        return;
+    whenDone(stored, this, [this, kept = report.kept](std::optional<bool> isStored) {
+        if (isStored.value_or(false))
+            m_worker.submit([kept](SerialThread &link) { smsjobs::remove(link, kept); });
+    });
+}
+
+QFuture<bool> SmsReception::fileReport(const StatusReport &report)
 {
     const MessageStore::Reported reported = m_store->applyReport(report);
     if (reported.isNew && cmcfg.getNumber(u"sms"_s, u"deliveryReportMsgDlgShow"_s) == 1)
         Q_EMIT sigDelivered(sentenceFor(report));
-    if (index < 0)
-        return;
-    whenDone(reported.stored, this, [this, index, pdu = report.pdu](std::optional<bool> isStored) {
-        if (isStored.value_or(false))
-            removeReport(index, pdu);
-    });
-}
-
-void SmsReception::removeReport(int index, const QString &pdu)
-{
-    m_worker.submit([index, pdu](SerialThread &link) { smsjobs::removeReport(link, index, pdu.toLatin1()); });
+    return reported.stored;
 }
 
 QString SmsReception::sentenceFor(const StatusReport &report) const

@@ -4,6 +4,7 @@
 #include "sms/message.h"
 #include "sms/smscardjobs.h"
 
+#include <QFuture>
 #include <QObject>
 #include <functional>
 
@@ -41,6 +42,8 @@ public:
     void takeOver(const QStringList &ids);
     /// The same for new ones, which are announced, wherever they are then.
     void takeListed(const QStringList &ids);
+    /// Files the report and tells of it as configured, then takes it from the card.
+    void deliveryReportSaveToSmsXml(const smsjobs::KeptReport &report);
 
 Q_SIGNALS:
     void sigNewMessage(const QString &id);
@@ -57,10 +60,9 @@ private:
     QStringList keep(const Message &message);
     QStringList takenOver(const QStringList &ids);
     void announce(const QStringList &ids);
-    void fileReport(const StatusReport &report, int index);
+    QFuture<bool> fileReport(const StatusReport &report);
     QString sentenceFor(const StatusReport &report) const;
-    void fetchReport(int index);
-    void removeReport(int index, const QString &pdu);
+    void readAndDisplaySmsStatusReport(smsjobs::Storage storage, int index);
 
     CardWorker &m_worker;
     MessageStore *m_store;

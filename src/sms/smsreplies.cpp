@@ -246,6 +246,12 @@ int parseMessageReference(const QByteArray &reply)
     return fields ? fields->number(0, 0, 255).value_or(-1) : -1;
 }
 
+int parseWrittenIndex(const QByteArray &reply)
+{
+    const auto fields = AtFields::find(reply, "+CMGW:");
+    return fields ? fields->number(0, 0, anyNumber).value_or(-1) : -1;
+}
+
 QByteArray nearestNoticeModes(const QByteArray &wanted, const QByteArray &testReply)
 {
     const auto offered = offeredModes(testReply);

@@ -63,6 +63,9 @@ QString parseServiceCentre(const QByteArray &reply);
 /// The message reference of "+CMGS: <mr>", 0..255; -1 when there is none. 3GPP TS 27.005 3.5.1.
 int parseMessageReference(const QByteArray &reply);
 
+/// Where "+CMGW: <index>" put the message; -1 when it does not say. 3GPP TS 27.005 3.5.3.
+int parseWrittenIndex(const QByteArray &reply);
+
 /// The values nearest to `wanted` ("3,1,0,2,0") that the reply of "AT+CNMI=?" offers, or the wanted ones
 /// where it says nothing. 3GPP TS 27.005 3.4.1.
 QByteArray nearestNoticeModes(const QByteArray &wanted, const QByteArray &testReply);

@@ -231,7 +231,28 @@ private Q_SLOTS:
         begin();
         QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Sent).recipients, QStringList(u"111"_s), patience);
         QCOMPARE(sent(), 1); // the other one may have gone out before
-        QCOMPARE(only(MessageBox::Outbox).state(), DeliveryState::Failed);
+        QCOMPARE(only(MessageBox::Outbox).state(), DeliveryState::Unsure);
+    }
+
+    void unpluggedWhileSending()
+    {
+        tell(R"({"command": "sms-network", "delay": 60000})");
+        begin();
+        QSignalSpy summary(m_service.get(), &MessageService::sigSendSummary);
+        m_service->send({{u"10086"_s}, QString(400, u'a'), false, {}});
+        QTRY_VERIFY_WITH_TIMEOUT(hears(u"0500030"_s), patience); // the first part is on its way
+        tell(R"({"command": "unplug"})");
+        const auto state = [this](std::size_t part) { return only(MessageBox::Outbox).parts[part].state; };
+        QTRY_COMPARE_WITH_TIMEOUT(state(0), DeliveryState::Unsure, patience);
+        QCOMPARE(sent(), 0);
+        tell(R"({"command": "sms-network", "delay": 0})");
+        tell(R"({"command": "plug"})");
+        QTRY_COMPARE_WITH_TIMEOUT(summary.size(), 1, patience);
+        QCOMPARE(state(0), DeliveryState::Unsure); // not again unasked
+        QCOMPARE(sent(), 2);
+        m_service->retry({only(MessageBox::Outbox).id});
+        QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Sent).parts.size(), 3U, patience);
+        QCOMPARE(sent(), 3);
     }
 
     void movingAndDeleting()
@@ -339,6 +360,13 @@ private:
     {
         const auto messages = m_store->messages(m_store->ids(box));
         return messages.size() == 1 ? messages.front() : Message();
+    }
+    /// Whether the card has taken in a line with that text.
+    bool hears(const QString &text)
+    {
+        const QJsonArray log = ask(R"({"command": "log", "last": 5})")[u"log"_s].toArray();
+        return std::ranges::any_of(
+            log, [&](QJsonValue each) { return each[u"received"_s].toString().contains(text); });
     }
     int sent() { return int(ask(R"({"command": "sent"})")[u"sent"_s].toArray().size()); }
     /// Messages in a store of the card.
