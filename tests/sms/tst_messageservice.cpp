@@ -197,6 +197,19 @@ private Q_SLOTS:
         QCOMPARE(only(MessageBox::Sent).id, failed.id);
     }
 
+    void aPromptThatComesLate()
+    {
+        tell(R"({"command": "fault", "kind": "late", "match": ">", "ms": 3300})");
+        begin();
+        QSignalSpy summary(m_service.get(), &MessageService::sigSendSummary);
+        m_service->send({{u"10086"_s}, u"one"_s, false, {}});
+        QTRY_COMPARE_WITH_TIMEOUT(summary.size(), 1, patience);
+        QCOMPARE(only(MessageBox::Outbox).state(), DeliveryState::Failed);
+        m_service->retry({only(MessageBox::Outbox).id}); // which the card does not take for the text
+        QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Sent).parts.size(), 1U, patience);
+        QCOMPARE(sent(), 1);
+    }
+
     void cancelledMidway()
     {
         tell(R"({"command": "sms-network", "delay": 300})");
@@ -275,6 +288,56 @@ private Q_SLOTS:
         QCOMPARE(m_store->ids(MessageBox::Deleted).size(), 2);
         QVERIFY(m_service->undoRemoval());
         QCOMPARE(inbox().size(), 2U);
+    }
+
+    void noHalfMessageOnTheSim()
+    {
+        tell(R"({"command": "fill", "name": "ME", "count": 1, "status": 1})");
+        tell(QByteArray(R"({"command": "sms", "from": "123", "store": "ME", "text": "@"})")
+                 .replace('@', QByteArray(400, 'x')));
+        tell(R"({"command": "set", "key": "messages.stores.SM.capacity", "value": 3})");
+        tell(R"({"command": "fill", "name": "SM", "count": 1, "status": 1})");
+        set("newsmsLocation", 3);
+        begin();
+        QTRY_COMPARE_WITH_TIMEOUT(inbox(MessagePlace::Card).size(), 2U, patience);
+        const auto isLong = [](const Message &message) { return message.total == 3; };
+        const auto onCard = inbox(MessagePlace::Card);
+        const QString id = std::ranges::find_if(onCard, isLong)->id;
+        m_service->moveTo({id}, MessagePlace::Sim);
+        QTRY_VERIFY_WITH_TIMEOUT(m_notices.join(u' ').contains(u"was not written to the SIM"), patience);
+        QCOMPARE(stored(u"SM"_s), 1);
+        QCOMPARE(stored(u"ME"_s), 4);
+    }
+
+    void whatCannotBeReadIsShownOnce()
+    {
+        tell(R"({"command": "fill", "name": "SM", "count": 1, "status": 1})");
+        tell(R"({"command": "fault", "kind": "interleave", "match": "+CMGL", "count": 0, "at": 0, "text":
+            "+CMGL: ?\r\n0791947106004034040B919471325476F800004250112100000005E8329BFD06"})");
+        begin();
+        QTRY_COMPARE_WITH_TIMEOUT(inbox().size(), 1U, patience); // its text could be read, and is unread
+        QCOMPARE(inbox().front().text(), u"hello"_s);
+        m_service->refreshPlace(MessagePlace::Sim);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_service->place(MessagePlace::Sim).isLoading, patience);
+        QCOMPARE(inbox().size(), 1U);
+        QCOMPARE(inbox(MessagePlace::Sim).size(), 2U);
+        QCOMPARE(stored(u"SM"_s), 1);
+    }
+
+    void reportsAmongTheMessages()
+    {
+        const QByteArray report = "0791947101670000060509919471111111F14250112100000042501121000000";
+        const auto bring = [&](const char *status) {
+            tell(
+                QByteArray(R"({"command": "sms", "store": "SM", "pdu": "@"})").replace('@', report + status));
+        };
+        bring("00");
+        begin();
+        QTRY_COMPARE_WITH_TIMEOUT(m_store->ids(MessageBox::Reports).size(), 1, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(stored(u"SM"_s), 0, patience);
+        bring("30"); // announced by "+CDSI", which names the SIM
+        QTRY_COMPARE_WITH_TIMEOUT(m_store->ids(MessageBox::Reports).size(), 2, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(stored(u"SM"_s), 0, patience);
     }
 
     void anotherMessageAtTheSamePlace()
