@@ -7,17 +7,24 @@
 #include "sms/cardplaces.h"
 #include "sms/messagestore.h"
 #include "sms/smsfiling.h"
-#include "sms/smspdu.h"
 
 #include <QLocale>
+#include <QTimer>
+
+#include <chrono>
+#include <utility>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace corva
 {
 
 namespace
 {
+
+/// The parts of an immediate message come one behind the other.
+constexpr auto patienceForParts = 30s;
 
 /// "newsmsLocation": new messages go to the computer.
 bool goToComputer()
@@ -41,15 +48,26 @@ QString timeText(const QDateTime &time)
 } // namespace
 
 SmsReception::SmsReception(CardWorker &worker, MessageStore *store, CardPlaces *places, QObject *parent)
-    : QObject(parent), m_worker(worker), m_store(store), m_places(places)
+    : QObject(parent), m_worker(worker), m_store(store), m_places(places), m_immediate(patienceForParts)
 {
+    connect(&m_immediate, &ImmediateParts::sigReady, this, &SmsReception::displayClass0Sms);
 }
 
 // --- Messages
 // ----------------------------------------------------------------------------------------------------
 
+/// A text that holds several reports is handed on once for each of them.
+bool SmsReception::isRepeated(const QByteArray &text)
+{
+    if (m_lastText.isEmpty())
+        QTimer::singleShot(0, this, [this] { m_lastText.clear(); });
+    return std::exchange(m_lastText, text) == text;
+}
+
 void SmsReception::takeMessages(const QByteArray &text)
 {
+    if (isRepeated(text))
+        return;
     fileDelivered(parseReportedPdus(text, "+CMT:"));
     for (const StoredReport &report : parseStoredReports(text, "+CMTI:")) {
         if (goToComputer())
@@ -74,9 +92,12 @@ void SmsReception::fileDelivered(const std::vector<ReportedPdu> &reports)
 
 void SmsReception::fetch(MessagePlace place, int index)
 {
+    if (!m_fetched.insert({place, index}).second)
+        return;
     const auto job =
         m_worker.submit([place, index](SerialThread &link) { return smsjobs::fetch(link, place, index); });
-    whenDone(job, this, [this, place](const std::optional<smsjobs::Fetched> &fetched) {
+    whenDone(job, this, [this, place, index](const std::optional<smsjobs::Fetched> &fetched) {
+        m_fetched.erase({place, index});
         if (fetched)
             took(place, *fetched);
     });
@@ -154,14 +175,21 @@ void SmsReception::announce(const QStringList &ids)
 
 void SmsReception::takeImmediate(const QByteArray &text)
 {
+    const QDateTime now = QDateTime::currentDateTime();
     for (const ReportedPdu &report : parseReportedPdus(text, "+JCLAS:")) {
-        const SmsResult result = decodeSms(report.pdu, SmsDirection::FromNetwork);
-        const QString pdu = QString::fromLatin1(report.pdu);
-        if (const auto *sms = std::get_if<DecodedSms>(&result))
-            Q_EMIT sigClass0(sms->address, sms->text, pdu);
+        constexpr int read = 1;
+        FiledSms filed = fileSms({-1, read, report.length, report.pdu}, MessagePlace::Computer, now);
+        if (auto *message = std::get_if<Message>(&filed))
+            m_immediate.take(std::move(*message));
         else
-            Q_EMIT sigClass0({}, std::get<PduError>(result).text(), pdu);
+            fileReport(std::get<StatusReport>(filed));
     }
+}
+
+void SmsReception::displayClass0Sms(const Message &message)
+{
+    Q_EMIT sigClass0(message.recipients.value(0), message.error.isEmpty() ? message.text() : message.error,
+                     message.parts.front().pdu, message);
 }
 
 void SmsReception::takeBroadcasts(const QByteArray &text)

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "sms/immediateparts.h"
 #include "sms/message.h"
 #include "sms/smscardjobs.h"
 
 #include <QFuture>
 #include <QObject>
 #include <functional>
+#include <set>
 
 namespace corva
 {
@@ -47,12 +49,15 @@ public:
 
 Q_SIGNALS:
     void sigNewMessage(const QString &id);
-    void sigClass0(const QString &sender, const QString &text, const QString &pdu);
+    void sigClass0(const QString &sender, const QString &text, const QString &pdu,
+                   const corva::Message &message);
     void sigDelivered(const QString &sentence);
     void sigBroadcast(const QString &id);
     void sigNotice(const QString &sentence);
 
 private:
+    bool isRepeated(const QByteArray &text);
+    void displayClass0Sms(const Message &message);
     void fileDelivered(const std::vector<ReportedPdu> &reports);
     void fetch(MessagePlace place, int index);
     void took(MessagePlace place, const smsjobs::Fetched &fetched);
@@ -68,6 +73,9 @@ private:
     MessageStore *m_store;
     CardPlaces *m_places;
     NameLookup m_nameFor;
+    ImmediateParts m_immediate;
+    QByteArray m_lastText;                            ///< taken in this round of the event loop
+    std::set<std::pair<MessagePlace, int>> m_fetched; ///< what is being fetched
 };
 
 } // namespace corva

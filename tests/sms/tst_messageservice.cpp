@@ -367,16 +367,44 @@ private Q_SLOTS:
         QVERIFY(m_notices.join(u' ').contains(u"8 of 8"));
     }
 
-    void immediateAndBroadcast()
+    void immediateMessages()
     {
         begin();
         QSignalSpy immediate(m_service.get(), &MessageService::sigClass0);
-        QSignalSpy broadcast(m_service.get(), &MessageService::sigBroadcast);
-        tell(R"({"command": "sms", "from": "555", "text": "now", "class": 0})");
+        const QString text = QString(200, u'x') + u"end"_s;
+        tell(QByteArray(R"({"command": "sms", "from": "555", "order": "2,1", "class": 0, "text": "@",
+            "time": "2024-05-03T10:00:00Z"})")
+                 .replace('@', text.toLatin1()));
         QTRY_COMPARE_WITH_TIMEOUT(immediate.size(), 1, patience);
-        QCOMPARE(immediate.front().mid(0, 2), (QVariantList{u"555"_s, u"now"_s}));
-        m_service->setBroadcastChannels({50});
-        QCOMPARE(m_service->broadcastChannels(), QList<int>{50});
+        QCOMPARE(immediate.front().mid(0, 2), (QVariantList{u"555"_s, text}));
+        const auto message = immediate.front().at(3).value<Message>(); // as it would be kept
+        QCOMPARE(message.time.toUTC(), QDateTime({2024, 5, 3}, {10, 0}, Qt::UTC));
+        QCOMPARE(message.text(), text);
+        tell(R"({"command": "sms", "from": "555", "class": 0, "alphabet": "8bit", "text": "data"})");
+        QTRY_COMPARE_WITH_TIMEOUT(immediate.size(), 2, patience);
+        QCOMPARE(immediate.back().at(1), u"The message holds data and no text."_s);
+        QVERIFY(inbox().empty());
+    }
+
+    void settingsThatRoute()
+    {
+        begin();
+        QVERIFY(hears(u"AT+CNMI=1,2,2,2,0"_s));
+        set("newsmsLocation", 1);
+        QTRY_VERIFY_WITH_TIMEOUT(hears(u"AT+CNMI=3,1,2,2,0"_s), patience);
+    }
+
+    void oneTextPostedTwice()
+    {
+        tell(R"({"command": "fill", "name": "SM", "count": 1, "status": 1})");
+        begin();
+        QTRY_COMPARE_WITH_TIMEOUT(inbox(MessagePlace::Sim).size(), 1U, patience);
+        tell(R"({"command": "log", "clear": true})");
+        const QString text = u"\r\n+CMTI: \"SM\",1\r\n\r\nRING\r\n"_s;
+        m_service->takeMessages(text);
+        m_service->takeMessages(text);
+        QTRY_COMPARE_WITH_TIMEOUT(stored(u"SM"_s), 0, patience);
+        QCOMPARE(heard(u"AT+CMGR=1"_s), 2); // to fetch it, and before it is deleted
     }
 
 private:
@@ -424,13 +452,14 @@ private:
         const auto messages = m_store->messages(m_store->ids(box));
         return messages.size() == 1 ? messages.front() : Message();
     }
-    /// Whether the card has taken in a line with that text.
-    bool hears(const QString &text)
+    /// How many lines with that text the card has taken in.
+    qsizetype heard(const QString &text)
     {
-        const QJsonArray log = ask(R"({"command": "log", "last": 5})")[u"log"_s].toArray();
-        return std::ranges::any_of(
+        const QJsonArray log = ask(R"({"command": "log"})")[u"log"_s].toArray();
+        return std::ranges::count_if(
             log, [&](QJsonValue each) { return each[u"received"_s].toString().contains(text); });
     }
+    bool hears(const QString &text) { return heard(text) > 0; }
     int sent() { return int(ask(R"({"command": "sent"})")[u"sent"_s].toArray().size()); }
     /// Messages in a store of the card.
     int stored(const QString &name)
