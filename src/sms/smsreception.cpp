@@ -258,7 +258,8 @@ QFuture<bool> SmsReception::fileReport(const StatusReport &report)
 QString SmsReception::sentenceFor(const StatusReport &report) const
 {
     const QString name = m_nameFor(report.recipient);
-    if (deliveryOutcome(report.status) == DeliveryOutcome::Delivered)
+    constexpr int replaced = 0x02; // by the service centre, with a newer message
+    if (deliveryStateOf(report.status) == DeliveryState::Delivered && report.status != replaced)
         return tr("Message was successfully sent to %1, in %2,at %3")
             .arg(name, timeText(report.sent), timeText(report.discharge));
     return tr("The message to %1: %2").arg(name, deliveryStatusText(report.status));
