@@ -10,8 +10,7 @@ using namespace corva;
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray reply(reinterpret_cast<const char *>(data), qsizetype(size));
-    const SmsList list = parseSmsList(reply);
-    for (const ListedSms &listed : list.messages) {
+    for (const ListedSms &listed : parseSmsList(reply)) {
         // Whatever a card lists is kept with its PDU: nothing that came is dropped.
         const FiledSms filed = fileSms(listed, MessagePlace::Sim, {});
         if (const auto *message = std::get_if<Message>(&filed); message && message->parts.empty())

@@ -297,7 +297,11 @@ public:
     /// `tpduLength` receives the octets without the service centre, `pdu` the hexadecimal text with Ctrl-Z;
     /// both may be null.
     int gsmSendMessage(SM_PARAM *message, QString text, int *tpduLength, QString *pdu);
-    /// Asks for the prompt and sends `pdu`, which ends in Ctrl-Z. 1 sent, -1 not; `lastReply` says why.
+    /// Whether the last `gsmSendMessage` that returned 0 had handed its PDU over and heard neither acceptance
+    /// nor refusal: the message may be out.
+    bool mayHaveSent() const { return m_mayHaveSent; }
+    /// Asks for the prompt and sends `pdu`, which ends in Ctrl-Z. 1 sent, -1 not; `lastReply` says why. A
+    /// card that does not prompt in time gets ESC: 3GPP TS 27.005 3.5.1.
     int sendMsgCMGSCmd(int length, const char *pdu);
     /// Writes the PDU behind the prompt and waits for "+CMGS: <mr>". 1 or -1.
     int sendPDU(const char *pdu);
@@ -374,6 +378,8 @@ private:
                      std::chrono::microseconds timeout);
     int simFile(const QByteArray &cmd, char *text);
     int phonebookCapacity(const char *store);
+    bool isPrompted(const QByteArray &command);
+    void giveUpPrompt();
     int deleteMessage(int storage, int index, const char *what);
 
     LinkOwner *const m_owner;
@@ -385,6 +391,7 @@ private:
     std::atomic<bool> m_portLost = false;
     std::atomic<bool> m_stop = false;
     std::atomic<bool> m_isSending = false;
+    bool m_mayHaveSent = false;
     std::atomic<int> m_dataCallState = 0;
     std::atomic<int> m_latestDataCallState = 0;
     std::atomic<corva::CardFamily> m_family;

@@ -121,12 +121,17 @@ void CommonCfg::setValue(const QString &section, const QString &key, const QStri
         qCWarning(lcShell).noquote() << corva::logTime() + u"no name for a setting:"_s << section << key;
         return;
     }
+    bool isChanged = false;
     {
         const QMutexLocker locker(&m_mutex);
+        const QString before = m_values.value(section).value(key);
         changeDocument(section, key, corva::xmlText(value));
         rebuildMap();
+        isChanged = m_values.value(section).value(key) != before;
     }
     saveDom();
+    if (isChanged)
+        Q_EMIT sigChanged(section, key);
 }
 
 void CommonCfg::changeDocument(const QString &section, const QString &key, const QString &value)

@@ -4,11 +4,14 @@
 #include <QDomDocument>
 #include <QMap>
 #include <QMutex>
+#include <QObject>
 #include <QString>
 
 /// The sectioned key/value store "Data/common-config.xml". Read from any thread; written from the GUI thread.
-class CommonCfg
+class CommonCfg : public QObject
 {
+    Q_OBJECT
+
 public:
     /// Reads the file in the current directory. One that is missing, unreadable or not well-formed leaves the
     /// store empty with a warning, and is not touched.
@@ -33,6 +36,10 @@ public:
     QString keptBrokenFile() const;
     /// Why the last writing failed, as a sentence; empty when it went well.
     QString lastError() const;
+
+Q_SIGNALS:
+    /// `setValue` made the value another one.
+    void sigChanged(const QString &section, const QString &key);
 
 private:
     void load();

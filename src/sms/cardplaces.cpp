@@ -47,7 +47,6 @@ Message copyForComputer(Message message, MessageBox box)
     return message;
 }
 
-/// Without its PDU a message on the card can be neither copied nor told from another one.
 bool hasEmptyEntry(const Message &message)
 {
     return isOnCard(message) &&
@@ -159,8 +158,8 @@ void CardPlaces::took(MessagePlace place, smsjobs::Listing listing)
         return;
     const QStringList before = m_store->ids(MessageBox::Inbox, place);
     const QSet<QString> known(before.begin(), before.end());
-    for (const StatusReport &report : listing.reports)
-        m_store->applyReport(report);
+    for (const smsjobs::KeptReport &report : listing.reports)
+        Q_EMIT sigReportListed(report);
     m_store->replaceMirror(place, std::move(listing.messages));
     takeFill(place, listing.fill);
     QStringList unread = m_store->ids(MessageBox::Inbox, place);
@@ -221,8 +220,8 @@ void CardPlaces::makeRoom(MessagePlace place)
 void CardPlaces::transfer(const QStringList &ids, MessagePlace to, After after)
 {
     std::vector<Message> messages = m_store->messages(ids);
-    std::erase_if(messages,
-                  [&](const Message &message) { return message.place == to || hasEmptyEntry(message); });
+    std::erase_if(messages, [&](const Message &message) { return message.place == to; });
+    leaveEmptyEntries(messages);
     if (to == MessagePlace::Computer) {
         toComputer(messages, after, MessageStore::DeletedOnes::ComeBack);
         return;
@@ -235,6 +234,13 @@ void CardPlaces::transfer(const QStringList &ids, MessagePlace to, After after)
         toCard(message, to, after);
     if (!messages.empty())
         refresh(to);
+}
+
+/// What has no PDU can be neither copied nor told from another one when it is to be deleted.
+void CardPlaces::leaveEmptyEntries(std::vector<Message> &messages)
+{
+    if (std::erase_if(messages, hasEmptyEntry) > 0)
+        Q_EMIT sigNotice(tr("What the card lists without its content stays where it is."));
 }
 
 void CardPlaces::toComputer(const std::vector<Message> &messages, After after,
@@ -254,7 +260,7 @@ void CardPlaces::toComputer(const std::vector<Message> &messages, After after,
 QStringList CardPlaces::moveToDeleted(const std::vector<Message> &chosen)
 {
     std::vector<Message> messages = chosen;
-    std::erase_if(messages, hasEmptyEntry);
+    leaveEmptyEntries(messages);
     std::vector<Message> copies;
     for (const Message &message : messages)
         copies.push_back(copyForComputer(message, MessageBox::Deleted));
@@ -351,8 +357,9 @@ void CardPlaces::finishTaking()
             // Which of the two stores it was is not kept. Another message under that index stays where it is,
             // and with another SIM in the card the taking waits for the right one.
             const auto job = m_worker.submit([index = part.storageIndex, pdu = part.pdu](SerialThread &link) {
-                return smsjobs::remove(link, MessagePlace::Sim, index, pdu) == smsjobs::Removal::Removed ||
-                       smsjobs::remove(link, MessagePlace::Card, index, pdu) == smsjobs::Removal::Removed;
+                using enum smsjobs::Storage;
+                return smsjobs::remove(link, {Sim, index, pdu}) == smsjobs::Removal::Removed ||
+                       smsjobs::remove(link, {Card, index, pdu}) == smsjobs::Removal::Removed;
             });
             whenDone(job, this, [this, part, id = message.id](std::optional<bool> isRemoved) {
                 if (isRemoved.value_or(false))
@@ -364,21 +371,26 @@ void CardPlaces::finishTaking()
 
 void CardPlaces::removePart(MessagePlace place, const MessagePart &part, const QStringList &copies)
 {
-    if (part.storageIndex < 0)
+    if (part.storageIndex < 0) { // the card listed it in a way that does not say where
+        sayNotDeleted();
         return;
+    }
     ++m_removals[slot(place)];
-    const auto job = m_worker.submit([place, index = part.storageIndex, pdu = part.pdu](SerialThread &link) {
-        return smsjobs::remove(link, place, index, pdu);
-    });
+    const smsjobs::KeptPdu kept{smsjobs::storageOf(place), part.storageIndex, part.pdu};
+    const auto job = m_worker.submit([kept](SerialThread &link) { return smsjobs::remove(link, kept); });
     whenDone(job, this, [this, place, part, copies](std::optional<smsjobs::Removal> removal) {
         if (removal == smsjobs::Removal::Failed)
-            Q_EMIT sigNotice(
-                tr("A message could not be deleted from the card. It is kept on the computer as well."));
+            sayNotDeleted();
         else if (removal)
             forgetIndex(copies, part);
         if (--m_removals[slot(place)] == 0)
             refresh(place);
     });
+}
+
+void CardPlaces::sayNotDeleted()
+{
+    Q_EMIT sigNotice(tr("A message could not be deleted from the card. It is kept on the computer as well."));
 }
 
 /// The part is only here from now on.

@@ -51,17 +51,21 @@ Q_SIGNALS:
     /// What the first listing of a place met unread, and what a later one met that was not there before.
     void sigUnreadMet(const QStringList &ids);
     void sigNewListed(const QStringList &ids);
+    /// A delivery report that lies among the messages.
+    void sigReportListed(const corva::smsjobs::KeptReport &report);
 
 private:
     enum class After { Keep, Remove };
 
     void transfer(const QStringList &ids, MessagePlace to, After after);
+    void leaveEmptyEntries(std::vector<Message> &messages);
     void toComputer(const std::vector<Message> &messages, After after, MessageStore::DeletedOnes deleted);
     void toCard(const Message &message, MessagePlace to, After after);
     std::vector<smsjobs::CardEntry> entriesOf(const Message &message) const;
     void wroteToCard(const Message &message, MessagePlace to, After after,
                      const std::optional<QString> &fault);
     void removePart(MessagePlace place, const MessagePart &part, const QStringList &copies);
+    void sayNotDeleted();
     void forgetIndex(const QStringList &copies, const MessagePart &part);
     void storedHere(const MessageStore::Added &added, const std::vector<Message> &originals, After after);
     void took(MessagePlace place, smsjobs::Listing listing);

@@ -2,6 +2,7 @@
 #include "sms/cmserrors.h"
 
 #include "link/atfields.h"
+#include "sms/message.h"
 
 #include <QCoreApplication>
 
@@ -150,26 +151,51 @@ constexpr auto causes = std::to_array<Cause>({
     {500, "unknown error", QT_TRANSLATE_NOOP("CmsErrors", "The card does not say why.")},
 });
 
-/// Ranges of TP-Status, by their last value; reasons that stand alone come before their range.
+constexpr auto delivered = QT_TRANSLATE_NOOP("CmsErrors", "The message was delivered.");
+constexpr auto notYet =
+    QT_TRANSLATE_NOOP("CmsErrors", "The message could not be delivered yet; the network goes on trying.");
+constexpr auto failed = QT_TRANSLATE_NOOP("CmsErrors", "The message could not be delivered.");
+constexpr auto overloaded = QT_TRANSLATE_NOOP("CmsErrors", "The network is overloaded.");
+constexpr auto busy = QT_TRANSLATE_NOOP("CmsErrors", "The recipient's device is busy.");
+constexpr auto silent = QT_TRANSLATE_NOOP("CmsErrors", "The recipient's device does not answer.");
+constexpr auto rejected = QT_TRANSLATE_NOOP("CmsErrors", "The network rejected the message.");
+constexpr auto poorService =
+    QT_TRANSLATE_NOOP("CmsErrors", "The network has not the quality of service that the message asks for.");
+constexpr auto deviceFailed = QT_TRANSLATE_NOOP("CmsErrors", "The recipient's device failed.");
+
+/// TP-Status, each row up to its value. While the network goes on trying, and where it gave up on what may
+/// pass, the reasons have the same numbers. 3GPP TS 23.040 9.2.3.15.
 constexpr auto statuses = std::to_array<CodeText>({
-    {0x01, QT_TRANSLATE_NOOP("CmsErrors", "The message was delivered.")},
+    {0x00, delivered},
+    {0x01, QT_TRANSLATE_NOOP("CmsErrors", "The message was passed on; whether it arrived is not known.")},
     {0x02, QT_TRANSLATE_NOOP("CmsErrors", "The message was replaced by a newer one.")},
-    {0x1F, QT_TRANSLATE_NOOP("CmsErrors", "The message was delivered.")},
-    {0x3F,
-     QT_TRANSLATE_NOOP("CmsErrors", "The message could not be delivered yet; the network goes on trying.")},
+    {0x1F, delivered},
+    {0x20, overloaded},
+    {0x21, busy},
+    {0x22, silent},
+    {0x23, rejected},
+    {0x24, poorService},
+    {0x25, deviceFailed},
+    {0x3F, notYet},
     {0x40, QT_TRANSLATE_NOOP("CmsErrors", "The recipient's network failed.")},
     {0x41, QT_TRANSLATE_NOOP("CmsErrors", "The recipient's device cannot take the message.")},
     {0x42, QT_TRANSLATE_NOOP("CmsErrors", "The recipient's device refused the message.")},
     {0x43, QT_TRANSLATE_NOOP("CmsErrors", "The recipient cannot be reached.")},
-    {0x45, QT_TRANSLATE_NOOP("CmsErrors", "The recipient's network failed.")},
+    {0x44, poorService},
+    {0x45, QT_TRANSLATE_NOOP("CmsErrors", "The recipient's network does not work with this one.")},
     {0x46, QT_TRANSLATE_NOOP("CmsErrors", "The message could not be delivered in time.")},
-    {0x48, QT_TRANSLATE_NOOP("CmsErrors", "The message was deleted before it was delivered.")},
+    {0x47, QT_TRANSLATE_NOOP("CmsErrors", "The message was deleted by its sender before it was delivered.")},
+    {0x48, QT_TRANSLATE_NOOP("CmsErrors", "The service centre deleted the message before it was delivered.")},
     {0x49, QT_TRANSLATE_NOOP("CmsErrors", "The service centre does not know the message.")},
-    {0xFF, QT_TRANSLATE_NOOP("CmsErrors", "The message could not be delivered.")},
+    {0x5F, failed},
+    {0x60, overloaded},
+    {0x61, busy},
+    {0x62, silent},
+    {0x63, rejected},
+    {0x64, poorService},
+    {0x65, deviceFailed},
+    {0xFF, failed},
 });
-
-constexpr int lastDelivered = 0x1F;
-constexpr int lastTrying = 0x3F;
 
 QString translated(const char *text)
 {
@@ -216,14 +242,10 @@ QString deliveryStatusText(int status)
 {
     const auto *row =
         std::ranges::find_if(statuses, [&](const CodeText &each) { return status <= each.code; });
-    return translated(row == statuses.end() ? statuses.back().text : row->text);
-}
-
-DeliveryOutcome deliveryOutcome(int status)
-{
-    if (status >= 0 && status <= lastDelivered)
-        return DeliveryOutcome::Delivered;
-    return status >= 0 && status <= lastTrying ? DeliveryOutcome::StillTrying : DeliveryOutcome::Failed;
+    const QString reason = translated(status < 0 || row == statuses.end() ? failed : row->text);
+    if (deliveryStateOf(status) != DeliveryState::StillTrying || row->text == notYet)
+        return reason;
+    return translated(notYet) + u' ' + reason;
 }
 
 } // namespace corva

@@ -26,8 +26,4 @@ QString cmsErrorText(const CmsError &error);
 /// What the status of a delivery report says, as one plain sentence. 3GPP TS 23.040 9.2.3.15.
 QString deliveryStatusText(int status);
 
-/// The kinds of status: the message arrived, the network goes on trying, or it gave up.
-enum class DeliveryOutcome { Delivered, StillTrying, Failed };
-DeliveryOutcome deliveryOutcome(int status);
-
 } // namespace corva

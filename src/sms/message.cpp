@@ -34,7 +34,7 @@ int missingBetween(int before, int after)
 DeliveryState gravest(const std::vector<DeliveryState> &states)
 {
     using enum DeliveryState;
-    for (const DeliveryState state : {Sending, Queued, Failed, StillTrying, Sent, Delivered}) {
+    for (const DeliveryState state : {Sending, Queued, Unsure, Failed, StillTrying, Sent, Delivered}) {
         if (std::ranges::find(states, state) != states.end())
             return state;
     }

@@ -17,7 +17,8 @@ enum class MessageBox { Inbox, Outbox, Sent, Drafts, Deleted, Reports };
 enum class MessagePlace { Computer, Sim, Card };
 
 /// `None` for what was not sent by us. `StillTrying`: the service centre reported that it goes on trying.
-enum class DeliveryState { None, Queued, Sending, Sent, Delivered, StillTrying, Failed };
+/// `Unsure`: it may have been sent, and nobody knows; it is not sent again unasked.
+enum class DeliveryState { None, Queued, Sending, Sent, Delivered, StillTrying, Failed, Unsure };
 
 /// What TP-ST says: 0x00..0x1F delivered, 0x20..0x3F still trying, all above failed. 3GPP TS 23.040 9.2.3.15.
 DeliveryState deliveryStateOf(int statusOctet);
@@ -70,8 +71,8 @@ struct Message {
     QString text() const;
     /// To the first recipient; 0 when complete.
     int missingParts() const;
-    /// Of the whole: what is still under way comes first, then what failed; `Delivered` when each part that
-    /// asked for a report got it. `None` for received ones.
+    /// Of the whole: what is still under way comes first, then what is unsure or failed; `Delivered` when
+    /// each part that asked for a report got it. `None` for received ones.
     DeliveryState state() const;
     /// The same for one recipient alone.
     DeliveryState state(int recipient) const;

@@ -76,7 +76,7 @@ constexpr Word<DeliveryState> wordsOf<DeliveryState>[] = {
     {DeliveryState::None, "none"_L1},           {DeliveryState::Queued, "queued"_L1},
     {DeliveryState::Sending, "sending"_L1},     {DeliveryState::Sent, "sent"_L1},
     {DeliveryState::Delivered, "delivered"_L1}, {DeliveryState::StillTrying, "still-trying"_L1},
-    {DeliveryState::Failed, "failed"_L1},
+    {DeliveryState::Failed, "failed"_L1},       {DeliveryState::Unsure, "unsure"_L1},
 };
 
 QString toText(const QString &value)

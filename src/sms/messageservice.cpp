@@ -14,6 +14,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -27,19 +28,18 @@ namespace
 
 constexpr int mostTries = 5;
 constexpr auto pauseBetweenTries = 10s;
-constexpr auto routingPeriod = 2s;
 
 bool takesMessages(const CardState &card)
 {
     return card.modemReady && card.sim == SimState::Ready;
 }
 
-/// What decides where new messages go.
-QString routingKeys()
+/// Whether that setting decides where new messages go.
+bool isRoutingKey(const QString &section, const QString &key)
 {
-    return cmcfg.getValue(u"sms"_s, u"newsmsLocation"_s) + u',' +
-           cmcfg.getValue(u"function"_s, u"modemSide_enabled"_s) + u',' +
-           cmcfg.getValue(u"function"_s, u"cell_board_enabled"_s);
+    return section == "sms"_L1 ? key == "newsmsLocation"_L1
+                               : section == "function"_L1 &&
+                                     (key == "modemSide_enabled"_L1 || key == "cell_board_enabled"_L1);
 }
 
 /// "50,919": what a person chose.
@@ -62,7 +62,7 @@ public:
     void takeCard(const CardState &card);
     void prepare();
     void prepared(const smsjobs::Preparation &made);
-    void listAll();
+    void initReadSMS();
     void takeUnread(const QStringList &ids);
     void setServiceCentre(const QString &number);
     void sendChannels();
@@ -83,10 +83,10 @@ public:
     std::vector<Removed> removals; ///< the last one last
     QTimer again;                  ///< to the next try of preparing the card
     int tries = 0;
-    QString routing;      ///< the settings by which the card was told where new messages go
-    QTimer watchRouting;  ///< for the settings to change
     bool isReady = false; ///< the card takes messages
     bool isPrepared = false;
+    bool isPreparing = false;
+    bool preparesAgain = false; ///< what was asked for changed meanwhile
     bool hasAnnouncedUnread = false;
 };
 
@@ -102,9 +102,8 @@ void MessageService::Private::connectParts()
 {
     again.setSingleShot(true);
     connect(&again, &QTimer::timeout, q, [this] { prepare(); });
-    watchRouting.setInterval(routingPeriod);
-    connect(&watchRouting, &QTimer::timeout, q, [this] {
-        if (routing != routingKeys())
+    connect(&cmcfg, &CommonCfg::sigChanged, q, [this](const QString &section, const QString &key) {
+        if (isReady && isRoutingKey(section, key))
             prepare();
     });
     connect(monitor, &CardMonitor::sigStateChanged, q, [this](const CardState &card) { takeCard(card); });
@@ -120,6 +119,7 @@ void MessageService::Private::connectParts()
     connect(&places, &CardPlaces::sigNotice, q, &MessageService::sigNotice);
     connect(&places, &CardPlaces::sigUnreadMet, q, [this](const QStringList &ids) { takeUnread(ids); });
     connect(&places, &CardPlaces::sigNewListed, &reception, &SmsReception::takeListed);
+    connect(&places, &CardPlaces::sigReportListed, &reception, &SmsReception::deliveryReportSaveToSmsXml);
     connect(&reception, &SmsReception::sigNewMessage, q, &MessageService::sigNewMessage);
     connect(&reception, &SmsReception::sigClass0, q, &MessageService::sigClass0);
     connect(&reception, &SmsReception::sigDelivered, q, &MessageService::sigDelivered);
@@ -138,12 +138,10 @@ void MessageService::Private::takeCard(const CardState &card)
     tries = 0;
     if (isReady) {
         prepare();
-        watchRouting.start();
         return;
     }
     again.stop();
-    watchRouting.stop();
-    queue.setReady(false);
+    queue.pause();
     places.setReady(false);
     places.forget();
     setServiceCentre({});
@@ -152,10 +150,16 @@ void MessageService::Private::takeCard(const CardState &card)
 void MessageService::Private::prepare()
 {
     again.stop();
-    routing = routingKeys();
+    if (std::exchange(isPreparing, true)) {
+        preparesAgain = true;
+        return;
+    }
     whenDone(monitor->worker().submit(smsjobs::prepare), q,
              [this](const std::optional<smsjobs::Preparation> &made) {
-                 if (made && isReady)
+                 isPreparing = false;
+                 if (made && isReady && std::exchange(preparesAgain, false))
+                     prepare();
+                 else if (made && isReady)
                      prepared(*made);
              });
 }
@@ -171,13 +175,13 @@ void MessageService::Private::prepared(const smsjobs::Preparation &made)
         return;
     setServiceCentre(made.serviceCentre);
     places.setReady(true);
-    listAll();
+    initReadSMS();
     if (cmcfg.getNumber(u"function"_s, u"cell_board_enabled"_s) == 1 && !q->broadcastChannels().isEmpty())
         sendChannels();
-    queue.setReady(true);
+    queue.begin(made.subscriber);
 }
 
-void MessageService::Private::listAll()
+void MessageService::Private::initReadSMS()
 {
     places.finishTaking();
     places.refresh(MessagePlace::Sim);

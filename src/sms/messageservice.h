@@ -117,7 +117,10 @@ Q_SIGNALS:
     void sigNewMessage(const QString &id);
     /// Once after the start, when messages wait unread and are to be announced.
     void sigUnreadAtStart(int count);
-    void sigClass0(const QString &sender, const QString &text, const QString &pdu);
+    /// An immediate message, whole or what came of it, which is kept nowhere: what is shown of it, the PDU of
+    /// its first part, and the message as the store can keep it if the person wants that.
+    void sigClass0(const QString &sender, const QString &text, const QString &pdu,
+                   const corva::Message &message = {});
     /// "Message was successfully sent to ...", or what else a delivery report says.
     void sigDelivered(const QString &sentence);
     void sigBroadcast(const QString &id);

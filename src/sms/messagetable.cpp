@@ -5,9 +5,10 @@
 #include "sms/pduidentity.h"
 #include "sms/textfold.h"
 
+#include <QRandomGenerator>
 #include <QSet>
-#include <QUuid>
 #include <algorithm>
+#include <atomic>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
@@ -29,13 +30,6 @@ QStringList personsOf(const Message &message, int matchingLength)
 QString searchedText(const Message &message)
 {
     return foldedText(message.recipients.join(u'\n') + u'\n' + message.text());
-}
-
-/// The newest first, what came last among those of one moment; the id so that the order is one at all.
-bool isAhead(const RecordPtr &one, const RecordPtr &other)
-{
-    return std::tie(one->when, one->arrived, one->message.id) >
-           std::tie(other->when, other->arrived, other->message.id);
 }
 
 /// Whether the search finds both alike.
@@ -83,9 +77,26 @@ const QString &MessageRecord::folded() const
     return m_folded->text;
 }
 
+bool isAhead(const RecordPtr &one, const RecordPtr &other)
+{
+    return std::tie(one->when, one->arrived, one->message.id) >
+           std::tie(other->when, other->arrived, other->message.id);
+}
+
 QString newMessageId()
 {
-    return QUuid::createUuid().toString(QUuid::Id128);
+    // Time and count, so that ids follow one another as messages do, and chance, so that no other store has
+    // it.
+    constexpr int countBits = 16;
+    static std::atomic<quint64> last = 0;
+    const auto now = quint64(QDateTime::currentMSecsSinceEpoch()) << countBits;
+    quint64 before = last;
+    quint64 id = 0;
+    do
+        id = std::max(now, before + 1);
+    while (!last.compare_exchange_weak(before, id));
+    return u"%1%2"_s.arg(id, 16, 16, QChar(u'0'))
+        .arg(QRandomGenerator::global()->generate64(), 16, 16, QChar(u'0'));
 }
 
 QString partIdentity(const Message &message, const MessagePart &part)

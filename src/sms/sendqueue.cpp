@@ -7,15 +7,21 @@
 #include "sms/concatreference.h"
 #include "sms/messagestore.h"
 
+#include <QTimer>
+
 #include <algorithm>
+#include <chrono>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace corva
 {
 
 namespace
 {
+
+constexpr auto pauseWithoutCard = 2s;
 
 TextCoding configuredCoding()
 {
@@ -95,16 +101,24 @@ void failQueued(Message &message)
     }
 }
 
+DeliveryState stateBehind(smsjobs::SentPart::Outcome outcome)
+{
+    using enum smsjobs::SentPart::Outcome;
+    if (outcome == Sent)
+        return DeliveryState::Sent;
+    return outcome == Unsure ? DeliveryState::Unsure : DeliveryState::Failed;
+}
+
 void takeOutcome(Message &message, int part, const smsjobs::SentPart &sent)
 {
     MessagePart &chosen = message.parts[std::size_t(part)];
     chosen.pdu = sent.pdu;
-    chosen.state = sent.isSent ? DeliveryState::Sent : DeliveryState::Failed;
+    chosen.state = stateBehind(sent.outcome);
     chosen.reference = sent.reference;
     chosen.errorCode = sent.error.code;
-    if (sent.isSent)
+    if (chosen.state == DeliveryState::Sent)
         chosen.sent = message.time = QDateTime::currentDateTime();
-    else
+    else if (chosen.state == DeliveryState::Failed)
         failRest(message, chosen.recipient);
     const auto isOut = [](const MessagePart &each) {
         return each.state == DeliveryState::Sent || each.state == DeliveryState::Delivered ||
@@ -141,10 +155,8 @@ void SendQueue::resume()
     for (const QString &id : ids) {
         m_store->change(id, [](Message &message) {
             for (MessagePart &part : message.parts) {
-                if (part.state == DeliveryState::Sending) { // it may have gone out
-                    part.state = DeliveryState::Failed;
-                    failRest(message, part.recipient);
-                }
+                if (part.state == DeliveryState::Sending)
+                    part.state = DeliveryState::Unsure;
             }
         });
         enqueue(id);
@@ -152,9 +164,17 @@ void SendQueue::resume()
     pump();
 }
 
-void SendQueue::setReady(bool isReady)
+void SendQueue::begin(const QString &subscriber)
 {
-    m_isReady = isReady;
+    const bool isAnother =
+        !m_subscriber.isEmpty() && !subscriber.isEmpty() && subscriber != m_subscriber && !m_waiting.empty();
+    if (isAnother) { // it may cost somebody else, and name another sender
+        giveUpWaiting();
+        Q_EMIT sigRefused(tr("There is another SIM in the card. What waited was not sent."));
+    }
+    if (!subscriber.isEmpty())
+        m_subscriber = subscriber;
+    m_isReady = true;
     pump();
 }
 
@@ -207,7 +227,7 @@ void SendQueue::retry(const QStringList &ids)
             continue;
         m_store->change(id, [](Message &failed) {
             for (MessagePart &part : failed.parts) {
-                if (part.state == DeliveryState::Failed) {
+                if (part.state == DeliveryState::Failed || part.state == DeliveryState::Unsure) {
                     part.state = DeliveryState::Queued;
                     part.errorCode = -1;
                 }
@@ -281,10 +301,10 @@ void SendQueue::sendOne(const Target &target)
         }
         const auto job = m_worker.submit([part](SerialThread &link) { return smsjobs::send(link, part); });
         whenDone(job, this, [this, target](const std::optional<smsjobs::SentPart> &sent) {
-            if (sent)
+            if (sent && sent->outcome != smsjobs::SentPart::CardGone)
                 took(target, *sent);
             else
-                refuse(target, tr("The card is gone."));
+                putBack(target);
         });
     });
 }
@@ -300,25 +320,42 @@ void SendQueue::refuse(const Target &target, const QString &why)
 void SendQueue::took(const Target &target, const smsjobs::SentPart &sent)
 {
     const auto before = m_store->find(target.id);
-    if (!before) { // purged meanwhile
-        m_isBusy = false;
-        pump();
-        return;
-    }
-    const int recipient = before->parts[std::size_t(target.part)].recipient;
-    const int left = countOf(*before, DeliveryState::Queued);
     const auto stored =
         m_store->change(target.id, [&](Message &message) { takeOutcome(message, target.part, sent); });
+    if (before) // or else it was purged meanwhile
+        count(*before, target, sent);
+    goOnWhen(stored);
+}
+
+/// It has not gone out, and waits for the card to be back; until that is noticed it is tried now and then.
+void SendQueue::putBack(const Target &target)
+{
+    m_store->change(target.id, [&](Message &message) {
+        message.parts[std::size_t(target.part)].state = DeliveryState::Queued;
+    });
+    QTimer::singleShot(pauseWithoutCard, this, [this] {
+        m_isBusy = false;
+        pump();
+    });
+}
+
+void SendQueue::count(const Message &before, const Target &target, const smsjobs::SentPart &sent)
+{
     const auto after = m_store->find(target.id);
-    m_progress.sentParts += 1 + left - (after ? countOf(*after, DeliveryState::Queued) : 0);
-    if (sent.isSent) {
-        m_sent.insert({target.id, recipient});
-    } else {
-        m_failed.insert({target.id, recipient});
-        Q_EMIT sigRefused(
-            tr("The message to %1 was not sent: %2").arg(before->recipients.value(recipient), sent.fault));
-    }
+    m_progress.sentParts +=
+        1 + countOf(before, DeliveryState::Queued) - (after ? countOf(*after, DeliveryState::Queued) : 0);
+    const int recipient = before.parts[std::size_t(target.part)].recipient;
+    const QString number = before.recipients.value(recipient);
+    (sent.outcome == smsjobs::SentPart::Sent ? m_sent : m_failed).insert({target.id, recipient});
+    if (sent.outcome == smsjobs::SentPart::Unsure)
+        Q_EMIT sigRefused(tr("The message to %1 may have been sent: the card did not say.").arg(number));
+    else if (sent.outcome != smsjobs::SentPart::Sent)
+        Q_EMIT sigRefused(tr("The message to %1 was not sent: %2").arg(number, sent.fault));
     tell();
+}
+
+void SendQueue::goOnWhen(const QFuture<bool> &stored)
+{
     whenDone(stored, this, [this](std::optional<bool>) {
         m_isBusy = false;
         pump();

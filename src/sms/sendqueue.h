@@ -4,6 +4,7 @@
 #include "sms/messageservice.h"
 #include "sms/smscardjobs.h"
 
+#include <QFuture>
 #include <QObject>
 #include <deque>
 #include <functional>
@@ -19,8 +20,9 @@ class MessageStore;
 std::vector<smsjobs::OutgoingPart> draftParts(const Message &message, const QString &serviceCentre);
 
 /// Sends what waits in the outbox, part by part. Every part is on disk as "being sent" before it goes out and
-/// with its outcome before the next: a part in that state after a crash may have gone out, and is never sent
-/// again unasked.
+/// with its outcome before the next. A part in that state after a crash, or one that the card took and never
+/// answered for, may have gone out: it is never sent again unasked, and does not hold up those behind it.
+/// What waits while the card goes is sent when it is back with the same SIM.
 class SendQueue final : public QObject
 {
     Q_OBJECT
@@ -30,8 +32,10 @@ public:
 
     /// After the store was read: takes up what an earlier run left.
     void resume();
-    /// Whether the card takes messages. Nothing goes out before.
-    void setReady(bool isReady);
+    /// The card takes messages from now on, for the SIM of this subscriber, empty when not known. Nothing
+    /// goes out before.
+    void begin(const QString &subscriber);
+    void pause() { m_isReady = false; }
     void setServiceCentre(const QString &number) { m_serviceCentre = number; }
 
     /// False for a text that takes more parts than a message can have.
@@ -59,6 +63,9 @@ private:
     void sendOne(const Target &target);
     void refuse(const Target &target, const QString &why);
     void took(const Target &target, const smsjobs::SentPart &sent);
+    void putBack(const Target &target);
+    void count(const Message &before, const Target &target, const smsjobs::SentPart &sent);
+    void goOnWhen(const QFuture<bool> &stored);
     void giveUpWaiting();
     void endRun();
     void tell();
@@ -66,6 +73,7 @@ private:
     CardWorker &m_worker;
     MessageStore *m_store;
     QString m_serviceCentre;
+    QString m_subscriber;                       ///< for whose SIM the waiting ones were begun
     std::deque<QString> m_waiting;              ///< ids, the oldest first
     std::set<std::pair<QString, int>> m_sent;   ///< message and recipient of this run
     std::set<std::pair<QString, int>> m_failed; ///< the same

@@ -4,6 +4,7 @@
 #include "link/replyreader.h"
 #include "shell/commoncfg.h"
 #include "shell/logging.h"
+#include "sms/cmserrors.h"
 #include "sms/smparam.h"
 #include "sms/smsreplies.h"
 
@@ -21,6 +22,7 @@ namespace
 
 constexpr auto shortWait = 3s;
 constexpr auto listWait = 15s;
+constexpr auto escapeWait = 1s;
 /// The network's acceptance of a message. "send_atcommand_timer" does not shorten it.
 constexpr auto sendWait = 30s;
 constexpr std::size_t pduTextSize = 1024; ///< the longest PDU has 360 characters
@@ -206,6 +208,7 @@ int SerialThread::gsmSendMessage(SM_PARAM *message, QString text, int *tpduLengt
     if (m_isSending.exchange(true))
         return 0;
     const auto free = qScopeGuard([this] { m_isSending = false; });
+    m_mayHaveSent = false;
 
     std::array<char, pduTextSize> whole{};
     std::array<char, pduTextSize> ucs2{};
@@ -222,28 +225,44 @@ int SerialThread::gsmSendMessage(SM_PARAM *message, QString text, int *tpduLengt
     return sendMsgCMGSCmd(length, hex.constData()) == 1 ? 1 : 0;
 }
 
+/// Without the prompt the card is in command mode, and would take the PDU for commands.
+bool SerialThread::isPrompted(const QByteArray &command)
+{
+    const auto prompt = transactMessage(command, shortWait);
+    if (prompt && prompt->endsWith("> "))
+        return true;
+    if (!prompt || !corva::cmsErrorIn(*prompt))
+        giveUpPrompt();
+    return false;
+}
+
+/// A card whose prompt comes late would take the next command for the text.
+void SerialThread::giveUpPrompt()
+{
+    const QByteArray reply = m_lastReply;
+    transactMessage("\x1b", escapeWait);
+    m_lastReply = reply;
+}
+
 int SerialThread::sendMsgCMGSCmd(int length, const char *pdu)
 {
-    const auto prompt = transactMessage("AT+CMGS=" + QByteArray::number(length) + "\r\n", shortWait);
-    // Without the prompt the card is in command mode, and would take the PDU for commands.
-    if (!prompt || !prompt->endsWith("> "))
-        return -1;
-    return sendPDU(pdu);
+    return isPrompted("AT+CMGS=" + QByteArray::number(length) + "\r\n") ? sendPDU(pdu) : -1;
 }
 
 int SerialThread::sendPDU(const char *pdu)
 {
     const auto reply = transactMessage(pdu, sendWait);
     // With its reference the network has taken it, whatever ended the reply.
-    return reply && corva::parseMessageReference(*reply) >= 0 ? 1 : -1;
+    const bool isTaken = reply && corva::parseMessageReference(*reply) >= 0;
+    m_mayHaveSent = !isTaken && !(reply && corva::cmsErrorIn(*reply));
+    return isTaken ? 1 : -1;
 }
 
 bool SerialThread::moveMsgCMGWCmd(int length, int stat, const char *pdu)
 {
     const QByteArray command =
         "AT+CMGW=" + QByteArray::number(length) + ',' + QByteArray::number(stat) + "\r\n";
-    const auto prompt = transactMessage(command, shortWait);
-    if (!prompt || !prompt->endsWith("> "))
+    if (!isPrompted(command))
         return false;
     QByteArray text(pdu);
     if (!text.endsWith(endOfPdu))

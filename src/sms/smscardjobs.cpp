@@ -2,8 +2,10 @@
 #include "sms/smscardjobs.h"
 
 #include "link/serialthread.h"
+#include "link/statusparsers.h"
 #include "shell/commoncfg.h"
 #include "shell/logging.h"
+#include "sms/pduidentity.h"
 #include "sms/smsfiling.h"
 
 #include <QCoreApplication>
@@ -19,15 +21,12 @@ namespace corva::smsjobs
 namespace
 {
 
-constexpr int simStorage = 0;
-constexpr int cardStorage = 1;
-constexpr int reportStorage = 2;
 constexpr int everyStatus = 4;
 constexpr std::size_t pduTextSize = 1024; ///< the longest PDU has 360 characters
 
-int storageOf(MessagePlace place)
+bool select(SerialThread &link, Storage storage)
 {
-    return place == MessagePlace::Card ? cardStorage : simStorage;
+    return link.setShortMsgStorageMode(int(storage)) == 1;
 }
 
 QByteArray nameOf(MessagePlace place)
@@ -56,25 +55,47 @@ int routeMessages(SerialThread &link)
         nearestNoticeModes(wantsBroadcast ? "2,1,2,2,0" : "2,1,0,2,0", link.getNewMsgNoticeModes()));
 }
 
+/// The fill by a command of its own; some cards leave the stores' names out.
+std::optional<StoreFill> askedFill(SerialThread &link, MessagePlace place)
+{
+    const bool isCard = place == MessagePlace::Card;
+    const auto named = isCard ? link.getModemSmsMem() : link.getSmsMem();
+    if (named)
+        return named;
+    return isCard ? link.getModemSmsMem2() : link.getSimSmsMem2();
+}
+
 /// The fill that the card told when the store was selected, or tells when it is asked.
 std::optional<StoreFill> fillOf(SerialThread &link, MessagePlace place, const QByteArray &selected)
 {
-    if (cmcfg.getNumber(u"network_dialer_setting"_s, u"send_cpmscommand_enabled"_s) == 1)
-        return place == MessagePlace::Card ? link.getModemSmsMem2() : link.getSimSmsMem2();
-    return parseFill(selected, nameOf(place));
+    const bool isAsked = cmcfg.getNumber(u"network_dialer_setting"_s, u"send_cpmscommand_enabled"_s) == 1;
+    const auto fill = isAsked ? askedFill(link, place) : parseFill(selected, nameOf(place));
+    if (fill)
+        qCDebug(lcSms).noquote() << u"%1 = %2, spare = %3"_s
+                                        .arg(place == MessagePlace::Card ? "modem_capacity"_L1
+                                                                         : "sim_capacity"_L1)
+                                        .arg(fill->total)
+                                        .arg(fill->spare());
+    return fill;
 }
 
-void sortIn(Listing &listing, FiledSms &&filed)
+KeptReport keptReport(Storage storage, const ListedSms &listed, const QDateTime &now)
 {
+    KeptReport report{{storage, listed.index, QString::fromLatin1(listed.pdu)}, Message()};
+    if (auto content = fileReport(listed.pdu, now))
+        report.content = std::move(*content);
+    else
+        report.content = fileBrokenReport(listed.pdu, now);
+    return report;
+}
+
+void sortIn(Listing &listing, MessagePlace place, const ListedSms &listed, const QDateTime &now)
+{
+    FiledSms filed = fileSms(listed, place, now);
     if (auto *message = std::get_if<Message>(&filed))
         listing.messages.push_back(std::move(*message));
     else
-        listing.reports.push_back(std::get<StatusReport>(std::move(filed)));
-}
-
-bool isSamePdu(const ListedSms &listed, const QByteArray &pdu)
-{
-    return listed.pdu.compare(pdu, Qt::CaseInsensitive) == 0;
+        listing.reports.push_back(keptReport(storageOf(place), listed, now));
 }
 
 /// What "AT+CMGR" said of a place: that nothing is there, or nothing about it.
@@ -87,13 +108,15 @@ bool isEmptyPlace(const QByteArray &reply)
 
 /// Whether the message at `index` of the selected store is the one with that PDU: NotThere when it is not,
 /// Failed when the card does not say; nothing when it is.
-std::optional<Removal> whyNotToRemove(SerialThread &link, int index, const QByteArray &pdu)
+std::optional<Removal> whyNotToRemove(SerialThread &link, int index, const QString &pdu)
 {
     const QByteArray reply = link.getIndexSms(QByteArray::number(index).constData());
     const auto read = parseReadSms(reply);
     if (!read)
         return isEmptyPlace(reply) ? Removal::NotThere : Removal::Failed;
-    return isSamePdu(*read, pdu) ? std::nullopt : std::optional(Removal::NotThere);
+    // A card may put its service centre ahead of what it was given.
+    return pduIdentity(QString::fromLatin1(read->pdu)) == pduIdentity(pdu) ? std::nullopt
+                                                                           : std::optional(Removal::NotThere);
 }
 
 /// Whether a refused selection means that the card has no such store, and not that it is busy.
@@ -103,9 +126,32 @@ bool meansMissing(const std::optional<CmsError> &error)
     return error && error->detail.isEmpty() && std::ranges::find(codes, error->code) != codes.end();
 }
 
-Removal outcomeOf(int result)
+int deleteFrom(SerialThread &link, Storage storage, int index)
 {
-    return result == 1 ? Removal::Removed : Removal::Failed;
+    switch (storage) {
+    case Storage::Card: return link.deleteMeSMS(index);
+    case Storage::Reports: return link.deleteSmsStatusReport(index);
+    default: return link.deleteSimSMS(index);
+    }
+}
+
+/// Half a message helps nobody.
+void takeBack(SerialThread &link, const std::vector<KeptPdu> &written)
+{
+    for (const KeptPdu &each : written)
+        remove(link, each);
+}
+
+bool isCardGone(const SerialThread &link)
+{
+    return link.isPortLost() || link.descriptor() < 0;
+}
+
+QString subscriberOf(SerialThread &link)
+{
+    QByteArray text(SerialThread::replyBufferSize, '\0');
+    link.getCIMI(text.data());
+    return parseImsi(text.constData()).valueOr({});
 }
 
 } // namespace
@@ -131,34 +177,49 @@ Preparation prepare(SerialThread &link)
         made.fault = QCoreApplication::translate("SmsJobs", "New messages will not be announced: %1")
                          .arg(whyFailed(link));
     made.serviceCentre = readServiceCentre(link);
+    made.subscriber = subscriberOf(link);
     return made;
+}
+
+Storage storageOf(MessagePlace place)
+{
+    return place == MessagePlace::Card ? Storage::Card : Storage::Sim;
+}
+
+Storage storageNamed(const QString &name, Storage otherwise)
+{
+    if (name == "ME"_L1 || name == "MT"_L1)
+        return Storage::Card;
+    if (name == "SM"_L1)
+        return Storage::Sim;
+    return name == "SR"_L1 ? Storage::Reports : otherwise;
 }
 
 Listing list(SerialThread &link, MessagePlace place)
 {
     Listing listing;
-    if (link.setShortMsgStorageMode(storageOf(place)) != 1) {
+    if (!select(link, storageOf(place))) {
         listing.isMissing = place == MessagePlace::Card && meansMissing(cmsErrorIn(link.lastReply()));
         listing.fault = whyFailed(link);
         return listing;
     }
     listing.fill = fillOf(link, place, link.lastReply());
-    const QByteArray reply = link.getSmsContent(everyStatus, storageOf(place));
+    const QByteArray reply = link.getSmsContent(everyStatus, int(storageOf(place)));
     if (!reply.contains("OK\r\n")) {
         listing.fault = whyFailed(link);
         return listing;
     }
     listing.isRead = true;
     const QDateTime now = QDateTime::currentDateTime();
-    for (const ListedSms &each : parseSmsList(reply).messages)
-        sortIn(listing, fileSms(each, place, now));
+    for (const ListedSms &each : parseSmsList(reply))
+        sortIn(listing, place, each, now);
     return listing;
 }
 
 Fetched fetch(SerialThread &link, MessagePlace place, int index)
 {
     Fetched fetched;
-    if (link.setShortMsgStorageMode(storageOf(place)) != 1) {
+    if (!select(link, storageOf(place))) {
         fetched.fault = whyFailed(link);
         return fetched;
     }
@@ -171,55 +232,47 @@ Fetched fetch(SerialThread &link, MessagePlace place, int index)
         return fetched;
     }
     listed->index = index;
-    FiledSms filed = fileSms(*listed, place, QDateTime::currentDateTime());
+    const QDateTime now = QDateTime::currentDateTime();
+    FiledSms filed = fileSms(*listed, place, now);
     if (auto *message = std::get_if<Message>(&filed))
         fetched.message = std::move(*message);
     else
-        fetched.report = std::get<StatusReport>(std::move(filed));
+        fetched.report = keptReport(storageOf(place), *listed, now);
     return fetched;
 }
 
-Fetched fetchReport(SerialThread &link, int index)
+Fetched fetchReport(SerialThread &link, Storage storage, int index)
 {
+    if (storage != Storage::Reports) // where messages lie as well
+        return fetch(link, storage == Storage::Card ? MessagePlace::Card : MessagePlace::Sim, index);
     Fetched fetched;
-    if (link.setShortMsgStorageMode(reportStorage) != 1) {
+    if (!select(link, storage)) {
         fetched.fault = whyFailed(link);
         return fetched;
     }
-    const auto listed = parseReadSms(link.getIndexSms(QByteArray::number(index).constData()));
-    if (!listed)
-        return fetched;
-    const QDateTime now = QDateTime::currentDateTime();
-    fetched.report = fileReport(listed->pdu, now);
-    if (!fetched.report)
-        fetched.message = fileBrokenReport(listed->pdu, now);
+    if (auto listed = parseReadSms(link.getIndexSms(QByteArray::number(index).constData()))) {
+        listed->index = index;
+        fetched.report = keptReport(storage, *listed, QDateTime::currentDateTime());
+    }
     return fetched;
 }
 
 std::vector<KeptReport> listReports(SerialThread &link)
 {
     std::vector<KeptReport> reports;
-    for (const ListedSms &each : parseSmsList(link.getSmsContent(everyStatus, reportStorage)).messages)
-        reports.push_back({each.index, each.pdu});
+    const QDateTime now = QDateTime::currentDateTime();
+    for (const ListedSms &each : parseSmsList(link.getSmsContent(everyStatus, int(Storage::Reports))))
+        reports.push_back(keptReport(Storage::Reports, each, now));
     return reports;
 }
 
-Removal remove(SerialThread &link, MessagePlace place, int index, const QString &pdu)
+Removal remove(SerialThread &link, const KeptPdu &kept)
 {
-    if (link.setShortMsgStorageMode(storageOf(place)) != 1)
+    if (kept.index < 0 || !select(link, kept.storage))
         return Removal::Failed;
-    if (const auto why = whyNotToRemove(link, index, pdu.toLatin1()))
+    if (const auto why = whyNotToRemove(link, kept.index, kept.pdu))
         return *why;
-    return outcomeOf(place == MessagePlace::Card ? link.deleteMeSMS(index) : link.deleteSimSMS(index));
-}
-
-Removal removeReport(SerialThread &link, int index, const QByteArray &pdu)
-{
-    if (link.setShortMsgStorageMode(reportStorage) != 1)
-        return Removal::Failed;
-    if (const auto why = whyNotToRemove(link, index, pdu))
-        return *why;
-    return outcomeOf(link.deleteSmsStatusReport(index));
+    return deleteFrom(link, kept.storage, kept.index) == 1 ? Removal::Removed : Removal::Failed;
 }
 
 std::optional<QString> write(SerialThread &link, MessagePlace place, const std::vector<CardEntry> &entries)
@@ -227,12 +280,17 @@ std::optional<QString> write(SerialThread &link, MessagePlace place, const std::
     const auto isNoPdu = [](const CardEntry &entry) { return tpduLength(entry.pdu) < 0; };
     if (entries.empty() || std::ranges::any_of(entries, isNoPdu))
         return QCoreApplication::translate("SmsJobs", "The message has no content that the card could keep.");
-    if (link.setShortMsgStorageMode(storageOf(place)) != 1)
+    const Storage storage = storageOf(place);
+    if (!select(link, storage))
         return whyFailed(link);
+    std::vector<KeptPdu> written;
     for (const auto &[pdu, status] : entries) {
-        const int length = tpduLength(pdu);
-        if (!link.moveMsgCMGWCmd(length, status, pdu.toLatin1().constData()))
-            return whyFailed(link);
+        if (!link.moveMsgCMGWCmd(tpduLength(pdu), status, pdu.toLatin1().constData())) {
+            QString why = whyFailed(link);
+            takeBack(link, written);
+            return why;
+        }
+        written.push_back({storage, parseWrittenIndex(link.lastReply()), pdu});
     }
     return {};
 }
@@ -246,15 +304,20 @@ SentPart send(SerialThread &link, const OutgoingPart &part)
                                  part.concatReference, part.asksReport);
     gUnicodeFlag = part.split.alphabet == Alphabet::Ucs2;
     SentPart sent;
-    sent.isSent =
-        link.gsmSendMessage(&record, part.split.parts[std::size_t(part.index)], nullptr, &sent.pdu) == 1;
+    const int result =
+        link.gsmSendMessage(&record, part.split.parts[std::size_t(part.index)], nullptr, &sent.pdu);
     sent.pdu.remove(QChar(u'\x1a'));
-    if (sent.isSent) {
+    if (result == 1) {
+        sent.outcome = SentPart::Sent;
         sent.reference = parseMessageReference(link.lastReply());
-    } else {
-        sent.error = cmsErrorIn(link.lastReply()).value_or(CmsError());
-        sent.fault = whyFailed(link);
+        return sent;
     }
+    if (link.mayHaveSent())
+        sent.outcome = SentPart::Unsure;
+    else if (isCardGone(link))
+        sent.outcome = SentPart::CardGone;
+    sent.error = cmsErrorIn(link.lastReply()).value_or(CmsError());
+    sent.fault = whyFailed(link);
     return sent;
 }
 

@@ -7,6 +7,7 @@
 #include "sms/splittext.h"
 
 #include <optional>
+#include <variant>
 #include <vector>
 
 class SerialThread;
@@ -20,9 +21,28 @@ namespace corva::smsjobs
 struct Preparation {
     bool isReady = false; ///< messages travel as PDUs
     QString serviceCentre;
-    QString fault; ///< a sentence, when new messages will not be announced
+    QString subscriber; ///< whose SIM it is, as digits; empty when it does not say
+    QString fault;      ///< a sentence, when new messages will not be announced
 };
 Preparation prepare(SerialThread &link);
+
+/// The card's stores by their numbers. 3GPP TS 27.005 3.1 <mem1>.
+enum class Storage { Sim = 0, Card = 1, Reports = 2 };
+Storage storageOf(MessagePlace place);
+/// The store that a report names ("SM", "ME", "MT", "SR"); `otherwise` for any other name.
+Storage storageNamed(const QString &name, Storage otherwise);
+
+/// A PDU and where the card keeps it.
+struct KeptPdu {
+    Storage storage = Storage::Sim;
+    int index = -1; ///< -1: nowhere, or the card did not say
+    QString pdu;
+};
+/// A delivery report with its place, or what should be one and cannot be read.
+struct KeptReport {
+    KeptPdu kept;
+    std::variant<StatusReport, Message> content;
+};
 
 /// What lies in one store.
 struct Listing {
@@ -30,7 +50,7 @@ struct Listing {
     bool isMissing = false; ///< the card has no such store
     QString fault;          ///< a sentence, when it was not read
     std::vector<Message> messages;
-    std::vector<StatusReport> reports;
+    std::vector<KeptReport> reports;
     std::optional<StoreFill> fill;
 };
 Listing list(SerialThread &link, MessagePlace place);
@@ -38,18 +58,14 @@ Listing list(SerialThread &link, MessagePlace place);
 /// One message that the card announced by its index.
 struct Fetched {
     std::optional<Message> message;
-    std::optional<StatusReport> report;
+    std::optional<KeptReport> report;
     std::optional<StoreFill> fill;
     QString fault; ///< a sentence; none when the message is simply not there any more
 };
 Fetched fetch(SerialThread &link, MessagePlace place, int index);
-/// A delivery report that the card announced.
-Fetched fetchReport(SerialThread &link, int index);
-/// Reports that came while the program was not there, with their index in `storageIndex` order.
-struct KeptReport {
-    int index;
-    QByteArray pdu;
-};
+/// A delivery report that the card announced. In a store for messages it may turn out to be one.
+Fetched fetchReport(SerialThread &link, Storage storage, int index);
+/// Reports that came into their own store while the program was not there.
 std::vector<KeptReport> listReports(SerialThread &link);
 
 enum class Removal {
@@ -57,17 +73,16 @@ enum class Removal {
     NotThere, ///< nothing, or another message by now, lies at that index: nothing was deleted
     Failed
 };
-/// Deletes the message at `index` if it still is the one with that PDU.
-Removal remove(SerialThread &link, MessagePlace place, int index, const QString &pdu);
-/// Deletes a delivery report, if it still is that one.
-Removal removeReport(SerialThread &link, int index, const QByteArray &pdu);
+/// Deletes what lies there if it still is that PDU.
+Removal remove(SerialThread &link, const KeptPdu &kept);
 
 /// A PDU to be written into a store.
 struct CardEntry {
     QString pdu;
     int status;
 };
-/// Writes them all; nothing when that worked, else the reason for the first that did not.
+/// Writes them all; nothing when that worked, else the reason for the first that did not: those before it
+/// are taken out again then.
 std::optional<QString> write(SerialThread &link, MessagePlace place, const std::vector<CardEntry> &entries);
 
 /// One part on its way.
@@ -80,7 +95,12 @@ struct OutgoingPart {
     bool asksReport = false;
 };
 struct SentPart {
-    bool isSent = false;
+    enum Outcome {
+        Sent,
+        NotSent,
+        Unsure,  ///< the card took it and said nothing more: it may have gone out
+        CardGone ///< before it took anything
+    } outcome = NotSent;
     int reference = -1;
     QString pdu;
     CmsError error; ///< when it was not sent

@@ -96,7 +96,7 @@ FiledSms fileSms(const ListedSms &listed, MessagePlace place, const QDateTime &a
     message.box = boxOfStatus(listed.status);
     message.place = place;
     message.time = message.arrived = arrived;
-    message.isRead = listed.status != 0;
+    message.isRead = listed.status > 0; // a line that cannot be read is to be seen
     MessagePart &part = message.parts.emplace_back();
     part.pdu = QString::fromLatin1(listed.pdu);
     part.storageIndex = listed.index;

@@ -7,17 +7,24 @@
 #include "sms/cardplaces.h"
 #include "sms/messagestore.h"
 #include "sms/smsfiling.h"
-#include "sms/smspdu.h"
 
 #include <QLocale>
+#include <QTimer>
+
+#include <chrono>
+#include <utility>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace corva
 {
 
 namespace
 {
+
+/// The parts of an immediate message come one behind the other.
+constexpr auto patienceForParts = 30s;
 
 /// "newsmsLocation": new messages go to the computer.
 bool goToComputer()
@@ -29,7 +36,8 @@ bool goToComputer()
 /// The store that a report names; the SIM's for one that is not known by its name.
 MessagePlace placeOf(const QString &store)
 {
-    return store == "ME"_L1 || store == "MT"_L1 ? MessagePlace::Card : MessagePlace::Sim;
+    const bool isCard = smsjobs::storageNamed(store, smsjobs::Storage::Sim) == smsjobs::Storage::Card;
+    return isCard ? MessagePlace::Card : MessagePlace::Sim;
 }
 
 QString timeText(const QDateTime &time)
@@ -40,15 +48,26 @@ QString timeText(const QDateTime &time)
 } // namespace
 
 SmsReception::SmsReception(CardWorker &worker, MessageStore *store, CardPlaces *places, QObject *parent)
-    : QObject(parent), m_worker(worker), m_store(store), m_places(places)
+    : QObject(parent), m_worker(worker), m_store(store), m_places(places), m_immediate(patienceForParts)
 {
+    connect(&m_immediate, &ImmediateParts::sigReady, this, &SmsReception::displayClass0Sms);
 }
 
 // --- Messages
 // ----------------------------------------------------------------------------------------------------
 
+/// A text that holds several reports is handed on once for each of them.
+bool SmsReception::isRepeated(const QByteArray &text)
+{
+    if (m_lastText.isEmpty())
+        QTimer::singleShot(0, this, [this] { m_lastText.clear(); });
+    return std::exchange(m_lastText, text) == text;
+}
+
 void SmsReception::takeMessages(const QByteArray &text)
 {
+    if (isRepeated(text))
+        return;
     fileDelivered(parseReportedPdus(text, "+CMT:"));
     for (const StoredReport &report : parseStoredReports(text, "+CMTI:")) {
         if (goToComputer())
@@ -67,15 +86,18 @@ void SmsReception::fileDelivered(const std::vector<ReportedPdu> &reports)
         if (const auto *message = std::get_if<Message>(&filed))
             announce(keep(*message));
         else
-            fileReport(std::get<StatusReport>(filed), -1);
+            fileReport(std::get<StatusReport>(filed));
     }
 }
 
 void SmsReception::fetch(MessagePlace place, int index)
 {
+    if (!m_fetched.insert({place, index}).second)
+        return;
     const auto job =
         m_worker.submit([place, index](SerialThread &link) { return smsjobs::fetch(link, place, index); });
-    whenDone(job, this, [this, place](const std::optional<smsjobs::Fetched> &fetched) {
+    whenDone(job, this, [this, place, index](const std::optional<smsjobs::Fetched> &fetched) {
+        m_fetched.erase({place, index});
         if (fetched)
             took(place, *fetched);
     });
@@ -85,9 +107,11 @@ void SmsReception::took(MessagePlace place, const smsjobs::Fetched &fetched)
 {
     m_places->takeFill(place, fetched.fill);
     if (fetched.report)
-        fileReport(*fetched.report, -1);
+        deliveryReportSaveToSmsXml(*fetched.report);
     if (!fetched.fault.isEmpty())
         Q_EMIT sigNotice(tr("A new message could not be read from the card: %1").arg(fetched.fault));
+    if (fetched.report)
+        return;
     if (!fetched.message) {
         m_places->refresh(place); // it may be there all the same
         return;
@@ -151,14 +175,21 @@ void SmsReception::announce(const QStringList &ids)
 
 void SmsReception::takeImmediate(const QByteArray &text)
 {
+    const QDateTime now = QDateTime::currentDateTime();
     for (const ReportedPdu &report : parseReportedPdus(text, "+JCLAS:")) {
-        const SmsResult result = decodeSms(report.pdu, SmsDirection::FromNetwork);
-        const QString pdu = QString::fromLatin1(report.pdu);
-        if (const auto *sms = std::get_if<DecodedSms>(&result))
-            Q_EMIT sigClass0(sms->address, sms->text, pdu);
+        constexpr int read = 1;
+        FiledSms filed = fileSms({-1, read, report.length, report.pdu}, MessagePlace::Computer, now);
+        if (auto *message = std::get_if<Message>(&filed))
+            m_immediate.take(std::move(*message));
         else
-            Q_EMIT sigClass0({}, std::get<PduError>(result).text(), pdu);
+            fileReport(std::get<StatusReport>(filed));
     }
+}
+
+void SmsReception::displayClass0Sms(const Message &message)
+{
+    Q_EMIT sigClass0(message.recipients.value(0), message.error.isEmpty() ? message.text() : message.error,
+                     message.parts.front().pdu, message);
 }
 
 void SmsReception::takeBroadcasts(const QByteArray &text)
@@ -175,19 +206,20 @@ void SmsReception::takeBroadcasts(const QByteArray &text)
 
 void SmsReception::takeDeliveryReports(const QByteArray &text)
 {
+    using smsjobs::Storage;
     for (const StoredReport &report : parseStoredReports(text, "+CDSI:"))
-        fetchReport(report.index);
+        readAndDisplaySmsStatusReport(smsjobs::storageNamed(report.store, Storage::Reports), report.index);
 }
 
-void SmsReception::fetchReport(int index)
+void SmsReception::readAndDisplaySmsStatusReport(smsjobs::Storage storage, int index)
 {
-    const auto job =
-        m_worker.submit([index](SerialThread &link) { return smsjobs::fetchReport(link, index); });
-    whenDone(job, this, [this, index](const std::optional<smsjobs::Fetched> &fetched) {
-        if (fetched && fetched->report)
-            fileReport(*fetched->report, index);
-        else if (fetched && fetched->message)
-            m_store->insert({*fetched->message});
+    const auto job = m_worker.submit(
+        [storage, index](SerialThread &link) { return smsjobs::fetchReport(link, storage, index); });
+    whenDone(job, this, [this, storage](const std::optional<smsjobs::Fetched> &fetched) {
+        if (fetched && fetched->message)
+            took(storage == smsjobs::Storage::Card ? MessagePlace::Card : MessagePlace::Sim, *fetched);
+        else if (fetched && fetched->report)
+            deliveryReportSaveToSmsXml(*fetched->report);
         else if (fetched && !fetched->fault.isEmpty())
             Q_EMIT sigNotice(tr("A delivery report could not be read from the card: %1").arg(fetched->fault));
     });
@@ -196,41 +228,38 @@ void SmsReception::fetchReport(int index)
 void SmsReception::readKeptReports()
 {
     const auto job = m_worker.submit([](SerialThread &link) { return smsjobs::listReports(link); });
-    whenDone(job, this, [this](const std::optional<std::vector<smsjobs::KeptReport>> &kept) {
-        if (!kept)
-            return;
-        for (const auto &[index, pdu] : *kept) {
-            const QDateTime now = QDateTime::currentDateTime();
-            if (const auto report = corva::fileReport(pdu, now))
-                fileReport(*report, index);
-            else
-                m_store->insert({fileBrokenReport(pdu, now)});
-        }
+    whenDone(job, this, [this](const std::optional<std::vector<smsjobs::KeptReport>> &reports) {
+        for (const smsjobs::KeptReport &report : reports.value_or(std::vector<smsjobs::KeptReport>()))
+            deliveryReportSaveToSmsXml(report);
     });
 }
 
-void SmsReception::fileReport(const StatusReport &report, int index)
+void SmsReception::deliveryReportSaveToSmsXml(const smsjobs::KeptReport &report)
+{
+    const auto *status = std::get_if<StatusReport>(&report.content);
+    const QFuture<bool> stored =
+        status ? fileReport(*status) : m_store->add({std::get<Message>(report.content)});
+    if (report.kept.index < 0)
+        return;
+    whenDone(stored, this, [this, kept = report.kept](std::optional<bool> isStored) {
+        if (isStored.value_or(false))
+            m_worker.submit([kept](SerialThread &link) { smsjobs::remove(link, kept); });
+    });
+}
+
+QFuture<bool> SmsReception::fileReport(const StatusReport &report)
 {
     const MessageStore::Reported reported = m_store->applyReport(report);
     if (reported.isNew && cmcfg.getNumber(u"sms"_s, u"deliveryReportMsgDlgShow"_s) == 1)
         Q_EMIT sigDelivered(sentenceFor(report));
-    if (index < 0)
-        return;
-    whenDone(reported.stored, this, [this, index, pdu = report.pdu](std::optional<bool> isStored) {
-        if (isStored.value_or(false))
-            removeReport(index, pdu);
-    });
-}
-
-void SmsReception::removeReport(int index, const QString &pdu)
-{
-    m_worker.submit([index, pdu](SerialThread &link) { smsjobs::removeReport(link, index, pdu.toLatin1()); });
+    return reported.stored;
 }
 
 QString SmsReception::sentenceFor(const StatusReport &report) const
 {
     const QString name = m_nameFor(report.recipient);
-    if (deliveryOutcome(report.status) == DeliveryOutcome::Delivered)
+    constexpr int replaced = 0x02; // by the service centre, with a newer message
+    if (deliveryStateOf(report.status) == DeliveryState::Delivered && report.status != replaced)
         return tr("Message was successfully sent to %1, in %2,at %3")
             .arg(name, timeText(report.sent), timeText(report.discharge));
     return tr("The message to %1: %2").arg(name, deliveryStatusText(report.status));

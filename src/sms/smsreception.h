@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "sms/immediateparts.h"
 #include "sms/message.h"
 #include "sms/smscardjobs.h"
 
+#include <QFuture>
 #include <QObject>
 #include <functional>
+#include <set>
 
 namespace corva
 {
@@ -41,15 +44,20 @@ public:
     void takeOver(const QStringList &ids);
     /// The same for new ones, which are announced, wherever they are then.
     void takeListed(const QStringList &ids);
+    /// Files the report and tells of it as configured, then takes it from the card.
+    void deliveryReportSaveToSmsXml(const smsjobs::KeptReport &report);
 
 Q_SIGNALS:
     void sigNewMessage(const QString &id);
-    void sigClass0(const QString &sender, const QString &text, const QString &pdu);
+    void sigClass0(const QString &sender, const QString &text, const QString &pdu,
+                   const corva::Message &message);
     void sigDelivered(const QString &sentence);
     void sigBroadcast(const QString &id);
     void sigNotice(const QString &sentence);
 
 private:
+    bool isRepeated(const QByteArray &text);
+    void displayClass0Sms(const Message &message);
     void fileDelivered(const std::vector<ReportedPdu> &reports);
     void fetch(MessagePlace place, int index);
     void took(MessagePlace place, const smsjobs::Fetched &fetched);
@@ -57,15 +65,17 @@ private:
     QStringList keep(const Message &message);
     QStringList takenOver(const QStringList &ids);
     void announce(const QStringList &ids);
-    void fileReport(const StatusReport &report, int index);
+    QFuture<bool> fileReport(const StatusReport &report);
     QString sentenceFor(const StatusReport &report) const;
-    void fetchReport(int index);
-    void removeReport(int index, const QString &pdu);
+    void readAndDisplaySmsStatusReport(smsjobs::Storage storage, int index);
 
     CardWorker &m_worker;
     MessageStore *m_store;
     CardPlaces *m_places;
     NameLookup m_nameFor;
+    ImmediateParts m_immediate;
+    QByteArray m_lastText;                            ///< taken in this round of the event loop
+    std::set<std::pair<MessagePlace, int>> m_fetched; ///< what is being fetched
 };
 
 } // namespace corva

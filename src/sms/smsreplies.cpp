@@ -40,14 +40,14 @@ int lengthOf(const AtFields &fields, qsizetype at)
 }
 
 /// What a line of the list tells; the third field is a name or nothing.
-std::optional<ListedSms> listedLine(const QByteArray &line)
+ListedSms listedLine(const QByteArray &line, const QByteArray &pdu)
 {
     const AtFields fields(QByteArrayView(line).sliced(qsizetype(sizeof "+CMGL:" - 1)));
     const auto index = fields.number(0, 0, anyNumber);
     const auto status = statusOf(fields, 1);
     if (!index || !status)
-        return {};
-    return ListedSms{*index, *status, lengthOf(fields, fields.count() > 3 ? 3 : 2), {}};
+        return {-1, -1, -1, pdu};
+    return {*index, *status, lengthOf(fields, fields.count() > 3 ? 3 : 2), pdu};
 }
 
 std::optional<ListedSms> readLine(const QByteArray &line)
@@ -164,21 +164,15 @@ int nearest(int wanted, const std::vector<int> &offered)
 
 } // namespace
 
-SmsList parseSmsList(const QByteArray &reply)
+std::vector<ListedSms> parseSmsList(const QByteArray &reply)
 {
-    SmsList list;
+    std::vector<ListedSms> messages;
     forEachPdu(reply, [&](const QByteArray &line, const QByteArray &pdu) {
-        if (!line.startsWith("+CMGL:"))
-            return;
-        if (auto message = listedLine(line)) {
-            message->pdu = pdu;
-            list.messages.push_back(*message);
-        } else {
-            ++list.unreadableLines;
-        }
+        if (line.startsWith("+CMGL:"))
+            messages.push_back(listedLine(line, pdu));
     });
-    std::ranges::stable_sort(list.messages, {}, &ListedSms::index);
-    return list;
+    std::ranges::stable_sort(messages, {}, &ListedSms::index);
+    return messages;
 }
 
 std::optional<ListedSms> parseReadSms(const QByteArray &reply)
@@ -250,6 +244,12 @@ int parseMessageReference(const QByteArray &reply)
 {
     const auto fields = AtFields::find(reply, "+CMGS:");
     return fields ? fields->number(0, 0, 255).value_or(-1) : -1;
+}
+
+int parseWrittenIndex(const QByteArray &reply)
+{
+    const auto fields = AtFields::find(reply, "+CMGW:");
+    return fields ? fields->number(0, 0, anyNumber).value_or(-1) : -1;
 }
 
 QByteArray nearestNoticeModes(const QByteArray &wanted, const QByteArray &testReply)

@@ -11,21 +11,18 @@ namespace corva
 
 /// A message as the card lists it. 3GPP TS 27.005 3.4.2.
 struct ListedSms {
-    int index;      ///< -1 where the reply names none ("+CMGR")
-    int status;     ///< 0 received unread, 1 received read, 2 stored unsent, 3 stored sent; else as it came
+    int index;      ///< -1 where the reply names none: in "+CMGR", and in a line that cannot be read
+    int status;     ///< 0 received unread, 1 received read, 2 stored unsent, 3 stored sent; else as it came,
+                    ///< -1 in a line that cannot be read
     int length;     ///< octets without the service centre, -1 when the card's figure is none
     QByteArray pdu; ///< hexadecimal text as it came; empty when no PDU line followed
     bool operator==(const ListedSms &) const = default;
 };
 
 /// Every "+CMGL: <index>,<stat>,[<alpha>],<length>" with the line behind it. Reports that came between the
-/// lines, those with a PDU line of their own too, are left out: the report table has them. A line that has
-/// not that shape is left out as well, and counted.
-struct SmsList {
-    std::vector<ListedSms> messages;
-    int unreadableLines = 0;
-};
-SmsList parseSmsList(const QByteArray &reply);
+/// lines, those with a PDU line of their own too, are left out: the report table has them. A line without
+/// a usable index or status is a message all the same, one without a place.
+std::vector<ListedSms> parseSmsList(const QByteArray &reply);
 
 /// "+CMGR: <stat>,[<alpha>],<length>" with its PDU; nothing when there is none. 3GPP TS 27.005 3.4.3.
 std::optional<ListedSms> parseReadSms(const QByteArray &reply);
@@ -65,6 +62,9 @@ QString parseServiceCentre(const QByteArray &reply);
 
 /// The message reference of "+CMGS: <mr>", 0..255; -1 when there is none. 3GPP TS 27.005 3.5.1.
 int parseMessageReference(const QByteArray &reply);
+
+/// Where "+CMGW: <index>" put the message; -1 when it does not say. 3GPP TS 27.005 3.5.3.
+int parseWrittenIndex(const QByteArray &reply);
 
 /// The values nearest to `wanted` ("3,1,0,2,0") that the reply of "AT+CNMI=?" offers, or the wanted ones
 /// where it says nothing. 3GPP TS 27.005 3.4.1.

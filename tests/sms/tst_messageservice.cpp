@@ -197,6 +197,19 @@ private Q_SLOTS:
         QCOMPARE(only(MessageBox::Sent).id, failed.id);
     }
 
+    void aPromptThatComesLate()
+    {
+        tell(R"({"command": "fault", "kind": "late", "match": ">", "ms": 3300})");
+        begin();
+        QSignalSpy summary(m_service.get(), &MessageService::sigSendSummary);
+        m_service->send({{u"10086"_s}, u"one"_s, false, {}});
+        QTRY_COMPARE_WITH_TIMEOUT(summary.size(), 1, patience);
+        QCOMPARE(only(MessageBox::Outbox).state(), DeliveryState::Failed);
+        m_service->retry({only(MessageBox::Outbox).id}); // which the card does not take for the text
+        QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Sent).parts.size(), 1U, patience);
+        QCOMPARE(sent(), 1);
+    }
+
     void cancelledMidway()
     {
         tell(R"({"command": "sms-network", "delay": 300})");
@@ -231,7 +244,28 @@ private Q_SLOTS:
         begin();
         QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Sent).recipients, QStringList(u"111"_s), patience);
         QCOMPARE(sent(), 1); // the other one may have gone out before
-        QCOMPARE(only(MessageBox::Outbox).state(), DeliveryState::Failed);
+        QCOMPARE(only(MessageBox::Outbox).state(), DeliveryState::Unsure);
+    }
+
+    void unpluggedWhileSending()
+    {
+        tell(R"({"command": "sms-network", "delay": 60000})");
+        begin();
+        QSignalSpy summary(m_service.get(), &MessageService::sigSendSummary);
+        m_service->send({{u"10086"_s}, QString(400, u'a'), false, {}});
+        QTRY_VERIFY_WITH_TIMEOUT(hears(u"0500030"_s), patience); // the first part is on its way
+        tell(R"({"command": "unplug"})");
+        const auto state = [this](std::size_t part) { return only(MessageBox::Outbox).parts[part].state; };
+        QTRY_COMPARE_WITH_TIMEOUT(state(0), DeliveryState::Unsure, patience);
+        QCOMPARE(sent(), 0);
+        tell(R"({"command": "sms-network", "delay": 0})");
+        tell(R"({"command": "plug"})");
+        QTRY_COMPARE_WITH_TIMEOUT(summary.size(), 1, patience);
+        QCOMPARE(state(0), DeliveryState::Unsure); // not again unasked
+        QCOMPARE(sent(), 2);
+        m_service->retry({only(MessageBox::Outbox).id});
+        QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Sent).parts.size(), 3U, patience);
+        QCOMPARE(sent(), 3);
     }
 
     void movingAndDeleting()
@@ -254,6 +288,56 @@ private Q_SLOTS:
         QCOMPARE(m_store->ids(MessageBox::Deleted).size(), 2);
         QVERIFY(m_service->undoRemoval());
         QCOMPARE(inbox().size(), 2U);
+    }
+
+    void noHalfMessageOnTheSim()
+    {
+        tell(R"({"command": "fill", "name": "ME", "count": 1, "status": 1})");
+        tell(QByteArray(R"({"command": "sms", "from": "123", "store": "ME", "text": "@"})")
+                 .replace('@', QByteArray(400, 'x')));
+        tell(R"({"command": "set", "key": "messages.stores.SM.capacity", "value": 3})");
+        tell(R"({"command": "fill", "name": "SM", "count": 1, "status": 1})");
+        set("newsmsLocation", 3);
+        begin();
+        QTRY_COMPARE_WITH_TIMEOUT(inbox(MessagePlace::Card).size(), 2U, patience);
+        const auto isLong = [](const Message &message) { return message.total == 3; };
+        const auto onCard = inbox(MessagePlace::Card);
+        const QString id = std::ranges::find_if(onCard, isLong)->id;
+        m_service->moveTo({id}, MessagePlace::Sim);
+        QTRY_VERIFY_WITH_TIMEOUT(m_notices.join(u' ').contains(u"was not written to the SIM"), patience);
+        QCOMPARE(stored(u"SM"_s), 1);
+        QCOMPARE(stored(u"ME"_s), 4);
+    }
+
+    void whatCannotBeReadIsShownOnce()
+    {
+        tell(R"({"command": "fill", "name": "SM", "count": 1, "status": 1})");
+        tell(R"({"command": "fault", "kind": "interleave", "match": "+CMGL", "count": 0, "at": 0, "text":
+            "+CMGL: ?\r\n0791947106004034040B919471325476F800004250112100000005E8329BFD06"})");
+        begin();
+        QTRY_COMPARE_WITH_TIMEOUT(inbox().size(), 1U, patience); // its text could be read, and is unread
+        QCOMPARE(inbox().front().text(), u"hello"_s);
+        m_service->refreshPlace(MessagePlace::Sim);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_service->place(MessagePlace::Sim).isLoading, patience);
+        QCOMPARE(inbox().size(), 1U);
+        QCOMPARE(inbox(MessagePlace::Sim).size(), 2U);
+        QCOMPARE(stored(u"SM"_s), 1);
+    }
+
+    void reportsAmongTheMessages()
+    {
+        const QByteArray report = "0791947101670000060509919471111111F14250112100000042501121000000";
+        const auto bring = [&](const char *status) {
+            tell(
+                QByteArray(R"({"command": "sms", "store": "SM", "pdu": "@"})").replace('@', report + status));
+        };
+        bring("00");
+        begin();
+        QTRY_COMPARE_WITH_TIMEOUT(m_store->ids(MessageBox::Reports).size(), 1, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(stored(u"SM"_s), 0, patience);
+        bring("30"); // announced by "+CDSI", which names the SIM
+        QTRY_COMPARE_WITH_TIMEOUT(m_store->ids(MessageBox::Reports).size(), 2, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(stored(u"SM"_s), 0, patience);
     }
 
     void anotherMessageAtTheSamePlace()
@@ -283,16 +367,44 @@ private Q_SLOTS:
         QVERIFY(m_notices.join(u' ').contains(u"8 of 8"));
     }
 
-    void immediateAndBroadcast()
+    void immediateMessages()
     {
         begin();
         QSignalSpy immediate(m_service.get(), &MessageService::sigClass0);
-        QSignalSpy broadcast(m_service.get(), &MessageService::sigBroadcast);
-        tell(R"({"command": "sms", "from": "555", "text": "now", "class": 0})");
+        const QString text = QString(200, u'x') + u"end"_s;
+        tell(QByteArray(R"({"command": "sms", "from": "555", "order": "2,1", "class": 0, "text": "@",
+            "time": "2024-05-03T10:00:00Z"})")
+                 .replace('@', text.toLatin1()));
         QTRY_COMPARE_WITH_TIMEOUT(immediate.size(), 1, patience);
-        QCOMPARE(immediate.front().mid(0, 2), (QVariantList{u"555"_s, u"now"_s}));
-        m_service->setBroadcastChannels({50});
-        QCOMPARE(m_service->broadcastChannels(), QList<int>{50});
+        QCOMPARE(immediate.front().mid(0, 2), (QVariantList{u"555"_s, text}));
+        const auto message = immediate.front().at(3).value<Message>(); // as it would be kept
+        QCOMPARE(message.time.toUTC(), QDateTime({2024, 5, 3}, {10, 0}, Qt::UTC));
+        QCOMPARE(message.text(), text);
+        tell(R"({"command": "sms", "from": "555", "class": 0, "alphabet": "8bit", "text": "data"})");
+        QTRY_COMPARE_WITH_TIMEOUT(immediate.size(), 2, patience);
+        QCOMPARE(immediate.back().at(1), u"The message holds data and no text."_s);
+        QVERIFY(inbox().empty());
+    }
+
+    void settingsThatRoute()
+    {
+        begin();
+        QVERIFY(hears(u"AT+CNMI=1,2,2,2,0"_s));
+        set("newsmsLocation", 1);
+        QTRY_VERIFY_WITH_TIMEOUT(hears(u"AT+CNMI=3,1,2,2,0"_s), patience);
+    }
+
+    void oneTextPostedTwice()
+    {
+        tell(R"({"command": "fill", "name": "SM", "count": 1, "status": 1})");
+        begin();
+        QTRY_COMPARE_WITH_TIMEOUT(inbox(MessagePlace::Sim).size(), 1U, patience);
+        tell(R"({"command": "log", "clear": true})");
+        const QString text = u"\r\n+CMTI: \"SM\",1\r\n\r\nRING\r\n"_s;
+        m_service->takeMessages(text);
+        m_service->takeMessages(text);
+        QTRY_COMPARE_WITH_TIMEOUT(stored(u"SM"_s), 0, patience);
+        QCOMPARE(heard(u"AT+CMGR=1"_s), 2); // to fetch it, and before it is deleted
     }
 
 private:
@@ -340,6 +452,14 @@ private:
         const auto messages = m_store->messages(m_store->ids(box));
         return messages.size() == 1 ? messages.front() : Message();
     }
+    /// How many lines with that text the card has taken in.
+    qsizetype heard(const QString &text)
+    {
+        const QJsonArray log = ask(R"({"command": "log"})")[u"log"_s].toArray();
+        return std::ranges::count_if(
+            log, [&](QJsonValue each) { return each[u"received"_s].toString().contains(text); });
+    }
+    bool hears(const QString &text) { return heard(text) > 0; }
     int sent() { return int(ask(R"({"command": "sent"})")[u"sent"_s].toArray().size()); }
     /// Messages in a store of the card.
     int stored(const QString &name)

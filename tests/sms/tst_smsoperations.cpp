@@ -46,7 +46,7 @@ template <auto operation, auto... arguments> QString call(Link &link)
 }
 template <int storage> QString list(Link &link)
 {
-    return text(int(corva::parseSmsList(link.getSmsContent(4, storage)).messages.size()));
+    return text(int(corva::parseSmsList(link.getSmsContent(4, storage)).size()));
 }
 QString readOne(Link &link)
 {

@@ -41,13 +41,13 @@ private Q_SLOTS:
         QTest::newRow("cut off") << QByteArray("+CMGL: 1,1,,9\r\n00AA\r\n+CMGL: 2,1")
                                  << QByteArray("1,1,9:00AA 2,1,-1:");
         QTest::newRow("no numbers") << QByteArray("+CMGL: a,b,,c\r\n00AA\r\n+CMGL: 2,1,,9\r\n00BB\r\nOK\r\n")
-                                    << QByteArray("2,1,9:00BB");
+                                    << QByteArray("-1,-1,-1:00AA 2,1,9:00BB");
     }
     void lists()
     {
         QFETCH(QByteArray, reply);
         QByteArrayList messages;
-        for (const ListedSms &each : parseSmsList(reply).messages)
+        for (const ListedSms &each : parseSmsList(reply))
             messages += QByteArray::number(each.index) + ',' + QByteArray::number(each.status) + ',' +
                         QByteArray::number(each.length) + ':' + each.pdu;
         QTEST(messages.join(' '), "messages");
@@ -136,11 +136,14 @@ private Q_SLOTS:
         QCOMPARE(cmsErrorText({322, {}}), u"The memory for messages is full."_s);
         QCOMPARE(cmsErrorText({-1, u"on strike"_s}), u"The card says: on strike"_s);
         QCOMPARE(cmsErrorText({9999, {}}), u"The card refuses, with the code 9999."_s);
-        QCOMPARE(deliveryOutcome(0x00), DeliveryOutcome::Delivered);
-        QCOMPARE(deliveryOutcome(0x30), DeliveryOutcome::StillTrying);
-        QCOMPARE(deliveryOutcome(0x46), DeliveryOutcome::Failed);
+        const QString notYet = u"The message could not be delivered yet; the network goes on trying."_s;
+        QCOMPARE(deliveryStatusText(0x1F), u"The message was delivered."_s);
+        QCOMPARE(deliveryStatusText(0x20), notYet + u" The network is overloaded."_s);
+        QCOMPARE(deliveryStatusText(0x30), notYet);
         QCOMPARE(deliveryStatusText(0x46), u"The message could not be delivered in time."_s);
-        QCOMPARE(deliveryStatusText(0xC0), u"The message could not be delivered."_s);
+        QCOMPARE(deliveryStatusText(0x65), u"The recipient's device failed."_s);
+        for (const int unknown : {-1, 0x50, 0xC0})
+            QCOMPARE(deliveryStatusText(unknown), u"The message could not be delivered."_s);
     }
 };
 

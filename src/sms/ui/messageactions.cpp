@@ -88,7 +88,9 @@ void MessageActions::follow()
     m_reply->setEnabled(isOne && canBeAnswered(chosen.front()));
     m_forward->setEnabled(isOne && !chosen.front().text().isEmpty());
     m_restore->setVisible(!chosen.empty() && std::all_of(chosen.begin(), chosen.end(), isDeleted));
-    m_retry->setVisible(any([](const Message &m) { return m.state() == DeliveryState::Failed; }));
+    m_retry->setVisible(any([](const Message &m) {
+        return m.state() == DeliveryState::Failed || m.state() == DeliveryState::Unsure;
+    }));
     const auto mayBeMarked = [](const Message &m) { return m.isReceived() && !isDeleted(m); };
     m_read->setEnabled(any([&](const Message &m) { return mayBeMarked(m) && !m.isRead; }));
     m_unread->setEnabled(any([&](const Message &m) { return mayBeMarked(m) && m.isRead; }));

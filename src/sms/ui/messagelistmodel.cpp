@@ -30,6 +30,7 @@ constexpr IconRow stateIcons[] = {
     {DeliveryState::Queued, "pending"_L1},   {DeliveryState::Sending, "running"_L1},
     {DeliveryState::Sent, "sent"_L1},        {DeliveryState::Delivered, "delivered"_L1},
     {DeliveryState::StillTrying, "sent"_L1}, {DeliveryState::Failed, "problem"_L1},
+    {DeliveryState::Unsure, "problem"_L1},
 };
 
 /// How it stands with the message, else where it lies.

@@ -61,6 +61,7 @@ constexpr StateRow stateRows[] = {
     {DeliveryState::Delivered, QT_TRANSLATE_NOOP("Messages", "Delivered")},
     {DeliveryState::StillTrying, QT_TRANSLATE_NOOP("Messages", "Not delivered yet, the network still tries")},
     {DeliveryState::Failed, QT_TRANSLATE_NOOP("Messages", "Failed")},
+    {DeliveryState::Unsure, QT_TRANSLATE_NOOP("Messages", "May have been sent")},
 };
 
 const StateRow *rowOf(DeliveryState state)
