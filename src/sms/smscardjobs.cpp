@@ -93,6 +93,8 @@ std::optional<Removal> whyNotToRemove(SerialThread &link, int index, const QByte
     const auto read = parseReadSms(reply);
     if (!read)
         return isEmptyPlace(reply) ? Removal::NotThere : Removal::Failed;
+    if (read->pdu.isEmpty()) // which message it is cannot be told
+        return Removal::Failed;
     return isSamePdu(*read, pdu) ? std::nullopt : std::optional(Removal::NotThere);
 }
 
@@ -106,6 +108,11 @@ bool meansMissing(const std::optional<CmsError> &error)
 Removal outcomeOf(int result)
 {
     return result == 1 ? Removal::Removed : Removal::Failed;
+}
+
+QString withoutContent()
+{
+    return QCoreApplication::translate("SmsJobs", "The card names the message without its content.");
 }
 
 } // namespace
@@ -170,6 +177,10 @@ Fetched fetch(SerialThread &link, MessagePlace place, int index)
             fetched.fault = whyFailed(link);
         return fetched;
     }
+    if (listed->pdu.isEmpty()) {
+        fetched.fault = withoutContent();
+        return fetched;
+    }
     listed->index = index;
     FiledSms filed = fileSms(*listed, place, QDateTime::currentDateTime());
     if (auto *message = std::get_if<Message>(&filed))
@@ -189,6 +200,10 @@ Fetched fetchReport(SerialThread &link, int index)
     const auto listed = parseReadSms(link.getIndexSms(QByteArray::number(index).constData()));
     if (!listed)
         return fetched;
+    if (listed->pdu.isEmpty()) {
+        fetched.fault = withoutContent();
+        return fetched;
+    }
     const QDateTime now = QDateTime::currentDateTime();
     fetched.report = fileReport(listed->pdu, now);
     if (!fetched.report)

@@ -22,6 +22,15 @@ bool isPduLine(const QByteArray &line)
            std::ranges::all_of(line, [](char c) { return isxdigit(static_cast<unsigned char>(c)) != 0; });
 }
 
+/// Whether the line can only be a PDU that was damaged on its way, by its place behind the line that
+/// announces one: mostly digits, which no result and no other report is.
+bool isDamagedPduLine(const QByteArray &line)
+{
+    const auto digits =
+        std::ranges::count_if(line, [](char c) { return isxdigit(static_cast<unsigned char>(c)) != 0; });
+    return !line.startsWith('+') && digits * 2 > line.size();
+}
+
 /// Whether the line begins a report whose PDU follows on a line of its own.
 bool announcesPdu(const QByteArray &line)
 {
@@ -50,25 +59,25 @@ ListedSms listedLine(const QByteArray &line, const QByteArray &pdu)
     return {*index, *status, lengthOf(fields, fields.count() > 3 ? 3 : 2), pdu};
 }
 
-std::optional<ListedSms> readLine(const QByteArray &line)
+ListedSms readLine(const QByteArray &line, const QByteArray &pdu)
 {
     const AtFields fields(QByteArrayView(line).sliced(qsizetype(sizeof "+CMGR:" - 1)));
-    const auto status = statusOf(fields, 0);
-    if (!status)
-        return {};
-    return ListedSms{-1, *status, lengthOf(fields, fields.count() > 2 ? 2 : 1), {}};
+    return {-1, statusOf(fields, 0).value_or(-1), lengthOf(fields, fields.count() > 2 ? 2 : 1), pdu};
 }
 
-/// Goes through the lines of a reply and hands each PDU to the line that announced it.
+/// Goes through the lines of a reply and hands each PDU to the line that announced it, nothing to a line that
+/// has none.
 template <typename Take> void forEachPdu(const QByteArray &text, Take take)
 {
     QByteArrayList waiting; // a report may come between a message's line and its PDU
+    bool isDirectlyBehind = false;
     for (const QByteArray &line : replyLines(text)) {
-        if (line.startsWith("+CMGL:") || line.startsWith("+CMGR:") || announcesPdu(line)) {
+        const bool announces = line.startsWith("+CMGL:") || line.startsWith("+CMGR:") || announcesPdu(line);
+        if (announces)
             waiting.append(line);
-        } else if (isPduLine(line) && !waiting.isEmpty()) {
+        else if (!waiting.isEmpty() && (isPduLine(line) || (isDirectlyBehind && isDamagedPduLine(line))))
             take(waiting.takeLast(), line);
-        }
+        isDirectlyBehind = announces;
     }
     for (const QByteArray &line : waiting)
         take(line, QByteArray());
@@ -179,11 +188,8 @@ std::optional<ListedSms> parseReadSms(const QByteArray &reply)
 {
     std::optional<ListedSms> message;
     forEachPdu(reply, [&](const QByteArray &line, const QByteArray &pdu) {
-        if (message || !line.startsWith("+CMGR:") || pdu.isEmpty())
-            return;
-        message = readLine(line);
-        if (message)
-            message->pdu = pdu;
+        if (!message && line.startsWith("+CMGR:"))
+            message = readLine(line, pdu);
     });
     return message;
 }
@@ -192,7 +198,7 @@ std::vector<ReportedPdu> parseReportedPdus(const QByteArray &text, const QByteAr
 {
     std::vector<ReportedPdu> reports;
     forEachPdu(text, [&](const QByteArray &line, const QByteArray &pdu) {
-        if (!line.startsWith(mark) || pdu.isEmpty())
+        if (!line.startsWith(mark))
             return;
         const AtFields fields(QByteArrayView(line).sliced(mark.size()));
         reports.push_back({lengthOf(fields, fields.count() - 1), pdu});

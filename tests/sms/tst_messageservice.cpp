@@ -118,8 +118,8 @@ private Q_SLOTS:
         QSignalSpy announced(m_service.get(), &MessageService::sigNewMessage);
         tell(R"({"command": "sms", "from": "+4917112345", "text": "Grüße"})");
         tell(R"({"command": "sms", "from": "+4917112345", "text": "zwei"})");
-        tell(
-            R"({"command": "sms", "pdu": "0791947101", "unchecked": true})"); // torn: kept, and shown as such
+        // Torn and damaged: kept, and shown as such.
+        tell(R"({"command": "sms", "pdu": "0791947?01", "unchecked": true})");
         QTRY_COMPARE_WITH_TIMEOUT(inbox(MessagePlace(place)).size(), 3, patience);
         QCOMPARE(announced.size(), 3);
         QStringList texts;

@@ -42,6 +42,13 @@ private Q_SLOTS:
                                  << QByteArray("1,1,9:00AA 2,1,-1:");
         QTest::newRow("no numbers") << QByteArray("+CMGL: a,b,,c\r\n00AA\r\n+CMGL: 2,1,,9\r\n00BB\r\nOK\r\n")
                                     << QByteArray("-1,-1,-1:00AA 2,1,9:00BB");
+        QTest::newRow("a PDU that was damaged on its way")
+            << QByteArray("+CMGL: 1,1,,9\r\n07A?91\r\n+CMGL: 2,1,,9\r\n00BB\r\nOK\r\n")
+            << QByteArray("1,1,9:07A?91 2,1,9:00BB");
+        QTest::newRow("a report of letters between line and PDU")
+            << QByteArray("+CMGL: 1,1,,9\r\nANSWER\r\n00AA\r\nOK\r\n") << QByteArray("1,1,9:00AA");
+        QTest::newRow("a place that no card has")
+            << QByteArray("+CMGL: 65536,1,,9\r\n00AA\r\nOK\r\n") << QByteArray("-1,-1,-1:00AA");
     }
     void lists()
     {
@@ -58,7 +65,9 @@ private Q_SLOTS:
         const auto read = parseReadSms("AT+CMGR=3\r\r\n+CMGR: 0,\"Doe\",24\r\n07AA\r\n\r\nOK\r\n");
         QVERIFY(read);
         QCOMPARE(*read, (ListedSms{-1, 0, 24, "07AA"}));
-        QVERIFY(!parseReadSms("\r\nOK\r\n")); // an empty place
+        QCOMPARE(parseReadSms("+CMGR: 0,,24\r\n07.A\r\n\r\nOK\r\n"), (ListedSms{-1, 0, 24, "07.A"}));
+        QCOMPARE(parseReadSms("+CMGR: x,,24\r\nOK\r\n"), (ListedSms{-1, -1, 24, {}})); // no empty place
+        QVERIFY(!parseReadSms("\r\nOK\r\n"));
         QVERIFY(!parseReadSms("\r\n+CMS ERROR: 321\r\n"));
     }
 
