@@ -186,7 +186,8 @@ std::optional<CmsError> cmsErrorIn(const QByteArray &reply)
     bool isNumber = false;
     const int code = refused->detail.toInt(&isNumber);
     const bool isOfEquipment = reply.contains("+CME ERROR:");
-    if (isNumber && code >= 0 && !isOfEquipment)
+    constexpr int mostCode = 0xFFFF; // what a message is filed with; a longer figure stays words
+    if (isNumber && code >= 0 && code <= mostCode && !isOfEquipment)
         return CmsError{code, {}};
     QByteArray words = refused->detail;
     const auto *named = std::ranges::find(equipmentErrors, code, &CodeText::code);

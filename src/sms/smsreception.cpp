@@ -51,7 +51,7 @@ void SmsReception::takeMessages(const QByteArray &text)
 {
     fileDelivered(parseReportedPdus(text, "+CMT:"));
     for (const StoredReport &report : parseStoredReports(text, "+CMTI:")) {
-        if (goToComputer())
+        if (goToComputer() && report.index >= 0)
             fetch(placeOf(report.store), report.index);
         else
             m_places->refresh(placeOf(report.store)); // which does not mark it as read before it is known
@@ -175,8 +175,12 @@ void SmsReception::takeBroadcasts(const QByteArray &text)
 
 void SmsReception::takeDeliveryReports(const QByteArray &text)
 {
-    for (const StoredReport &report : parseStoredReports(text, "+CDSI:"))
-        fetchReport(report.index);
+    for (const StoredReport &report : parseStoredReports(text, "+CDSI:")) {
+        if (report.index >= 0)
+            fetchReport(report.index);
+        else
+            readKeptReports();
+    }
 }
 
 void SmsReception::fetchReport(int index)

@@ -15,6 +15,8 @@ namespace
 {
 
 constexpr int anyNumber = std::numeric_limits<int>::max();
+/// What a message is filed with; no card has so many places.
+constexpr int mostIndex = 0xFFFF;
 
 bool isPduLine(const QByteArray &line)
 {
@@ -52,7 +54,7 @@ int lengthOf(const AtFields &fields, qsizetype at)
 ListedSms listedLine(const QByteArray &line, const QByteArray &pdu)
 {
     const AtFields fields(QByteArrayView(line).sliced(qsizetype(sizeof "+CMGL:" - 1)));
-    const auto index = fields.number(0, 0, anyNumber);
+    const auto index = fields.number(0, 0, mostIndex);
     const auto status = statusOf(fields, 1);
     if (!index || !status)
         return {-1, -1, -1, pdu};
@@ -213,8 +215,7 @@ std::vector<StoredReport> parseStoredReports(const QByteArray &text, const QByte
         if (!line.startsWith(mark))
             continue;
         const AtFields fields(QByteArrayView(line).sliced(mark.size()));
-        if (const auto index = fields.number(1, 0, anyNumber))
-            reports.push_back({QString::fromLatin1(fields.text(0)), *index});
+        reports.push_back({QString::fromLatin1(fields.text(0)), fields.number(1, 0, mostIndex).value_or(-1)});
     }
     return reports;
 }

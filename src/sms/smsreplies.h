@@ -11,7 +11,7 @@ namespace corva
 
 /// A message as the card lists it. 3GPP TS 27.005 3.4.2.
 struct ListedSms {
-    int index;      ///< -1 where the reply names none: in "+CMGR", and in a line that cannot be read
+    int index;      ///< up to 65535; -1 where the reply names none: in "+CMGR", and in an unreadable line
     int status;     ///< 0 received unread, 1 received read, 2 stored unsent, 3 stored sent; else as it came,
                     ///< -1 in a line that cannot be read
     int length;     ///< octets without the service centre, -1 when the card's figure is none
@@ -40,7 +40,7 @@ std::vector<ReportedPdu> parseReportedPdus(const QByteArray &text, const QByteAr
 /// "+CMTI: <mem>,<index>" and "+CDSI: <mem>,<index>". 3GPP TS 27.005 3.4.1.
 struct StoredReport {
     QString store; ///< "SM", "ME", "MT", "SR", ...
-    int index;
+    int index;     ///< up to 65535; -1 when it cannot be read
     bool operator==(const StoredReport &) const = default;
 };
 std::vector<StoredReport> parseStoredReports(const QByteArray &text, const QByteArray &mark);

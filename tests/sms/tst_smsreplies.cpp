@@ -75,10 +75,11 @@ private Q_SLOTS:
     {
         const QByteArray text =
             "\r\n+CMT: ,24\r\n07AA\r\n\r\n+CMTI: \"SM\",3\r\n\r\nRING\r\n\r\n+CMT: \"Doe\",25\r\n07BB\r\n"
-            "\r\n+CMTI: \"ME\",14\r\n+CMT: ,20\r\n";
-        QCOMPARE(parseReportedPdus(text, "+CMT:"), (std::vector<ReportedPdu>{{24, "07AA"}, {25, "07BB"}}));
+            "\r\n+CMTI: \"ME\",70000\r\n+CMT: ,20\r\n07?C\r\n+CMT: ,20\r\n";
+        QCOMPARE(parseReportedPdus(text, "+CMT:"),
+                 (std::vector<ReportedPdu>{{24, "07AA"}, {25, "07BB"}, {20, "07?C"}, {20, {}}}));
         QCOMPARE(parseStoredReports(text, "+CMTI:"),
-                 (std::vector<StoredReport>{{u"SM"_s, 3}, {u"ME"_s, 14}}));
+                 (std::vector<StoredReport>{{u"SM"_s, 3}, {u"ME"_s, -1}}));
         QCOMPARE(parseReportedPdus("+CBM: 88\r\n0010\r\n", "+CBM:"),
                  (std::vector<ReportedPdu>{{88, "0010"}}));
         QCOMPARE(parseReportedPdus("+JCLAS: 1,,30\r\n07CC\r\n", "+JCLAS:"),
@@ -140,6 +141,7 @@ private Q_SLOTS:
         QCOMPARE(cmsErrorIn("\r\n+CMS ERROR: 322\r\n"), std::optional(CmsError{322, {}}));
         QCOMPARE(cmsErrorIn("\r\nERROR\r\n"), std::optional(CmsError{-1, {}}));
         QCOMPARE(cmsErrorIn("\r\n+CMS ERROR: Memory full\r\n"), std::optional(CmsError{322, {}}));
+        QCOMPARE(cmsErrorIn("\r\n+CMS ERROR: 65536\r\n"), std::optional(CmsError{-1, u"65536"_s}));
         QCOMPARE(cmsErrorIn("\r\n+CME ERROR: 14\r\n"), std::optional(CmsError{314, {}}));
         QCOMPARE(cmsErrorIn("\r\n+CME ERROR: 9999\r\n"), std::optional(CmsError{-1, u"9999"_s}));
         QCOMPARE(cmsErrorText({322, {}}), u"The memory for messages is full."_s);
