@@ -120,6 +120,8 @@ constexpr auto causes = std::to_array<Cause>({
     {211, "Memory Capacity Exceeded", QT_TRANSLATE_NOOP("CmsErrors", "The memory for messages is full.")},
     {212, "SIM Application Toolkit Busy", QT_TRANSLATE_NOOP("CmsErrors", "The SIM is busy.")},
     {213, "SIM data download error", QT_TRANSLATE_NOOP("CmsErrors", "The SIM failed.")},
+    {255, "Unspecified error cause",
+     QT_TRANSLATE_NOOP("CmsErrors", "The network refused the message, without saying why.")},
     {300, "ME failure", QT_TRANSLATE_NOOP("CmsErrors", "The card failed.")},
     {301, "SMS service of ME reserved",
      QT_TRANSLATE_NOOP("CmsErrors", "The card's message service is in use.")},
