@@ -40,7 +40,7 @@ QString readServiceCentre(SerialThread &link)
     QByteArray text(SerialThread::replyBufferSize, '\0');
     link.get_sms_number(text.data());
     const QString number = parseServiceCentre(text.constData());
-    qCDebug(lcSms).noquote() << u"SMS centre num = %1"_s.arg(number);
+    qCDebug(lcSms).noquote() << logTime() + u"SMS centre num = %1"_s.arg(number);
     return number;
 }
 

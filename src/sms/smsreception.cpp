@@ -34,7 +34,7 @@ MessagePlace placeOf(const QString &store)
 
 QString timeText(const QDateTime &time)
 {
-    return time.isValid() ? QLocale().toString(time, QLocale::ShortFormat) : QString();
+    return time.isValid() ? QLocale().toString(time.toLocalTime(), QLocale::ShortFormat) : QString();
 }
 
 } // namespace
