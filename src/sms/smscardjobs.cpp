@@ -182,6 +182,8 @@ Fetched fetch(SerialThread &link, MessagePlace place, int index)
         return fetched;
     }
     listed->index = index;
+    if (boxOfStatus(listed->status) == MessageBox::Inbox)
+        listed->status = 0; // reading it marked it as read, and nobody saw it
     FiledSms filed = fileSms(*listed, place, QDateTime::currentDateTime());
     if (auto *message = std::get_if<Message>(&filed))
         fetched.message = std::move(*message);

@@ -92,9 +92,7 @@ void SmsReception::took(MessagePlace place, const smsjobs::Fetched &fetched)
         m_places->refresh(place); // it may be there all the same
         return;
     }
-    Message message = *fetched.message;
-    message.isRead = false; // reading it from the card marked it there, and nobody saw it
-    announce(keep(message));
+    announce(keep(*fetched.message));
 }
 
 QStringList SmsReception::keep(const Message &message)
@@ -145,8 +143,10 @@ QStringList SmsReception::takenOver(const QStringList &ids)
 
 void SmsReception::announce(const QStringList &ids)
 {
-    for (const QString &id : ids)
-        Q_EMIT sigNewMessage(id);
+    for (const QString &id : ids) {
+        if (const auto message = m_store->find(id); message && !message->isRead)
+            Q_EMIT sigNewMessage(id);
+    }
 }
 
 void SmsReception::takeImmediate(const QByteArray &text)
@@ -155,7 +155,7 @@ void SmsReception::takeImmediate(const QByteArray &text)
         const SmsResult result = decodeSms(report.pdu, SmsDirection::FromNetwork);
         const QString pdu = QString::fromLatin1(report.pdu);
         if (const auto *sms = std::get_if<DecodedSms>(&result))
-            Q_EMIT sigClass0(sms->address, sms->text, pdu);
+            Q_EMIT sigClass0(sms->address, shownText(*sms), pdu);
         else
             Q_EMIT sigClass0({}, std::get<PduError>(result).text(), pdu);
     }
