@@ -4,6 +4,8 @@
 #include "link/serialthread.h"
 #include "shell/commoncfg.h"
 #include "shell/logging.h"
+#include "sms/recipients.h"
+#include "sms/smsdecoder.h"
 #include "sms/smsfiling.h"
 
 #include <QCoreApplication>
@@ -254,15 +256,27 @@ std::optional<QString> write(SerialThread &link, MessagePlace place, const std::
     return {};
 }
 
+QString whyNoCentre(const QString &number)
+{
+    if (SmsDecoder::checkLengthofPhoneNumber(QString(number).remove(u'+')))
+        return {};
+    return QCoreApplication::translate("SmsJobs", "The service centre's number, %1, is too long.")
+        .arg(number);
+}
+
 SentPart send(SerialThread &link, const OutgoingPart &part)
 {
     QString centre = part.serviceCentre;
     if (centre.isEmpty())
         centre = readServiceCentre(link);
-    SM_PARAM record = smParamFor(part.split, part.index, part.recipient, centre.remove(u'+'),
+    const Recipients whom = readRecipients(part.recipient);
+    SentPart sent;
+    sent.fault = whom.error.isEmpty() ? whyNoCentre(centre) : whom.error;
+    if (!sent.fault.isEmpty()) // the encoder would cut them
+        return sent;
+    SM_PARAM record = smParamFor(part.split, part.index, whom.numbers.value(0), centre.remove(u'+'),
                                  part.concatReference, part.asksReport);
     gUnicodeFlag = part.split.alphabet == Alphabet::Ucs2;
-    SentPart sent;
     sent.isSent =
         link.gsmSendMessage(&record, part.split.parts[std::size_t(part.index)], nullptr, &sent.pdu) == 1;
     sent.pdu.remove(QChar(u'\x1a'));

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/commoncfg.h"
+#include "sms/recipients.h"
 #include "sms/ui/channels.h"
 #include "sms/ui/messagecounter.h"
 #include "sms/ui/messagetexts.h"
 #include "sms/ui/mytextedit.h"
-#include "sms/ui/recipients.h"
 #include "sms/ui/templatestore.h"
 
 #include <QDir>
