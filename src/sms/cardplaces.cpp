@@ -5,6 +5,7 @@
 #include "shell/commoncfg.h"
 #include "shell/whendone.h"
 #include "sms/messagestore.h"
+#include "sms/recipients.h"
 #include "sms/sendqueue.h"
 #include "sms/smsfiling.h"
 
@@ -53,16 +54,23 @@ bool hasEmptyEntry(const Message &message)
            std::ranges::any_of(message.parts, [](const MessagePart &part) { return part.pdu.isEmpty(); });
 }
 
-/// Whether the card can keep the whole of it: what came or went has a PDU for each part, a draft goes to one
-/// person and fits.
-bool canBeWritten(const Message &message, const std::vector<smsjobs::OutgoingPart> &drafted)
+/// Why the card cannot keep the whole of it, as a sentence; empty when it can: what came or went has a PDU
+/// for each part, a draft goes to `whom`, one person, and fits.
+QString whyNotWritten(const Message &message, const Recipients &whom, const QString &serviceCentre)
 {
     const auto hasPdu = [](const MessagePart &part) { return !part.pdu.isEmpty(); };
-    const bool isUnderWay =
-        message.state() == DeliveryState::Queued || message.state() == DeliveryState::Sending;
-    if (drafted.empty())
-        return !isUnderWay && !message.parts.empty() && std::ranges::all_of(message.parts, hasPdu);
-    return !isUnderWay && message.recipients.size() <= 1;
+    if (message.state() == DeliveryState::Queued || message.state() == DeliveryState::Sending)
+        return CardPlaces::tr("The message is being sent.");
+    if (!message.parts.empty() && std::ranges::all_of(message.parts, hasPdu))
+        return {};
+    const bool hasNothing = message.isReceived() && message.text().isEmpty();
+    if (hasNothing || std::ranges::any_of(message.parts, hasPdu))
+        return QCoreApplication::translate("SmsJobs", "The message has no content that the card could keep.");
+    if (!whom.error.isEmpty())
+        return whom.error;
+    if (whom.numbers.size() > 1)
+        return CardPlaces::tr("It is for several people, and the card keeps messages for one.");
+    return smsjobs::whyNoCentre(serviceCentre);
 }
 
 void forgetIndices(Message &message)
@@ -301,11 +309,16 @@ void CardPlaces::toCard(const Message &message, MessagePlace to, After after)
         Q_EMIT sigNotice(tr("Only short messages can be kept on the card."));
         return;
     }
-    const auto drafted = draftParts(message, m_serviceCentre);
-    if (!canBeWritten(message, drafted)) {
-        wroteToCard(
-            message, to, after,
-            QCoreApplication::translate("SmsJobs", "The message has no content that the card could keep."));
+    const Recipients whom = readRecipients(message.recipients.join(u','));
+    if (const QString why = whyNotWritten(message, whom, m_serviceCentre); !why.isEmpty()) {
+        wroteToCard(message, to, after, why);
+        return;
+    }
+    Message draft = message;
+    draft.recipients = whom.numbers;
+    const auto drafted = draftParts(draft, m_serviceCentre);
+    if (drafted.empty() && entriesOf(message).empty()) {
+        wroteToCard(message, to, after, MessageService::tr("The text is too long for one message."));
         return;
     }
     const auto job = m_worker.submit([to, drafted, entries = entriesOf(message)](SerialThread &link) mutable {

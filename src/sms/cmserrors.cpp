@@ -121,6 +121,8 @@ constexpr auto causes = std::to_array<Cause>({
     {211, "Memory Capacity Exceeded", QT_TRANSLATE_NOOP("CmsErrors", "The memory for messages is full.")},
     {212, "SIM Application Toolkit Busy", QT_TRANSLATE_NOOP("CmsErrors", "The SIM is busy.")},
     {213, "SIM data download error", QT_TRANSLATE_NOOP("CmsErrors", "The SIM failed.")},
+    {255, "Unspecified error cause",
+     QT_TRANSLATE_NOOP("CmsErrors", "The network refused the message, without saying why.")},
     {300, "ME failure", QT_TRANSLATE_NOOP("CmsErrors", "The card failed.")},
     {301, "SMS service of ME reserved",
      QT_TRANSLATE_NOOP("CmsErrors", "The card's message service is in use.")},
@@ -212,7 +214,8 @@ std::optional<CmsError> cmsErrorIn(const QByteArray &reply)
     bool isNumber = false;
     const int code = refused->detail.toInt(&isNumber);
     const bool isOfEquipment = reply.contains("+CME ERROR:");
-    if (isNumber && code >= 0 && !isOfEquipment)
+    constexpr int mostCode = 0xFFFF; // what a message is filed with; a longer figure stays words
+    if (isNumber && code >= 0 && code <= mostCode && !isOfEquipment)
         return CmsError{code, {}};
     QByteArray words = refused->detail;
     const auto *named = std::ranges::find(equipmentErrors, code, &CodeText::code);

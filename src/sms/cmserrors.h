@@ -10,7 +10,7 @@ namespace corva
 
 /// Why the card or the network refused a message operation. 3GPP TS 27.005 3.2.5.
 struct CmsError {
-    int code = -1;  ///< -1 when the card says it in words
+    int code = -1;  ///< up to 65535; -1 when the card says it in words
     QString detail; ///< the card's own words; empty when it gave a number
     bool operator==(const CmsError &) const = default;
 };

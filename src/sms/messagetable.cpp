@@ -47,7 +47,7 @@ bool isFoundAlike(const Message &one, const Message &other)
 {
     return one.home() == other.home() && one.recipients == other.recipients && one.total == other.total &&
            one.concatReference == other.concatReference && one.is16Bit == other.is16Bit &&
-           one.isBroadcast == other.isBroadcast &&
+           one.isBroadcast == other.isBroadcast && one.channel == other.channel &&
            std::ranges::equal(one.parts, other.parts, {}, &MessagePart::pdu, &MessagePart::pdu);
 }
 
@@ -173,10 +173,11 @@ QList<RecordPtr> MessageTable::atTime(qint64 when) const
 QString MessageTable::longKey(const Message &message) const
 {
     const QString sender = personKeyOf(message.recipients.value(0), m_matchingLength);
-    return u"%1/%2/%3/%4/%5"_s.arg(int(message.home()))
+    return u"%1/%2/%3/%4/%5/%6"_s.arg(int(message.home()))
         .arg(message.concatReference)
         .arg(message.is16Bit)
         .arg(message.total)
+        .arg(message.channel) // pages have no sender but this
         .arg(sender);
 }
 

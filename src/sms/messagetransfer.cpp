@@ -2,6 +2,7 @@
 #include "sms/messagetransfer.h"
 
 #include "shell/safefile.h"
+#include "shell/whendone.h"
 #include "sms/messageexport.h"
 
 #include <QCoreApplication>
@@ -61,8 +62,8 @@ void read(const ImportPtr &import, const QString &path)
 
 void finishWhenStored(const ImportPtr &import, QFuture<bool> stored)
 {
-    stored.then(import->store, [import](bool isStored) {
-        if (!isStored)
+    whenDone(stored, import->store, [import](std::optional<bool> isStored) {
+        if (!isStored.value_or(false))
             import->outcome.error =
                 sentence(QT_TRANSLATE_NOOP("MessageTransfer", "The messages of %1 could not be saved."))
                     .arg(import->name);
@@ -85,13 +86,23 @@ void addSome(const ImportPtr &import)
     QTimer::singleShot(0, import->store, [import] { addSome(import); });
 }
 
+/// What is here already is known only once the store is loaded, and behind what waited for that too.
+void addWhenLoaded(const ImportPtr &import)
+{
+    if (import->store->isLoaded())
+        return addSome(import);
+    constexpr auto onceLater = Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection);
+    QObject::connect(
+        import->store, &MessageStore::sigLoaded, import->store, [import] { addSome(import); }, onceLater);
+}
+
 } // namespace
 
-QFuture<QString> exportMessages(const MessageStore &store, const QStringList &ids, const QString &path)
+QFuture<QString> exportMessages(const std::vector<Message> &messages, const QString &path)
 {
     const auto promise = std::make_shared<QPromise<QString>>();
     promise->start();
-    QThreadPool::globalInstance()->start([promise, path, messages = store.messages(ids)] {
+    QThreadPool::globalInstance()->start([promise, path, messages] {
         const bool isTable = QFileInfo(path).suffix().compare("csv"_L1, Qt::CaseInsensitive) == 0;
         QString error;
         writeFileSafely(path, isTable ? messagesCsv(messages) : messagesJson(messages), &error);
@@ -108,16 +119,17 @@ QFuture<ImportOutcome> importMessages(MessageStore *store, const QString &path)
     import->name = QFileInfo(path).fileName();
     import->promise.start();
     QFuture<ImportOutcome> future = import->promise.future();
-    const auto wasRead = std::make_shared<QPromise<void>>();
+    const auto wasRead = std::make_shared<QPromise<bool>>();
     wasRead->start();
-    wasRead->future().then(store, [import] {
+    whenDone(wasRead->future(), store, [import](std::optional<bool>) {
         if (import->outcome.error.isEmpty())
-            return addSome(import);
+            return addWhenLoaded(import);
         import->outcome.error = import->outcome.error.arg(import->name);
         import->finish();
     });
     QThreadPool::globalInstance()->start([import, wasRead, path] {
         read(import, path);
+        wasRead->addResult(true);
         wasRead->finish();
     });
     return future;

@@ -16,10 +16,10 @@ struct ImportOutcome {
 
 /// Writes messages to a file of the person's, as a table when its name ends in ".csv", else as JSON, on
 /// another thread. The future has a sentence when that failed, empty when the file is there.
-QFuture<QString> exportMessages(const MessageStore &store, const QStringList &ids, const QString &path);
+QFuture<QString> exportMessages(const std::vector<Message> &messages, const QString &path);
 
-/// Reads such a file, whatever its name, on another thread, and adds what is not here yet, some at a time.
-/// Cancelled when the store goes meanwhile.
+/// Reads such a file, whatever its name, on another thread, and adds what is not here yet, some at a time,
+/// once the store is loaded. Done when all is on disk, cancelled when the store goes meanwhile.
 QFuture<ImportOutcome> importMessages(MessageStore *store, const QString &path);
 
 } // namespace corva

@@ -6,6 +6,7 @@
 #include "shell/commoncfg.h"
 #include "shell/logging.h"
 #include "sms/pduidentity.h"
+#include "sms/recipients.h"
 #include "sms/smsfiling.h"
 
 #include <QCoreApplication>
@@ -39,7 +40,7 @@ QString readServiceCentre(SerialThread &link)
     QByteArray text(SerialThread::replyBufferSize, '\0');
     link.get_sms_number(text.data());
     const QString number = parseServiceCentre(text.constData());
-    qCDebug(lcSms).noquote() << u"SMS centre num = %1"_s.arg(number);
+    qCDebug(lcSms).noquote() << logTime() + u"SMS centre num = %1"_s.arg(number);
     return number;
 }
 
@@ -114,6 +115,8 @@ std::optional<Removal> whyNotToRemove(SerialThread &link, int index, const QStri
     const auto read = parseReadSms(reply);
     if (!read)
         return isEmptyPlace(reply) ? Removal::NotThere : Removal::Failed;
+    if (read->pdu.isEmpty()) // which message it is cannot be told
+        return Removal::Failed;
     // A card may put its service centre ahead of what it was given.
     return pduIdentity(QString::fromLatin1(read->pdu)) == pduIdentity(pdu) ? std::nullopt
                                                                            : std::optional(Removal::NotThere);
@@ -152,6 +155,11 @@ QString subscriberOf(SerialThread &link)
     QByteArray text(SerialThread::replyBufferSize, '\0');
     link.getCIMI(text.data());
     return parseImsi(text.constData()).valueOr({});
+}
+
+QString withoutContent()
+{
+    return QCoreApplication::translate("SmsJobs", "The card names the message without its content.");
 }
 
 } // namespace
@@ -231,7 +239,13 @@ Fetched fetch(SerialThread &link, MessagePlace place, int index)
             fetched.fault = whyFailed(link);
         return fetched;
     }
+    if (listed->pdu.isEmpty()) {
+        fetched.fault = withoutContent();
+        return fetched;
+    }
     listed->index = index;
+    if (boxOfStatus(listed->status) == MessageBox::Inbox)
+        listed->status = 0; // reading it marked it as read, and nobody saw it
     const QDateTime now = QDateTime::currentDateTime();
     FiledSms filed = fileSms(*listed, place, now);
     if (auto *message = std::get_if<Message>(&filed))
@@ -250,10 +264,15 @@ Fetched fetchReport(SerialThread &link, Storage storage, int index)
         fetched.fault = whyFailed(link);
         return fetched;
     }
-    if (auto listed = parseReadSms(link.getIndexSms(QByteArray::number(index).constData()))) {
-        listed->index = index;
-        fetched.report = keptReport(storage, *listed, QDateTime::currentDateTime());
+    auto listed = parseReadSms(link.getIndexSms(QByteArray::number(index).constData()));
+    if (!listed)
+        return fetched;
+    if (listed->pdu.isEmpty()) {
+        fetched.fault = withoutContent();
+        return fetched;
     }
+    listed->index = index;
+    fetched.report = keptReport(storage, *listed, QDateTime::currentDateTime());
     return fetched;
 }
 
@@ -295,15 +314,27 @@ std::optional<QString> write(SerialThread &link, MessagePlace place, const std::
     return {};
 }
 
+QString whyNoCentre(const QString &number)
+{
+    if (SmsDecoder::checkLengthofPhoneNumber(QString(number).remove(u'+')))
+        return {};
+    return QCoreApplication::translate("SmsJobs", "The service centre's number, %1, is too long.")
+        .arg(number);
+}
+
 SentPart send(SerialThread &link, const OutgoingPart &part)
 {
     QString centre = part.serviceCentre;
     if (centre.isEmpty())
         centre = readServiceCentre(link);
-    SM_PARAM record = smParamFor(part.split, part.index, part.recipient, centre.remove(u'+'),
+    const Recipients whom = readRecipients(part.recipient);
+    SentPart sent;
+    sent.fault = whom.error.isEmpty() ? whyNoCentre(centre) : whom.error;
+    if (!sent.fault.isEmpty()) // the encoder would cut them
+        return sent;
+    SM_PARAM record = smParamFor(part.split, part.index, whom.numbers.value(0), centre.remove(u'+'),
                                  part.concatReference, part.asksReport);
     gUnicodeFlag = part.split.alphabet == Alphabet::Ucs2;
-    SentPart sent;
     const int result =
         link.gsmSendMessage(&record, part.split.parts[std::size_t(part.index)], nullptr, &sent.pdu);
     sent.pdu.remove(QChar(u'\x1a'));

@@ -108,7 +108,11 @@ struct SentPart {
 };
 SentPart send(SerialThread &link, const OutgoingPart &part);
 
-/// The part as a PDU, without sending it.
+/// Why a service centre of that number cannot be named in a message, as a sentence; empty when it can.
+QString whyNoCentre(const QString &number);
+
+/// The part as a PDU, without sending it. Its recipient is as `readRecipients` gives it, its service centre
+/// is one that can be named.
 QString encode(SerialThread &link, const OutgoingPart &part);
 
 /// Why the last command of the link failed, as a sentence.

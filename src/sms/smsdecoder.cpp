@@ -231,6 +231,11 @@ int SmsDecoder::Decode_BroadCast_PDU(const char *page, SM_PARAM *record)
     return record->tp_udlength;
 }
 
+bool SmsDecoder::checkLengthofPhoneNumber(const QString &number)
+{
+    return number.size() < qsizetype(sizeof(SM_PARAM::TPA));
+}
+
 QDateTime SmsDecoder::fromSctsToDatetime(const QString &scts)
 {
     return corva::localTimeOf(scts, corva::StampOrder::YearFirst);

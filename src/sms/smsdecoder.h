@@ -54,6 +54,9 @@ public:
     /// record.
     static int Decode_BroadCast_PDU(const char *page, SM_PARAM *record);
 
+    /// Whether a number fits into the records of a message: 15 characters at most, a leading "+" among them.
+    static bool checkLengthofPhoneNumber(const QString &number);
+
     /// The local time of a year-first stamp in 20yy, its zone not applied. Invalid when the digits are no
     /// time.
     static QDateTime fromSctsToDatetime(const QString &scts);

@@ -2,11 +2,11 @@
 #include "sms/smsfiling.h"
 
 #include "shell/logging.h"
-#include "sms/smspdu.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -21,12 +21,61 @@ QString sentence(const char *text)
     return QCoreApplication::translate("SmsFiling", text);
 }
 
+/// Why there is no PDU.
+QString whyNothing(MessagePlace place)
+{
+    if (place == MessagePlace::Computer)
+        return sentence(QT_TRANSLATE_NOOP("SmsFiling", "A message came in without its content."));
+    return sentence(QT_TRANSLATE_NOOP("SmsFiling", "The card lists the message without its content."));
+}
+
+struct WaitingTexts {
+    const char *active;
+    const char *over;
+};
+
+/// In the order of `MessageWaiting::Kind`.
+constexpr std::array waitingTexts = std::to_array<WaitingTexts>({
+    {QT_TRANSLATE_NOOP("SmsFiling", "Voice messages are waiting for you."),
+     QT_TRANSLATE_NOOP("SmsFiling", "No voice messages are waiting any more.")},
+    {QT_TRANSLATE_NOOP("SmsFiling", "Faxes are waiting for you."),
+     QT_TRANSLATE_NOOP("SmsFiling", "No faxes are waiting any more.")},
+    {QT_TRANSLATE_NOOP("SmsFiling", "E-mails are waiting for you."),
+     QT_TRANSLATE_NOOP("SmsFiling", "No e-mails are waiting any more.")},
+    {QT_TRANSLATE_NOOP("SmsFiling", "Messages of another kind are waiting for you."),
+     QT_TRANSLATE_NOOP("SmsFiling", "No messages of another kind are waiting any more.")},
+});
+
+/// A notice for the device, with no word for the person.
+bool isBareNotice(const DecodedSms &sms)
+{
+    return sms.waiting && sms.text.trimmed().isEmpty() && !sms.hasCompressed;
+}
+
+/// One to be discarded which only takes an earlier notice back.
+bool saysNothingNew(const DecodedSms &sms)
+{
+    return isBareNotice(sms) && !sms.waiting->isActive && !sms.waiting->isKept;
+}
+
+QString waitingText(const MessageWaiting &waiting)
+{
+    const WaitingTexts &texts = waitingTexts.at(std::size_t(waiting.kind));
+    return sentence(waiting.isActive ? texts.active : texts.over);
+}
+
+bool isPrintable(char octet)
+{
+    const auto code = static_cast<unsigned char>(octet);
+    return octet == '\r' || octet == '\n' || octet == '\t' || (code >= 0x20 && code < 0x7f) || code >= 0xa0;
+}
+
 /// Why a message that could be read has nothing to show.
 QString whyNoText(const DecodedSms &sms)
 {
     if (sms.hasCompressed)
         return sentence(QT_TRANSLATE_NOOP("SmsFiling", "The text is compressed and cannot be shown."));
-    if (sms.alphabet == Alphabet::EightBit && sms.text.isEmpty())
+    if (sms.alphabet == Alphabet::EightBit && shownText(sms).isEmpty())
         return sentence(QT_TRANSLATE_NOOP("SmsFiling", "The message holds data and no text."));
     return {};
 }
@@ -56,7 +105,7 @@ void takeContent(Message &message, const DecodedSms &sms)
     if (sms.time)
         message.time = *sms.time;
     part.sent = message.time;
-    part.text = sms.text;
+    part.text = shownText(sms);
     part.asksReport = message.asksReport = sms.kind == DecodedSms::Submit && sms.asksReport;
     if (sms.kind == DecodedSms::Submit && message.box == MessageBox::Outbox)
         part.state = DeliveryState::Sent;
@@ -67,6 +116,7 @@ void takeContent(Message &message, const DecodedSms &sms)
         part.sequence = sms.concatenation->sequence;
     }
     message.error = whyNoText(sms);
+    message.isRead = message.isRead || saysNothingNew(sms);
 }
 
 } // namespace
@@ -90,6 +140,16 @@ int statusOfBox(MessageBox box, bool isRead)
     }
 }
 
+QString shownText(const DecodedSms &sms)
+{
+    if (isBareNotice(sms))
+        return waitingText(*sms.waiting);
+    if (sms.alphabet == Alphabet::EightBit && !sms.hasCompressed &&
+        std::ranges::all_of(sms.data, isPrintable))
+        return QString::fromLatin1(sms.data);
+    return sms.text;
+}
+
 FiledSms fileSms(const ListedSms &listed, MessagePlace place, const QDateTime &arrived)
 {
     Message message;
@@ -103,10 +163,7 @@ FiledSms fileSms(const ListedSms &listed, MessagePlace place, const QDateTime &a
     const SmsResult result = decodeSms(listed.pdu, SmsDirection::OnCard);
     if (const auto *error = std::get_if<PduError>(&result)) {
         message.box = MessageBox::Inbox;
-        message.error =
-            listed.pdu.isEmpty()
-                ? sentence(QT_TRANSLATE_NOOP("SmsFiling", "The card lists the message without its content."))
-                : error->text();
+        message.error = listed.pdu.isEmpty() ? whyNothing(place) : error->text();
         return message;
     }
     const auto &sms = std::get<DecodedSms>(result);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sms/message.h"
+#include "sms/smspdu.h"
 #include "sms/smsreplies.h"
 
 #include <variant>
@@ -15,11 +16,16 @@ MessageBox boxOfStatus(int status);
 /// The status under which a message is written to the card. 3GPP TS 27.005 3.1 <stat>.
 int statusOfBox(MessageBox box, bool isRead);
 
+/// The text of a message as people see it: also where data is text after all, printable Latin-1 octets, and a
+/// sentence for a notice that something waits, or waits no more, which says nothing else. Empty without any.
+QString shownText(const DecodedSms &sms);
+
 /// What the card holds at one place: a message, or the report about one.
 using FiledSms = std::variant<Message, StatusReport>;
 
 /// A PDU from the card as the store keeps it. What cannot be read is a message in the inbox that says why and
-/// holds the PDU. `arrived` stands in where the PDU tells no time.
+/// holds the PDU. `arrived` stands in where the PDU tells no time. A notice to be discarded which only says
+/// that nothing waits any more counts as read.
 FiledSms fileSms(const ListedSms &listed, MessagePlace place, const QDateTime &arrived);
 
 /// A page of a cell broadcast.

@@ -42,7 +42,7 @@ MessagePlace placeOf(const QString &store)
 
 QString timeText(const QDateTime &time)
 {
-    return time.isValid() ? QLocale().toString(time, QLocale::ShortFormat) : QString();
+    return time.isValid() ? QLocale().toString(time.toLocalTime(), QLocale::ShortFormat) : QString();
 }
 
 } // namespace
@@ -70,7 +70,7 @@ void SmsReception::takeMessages(const QByteArray &text)
         return;
     fileDelivered(parseReportedPdus(text, "+CMT:"));
     for (const StoredReport &report : parseStoredReports(text, "+CMTI:")) {
-        if (goToComputer())
+        if (goToComputer() && report.index >= 0)
             fetch(placeOf(report.store), report.index);
         else
             m_places->refresh(placeOf(report.store)); // which does not mark it as read before it is known
@@ -116,9 +116,7 @@ void SmsReception::took(MessagePlace place, const smsjobs::Fetched &fetched)
         m_places->refresh(place); // it may be there all the same
         return;
     }
-    Message message = *fetched.message;
-    message.isRead = false; // reading it from the card marked it there, and nobody saw it
-    announce(keep(message));
+    announce(keep(*fetched.message));
 }
 
 QStringList SmsReception::keep(const Message &message)
@@ -169,8 +167,10 @@ QStringList SmsReception::takenOver(const QStringList &ids)
 
 void SmsReception::announce(const QStringList &ids)
 {
-    for (const QString &id : ids)
-        Q_EMIT sigNewMessage(id);
+    for (const QString &id : ids) {
+        if (const auto message = m_store->find(id); message && !message->isRead)
+            Q_EMIT sigNewMessage(id);
+    }
 }
 
 void SmsReception::takeImmediate(const QByteArray &text)
@@ -207,8 +207,13 @@ void SmsReception::takeBroadcasts(const QByteArray &text)
 void SmsReception::takeDeliveryReports(const QByteArray &text)
 {
     using smsjobs::Storage;
-    for (const StoredReport &report : parseStoredReports(text, "+CDSI:"))
-        readAndDisplaySmsStatusReport(smsjobs::storageNamed(report.store, Storage::Reports), report.index);
+    for (const StoredReport &report : parseStoredReports(text, "+CDSI:")) {
+        if (report.index >= 0)
+            readAndDisplaySmsStatusReport(smsjobs::storageNamed(report.store, Storage::Reports),
+                                          report.index);
+        else
+            readKeptReports();
+    }
 }
 
 void SmsReception::readAndDisplaySmsStatusReport(smsjobs::Storage storage, int index)

@@ -15,11 +15,22 @@ namespace
 {
 
 constexpr int anyNumber = std::numeric_limits<int>::max();
+/// What a message is filed with; no card has so many places.
+constexpr int mostIndex = 0xFFFF;
 
 bool isPduLine(const QByteArray &line)
 {
     return !line.isEmpty() &&
            std::ranges::all_of(line, [](char c) { return isxdigit(static_cast<unsigned char>(c)) != 0; });
+}
+
+/// Whether the line can only be a PDU that was damaged on its way, by its place behind the line that
+/// announces one: mostly digits, which no result and no other report is.
+bool isDamagedPduLine(const QByteArray &line)
+{
+    const auto digits =
+        std::ranges::count_if(line, [](char c) { return isxdigit(static_cast<unsigned char>(c)) != 0; });
+    return !line.startsWith('+') && digits * 2 > line.size();
 }
 
 /// Whether the line begins a report whose PDU follows on a line of its own.
@@ -43,32 +54,32 @@ int lengthOf(const AtFields &fields, qsizetype at)
 ListedSms listedLine(const QByteArray &line, const QByteArray &pdu)
 {
     const AtFields fields(QByteArrayView(line).sliced(qsizetype(sizeof "+CMGL:" - 1)));
-    const auto index = fields.number(0, 0, anyNumber);
+    const auto index = fields.number(0, 0, mostIndex);
     const auto status = statusOf(fields, 1);
     if (!index || !status)
         return {-1, -1, -1, pdu};
     return {*index, *status, lengthOf(fields, fields.count() > 3 ? 3 : 2), pdu};
 }
 
-std::optional<ListedSms> readLine(const QByteArray &line)
+ListedSms readLine(const QByteArray &line, const QByteArray &pdu)
 {
     const AtFields fields(QByteArrayView(line).sliced(qsizetype(sizeof "+CMGR:" - 1)));
-    const auto status = statusOf(fields, 0);
-    if (!status)
-        return {};
-    return ListedSms{-1, *status, lengthOf(fields, fields.count() > 2 ? 2 : 1), {}};
+    return {-1, statusOf(fields, 0).value_or(-1), lengthOf(fields, fields.count() > 2 ? 2 : 1), pdu};
 }
 
-/// Goes through the lines of a reply and hands each PDU to the line that announced it.
+/// Goes through the lines of a reply and hands each PDU to the line that announced it, nothing to a line that
+/// has none.
 template <typename Take> void forEachPdu(const QByteArray &text, Take take)
 {
     QByteArrayList waiting; // a report may come between a message's line and its PDU
+    bool isDirectlyBehind = false;
     for (const QByteArray &line : replyLines(text)) {
-        if (line.startsWith("+CMGL:") || line.startsWith("+CMGR:") || announcesPdu(line)) {
+        const bool announces = line.startsWith("+CMGL:") || line.startsWith("+CMGR:") || announcesPdu(line);
+        if (announces)
             waiting.append(line);
-        } else if (isPduLine(line) && !waiting.isEmpty()) {
+        else if (!waiting.isEmpty() && (isPduLine(line) || (isDirectlyBehind && isDamagedPduLine(line))))
             take(waiting.takeLast(), line);
-        }
+        isDirectlyBehind = announces;
     }
     for (const QByteArray &line : waiting)
         take(line, QByteArray());
@@ -179,11 +190,8 @@ std::optional<ListedSms> parseReadSms(const QByteArray &reply)
 {
     std::optional<ListedSms> message;
     forEachPdu(reply, [&](const QByteArray &line, const QByteArray &pdu) {
-        if (message || !line.startsWith("+CMGR:") || pdu.isEmpty())
-            return;
-        message = readLine(line);
-        if (message)
-            message->pdu = pdu;
+        if (!message && line.startsWith("+CMGR:"))
+            message = readLine(line, pdu);
     });
     return message;
 }
@@ -192,7 +200,7 @@ std::vector<ReportedPdu> parseReportedPdus(const QByteArray &text, const QByteAr
 {
     std::vector<ReportedPdu> reports;
     forEachPdu(text, [&](const QByteArray &line, const QByteArray &pdu) {
-        if (!line.startsWith(mark) || pdu.isEmpty())
+        if (!line.startsWith(mark))
             return;
         const AtFields fields(QByteArrayView(line).sliced(mark.size()));
         reports.push_back({lengthOf(fields, fields.count() - 1), pdu});
@@ -207,8 +215,7 @@ std::vector<StoredReport> parseStoredReports(const QByteArray &text, const QByte
         if (!line.startsWith(mark))
             continue;
         const AtFields fields(QByteArrayView(line).sliced(mark.size()));
-        if (const auto index = fields.number(1, 0, anyNumber))
-            reports.push_back({QString::fromLatin1(fields.text(0)), *index});
+        reports.push_back({QString::fromLatin1(fields.text(0)), fields.number(1, 0, mostIndex).value_or(-1)});
     }
     return reports;
 }

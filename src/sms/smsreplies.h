@@ -11,11 +11,11 @@ namespace corva
 
 /// A message as the card lists it. 3GPP TS 27.005 3.4.2.
 struct ListedSms {
-    int index;      ///< -1 where the reply names none: in "+CMGR", and in a line that cannot be read
+    int index;      ///< up to 65535; -1 where the reply names none: in "+CMGR", and in an unreadable line
     int status;     ///< 0 received unread, 1 received read, 2 stored unsent, 3 stored sent; else as it came,
                     ///< -1 in a line that cannot be read
     int length;     ///< octets without the service centre, -1 when the card's figure is none
-    QByteArray pdu; ///< hexadecimal text as it came; empty when no PDU line followed
+    QByteArray pdu; ///< hexadecimal text as it came, damaged perhaps; empty when no PDU line followed
     bool operator==(const ListedSms &) const = default;
 };
 
@@ -24,22 +24,23 @@ struct ListedSms {
 /// a usable index or status is a message all the same, one without a place.
 std::vector<ListedSms> parseSmsList(const QByteArray &reply);
 
-/// "+CMGR: <stat>,[<alpha>],<length>" with its PDU; nothing when there is none. 3GPP TS 27.005 3.4.3.
+/// "+CMGR: <stat>,[<alpha>],<length>" with its PDU; nothing without such a line. 3GPP TS 27.005 3.4.3.
 std::optional<ListedSms> parseReadSms(const QByteArray &reply);
 
 /// Reports that bring a PDU along: `mark` is "+CMT:", "+CDS:", "+CBM:" or "+JCLAS:".
 struct ReportedPdu {
-    int length; ///< octets that the card announces, without the service centre; -1 when it announces none
-    QByteArray pdu;
+    int length;     ///< octets that the card announces, without the service centre; -1 when it announces none
+    QByteArray pdu; ///< as in `ListedSms`
     bool operator==(const ReportedPdu &) const = default;
 };
-/// All of them in the text, in order: a message that was delivered directly is nowhere else.
+/// All of them in the text, in order, those too whose PDU did not come: a message that was delivered directly
+/// is nowhere else.
 std::vector<ReportedPdu> parseReportedPdus(const QByteArray &text, const QByteArray &mark);
 
 /// "+CMTI: <mem>,<index>" and "+CDSI: <mem>,<index>". 3GPP TS 27.005 3.4.1.
 struct StoredReport {
     QString store; ///< "SM", "ME", "MT", "SR", ...
-    int index;
+    int index;     ///< up to 65535; -1 when it cannot be read
     bool operator==(const StoredReport &) const = default;
 };
 std::vector<StoredReport> parseStoredReports(const QByteArray &text, const QByteArray &mark);

@@ -118,8 +118,8 @@ private Q_SLOTS:
         QSignalSpy announced(m_service.get(), &MessageService::sigNewMessage);
         tell(R"({"command": "sms", "from": "+4917112345", "text": "Grüße"})");
         tell(R"({"command": "sms", "from": "+4917112345", "text": "zwei"})");
-        tell(
-            R"({"command": "sms", "pdu": "0791947101", "unchecked": true})"); // torn: kept, and shown as such
+        // Torn and damaged: kept, and shown as such.
+        tell(R"({"command": "sms", "pdu": "0791947?01", "unchecked": true})");
         QTRY_COMPARE_WITH_TIMEOUT(inbox(MessagePlace(place)).size(), 3, patience);
         QCOMPARE(announced.size(), 3);
         QStringList texts;
@@ -338,6 +338,45 @@ private Q_SLOTS:
         bring("30"); // announced by "+CDSI", which names the SIM
         QTRY_COMPARE_WITH_TIMEOUT(m_store->ids(MessageBox::Reports).size(), 2, patience);
         QTRY_COMPARE_WITH_TIMEOUT(stored(u"SM"_s), 0, patience);
+    }
+
+    void aDraftForTheSim_data()
+    {
+        QTest::addColumn<QStringList>("written");
+        QTest::addColumn<QString>("refusal"); // empty: it is on the SIM
+        QTest::newRow("a hyphen in the number") << QStringList{u"0171-234"_s} << QString();
+        QTest::newRow("too long") << QStringList{u"+4917112345678901234"_s} << u"is too long"_s;
+        QTest::newRow("two people") << QStringList{u"111"_s, u"222"_s} << u"for several people"_s;
+    }
+    void aDraftForTheSim()
+    {
+        QFETCH(QStringList, written);
+        QFETCH(QString, refusal);
+        begin();
+        Message draft;
+        draft.box = MessageBox::Drafts;
+        draft.recipients = written;
+        draft.parts.emplace_back().text = u"hello"_s;
+        m_service->copyTo(m_store->insert({draft}).ids, MessagePlace::Sim);
+        const auto onSim = [&] {
+            const auto drafts = m_store->messages(m_store->ids(MessageBox::Drafts, MessagePlace::Sim));
+            return drafts.empty() ? QString() : drafts.front().recipients.value(0);
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(onSim(), refusal.isEmpty() ? u"0171234"_s : QString(), patience);
+        QVERIFY2(m_notices.join(u' ').contains(refusal), qPrintable(m_notices.join(u' ')));
+        QCOMPARE(stored(u"SM"_s), refusal.isEmpty() ? 1 : 0);
+    }
+
+    void aServiceCentreThatIsTooLong()
+    {
+        begin();
+        m_service->setServiceCentre(u"1234567890123456"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(m_service->serviceCentre().size(), 16, patience);
+        QSignalSpy summary(m_service.get(), &MessageService::sigSendSummary);
+        m_service->send({{u"10086"_s}, u"hello"_s, false, {}});
+        QTRY_COMPARE_WITH_TIMEOUT(summary.size(), 1, patience);
+        QVERIFY2(m_notices.join(u' ').contains(u"is too long"), qPrintable(m_notices.join(u' ')));
+        QCOMPARE(sent(), 0);
     }
 
     void anotherMessageAtTheSamePlace()

@@ -86,6 +86,7 @@ private Q_SLOTS:
         row("a wide reference of that value", [](Message &m) { m.is16Bit = true; });
         row("another reference", [](Message &m) { m.concatReference = 8; });
         row("another sender", [](Message &m) { m.recipients = {u"+49170999999"_s}; });
+        row("another channel", [](Message &m) { m.channel = 51; });
         row("a place that is taken", [](Message &m) { m.parts[0].sequence = 1; });
     }
 

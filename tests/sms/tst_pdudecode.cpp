@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sms/gsmalphabet.h"
 #include "sms/smsdecoder.h"
+#include "sms/smsfiling.h"
 #include "sms/smspdu.h"
 
 #include <QRegularExpression>
@@ -173,6 +174,33 @@ private Q_SLOTS:
                  (MessageWaiting{MessageWaiting::VoiceMail, true, false}));
         QCOMPARE(decoded(deliver("D2", "00")).waiting, (MessageWaiting{MessageWaiting::Email, false, true}));
         QCOMPARE(decoded(deliver("E9", "00")).waiting, (MessageWaiting{MessageWaiting::Fax, true, true}));
+    }
+
+    void filed_data()
+    {
+        QTest::addColumn<QByteArray>("pdu");
+        QTest::addColumn<QString>("text"); // empty: the reason why there is none
+        QTest::addColumn<bool>("isNew");
+        const auto row = [](const char *name, const QByteArray &pdu, const QString &text, bool isNew = true) {
+            QTest::newRow(name) << pdu << text << isNew;
+        };
+        row("voice mail waits", deliver("C8", "00"), u"Voice messages are waiting for you."_s);
+        row("e-mail waits no more, kept", deliver("D2", "00"), u"No e-mails are waiting any more."_s);
+        row("faxes wait no more", deliver("C1", "00"), u"No faxes are waiting any more."_s, false);
+        row("nothing waits, with words", deliver("C0", "05E8329BFD06"), u"hello"_s);
+        row("data that is text", deliver("04", "05410D0A42E9"), u"A\r\nB\u00E9"_s);
+        row("data", deliver("04", "03410042"), {});
+    }
+    void filed()
+    {
+        QFETCH(QByteArray, pdu);
+        QFETCH(QString, text);
+        const FiledSms filed = fileSms({-1, 0, -1, pdu}, MessagePlace::Computer, {});
+        const auto *message = std::get_if<Message>(&filed);
+        QVERIFY(message);
+        QCOMPARE(message->text(), text);
+        QCOMPARE(message->error.isEmpty(), !text.isEmpty());
+        QTEST(!message->isRead, "isNew");
     }
 
     void addresses_data()

@@ -42,6 +42,13 @@ private Q_SLOTS:
                                  << QByteArray("1,1,9:00AA 2,1,-1:");
         QTest::newRow("no numbers") << QByteArray("+CMGL: a,b,,c\r\n00AA\r\n+CMGL: 2,1,,9\r\n00BB\r\nOK\r\n")
                                     << QByteArray("-1,-1,-1:00AA 2,1,9:00BB");
+        QTest::newRow("a PDU that was damaged on its way")
+            << QByteArray("+CMGL: 1,1,,9\r\n07A?91\r\n+CMGL: 2,1,,9\r\n00BB\r\nOK\r\n")
+            << QByteArray("1,1,9:07A?91 2,1,9:00BB");
+        QTest::newRow("a report of letters between line and PDU")
+            << QByteArray("+CMGL: 1,1,,9\r\nANSWER\r\n00AA\r\nOK\r\n") << QByteArray("1,1,9:00AA");
+        QTest::newRow("a place that no card has")
+            << QByteArray("+CMGL: 65536,1,,9\r\n00AA\r\nOK\r\n") << QByteArray("-1,-1,-1:00AA");
     }
     void lists()
     {
@@ -58,7 +65,9 @@ private Q_SLOTS:
         const auto read = parseReadSms("AT+CMGR=3\r\r\n+CMGR: 0,\"Doe\",24\r\n07AA\r\n\r\nOK\r\n");
         QVERIFY(read);
         QCOMPARE(*read, (ListedSms{-1, 0, 24, "07AA"}));
-        QVERIFY(!parseReadSms("\r\nOK\r\n")); // an empty place
+        QCOMPARE(parseReadSms("+CMGR: 0,,24\r\n07.A\r\n\r\nOK\r\n"), (ListedSms{-1, 0, 24, "07.A"}));
+        QCOMPARE(parseReadSms("+CMGR: x,,24\r\nOK\r\n"), (ListedSms{-1, -1, 24, {}})); // no empty place
+        QVERIFY(!parseReadSms("\r\nOK\r\n"));
         QVERIFY(!parseReadSms("\r\n+CMS ERROR: 321\r\n"));
     }
 
@@ -66,10 +75,11 @@ private Q_SLOTS:
     {
         const QByteArray text =
             "\r\n+CMT: ,24\r\n07AA\r\n\r\n+CMTI: \"SM\",3\r\n\r\nRING\r\n\r\n+CMT: \"Doe\",25\r\n07BB\r\n"
-            "\r\n+CMTI: \"ME\",14\r\n+CMT: ,20\r\n";
-        QCOMPARE(parseReportedPdus(text, "+CMT:"), (std::vector<ReportedPdu>{{24, "07AA"}, {25, "07BB"}}));
+            "\r\n+CMTI: \"ME\",70000\r\n+CMT: ,20\r\n07?C\r\n+CMT: ,20\r\n";
+        QCOMPARE(parseReportedPdus(text, "+CMT:"),
+                 (std::vector<ReportedPdu>{{24, "07AA"}, {25, "07BB"}, {20, "07?C"}, {20, {}}}));
         QCOMPARE(parseStoredReports(text, "+CMTI:"),
-                 (std::vector<StoredReport>{{u"SM"_s, 3}, {u"ME"_s, 14}}));
+                 (std::vector<StoredReport>{{u"SM"_s, 3}, {u"ME"_s, -1}}));
         QCOMPARE(parseReportedPdus("+CBM: 88\r\n0010\r\n", "+CBM:"),
                  (std::vector<ReportedPdu>{{88, "0010"}}));
         QCOMPARE(parseReportedPdus("+JCLAS: 1,,30\r\n07CC\r\n", "+JCLAS:"),
@@ -131,6 +141,7 @@ private Q_SLOTS:
         QCOMPARE(cmsErrorIn("\r\n+CMS ERROR: 322\r\n"), std::optional(CmsError{322, {}}));
         QCOMPARE(cmsErrorIn("\r\nERROR\r\n"), std::optional(CmsError{-1, {}}));
         QCOMPARE(cmsErrorIn("\r\n+CMS ERROR: Memory full\r\n"), std::optional(CmsError{322, {}}));
+        QCOMPARE(cmsErrorIn("\r\n+CMS ERROR: 65536\r\n"), std::optional(CmsError{-1, u"65536"_s}));
         QCOMPARE(cmsErrorIn("\r\n+CME ERROR: 14\r\n"), std::optional(CmsError{314, {}}));
         QCOMPARE(cmsErrorIn("\r\n+CME ERROR: 9999\r\n"), std::optional(CmsError{-1, u"9999"_s}));
         QCOMPARE(cmsErrorText({322, {}}), u"The memory for messages is full."_s);

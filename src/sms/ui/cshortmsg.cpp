@@ -14,7 +14,6 @@
 #include "sms/ui/messageprint.h"
 #include "sms/ui/messagetexts.h"
 #include "sms/ui/readingpane.h"
-#include "sms/ui/recipients.h"
 #include "sms/ui/sendbar.h"
 #include "sms/ui/servicecentredialog.h"
 #include "sms/ui/threadpane.h"
@@ -71,11 +70,6 @@ CShortMsg::CShortMsg(const PageInfo &info, MessageService *service, MessageQueue
     addShortcuts();
     openView(m_boxes->view());
     setBadge(unreadBadge(*service->store()));
-}
-
-bool CShortMsg::checkLengthofPhoneNumber(const QString &number)
-{
-    return isSoundLength(number);
 }
 
 void CShortMsg::build()

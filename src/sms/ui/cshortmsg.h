@@ -37,9 +37,6 @@ public:
     /// Lists the SIM and the card anew.
     void refresh() override;
 
-    /// Whether a number fits into a message: 15 characters at most, a leading "+" among them.
-    static bool checkLengthofPhoneNumber(const QString &number);
-
 public Q_SLOTS:
     /// Begins a message.
     void write(const QStringList &recipients = {}, const QString &text = {});

@@ -3,8 +3,8 @@
 
 #include "sms/messageservice.h"
 #include "sms/messagestore.h"
+#include "sms/recipients.h"
 #include "sms/ui/messagetexts.h"
-#include "sms/ui/recipients.h"
 #include "widgets/messagequeue.h"
 
 #include <QClipboard>

@@ -1,19 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sms/ui/messageexchange.h"
 
-#include "shell/safefile.h"
 #include "shell/whendone.h"
-#include "sms/messageexport.h"
 #include "sms/messagestore.h"
+#include "sms/messagetransfer.h"
 
 #include <QDate>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QPromise>
 #include <QStandardPaths>
-#include <QThreadPool>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -22,22 +18,6 @@ namespace corva
 
 namespace
 {
-
-constexpr qint64 largestFile = 256'000'000;
-
-/// The result of a function that runs on another thread.
-template <typename Function> auto elsewhere(Function function)
-{
-    using Result = decltype(function());
-    auto promise = std::make_shared<QPromise<Result>>();
-    promise->start();
-    QFuture<Result> future = promise->future();
-    QThreadPool::globalInstance()->start([promise, function = std::move(function)] {
-        promise->addResult(function());
-        promise->finish();
-    });
-    return future;
-}
 
 QFileDialog *fileDialog(QWidget *parent, const QString &title, const QString &objectName)
 {
@@ -75,13 +55,7 @@ void MessageExchange::exportMessages(const QStringList &ids)
 
 void MessageExchange::write(const QString &path, const std::vector<Message> &messages)
 {
-    const auto writing = elsewhere([path, messages] {
-        const bool isJson = path.endsWith(".json"_L1, Qt::CaseInsensitive);
-        QString error;
-        const bool isWritten =
-            writeFileSafely(path, isJson ? messagesJson(messages) : messagesCsv(messages), &error);
-        return isWritten ? QString() : error;
-    });
+    const auto writing = corva::exportMessages(messages, path);
     whenDone(writing, this, [this, path, count = int(messages.size())](const std::optional<QString> &error) {
         const QString shown = QDir::toNativeSeparators(path);
         Q_EMIT sigSaid(error && error->isEmpty()
@@ -101,20 +75,20 @@ void MessageExchange::importMessages()
 
 void MessageExchange::read(const QString &path)
 {
-    const auto reading = elsewhere([path] { return parseExport(readAtMost(path, largestFile)); });
-    whenDone(reading, this, [this](const std::optional<ExportedMessages> &file) {
-        if (!file || !file->isKnown) {
-            Q_EMIT sigSaid(tr("The file holds no messages that can be read."));
-            return;
-        }
-        const MessageStore::Imported imported = m_store->import(file->messages);
-        QStringList sentences{tr("%n messages were added.", nullptr, imported.added)};
-        if (imported.present > 0)
-            sentences += tr("%n were here already.", nullptr, imported.present);
-        if (file->unreadable > 0)
-            sentences += tr("%n could not be read.", nullptr, file->unreadable);
-        Q_EMIT sigSaid(sentences.join(u' '));
+    whenDone(corva::importMessages(m_store, path), this, [this](const std::optional<ImportOutcome> &outcome) {
+        if (outcome)
+            Q_EMIT sigSaid(outcome->error.isEmpty() ? sentenceFor(*outcome) : outcome->error);
     });
+}
+
+QString MessageExchange::sentenceFor(const ImportOutcome &outcome)
+{
+    QStringList sentences{tr("%n messages were added.", nullptr, outcome.added)};
+    if (outcome.present > 0)
+        sentences += tr("%n were here already.", nullptr, outcome.present);
+    if (outcome.unreadable > 0)
+        sentences += tr("%n could not be read.", nullptr, outcome.unreadable);
+    return sentences.join(u' ');
 }
 
 } // namespace corva

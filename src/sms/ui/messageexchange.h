@@ -11,8 +11,9 @@ namespace corva
 {
 
 class MessageStore;
+struct ImportOutcome;
 
-/// Messages to a file and from one, by dialogs of the page. Files are read and written on another thread.
+/// Messages to a file and from one, by dialogs of the page.
 class MessageExchange final : public QObject
 {
     Q_OBJECT
@@ -26,12 +27,13 @@ public:
     void importMessages();
 
 Q_SIGNALS:
-    /// What came of it.
+    /// What came of it; of an import once it is on disk.
     void sigSaid(const QString &sentence);
 
 private:
     void write(const QString &path, const std::vector<Message> &messages);
     void read(const QString &path);
+    static QString sentenceFor(const ImportOutcome &outcome);
 
     MessageStore *m_store;
     QWidget *m_page;

@@ -25,6 +25,14 @@ constexpr int fewestLines = 3;
 constexpr int mostLines = 30;
 constexpr int usualLines = 5;
 
+/// What the encoder makes of a value that is none of the choices: no number is the first of them.
+QString sentPeriod()
+{
+    constexpr int longest = 3;
+    const int period = cmcfg.getNumber(sms, u"validPeriod"_s);
+    return QString::number(period >= 0 && period < longest ? period : longest);
+}
+
 } // namespace
 
 MessageSettings::MessageSettings(QWidget *parent) : SettingsPage(parent)
@@ -47,7 +55,7 @@ void MessageSettings::buildSending(QVBoxLayout *layout)
                                                {QT_TR_NOOP("24 hours"), u"1"_s},
                                                {QT_TR_NOOP("1 week"), u"2"_s},
                                                {QT_TR_NOOP("As long as it may"), u"3"_s}},
-                                              u"3"_s),
+                                              sentPeriod()),
                                 this));
     layout->addWidget(captioned(tr("National &letters"),
                                 settingChoice({sms, u"specialcode"_s},

@@ -2,7 +2,7 @@
 #include "sms/ui/servicecentredialog.h"
 
 #include "sms/messageservice.h"
-#include "sms/ui/recipients.h"
+#include "sms/recipients.h"
 #include "widgets/buttonkind.h"
 #include "widgets/formfield.h"
 #include "widgets/textlabel.h"

@@ -2,10 +2,10 @@
 #include "sms/ui/threadpane.h"
 
 #include "sms/messageservice.h"
+#include "sms/recipients.h"
 #include "sms/ui/actionbutton.h"
 #include "sms/ui/bubbledelegate.h"
 #include "sms/ui/messageactions.h"
-#include "sms/ui/recipients.h"
 #include "sms/ui/threadmodel.h"
 #include "widgets/buttonkind.h"
 #include "widgets/textlabel.h"

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/commoncfg.h"
+#include "shell/globals.h"
+#include "sms/recipients.h"
 #include "sms/ui/channels.h"
 #include "sms/ui/messagecounter.h"
+#include "sms/ui/messagesettings.h"
 #include "sms/ui/messagetexts.h"
 #include "sms/ui/mytextedit.h"
-#include "sms/ui/recipients.h"
 #include "sms/ui/templatestore.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -21,7 +24,11 @@ class TestMessageParts : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QDir::setCurrent(m_folder.path()); }
+    void initTestCase()
+    {
+        QDir::setCurrent(m_folder.path());
+        basePath = m_folder.path();
+    }
     void recipients_data();
     void recipients();
     void channels_data();
@@ -32,6 +39,7 @@ private Q_SLOTS:
     void directions();
     void templatesOutliveTheProgram();
     void brokenTemplatesAreKept();
+    void theValidityThatIsSent();
 
 private:
     QTemporaryDir m_folder;
@@ -165,6 +173,18 @@ void TestMessageParts::brokenTemplatesAreKept()
     QString error;
     QVERIFY2(store.add(u"New"_s, &error), qPrintable(error));
     QCOMPARE(QDir(m_folder.filePath(u"broken"_s)).entryList({u"templates.json.broken-*"_s}).size(), 1);
+}
+
+void TestMessageParts::theValidityThatIsSent()
+{
+    const QStringList kept{u""_s, u"soon"_s, u"01"_s, u"2"_s, u"7"_s};
+    QStringList shown;
+    for (const QString &value : kept) {
+        cmcfg.setValue(u"sms"_s, u"validPeriod"_s, value);
+        const MessageSettings settings(nullptr);
+        shown += settings.findChild<QComboBox *>(u"validPeriod"_s)->currentData().toString();
+    }
+    QCOMPARE(shown, (QStringList{u"0"_s, u"0"_s, u"1"_s, u"2"_s, u"3"_s}));
 }
 
 QTEST_MAIN(TestMessageParts)

@@ -6,9 +6,6 @@
 namespace corva
 {
 
-/// Whether a number has at most 15 characters, a leading "+" among them.
-bool isSoundLength(const QString &number);
-
 /// What a person wrote into the field of recipients.
 struct Recipients {
     QStringList numbers; ///< digits, with "+" in front where it was written; each once
@@ -17,7 +14,8 @@ struct Recipients {
 };
 
 /// Numbers parted by commas or semicolons. Blanks, hyphens, brackets, dots and marks of writing direction
-/// are left out, digits of other scripts become those of ASCII; anything else is refused.
+/// are left out, digits of other scripts become those of ASCII; anything else is refused, and what is too
+/// long for `SmsDecoder::checkLengthofPhoneNumber`.
 Recipients readRecipients(const QString &text);
 
 /// The numbers as they stand in the field.

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "sms/ui/recipients.h"
+#include "sms/recipients.h"
+
+#include "sms/smsdecoder.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>
@@ -14,7 +16,7 @@ namespace corva
 namespace
 {
 
-constexpr qsizetype longestNumber = 15;
+constexpr qsizetype longestNumber = sizeof(SM_PARAM::TPA) - 1;
 
 bool isLeftOut(char32_t character)
 {
@@ -61,7 +63,7 @@ QString addNumber(const QString &written, QStringList &to)
     if (number == u'+')
         return text(QT_TRANSLATE_NOOP("Recipients", "\"%1\" is no number: the digits are missing."))
             .arg(written);
-    if (!isSoundLength(number))
+    if (!SmsDecoder::checkLengthofPhoneNumber(number))
         return text(
                    QT_TRANSLATE_NOOP("Recipients", "\"%1\" is too long: a number has %2 characters at most."))
             .arg(written, QString::number(longestNumber));
@@ -71,11 +73,6 @@ QString addNumber(const QString &written, QStringList &to)
 }
 
 } // namespace
-
-bool isSoundLength(const QString &number)
-{
-    return number.size() <= longestNumber;
-}
 
 Recipients readRecipients(const QString &written)
 {
