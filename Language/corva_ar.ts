@@ -826,7 +826,13 @@
     </message>
     <message>
         <source>Sent</source>
+        <comment>box</comment>
         <translation>مُرسلة</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <comment>state</comment>
+        <translation>أُرسلت</translation>
     </message>
     <message>
         <source>Drafts</source>

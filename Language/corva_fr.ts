@@ -822,6 +822,12 @@
     </message>
     <message>
         <source>Sent</source>
+        <comment>box</comment>
+        <translation>Envoyés</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <comment>state</comment>
         <translation>Envoyé</translation>
     </message>
     <message>

@@ -822,6 +822,12 @@
     </message>
     <message>
         <source>Sent</source>
+        <comment>box</comment>
+        <translation>Enviadas</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <comment>state</comment>
         <translation>Enviado</translation>
     </message>
     <message>

@@ -821,7 +821,13 @@
     </message>
     <message>
         <source>Sent</source>
+        <comment>box</comment>
         <translation>Gönderilmiş</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <comment>state</comment>
+        <translation>Gönderildi</translation>
     </message>
     <message>
         <source>Drafts</source>
