@@ -77,8 +77,7 @@ std::vector<Conversation> conversationsOf(const MessageTable &computer, const Me
     }
     const qsizetype mirrored = records.size();
     records += computer.records();
-    std::ranges::inplace_merge(records.begin(), records.begin() + mirrored, records.end(),
-                               std::ranges::greater(), &MessageRecord::when);
+    std::ranges::inplace_merge(records.begin(), records.begin() + mirrored, records.end(), isAhead);
     Conversations conversations;
     for (const RecordPtr &record : records) {
         if (isSpoken(record->message))

@@ -20,8 +20,7 @@ QList<RecordPtr> allOf(const QList<const MessageTable *> &tables)
     for (const MessageTable *table : tables) {
         QList<RecordPtr> merged;
         merged.reserve(all.size() + table->records().size());
-        std::ranges::merge(all, table->records(), std::back_inserter(merged), std::ranges::greater(),
-                           &MessageRecord::when, &MessageRecord::when);
+        std::ranges::merge(all, table->records(), std::back_inserter(merged), isAhead);
         all = std::move(merged);
     }
     return all;

@@ -14,6 +14,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <chrono>
+#include <iterator>
 #include <mutex>
 
 using namespace Qt::StringLiterals;
@@ -543,6 +544,30 @@ QStringList MessageStore::ids(MessagePlace place) const
             ids += record->message.id;
     }
     return ids;
+}
+
+QStringList MessageStore::ids(const std::function<bool(const Message &)> &isWanted) const
+{
+    QList<RecordPtr> wanted;
+    qsizetype middle = 0;
+    for (const MessageTable *table : {&d->computer, &d->mirror}) {
+        middle = wanted.size();
+        std::ranges::copy_if(table->records(), std::back_inserter(wanted),
+                             [&](const RecordPtr &record) { return isWanted(record->message); });
+    }
+    std::ranges::inplace_merge(wanted.begin(), wanted.begin() + middle, wanted.end(), corva::isAhead);
+    QStringList ids;
+    ids.reserve(wanted.size());
+    for (const RecordPtr &record : wanted)
+        ids += record->message.id;
+    return ids;
+}
+
+bool MessageStore::isAhead(const QString &id, const QString &other) const
+{
+    const RecordPtr one = d->find(id);
+    const RecordPtr next = d->find(other);
+    return one && next && corva::isAhead(one, next);
 }
 
 int MessageStore::unreadCount(MessageBox box, MessagePlace place) const

@@ -31,13 +31,6 @@ QString searchedText(const Message &message)
     return foldedText(message.recipients.join(u'\n') + u'\n' + message.text());
 }
 
-/// The newest first, what came last among those of one moment; the id so that the order is one at all.
-bool isAhead(const RecordPtr &one, const RecordPtr &other)
-{
-    return std::tie(one->when, one->arrived, one->message.id) >
-           std::tie(other->when, other->arrived, other->message.id);
-}
-
 /// Whether the search finds both alike.
 bool readsAlike(const Message &one, const Message &other)
 {
@@ -81,6 +74,12 @@ const QString &MessageRecord::folded() const
 {
     std::call_once(m_folded->once, [this] { m_folded->text = searchedText(message); });
     return m_folded->text;
+}
+
+bool isAhead(const RecordPtr &one, const RecordPtr &other)
+{
+    return std::tie(one->when, one->arrived, one->message.id) >
+           std::tie(other->when, other->arrived, other->message.id);
 }
 
 QString newMessageId()

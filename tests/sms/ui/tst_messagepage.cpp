@@ -160,8 +160,15 @@ void TestMessagePage::listFollowsTheStore()
     QTRY_VERIFY(rows().contains(u"hello world"_s));
     QCOMPARE(rows(NoteRole).join(QString()), QString());
 
-    m_store->replaceMirror(MessagePlace::Sim, {received(u"+494"_s, u"on the SIM"_s, 25)});
+    // Of one moment with "between": what arrived last stands ahead.
+    Message onSim = received(u"+494"_s, u"on the SIM"_s, 20);
+    onSim.arrived = onSim.arrived.addSecs(1);
+    m_store->replaceMirror(MessagePlace::Sim, {onSim});
     QTRY_COMPARE(rows().at(1), u"on the SIM"_s);
+    open({.filter = {.box = MessageBox::Sent}});
+    open({});
+    QCOMPARE(rows().at(1), u"on the SIM"_s);
+    choose(3);
     m_store->replaceMirror(MessagePlace::Sim, {});
     QTRY_VERIFY(!rows().contains(u"on the SIM"_s));
     QCOMPARE(rows().at(list()->currentIndex().row()), u"old"_s);
@@ -392,6 +399,10 @@ void TestMessagePage::immediateMessagesQueueUp()
     QCOMPARE(text->toPlainText(), u"Operator :\n one"_s);
     dialog->findChild<QPushButton *>(u"class0Keep"_s)->click();
     QCOMPARE(text->toPlainText(), u"Operator :\n two"_s);
+    const QString data = u"000405810180F600F44250302100008003010203"_s;
+    Q_EMIT m_service->sigClass0(u"Operator"_s, QString(), data);
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    QCOMPARE(text->toPlainText(), u"Operator :\n This message cannot be read"_s);
     QTest::keyClick(dialog, Qt::Key_Escape);
     QVERIFY(!dialog->isVisible());
     QTRY_COMPARE(texts(MessageBox::Inbox), QStringList{u"one"_s});
