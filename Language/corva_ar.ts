@@ -3431,10 +3431,6 @@ to %2</source>
         <source>Exported messages (*.csv *.json)</source>
         <translation>رسائل مُصدَّرة ‏(*.csv *.json)</translation>
     </message>
-    <message>
-        <source>The file holds no messages that can be read.</source>
-        <translation>لا يحتوي الملف على رسائل يمكن قراءتها.</translation>
-    </message>
     <message numerus="yes">
         <source>%n messages were added.</source>
         <translation>

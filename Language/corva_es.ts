@@ -3383,10 +3383,6 @@ a %2</translation>
         <source>Exported messages (*.csv *.json)</source>
         <translation>Mensajes exportados (*.csv *.json)</translation>
     </message>
-    <message>
-        <source>The file holds no messages that can be read.</source>
-        <translation>El archivo no contiene mensajes que se puedan leer.</translation>
-    </message>
     <message numerus="yes">
         <source>%n messages were added.</source>
         <translation>

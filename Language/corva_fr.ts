@@ -3383,10 +3383,6 @@ au %2</translation>
         <source>Exported messages (*.csv *.json)</source>
         <translation>Messages exportés (*.csv *.json)</translation>
     </message>
-    <message>
-        <source>The file holds no messages that can be read.</source>
-        <translation>Le fichier ne contient aucun message lisible.</translation>
-    </message>
     <message numerus="yes">
         <source>%n messages were added.</source>
         <translation>

@@ -3371,10 +3371,6 @@ Bitiş: %2</translation>
         <source>Exported messages (*.csv *.json)</source>
         <translation>Dışa aktarılmış mesajlar (*.csv *.json)</translation>
     </message>
-    <message>
-        <source>The file holds no messages that can be read.</source>
-        <translation>Dosyada okunabilen mesaj yok.</translation>
-    </message>
     <message numerus="yes">
         <source>%n messages were added.</source>
         <translation>

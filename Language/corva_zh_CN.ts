@@ -3371,10 +3371,6 @@ to %2</source>
         <source>Exported messages (*.csv *.json)</source>
         <translation>已导出的短信 (*.csv *.json)</translation>
     </message>
-    <message>
-        <source>The file holds no messages that can be read.</source>
-        <translation>文件中没有可读取的短信。</translation>
-    </message>
     <message numerus="yes">
         <source>%n messages were added.</source>
         <translation>

@@ -1,19 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sms/ui/messageexchange.h"
 
-#include "shell/safefile.h"
 #include "shell/whendone.h"
-#include "sms/messageexport.h"
 #include "sms/messagestore.h"
+#include "sms/messagetransfer.h"
 
 #include <QDate>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QPromise>
 #include <QStandardPaths>
-#include <QThreadPool>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -22,22 +18,6 @@ namespace corva
 
 namespace
 {
-
-constexpr qint64 largestFile = 256'000'000;
-
-/// The result of a function that runs on another thread.
-template <typename Function> auto elsewhere(Function function)
-{
-    using Result = decltype(function());
-    auto promise = std::make_shared<QPromise<Result>>();
-    promise->start();
-    QFuture<Result> future = promise->future();
-    QThreadPool::globalInstance()->start([promise, function = std::move(function)] {
-        promise->addResult(function());
-        promise->finish();
-    });
-    return future;
-}
 
 QFileDialog *fileDialog(QWidget *parent, const QString &title, const QString &objectName)
 {
@@ -68,21 +48,14 @@ void MessageExchange::exportMessages(const QStringList &ids)
         dialog->setDefaultSuffix(suffix);
         dialog->selectFile(QFileInfo(dialog->selectedFiles().value(0)).completeBaseName() + u'.' + suffix);
     });
-    connect(dialog, &QFileDialog::fileSelected, this,
-            [this, messages = m_store->messages(ids)](const QString &path) { write(path, messages); });
+    connect(dialog, &QFileDialog::fileSelected, this, [this, ids](const QString &path) { write(path, ids); });
     dialog->open();
 }
 
-void MessageExchange::write(const QString &path, const std::vector<Message> &messages)
+void MessageExchange::write(const QString &path, const QStringList &ids)
 {
-    const auto writing = elsewhere([path, messages] {
-        const bool isJson = path.endsWith(".json"_L1, Qt::CaseInsensitive);
-        QString error;
-        const bool isWritten =
-            writeFileSafely(path, isJson ? messagesJson(messages) : messagesCsv(messages), &error);
-        return isWritten ? QString() : error;
-    });
-    whenDone(writing, this, [this, path, count = int(messages.size())](const std::optional<QString> &error) {
+    const auto written = corva::exportMessages(*m_store, ids, path);
+    whenDone(written, this, [this, path, count = int(ids.size())](const std::optional<QString> &error) {
         const QString shown = QDir::toNativeSeparators(path);
         Q_EMIT sigSaid(error && error->isEmpty()
                            ? tr("%n messages were written to %1.", nullptr, count).arg(shown)
@@ -95,24 +68,22 @@ void MessageExchange::importMessages()
     QFileDialog *dialog = fileDialog(m_page, tr("Import messages"), u"importDialog"_s);
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setNameFilter(tr("Exported messages (*.csv *.json)"));
-    connect(dialog, &QFileDialog::fileSelected, this, &MessageExchange::read);
+    connect(dialog, &QFileDialog::fileSelected, this, &MessageExchange::importFrom);
     dialog->open();
 }
 
-void MessageExchange::read(const QString &path)
+void MessageExchange::importFrom(const QString &path)
 {
-    const auto reading = elsewhere([path] { return parseExport(readAtMost(path, largestFile)); });
-    whenDone(reading, this, [this](const std::optional<ExportedMessages> &file) {
-        if (!file || !file->isKnown) {
-            Q_EMIT sigSaid(tr("The file holds no messages that can be read."));
+    whenDone(corva::importMessages(m_store, path), this, [this](const std::optional<ImportOutcome> &outcome) {
+        if (!outcome)
             return;
-        }
-        const MessageStore::Imported imported = m_store->import(file->messages);
-        QStringList sentences{tr("%n messages were added.", nullptr, imported.added)};
-        if (imported.present > 0)
-            sentences += tr("%n were here already.", nullptr, imported.present);
-        if (file->unreadable > 0)
-            sentences += tr("%n could not be read.", nullptr, file->unreadable);
+        QStringList sentences{outcome->error};
+        if (outcome->error.isEmpty())
+            sentences = {tr("%n messages were added.", nullptr, outcome->added)};
+        if (outcome->present > 0)
+            sentences += tr("%n were here already.", nullptr, outcome->present);
+        if (outcome->unreadable > 0)
+            sentences += tr("%n could not be read.", nullptr, outcome->unreadable);
         Q_EMIT sigSaid(sentences.join(u' '));
     });
 }

@@ -24,14 +24,15 @@ public:
     void exportMessages(const QStringList &ids);
     /// Asks for a file that was exported, here or elsewhere.
     void importMessages();
+    /// Takes in such a file.
+    void importFrom(const QString &path);
 
 Q_SIGNALS:
     /// What came of it.
     void sigSaid(const QString &sentence);
 
 private:
-    void write(const QString &path, const std::vector<Message> &messages);
-    void read(const QString &path);
+    void write(const QString &path, const QStringList &ids);
 
     MessageStore *m_store;
     QWidget *m_page;
