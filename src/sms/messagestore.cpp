@@ -591,6 +591,14 @@ std::vector<Message> MessageStore::messages(const QStringList &ids) const
     return messages;
 }
 
+void MessageStore::visit(const QStringList &ids, const std::function<void(const Message &)> &look) const
+{
+    for (const QString &id : ids) {
+        if (const RecordPtr record = d->find(id))
+            look(record->message);
+    }
+}
+
 QStringList MessageStore::search(const QString &text) const
 {
     QStringList ids;

@@ -102,6 +102,8 @@ public:
     bool isAhead(const QString &id, const QString &other) const;
     int unreadCount(MessageBox box, MessagePlace place = MessagePlace::Computer) const;
     std::vector<Message> messages(const QStringList &ids) const;
+    /// The same, each where it is: many are not copied for a look.
+    void visit(const QStringList &ids, const std::function<void(const Message &)> &look) const;
 
     /// Messages of all boxes and places in which each word occurs, in text, number or name, whatever its case
     /// and accents. The newest first; all of them for an empty text.
