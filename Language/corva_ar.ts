@@ -826,7 +826,13 @@
     </message>
     <message>
         <source>Sent</source>
+        <comment>box</comment>
         <translation>مُرسلة</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <comment>state</comment>
+        <translation>أُرسلت</translation>
     </message>
     <message>
         <source>Drafts</source>
@@ -3424,10 +3430,6 @@ to %2</source>
     <message>
         <source>Exported messages (*.csv *.json)</source>
         <translation>رسائل مُصدَّرة ‏(*.csv *.json)</translation>
-    </message>
-    <message>
-        <source>The file holds no messages that can be read.</source>
-        <translation>لا يحتوي الملف على رسائل يمكن قراءتها.</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were added.</source>

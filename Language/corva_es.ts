@@ -822,6 +822,12 @@
     </message>
     <message>
         <source>Sent</source>
+        <comment>box</comment>
+        <translation>Enviados</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <comment>state</comment>
         <translation>Enviado</translation>
     </message>
     <message>
@@ -2206,7 +2212,7 @@
     </message>
     <message>
         <source>The card did not answer in time. It is not known whether it took the entry; the attempts left are shown as far as the card tells them.</source>
-        <translation>La módem no respondió a tiempo. No se sabe si aceptó lo introducido; los intentos restantes se muestran si la tarjeta los indica.</translation>
+        <translation>La tarjeta no respondió a tiempo. No se sabe si aceptó lo introducido; los intentos restantes se muestran si la tarjeta los indica.</translation>
     </message>
     <message>
         <source>The SIM card is still starting. Try again in a moment.</source>
@@ -3376,10 +3382,6 @@ a %2</translation>
     <message>
         <source>Exported messages (*.csv *.json)</source>
         <translation>Mensajes exportados (*.csv *.json)</translation>
-    </message>
-    <message>
-        <source>The file holds no messages that can be read.</source>
-        <translation>El archivo no contiene mensajes que se puedan leer.</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were added.</source>

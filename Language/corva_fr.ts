@@ -822,6 +822,12 @@
     </message>
     <message>
         <source>Sent</source>
+        <comment>box</comment>
+        <translation>Envoyés</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <comment>state</comment>
         <translation>Envoyé</translation>
     </message>
     <message>
@@ -3376,10 +3382,6 @@ au %2</translation>
     <message>
         <source>Exported messages (*.csv *.json)</source>
         <translation>Messages exportés (*.csv *.json)</translation>
-    </message>
-    <message>
-        <source>The file holds no messages that can be read.</source>
-        <translation>Le fichier ne contient aucun message lisible.</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were added.</source>

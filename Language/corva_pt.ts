@@ -822,6 +822,12 @@
     </message>
     <message>
         <source>Sent</source>
+        <comment>box</comment>
+        <translation>Enviadas</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <comment>state</comment>
         <translation>Enviado</translation>
     </message>
     <message>
@@ -3376,10 +3382,6 @@ a %2</translation>
     <message>
         <source>Exported messages (*.csv *.json)</source>
         <translation>Mensagens exportadas (*.csv *.json)</translation>
-    </message>
-    <message>
-        <source>The file holds no messages that can be read.</source>
-        <translation>O ficheiro não contém mensagens que possam ser lidas.</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were added.</source>

@@ -821,7 +821,13 @@
     </message>
     <message>
         <source>Sent</source>
+        <comment>box</comment>
         <translation>Gönderilmiş</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <comment>state</comment>
+        <translation>Gönderildi</translation>
     </message>
     <message>
         <source>Drafts</source>
@@ -3364,10 +3370,6 @@ Bitiş: %2</translation>
     <message>
         <source>Exported messages (*.csv *.json)</source>
         <translation>Dışa aktarılmış mesajlar (*.csv *.json)</translation>
-    </message>
-    <message>
-        <source>The file holds no messages that can be read.</source>
-        <translation>Dosyada okunabilen mesaj yok.</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were added.</source>

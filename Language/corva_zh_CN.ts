@@ -821,6 +821,12 @@
     </message>
     <message>
         <source>Sent</source>
+        <comment>box</comment>
+        <translation>已发送</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <comment>state</comment>
         <translation>已发送</translation>
     </message>
     <message>
@@ -3364,10 +3370,6 @@ to %2</source>
     <message>
         <source>Exported messages (*.csv *.json)</source>
         <translation>已导出的短信 (*.csv *.json)</translation>
-    </message>
-    <message>
-        <source>The file holds no messages that can be read.</source>
-        <translation>文件中没有可读取的短信。</translation>
     </message>
     <message numerus="yes">
         <source>%n messages were added.</source>

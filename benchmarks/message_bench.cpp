@@ -2,6 +2,7 @@
 // The message store with 20,000 messages, each with its PDU.
 #include "row.h"
 #include "sms/messagestore.h"
+#include "storedmessages.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
@@ -12,44 +13,6 @@ using namespace corva;
 
 namespace
 {
-
-constexpr int storedMessages = 20'000;
-const QDateTime begin({2024, 5, 3}, {12, 0, 0}, Qt::OffsetFromUTC, 7200);
-
-/// Words of a text that is as long as most are.
-QString textOf(int number)
-{
-    static const QStringList words = u"tomorrow Straße meeting günstig 12:30 crème the train привет from "
-                                     "you платформа later ok station call München"_s.split(u' ');
-    QString text = QString::number(number);
-    for (int i = 0; text.size() < 60 + number % 90; ++i)
-        text += u' ' + words.at((number * 7 + i * 5) % words.size());
-    return text;
-}
-
-Message messageOf(int number)
-{
-    MessagePart part;
-    part.text = textOf(number);
-    part.pdu = u"07919471060040340404"_s +
-               QString::fromLatin1((part.text.toUtf8() + QByteArray::number(number)).toHex().toUpper());
-    part.sent = begin.addSecs(number * 600);
-    Message message;
-    message.recipients = {u"+49171%1"_s.arg(1'000'000 + number % 300)};
-    message.serviceCentre = u"+491710760000"_s;
-    message.time = part.sent;
-    message.arrived = part.sent.addSecs(3);
-    message.isRead = true;
-    message.parts = {part};
-    if (number % 4 == 0) {
-        message.box = MessageBox::Sent;
-        message.parts[0].state = DeliveryState::Delivered;
-        message.parts[0].reference = number % 256;
-        message.parts[0].reported = part.sent.addSecs(5);
-        message.parts[0].statusOctet = 0;
-    }
-    return message;
-}
 
 /// Runs the event loop until it holds; returns the longest time that one round of it took.
 Clock::duration longestRoundUntil(auto &&holds)
@@ -68,14 +31,7 @@ Clock::duration longestRoundUntil(auto &&holds)
 const QString &fullFolder()
 {
     static const QTemporaryDir folder;
-    static const bool isFilled = [] {
-        MessageStore store(folder.path(), 9);
-        std::vector<Message> messages;
-        for (int i = 0; i < storedMessages; ++i)
-            messages.push_back(messageOf(i));
-        store.add(std::move(messages));
-        return store.flush();
-    }();
+    static const bool isFilled = fillStore(folder.path(), storedMessages);
     static const QString path = isFilled ? folder.path() : QString();
     return path;
 }

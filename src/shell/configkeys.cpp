@@ -41,7 +41,7 @@ constexpr ConfigKey keys[] = {
     {"fontsetting"_L1, "splash_fontname"_L1, Text, ""_L1, "Font family of the splash. Empty: the program's."_L1},
     {"fontsetting"_L1, "splash_fontsize"_L1, Number, "10"_L1, "Font size of the splash, in points. 0: the program's."_L1},
     {"fontsetting"_L1, "mainwindow_fontname"_L1, Text, ""_L1, "Font family of the main window. Empty: the program's."_L1},
-    {"fontsetting"_L1, "mainwindow_fontsize"_L1, Number, "0"_L1, "Font size of the main window, in points. 0: the skin's."_L1},
+    {"fontsetting"_L1, "mainwindow_fontsize"_L1, Number, "0"_L1, "Font size of the main window, in points, 6 to 24. 0: the skin's."_L1},
     {"fontsetting"_L1, "phonewindow_fontname"_L1, Text, ""_L1, "Font family of the contacts. Empty: the program's."_L1},
 
     {"resource_position"_L1, "tooltipLabel_y"_L1, Pixels, "0"_L1, "Shows tool tips so far below their usual place; above it when negative."_L1},

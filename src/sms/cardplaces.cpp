@@ -363,7 +363,11 @@ void CardPlaces::takeFromCard(const QStringList &copies, const Message &original
 
 void CardPlaces::finishTaking()
 {
-    for (const Message &message : m_store->messages(m_store->ids(MessagePlace::Computer))) {
+    const auto isToBeTaken = [](const Message &message) {
+        const auto liesThere = [](const MessagePart &part) { return part.storageIndex >= 0; };
+        return !isOnCard(message) && std::ranges::any_of(message.parts, liesThere);
+    };
+    for (const Message &message : m_store->messages(m_store->ids(isToBeTaken))) {
         for (const MessagePart &part : message.parts) {
             if (part.storageIndex < 0)
                 continue;

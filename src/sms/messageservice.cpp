@@ -7,6 +7,7 @@
 #include "shell/commoncfg.h"
 #include "shell/whendone.h"
 #include "sms/cardplaces.h"
+#include "sms/markqueue.h"
 #include "sms/messagestore.h"
 #include "sms/sendqueue.h"
 #include "sms/smsreception.h"
@@ -73,6 +74,7 @@ public:
     CardPlaces places;
     SmsReception reception;
     SendQueue queue;
+    MarkQueue marks;
     NameLookup lookup;
     QString serviceCentre;
     /// What was removed together.
@@ -93,7 +95,7 @@ public:
 MessageService::Private::Private(MessageService *service, CardMonitor *cardMonitor,
                                  MessageStore *messageStore)
     : q(service), monitor(cardMonitor), store(messageStore), places(monitor->worker(), store, q),
-      reception(monitor->worker(), store, &places, q), queue(monitor->worker(), store, q)
+      reception(monitor->worker(), store, &places, q), queue(monitor->worker(), store, q), marks(store)
 {
     reception.setNameLookup([this](const QString &number) { return q->nameFor(number); });
 }
@@ -353,7 +355,7 @@ bool MessageService::undoRemoval()
 
 void MessageService::setRead(const QStringList &ids, bool isRead)
 {
-    d->store->setRead(ids, isRead);
+    d->marks.mark(ids, isRead);
 }
 
 QList<int> MessageService::broadcastChannels() const

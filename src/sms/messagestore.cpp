@@ -14,6 +14,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <chrono>
+#include <iterator>
 #include <mutex>
 
 using namespace Qt::StringLiterals;
@@ -545,6 +546,30 @@ QStringList MessageStore::ids(MessagePlace place) const
     return ids;
 }
 
+QStringList MessageStore::ids(const std::function<bool(const Message &)> &isWanted) const
+{
+    QList<RecordPtr> wanted;
+    qsizetype middle = 0;
+    for (const MessageTable *table : {&d->computer, &d->mirror}) {
+        middle = wanted.size();
+        std::ranges::copy_if(table->records(), std::back_inserter(wanted),
+                             [&](const RecordPtr &record) { return isWanted(record->message); });
+    }
+    std::ranges::inplace_merge(wanted.begin(), wanted.begin() + middle, wanted.end(), corva::isAhead);
+    QStringList ids;
+    ids.reserve(wanted.size());
+    for (const RecordPtr &record : wanted)
+        ids += record->message.id;
+    return ids;
+}
+
+bool MessageStore::isAhead(const QString &id, const QString &other) const
+{
+    const RecordPtr one = d->find(id);
+    const RecordPtr next = d->find(other);
+    return one && next && corva::isAhead(one, next);
+}
+
 int MessageStore::unreadCount(MessageBox box, MessagePlace place) const
 {
     const auto isCounted = [&](const RecordPtr &record) {
@@ -564,6 +589,14 @@ std::vector<Message> MessageStore::messages(const QStringList &ids) const
             messages.push_back(record->message);
     }
     return messages;
+}
+
+void MessageStore::visit(const QStringList &ids, const std::function<void(const Message &)> &look) const
+{
+    for (const QString &id : ids) {
+        if (const RecordPtr record = d->find(id))
+            look(record->message);
+    }
 }
 
 QStringList MessageStore::search(const QString &text) const

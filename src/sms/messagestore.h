@@ -96,8 +96,14 @@ public:
     QStringList ids(MessageBox box, MessagePlace place = MessagePlace::Computer) const;
     /// All of a place, `Deleted` and `Reports` included. The newest first.
     QStringList ids(MessagePlace place) const;
+    /// Of all places, each that is wanted. The newest first, of those of one moment what arrived last.
+    QStringList ids(const std::function<bool(const Message &)> &isWanted) const;
+    /// Whether the first one stands ahead of the other in these lists. False for what is not there.
+    bool isAhead(const QString &id, const QString &other) const;
     int unreadCount(MessageBox box, MessagePlace place = MessagePlace::Computer) const;
     std::vector<Message> messages(const QStringList &ids) const;
+    /// The same, each where it is: many are not copied for a look.
+    void visit(const QStringList &ids, const std::function<void(const Message &)> &look) const;
 
     /// Messages of all boxes and places in which each word occurs, in text, number or name, whatever its case
     /// and accents. The newest first; all of them for an empty text.

@@ -36,6 +36,10 @@ private:
 };
 using RecordPtr = std::shared_ptr<const MessageRecord>;
 
+/// The order of all lists: the newest first, of those of one moment what arrived last; the id so that the
+/// order is one at all.
+bool isAhead(const RecordPtr &one, const RecordPtr &other);
+
 /// What a received part is recognised by when it comes again.
 QString partIdentity(const Message &message, const MessagePart &part);
 /// Whether it comes from the network and would be the same message if it came again: what we sent ourselves

@@ -23,7 +23,7 @@ namespace
 {
 
 constexpr qint64 largestFile = 512LL * 1024 * 1024;
-constexpr size_t addedAtOnce = 500; ///< what takes a few milliseconds
+constexpr size_t addedAtOnce = 200; ///< what takes a few milliseconds
 
 QString sentence(const char *text)
 {

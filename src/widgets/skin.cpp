@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QWidget>
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -143,8 +144,11 @@ QFont skinFont(TextRole role)
         font.setFamily(comcfg.fontFamily);
 
     constexpr qreal pointsPerPixel = 72.0 / 96.0;
+    constexpr int smallestPoints = 6;
+    constexpr int largestPoints = 24;
     const int configured = cmcfg.getNumber(u"fontsetting"_s, u"mainwindow_fontsize"_s);
-    const qreal textPoints = configured > 0 ? configured : comcfg.textSize * pointsPerPixel;
+    const qreal textPoints = configured > 0 ? std::clamp(configured, smallestPoints, largestPoints)
+                                            : comcfg.textSize * pointsPerPixel;
     font.setPointSizeF(textPoints * pixelsOf(role) / comcfg.textSize);
     font.setWeight(role == TextRole::Title || role == TextRole::Strong ? QFont::DemiBold : QFont::Normal);
     return font;

@@ -73,7 +73,7 @@ QPalette skinPalette(const SkinArea &area);
 
 /// The family is key "mainwindow_fontname" of section "fontsetting", else the skin's, else the application's.
 /// The skin's sizes are pixels at 96 dpi and grow with the desktop's text scaling; "mainwindow_fontsize"
-/// (points) replaces the text size.
+/// (points, 6 to 24) replaces the text size.
 QFont skinFont(TextRole role);
 
 /// Makes the whole application take on what `comcfg` holds now; every widget gets a style change event.

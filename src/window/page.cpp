@@ -52,12 +52,4 @@ void Page::addAction(QAbstractButton *button)
     m_titleRow->addWidget(button);
 }
 
-void Page::setBadge(const QString &badge)
-{
-    if (m_badge == badge)
-        return;
-    m_badge = badge;
-    Q_EMIT sigBadgeChanged(badge);
-}
-
 } // namespace corva

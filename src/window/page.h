@@ -31,28 +31,21 @@ public:
     explicit Page(const PageInfo &info, QWidget *parent = nullptr);
 
     const PageInfo &info() const { return m_info; }
-    const QString &badge() const { return m_badge; }
 
     /// Fetches the shown data anew, beside the card's state ("F5").
     virtual void refresh() {}
-
-Q_SIGNALS:
-    /// What stands behind the title in the navigation: a number of new things, or nothing.
-    void sigBadgeChanged(const QString &badge);
 
 protected:
     /// One sentence below the title, for pages that need it.
     void setAbout(const QString &sentence);
     /// Adds a button to the end of the title row. At most one of them is primary.
     void addAction(QAbstractButton *button);
-    void setBadge(const QString &badge);
     /// Where the page puts its content. It reaches `metrics::HalfGrid` over the title's edges, so that what
     /// scrolls has room for the focus ring: a page insets its content by as much.
     QVBoxLayout *body() { return m_body; }
 
 private:
     PageInfo m_info;
-    QString m_badge;
     TextLabel *m_about;
     QHBoxLayout *m_titleRow;
     QVBoxLayout *m_body;

@@ -33,9 +33,6 @@ Page *PageHost::build(const PageEntry &entry)
 {
     Page *page = entry.create(entry.info, m_context, this);
     addWidget(page);
-    connect(page, &Page::sigBadgeChanged, this,
-            [this, id = entry.info.id](const QString &badge) { Q_EMIT sigBadgeChanged(id, badge); });
-    Q_EMIT sigBadgeChanged(entry.info.id, page->badge());
     return page;
 }
 

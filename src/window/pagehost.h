@@ -32,7 +32,6 @@ public:
 Q_SIGNALS:
     /// `pageId` is empty for the diagnosis.
     void sigOpened(const QString &pageId);
-    void sigBadgeChanged(const QString &pageId, const QString &badge);
     /// The person left the diagnosis.
     void sigDiagnosisLeft();
 

@@ -185,7 +185,6 @@ void WTMainWindow::connectParts()
     connect(m_topBar, &TopBar::sigFillScreen, this, &WTMainWindow::fillScreen);
     connect(m_navigation, &Navigation::sigChosen, this, &WTMainWindow::showPage);
     connect(m_pages, &PageHost::sigOpened, m_navigation, &Navigation::setCurrent);
-    connect(m_pages, &PageHost::sigBadgeChanged, m_navigation, &Navigation::setBadge);
     connect(m_pages, &PageHost::sigDiagnosisLeft, m_navigation, &Navigation::takeFocus);
     connect(m_strip, &StatusStrip::sigWhy, this, &WTMainWindow::showOfflinePanel);
     connect(m_mender, &Mender::sigSaid, m_strip, &StatusStrip::say);

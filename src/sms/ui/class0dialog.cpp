@@ -3,6 +3,8 @@
 
 #include "shell/commoncfg.h"
 #include "sms/messagestore.h"
+#include "sms/smsfiling.h"
+#include "sms/ui/messagetexts.h"
 #include "sms/ui/plaintextview.h"
 #include "widgets/buttonkind.h"
 #include "widgets/skin.h"
@@ -24,6 +26,7 @@ constexpr int fewestLines = 3;
 constexpr int mostLines = 30;
 constexpr int charactersWide = 44;
 
+/// As it is kept. One without a text says why, as it would among the others.
 Message keptMessage(const Class0Dialog::Entry &entry)
 {
     Message message;
@@ -34,7 +37,17 @@ Message keptMessage(const Class0Dialog::Entry &entry)
     part.pdu = entry.pdu;
     part.text = entry.text;
     message.parts = {part};
+    if (entry.text.isEmpty()) {
+        const FiledSms filed = fileSms({-1, 1, -1, entry.pdu.toLatin1()}, message.place, message.arrived);
+        if (const auto *read = std::get_if<Message>(&filed))
+            message.error = read->error;
+    }
     return message;
+}
+
+QString shownText(const Class0Dialog::Entry &entry)
+{
+    return entry.text.isEmpty() ? previewOf(keptMessage(entry)) : entry.text;
 }
 
 } // namespace
@@ -93,7 +106,8 @@ void Class0Dialog::showFirst()
 {
     const Entry &entry = m_entries.front();
     const auto behind = int(m_entries.size()) - 1;
-    if (const QString text = tr("%1 :\n %2").arg(entry.sender, entry.text); m_text->toPlainText() != text)
+    if (const QString text = tr("%1 :\n %2").arg(entry.sender, shownText(entry));
+        m_text->toPlainText() != text)
         m_text->setText(text);
     m_waiting->setText(behind > 0 ? tr("%n more", nullptr, behind) : QString());
     m_close->setText(behind > 0 ? tr("&Next") : tr("&Close"));

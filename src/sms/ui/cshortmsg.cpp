@@ -69,7 +69,6 @@ CShortMsg::CShortMsg(const PageInfo &info, MessageService *service, MessageQueue
     connectService();
     addShortcuts();
     openView(m_boxes->view());
-    setBadge(unreadBadge(*service->store()));
 }
 
 void CShortMsg::build()
@@ -161,15 +160,10 @@ void CShortMsg::connectParts()
 void CShortMsg::connectService()
 {
     const MessageStore *store = m_service->store();
-    const auto count = [this, store] { setBadge(unreadBadge(*store)); };
-    for (const auto signal : {&MessageStore::sigAdded, &MessageStore::sigChanged, &MessageStore::sigRemoved})
-        connect(store, signal, this, count);
-    connect(store, &MessageStore::sigLoaded, this, count);
     connect(store, &MessageStore::sigLoaded, m_browser, &MessageBrowser::retell);
     connect(store, &MessageStore::sigChanged, this, [this](const QStringList &ids) {
-        const QStringList chosen = m_browser->chosen();
-        if (!m_isWriting && chosen.size() == 1 && ids.contains(chosen.front()))
-            showChosen(chosen);
+        if (!m_isWriting && m_detail->currentWidget() == m_reading && ids.contains(m_reading->shown()))
+            showChosen({m_reading->shown()});
     });
     connect(m_service, &MessageService::sigPlaceChanged, this, &CShortMsg::showPlace);
     connect(m_service, &MessageService::sigNotice, this, [this](const QString &text) { say(text, false); });
@@ -300,9 +294,10 @@ void CShortMsg::showChosen(const QStringList &ids)
 void CShortMsg::markRead(const QStringList &ids)
 {
     QStringList unread;
-    for (const Message &message : m_service->store()->messages(ids))
+    m_service->store()->visit(ids, [&](const Message &message) {
         if (message.isReceived() && !message.isRead)
             unread += message.id;
+    });
     if (!unread.isEmpty())
         m_service->setRead(unread, true);
 }

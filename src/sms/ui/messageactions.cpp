@@ -30,6 +30,30 @@ bool isDeleted(const Message &message)
     return message.box == MessageBox::Deleted;
 }
 
+/// What decides what can be done with the chosen ones.
+struct Chosen {
+    int count = 0;
+    int deleted = 0;
+    bool hasFailed = false;
+    bool hasRead = false; ///< of those that are received and not deleted
+    bool hasUnread = false;
+};
+
+Chosen lookAt(const MessageStore &store, const QStringList &ids)
+{
+    Chosen chosen;
+    store.visit(ids, [&](const Message &message) {
+        ++chosen.count;
+        chosen.deleted += isDeleted(message);
+        const DeliveryState state = message.state();
+        chosen.hasFailed |= state == DeliveryState::Failed || state == DeliveryState::Unsure;
+        const bool mayBeMarked = message.isReceived() && !isDeleted(message);
+        chosen.hasRead |= mayBeMarked && message.isRead;
+        chosen.hasUnread |= mayBeMarked && !message.isRead;
+    });
+    return chosen;
+}
+
 } // namespace
 
 MessageActions::MessageActions(MessageService *service, MessageQueue *messages, QObject *parent)
@@ -47,8 +71,10 @@ MessageActions::MessageActions(MessageService *service, MessageQueue *messages, 
       m_print(add(tr("&Print…"), QKeySequence::Print, &MessageActions::printChosen))
 {
     follow();
-    const MessageStore *store = service->store();
-    connect(store, &MessageStore::sigChanged, this, &MessageActions::follow);
+    m_following.setSingleShot(true);
+    m_following.setInterval(0);
+    connect(&m_following, &QTimer::timeout, this, &MessageActions::follow);
+    connect(service->store(), &MessageStore::sigChanged, &m_following, qOverload<>(&QTimer::start));
 }
 
 QAction *MessageActions::add(const QString &text, const QKeySequence &keys, void (MessageActions::*act)())
@@ -79,25 +105,20 @@ std::vector<Message> MessageActions::messages() const
 
 void MessageActions::follow()
 {
-    const std::vector<Message> chosen = messages();
-    const auto any = [&](auto &&is) { return std::any_of(chosen.begin(), chosen.end(), is); };
-    const bool isOne = chosen.size() == 1;
-    const bool isDraft = isOne && chosen.front().box == MessageBox::Drafts;
+    const Chosen chosen = lookAt(*m_service->store(), m_ids);
+    const auto one = chosen.count == 1 ? m_service->store()->find(m_ids.front()) : std::nullopt;
+    const bool isDraft = one && one->box == MessageBox::Drafts;
     m_edit->setVisible(isDraft);
     m_reply->setVisible(!isDraft);
-    m_reply->setEnabled(isOne && canBeAnswered(chosen.front()));
-    m_forward->setEnabled(isOne && !chosen.front().text().isEmpty());
-    m_restore->setVisible(!chosen.empty() && std::all_of(chosen.begin(), chosen.end(), isDeleted));
-    m_retry->setVisible(any([](const Message &m) {
-        return m.state() == DeliveryState::Failed || m.state() == DeliveryState::Unsure;
-    }));
-    const auto mayBeMarked = [](const Message &m) { return m.isReceived() && !isDeleted(m); };
-    m_read->setEnabled(any([&](const Message &m) { return mayBeMarked(m) && !m.isRead; }));
-    m_unread->setEnabled(any([&](const Message &m) { return mayBeMarked(m) && m.isRead; }));
-    m_remove->setText(chosen.size() > 1 ? tr("De&lete %n messages", nullptr, int(chosen.size()))
-                                        : tr("De&lete"));
+    m_reply->setEnabled(one && canBeAnswered(*one));
+    m_forward->setEnabled(one && !one->text().isEmpty());
+    m_restore->setVisible(chosen.count > 0 && chosen.deleted == chosen.count);
+    m_retry->setVisible(chosen.hasFailed);
+    m_read->setEnabled(chosen.hasUnread);
+    m_unread->setEnabled(chosen.hasRead);
+    m_remove->setText(chosen.count > 1 ? tr("De&lete %n messages", nullptr, chosen.count) : tr("De&lete"));
     for (QAction *action : {m_remove, m_copy, m_export, m_print})
-        action->setEnabled(!chosen.empty());
+        action->setEnabled(chosen.count > 0);
 }
 
 void MessageActions::fill(QMenu *menu)

@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QObject>
+#include <QTimer>
 
 class QMenu;
 
@@ -64,6 +65,7 @@ private:
     MessageService *m_service;
     MessageQueue *m_messages;
     QStringList m_ids;
+    QTimer m_following;
     QAction *m_reply;
     QAction *m_edit;
     QAction *m_forward;

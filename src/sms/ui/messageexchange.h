@@ -25,15 +25,21 @@ public:
     void exportMessages(const QStringList &ids);
     /// Asks for a file that was exported, here or elsewhere.
     void importMessages();
+    /// Takes in such a file.
+    void importFrom(const QString &path);
 
 Q_SIGNALS:
     /// What came of it; of an import once it is on disk.
     void sigSaid(const QString &sentence);
 
 private:
+<<<<<<< HEAD
     void write(const QString &path, const std::vector<Message> &messages);
     void read(const QString &path);
     static QString sentenceFor(const ImportOutcome &outcome);
+=======
+    void write(const QString &path, const QStringList &ids);
+>>>>>>> w5-window
 
     MessageStore *m_store;
     QWidget *m_page;

@@ -19,8 +19,6 @@ namespace
 
 constexpr qsizetype mostRowByRow = 500; ///< beyond that a new list is quicker
 
-constexpr MessagePlace places[] = {MessagePlace::Computer, MessagePlace::Sim, MessagePlace::Card};
-
 struct IconRow {
     DeliveryState state;
     QLatin1StringView icon;
@@ -133,35 +131,7 @@ QStringList MessageListModel::wanted() const
 {
     if (!m_filter.words.isEmpty())
         return m_store->search(m_filter.words);
-    switch (m_filter.kind) {
-    case MessageFilter::Kind::Box: return inAllPlaces(m_filter.box);
-    case MessageFilter::Kind::Place: return m_store->ids(m_filter.place);
-    case MessageFilter::Kind::Broadcasts: return inAllPlaces(MessageBox::Inbox);
-    }
-    return {};
-}
-
-QStringList MessageListModel::inAllPlaces(MessageBox box) const
-{
-    struct Entry {
-        QDateTime time;
-        QString id;
-    };
-    std::vector<Entry> merged;
-    for (const MessagePlace place : places) {
-        const auto middle = std::ptrdiff_t(merged.size());
-        const std::vector<Message> messages = m_store->messages(m_store->ids(box, place));
-        for (const Message &message : messages)
-            if (isWanted(message))
-                merged.push_back({message.time, message.id});
-        std::inplace_merge(merged.begin(), merged.begin() + middle, merged.end(),
-                           [](const Entry &a, const Entry &b) { return a.time > b.time; });
-    }
-    QStringList ids;
-    ids.reserve(qsizetype(merged.size()));
-    for (const Entry &entry : merged)
-        ids += entry.id;
-    return ids;
+    return m_store->ids([this](const Message &message) { return isWanted(message); });
 }
 
 bool MessageListModel::isWanted(const Message &message) const
@@ -174,14 +144,12 @@ bool MessageListModel::isWanted(const Message &message) const
     return message.box == m_filter.box && (!message.isBroadcast || message.box != MessageBox::Inbox);
 }
 
-/// Where a message of its time belongs.
-int MessageListModel::placeFor(const Message &message) const
+int MessageListModel::placeFor(const QString &id) const
 {
-    const auto isNewer = [this](const QString &id, const QDateTime &time) {
-        const auto other = m_store->find(id);
-        return other && other->time > time;
+    const auto isAhead = [this](const QString &one, const QString &other) {
+        return m_store->isAhead(one, other);
     };
-    return int(std::lower_bound(m_ids.begin(), m_ids.end(), message.time, isNewer) - m_ids.begin());
+    return int(std::lower_bound(m_ids.begin(), m_ids.end(), id, isAhead) - m_ids.begin());
 }
 
 void MessageListModel::load()
@@ -192,19 +160,17 @@ void MessageListModel::load()
     endResetModel();
 }
 
-bool MessageListModel::isInOrder(int row, const Message &message) const
+bool MessageListModel::isInOrder(int row, const QString &id) const
 {
-    const auto before = m_store->find(idAt(row - 1));
-    const auto behind = m_store->find(idAt(row + 1));
-    return (!before || before->time >= message.time) && (!behind || message.time >= behind->time);
+    return !m_store->isAhead(id, idAt(row - 1)) && !m_store->isAhead(idAt(row + 1), id);
 }
 
-void MessageListModel::insert(const std::vector<Message> &messages)
+void MessageListModel::insert(const QStringList &ids)
 {
-    for (const Message &message : messages) {
-        const int row = placeFor(message);
+    for (const QString &id : ids) {
+        const int row = placeFor(id);
         beginInsertRows({}, row, row);
-        m_ids.insert(row, message.id);
+        m_ids.insert(row, id);
         m_rows.clear();
         endInsertRows();
     }
@@ -237,19 +203,19 @@ void MessageListModel::takeChanged(const QStringList &ids)
     }
     const bool isSearch = !m_filter.words.isEmpty();
     std::vector<int> leaving;
-    std::vector<Message> coming;
+    QStringList coming;
     for (const QString &id : ids) {
         const auto message = m_store->find(id);
         const int row = rowOf(id);
         const bool isThere = row >= 0;
         const bool belongs = message && (isSearch ? isThere : isWanted(*message));
-        const bool stays = isThere && belongs && isInOrder(row, *message);
+        const bool stays = isThere && belongs && isInOrder(row, id);
         if (stays)
             Q_EMIT dataChanged(index(row), index(row));
         if (isThere && !stays)
             leaving.push_back(row);
         if (belongs && !stays)
-            coming.push_back(*message);
+            coming += id;
     }
     remove(std::move(leaving));
     insert(coming);

@@ -49,12 +49,11 @@ public:
 
 private:
     QStringList wanted() const;
-    QStringList inAllPlaces(MessageBox box) const;
     bool isWanted(const Message &message) const;
-    int placeFor(const Message &message) const;
+    int placeFor(const QString &id) const;
     void load();
-    bool isInOrder(int row, const Message &message) const;
-    void insert(const std::vector<Message> &messages);
+    bool isInOrder(int row, const QString &id) const;
+    void insert(const QStringList &ids);
     void remove(std::vector<int> rows);
     void takeAdded(const QStringList &ids);
     void takeChanged(const QStringList &ids);

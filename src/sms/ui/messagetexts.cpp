@@ -19,23 +19,34 @@ namespace
 
 constexpr qsizetype previewLength = 160;
 
-QString text(const char *source)
+QString text(const char *source, const char *meaning = nullptr)
 {
-    return QCoreApplication::translate("Messages", source);
+    return QCoreApplication::translate("Messages", source, meaning);
+}
+
+/// A title, and which one of two that are the same in English.
+struct Title {
+    const char *source;
+    const char *comment = nullptr;
+};
+
+QString text(const Title &title)
+{
+    return text(title.source, title.comment);
 }
 
 struct BoxRow {
     MessageBox box;
-    const char *title;
+    Title title;
 };
 
 constexpr BoxRow boxRows[] = {
-    {MessageBox::Inbox, QT_TRANSLATE_NOOP("Messages", "Inbox")},
-    {MessageBox::Outbox, QT_TRANSLATE_NOOP("Messages", "Outbox")},
-    {MessageBox::Sent, QT_TRANSLATE_NOOP("Messages", "Sent")},
-    {MessageBox::Drafts, QT_TRANSLATE_NOOP("Messages", "Drafts")},
-    {MessageBox::Deleted, QT_TRANSLATE_NOOP("Messages", "Deleted")},
-    {MessageBox::Reports, QT_TRANSLATE_NOOP("Messages", "Delivery reports")},
+    {MessageBox::Inbox, {QT_TRANSLATE_NOOP("Messages", "Inbox")}},
+    {MessageBox::Outbox, {QT_TRANSLATE_NOOP("Messages", "Outbox")}},
+    {MessageBox::Sent, QT_TRANSLATE_NOOP3("Messages", "Sent", "box")},
+    {MessageBox::Drafts, {QT_TRANSLATE_NOOP("Messages", "Drafts")}},
+    {MessageBox::Deleted, {QT_TRANSLATE_NOOP("Messages", "Deleted")}},
+    {MessageBox::Reports, {QT_TRANSLATE_NOOP("Messages", "Delivery reports")}},
 };
 
 struct PlaceRow {
@@ -51,10 +62,11 @@ constexpr PlaceRow placeRows[] = {
 
 struct StateRow {
     DeliveryState state;
-    const char *title;
+    Title title;
 };
 
 constexpr StateRow stateRows[] = {
+<<<<<<< HEAD
     {DeliveryState::Queued, QT_TRANSLATE_NOOP("Messages", "Waiting to be sent")},
     {DeliveryState::Sending, QT_TRANSLATE_NOOP("Messages", "Being sent")},
     {DeliveryState::Sent, QT_TRANSLATE_NOOP("Messages", "Sent")},
@@ -62,6 +74,15 @@ constexpr StateRow stateRows[] = {
     {DeliveryState::StillTrying, QT_TRANSLATE_NOOP("Messages", "Not delivered yet, the network still tries")},
     {DeliveryState::Failed, QT_TRANSLATE_NOOP("Messages", "Failed")},
     {DeliveryState::Unsure, QT_TRANSLATE_NOOP("Messages", "May have been sent")},
+=======
+    {DeliveryState::Queued, {QT_TRANSLATE_NOOP("Messages", "Waiting to be sent")}},
+    {DeliveryState::Sending, {QT_TRANSLATE_NOOP("Messages", "Being sent")}},
+    {DeliveryState::Sent, QT_TRANSLATE_NOOP3("Messages", "Sent", "state")},
+    {DeliveryState::Delivered, {QT_TRANSLATE_NOOP("Messages", "Delivered")}},
+    {DeliveryState::StillTrying,
+     {QT_TRANSLATE_NOOP("Messages", "Not delivered yet, the network still tries")}},
+    {DeliveryState::Failed, {QT_TRANSLATE_NOOP("Messages", "Failed")}},
+>>>>>>> w5-window
 };
 
 const StateRow *rowOf(DeliveryState state)

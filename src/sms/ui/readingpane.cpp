@@ -85,6 +85,7 @@ void ReadingPane::build()
 
 void ReadingPane::show(const Message &message)
 {
+    m_shown = message.id;
     showHead(message);
     showNotice(message);
     m_text->setText(message.text());

@@ -26,6 +26,8 @@ public:
     ReadingPane(MessageService *service, MessageActions *actions, QWidget *parent);
 
     void show(const Message &message);
+    /// The id of the message that is shown; empty when none was yet.
+    const QString &shown() const { return m_shown; }
     /// Takes the keyboard into the text.
     void takeFocus();
 
@@ -39,6 +41,7 @@ private:
 
     MessageService *m_service;
     MessageActions *m_actions;
+    QString m_shown;
     ElidedLabel *m_people;
     ElidedLabel *m_about;
     TextLabel *m_notice; ///< missing parts, or why it cannot be read
