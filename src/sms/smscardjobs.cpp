@@ -7,6 +7,7 @@
 #include "shell/logging.h"
 #include "sms/pduidentity.h"
 #include "sms/recipients.h"
+#include "sms/smsdecoder.h"
 #include "sms/smsfiling.h"
 
 #include <QCoreApplication>

@@ -48,19 +48,15 @@ void MessageExchange::exportMessages(const QStringList &ids)
         dialog->setDefaultSuffix(suffix);
         dialog->selectFile(QFileInfo(dialog->selectedFiles().value(0)).completeBaseName() + u'.' + suffix);
     });
-    connect(dialog, &QFileDialog::fileSelected, this, [this, ids](const QString &path) { write(path, ids); });
+    connect(dialog, &QFileDialog::fileSelected, this,
+            [this, messages = m_store->messages(ids)](const QString &path) { write(path, messages); });
     dialog->open();
 }
 
-void MessageExchange::write(const QString &path, const QStringList &ids)
+void MessageExchange::write(const QString &path, const std::vector<Message> &messages)
 {
-<<<<<<< HEAD
     const auto writing = corva::exportMessages(messages, path);
     whenDone(writing, this, [this, path, count = int(messages.size())](const std::optional<QString> &error) {
-=======
-    const auto written = corva::exportMessages(*m_store, ids, path);
-    whenDone(written, this, [this, path, count = int(ids.size())](const std::optional<QString> &error) {
->>>>>>> w5-window
         const QString shown = QDir::toNativeSeparators(path);
         Q_EMIT sigSaid(error && error->isEmpty()
                            ? tr("%n messages were written to %1.", nullptr, count).arg(shown)
@@ -80,21 +76,8 @@ void MessageExchange::importMessages()
 void MessageExchange::importFrom(const QString &path)
 {
     whenDone(corva::importMessages(m_store, path), this, [this](const std::optional<ImportOutcome> &outcome) {
-<<<<<<< HEAD
         if (outcome)
             Q_EMIT sigSaid(outcome->error.isEmpty() ? sentenceFor(*outcome) : outcome->error);
-=======
-        if (!outcome)
-            return;
-        QStringList sentences{outcome->error};
-        if (outcome->error.isEmpty())
-            sentences = {tr("%n messages were added.", nullptr, outcome->added)};
-        if (outcome->present > 0)
-            sentences += tr("%n were here already.", nullptr, outcome->present);
-        if (outcome->unreadable > 0)
-            sentences += tr("%n could not be read.", nullptr, outcome->unreadable);
-        Q_EMIT sigSaid(sentences.join(u' '));
->>>>>>> w5-window
     });
 }
 

@@ -33,13 +33,8 @@ Q_SIGNALS:
     void sigSaid(const QString &sentence);
 
 private:
-<<<<<<< HEAD
     void write(const QString &path, const std::vector<Message> &messages);
-    void read(const QString &path);
     static QString sentenceFor(const ImportOutcome &outcome);
-=======
-    void write(const QString &path, const QStringList &ids);
->>>>>>> w5-window
 
     MessageStore *m_store;
     QWidget *m_page;

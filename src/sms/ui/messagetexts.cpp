@@ -66,15 +66,6 @@ struct StateRow {
 };
 
 constexpr StateRow stateRows[] = {
-<<<<<<< HEAD
-    {DeliveryState::Queued, QT_TRANSLATE_NOOP("Messages", "Waiting to be sent")},
-    {DeliveryState::Sending, QT_TRANSLATE_NOOP("Messages", "Being sent")},
-    {DeliveryState::Sent, QT_TRANSLATE_NOOP("Messages", "Sent")},
-    {DeliveryState::Delivered, QT_TRANSLATE_NOOP("Messages", "Delivered")},
-    {DeliveryState::StillTrying, QT_TRANSLATE_NOOP("Messages", "Not delivered yet, the network still tries")},
-    {DeliveryState::Failed, QT_TRANSLATE_NOOP("Messages", "Failed")},
-    {DeliveryState::Unsure, QT_TRANSLATE_NOOP("Messages", "May have been sent")},
-=======
     {DeliveryState::Queued, {QT_TRANSLATE_NOOP("Messages", "Waiting to be sent")}},
     {DeliveryState::Sending, {QT_TRANSLATE_NOOP("Messages", "Being sent")}},
     {DeliveryState::Sent, QT_TRANSLATE_NOOP3("Messages", "Sent", "state")},
@@ -82,7 +73,7 @@ constexpr StateRow stateRows[] = {
     {DeliveryState::StillTrying,
      {QT_TRANSLATE_NOOP("Messages", "Not delivered yet, the network still tries")}},
     {DeliveryState::Failed, {QT_TRANSLATE_NOOP("Messages", "Failed")}},
->>>>>>> w5-window
+    {DeliveryState::Unsure, {QT_TRANSLATE_NOOP("Messages", "May have been sent")}},
 };
 
 const StateRow *rowOf(DeliveryState state)
