@@ -6,6 +6,7 @@
 #include "shell/commoncfg.h"
 
 #include <QElapsedTimer>
+#include <QRegularExpression>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -121,10 +122,11 @@ private Q_SLOTS:
         QCOMPARE(exchange([this] { return m_link->sendCmdAndRec("AT+CSQ\r\n", 1, 500000); },
                           "+JEND\r\n\r\n+CSQ: 5,9\r\nOK\r\n"),
                  30);
-        QCOMPARE(log.lines(), (QStringList{u"purgeComData:: \r\nOK\r\n"_s, u"sent cmd: AT+CSQ\r\n"_s,
-                                           u"****** Cmd of JEND find!"_s,
-                                           u"****** in resAtStr, timer_sec=1, timer_usec=500000, con=15"_s,
-                                           u"****** in resAtStr, pResStr = \r\n+CSQ: 5,9\r\nOK\r\n"_s}));
+        QCOMPARE(withoutRounds(log),
+                 (QStringList{u"purgeComData:: \r\nOK\r\n"_s, u"sent cmd: AT+CSQ\r\n"_s,
+                              u"****** Cmd of JEND find!"_s,
+                              u"****** in resAtStr, timer_sec=1, timer_usec=500000"_s,
+                              u"****** in resAtStr, pResStr = \r\n+CSQ: 5,9\r\nOK\r\n"_s}));
     }
 
     void secretsAreMasked_data() { addRows(secretsAreMaskedRows); }
@@ -170,9 +172,9 @@ private Q_SLOTS:
 
     void tricklesWithoutEndAreGivenUp()
     {
-        auto result = sent(500ms);
         QElapsedTimer time;
         time.start();
+        auto result = sent(2s);
         while (result.wait_for(60ms) != std::future_status::ready && !time.hasExpired(60000))
             m_pty->write("\r\n+JRSSI: -80,-5,-75\r\n");
         QVERIFY(time.elapsed() >= std::chrono::milliseconds(SerialThread::lowestCeiling).count());
@@ -323,8 +325,8 @@ private Q_SLOTS:
             send_atcommand_timer = configured;
             exchange([this] { return m_link->sendCmdAndRec("AT\r\n", 1, 7); }, "\r\nOK\r\n");
         }
-        QCOMPARE(log.lines()[2], u"****** in resAtStr, timer_sec=1, timer_usec=7, con=10"_s);
-        QCOMPARE(log.lines()[6], u"****** in resAtStr, timer_sec=4, timer_usec=7, con=40"_s);
+        QCOMPARE(withoutRounds(log)[2], u"****** in resAtStr, timer_sec=1, timer_usec=7"_s);
+        QCOMPARE(withoutRounds(log)[6], u"****** in resAtStr, timer_sec=4, timer_usec=7"_s);
     }
 
     void probe()
@@ -385,6 +387,12 @@ private Q_SLOTS:
     }
 
 private:
+    /// Without the rounds that are left of the time-out: a busy machine spends some.
+    static QStringList withoutRounds(const LogCapture &log)
+    {
+        return log.lines().replaceInStrings(QRegularExpression(u", con=\\d+$"_s), {});
+    }
+
     /// A command that the far side has read; its reply may take so long.
     std::future<int> sent(std::chrono::microseconds timeout)
     {
