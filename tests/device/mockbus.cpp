@@ -3,7 +3,6 @@
 
 #include <QFile>
 #include <initializer_list>
-#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -134,9 +133,4 @@ QString MockBus::nodePath(const QString &port) const
     const QString path = QFile::decodeName(root) + port;
     g_free(root);
     return path;
-}
-
-void MockBus::setMode(const QString &port, unsigned mode)
-{
-    chmod(QFile::encodeName(port).constData(), mode);
 }

@@ -37,8 +37,6 @@ public:
     void plug(const MockCard &card);
     /// Removes them again, ports first, as the kernel does.
     void unplug(const MockCard &card);
-    /// Lets the device file of a port be opened by its owner alone, or by nobody of this user's rights.
-    void setMode(const QString &port, unsigned mode);
     /// The path of a port's node outside the mocked world.
     QString nodePath(const QString &port) const;
 

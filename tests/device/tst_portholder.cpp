@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../files.h"
+#include "../rows.h"
 #include "device/cardfinder.h"
 #include "device/portclaim.h"
 #include "device/portholder.h"
@@ -9,9 +11,7 @@
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QScopeGuard>
-#include <QTemporaryDir>
 #include <QThread>
-#include <QtTest>
 #include <csignal>
 #include <fcntl.h>
 #include <pty.h>
@@ -130,160 +130,141 @@ public Q_SLOTS:
 
 Q_DECLARE_METATYPE(ModemPort)
 
+namespace
+{
+
+const qint32 other = getppid();
+
+const Rows<QByteArray, bool> lockFileRows{
+    {"ten characters and a line end", QByteArray::number(other).rightJustified(10) + '\n', true},
+    {"with the program's name", QByteArray::number(other).rightJustified(10) + " minicom root\n", true},
+    {"four bytes", QByteArray(reinterpret_cast<const char *>(&other), sizeof other), true},
+    {"this process", QByteArray::number(getpid()), false},
+    {"a process that has ended", "4194304\n", false}, // above any process id
+    {"every process, to kill()", "-1\n", false},
+    {"nothing", {}, false},
+    {"no number", "minicom\n", false},
+};
+
+// a part of the text
+const Rows<PortHolder, HolderAdvice, QString> adviceRows{
+    {"ModemManager", PortHolder{u"ModemManager"_s, 7}, HolderAdvice::StopModemManager,
+     u"sudo systemctl stop ModemManager"_s},
+    {"message service of another name", PortHolder{u"smsd"_s, 7}, HolderAdvice::StopMessageService,
+     u"sudo systemctl stop smstools"_s},
+    {"terminal program", PortHolder{u"minicom"_s, 7}, HolderAdvice::CloseProgram, u"minicom is using"_s},
+    {"no name", PortHolder{{}, 7}, HolderAdvice::CloseProgram, u"process 7 is using"_s},
+    {"name like a place holder", PortHolder{u"%2"_s, 7}, HolderAdvice::CloseProgram,
+     u"%2 is using the card on /dev/ttyUSB2"_s},
+    {"nobody knows", PortHolder(), HolderAdvice::FindProgram, u"fuser -v /dev/ttyUSB2"_s},
+};
+
+} // namespace
+
 class TestPortHolder : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void lockFile_data();
-    void lockFile();
-    void openFile();
-    void heldCard();
-    void claimedPort();
-    void modemManager();
-    void advice_data();
-    void advice();
+    void lockFile_data() { addRows(lockFileRows); }
+    void lockFile()
+    {
+        const auto &[name, content, isHeld] = currentRow(lockFileRows);
+        const QTemporaryDir folder;
+        putFile(folder.filePath(u"LCK..ttyUSB2"_s), content);
+        QVERIFY(QFile::link(u"ttyUSB2"_s, folder.filePath(u"at"_s)));
+        for (const QString &port : {u"/dev/ttyUSB2"_s, folder.filePath(u"at"_s)}) {
+            const PortHolder holder = holderByLockFile(port, folder.path());
+            QCOMPARE(holder.isKnown(), isHeld);
+            QCOMPARE(holder.pid, isHeld ? qint64(getppid()) : 0);
+        }
+        QVERIFY(!holderByLockFile(u"/dev/ttyUSB3"_s, folder.path()).isKnown());
+    }
+
+    void openFile()
+    {
+        const Terminal terminal;
+        QVERIFY(terminal.isOpen);
+        const QString port = terminal.name();
+        QCOMPARE(holderByOpenFile(port), PortHolder()); // open here alone
+        QCOMPARE(holderByOpenFile(u"/nowhere"_s), PortHolder());
+        const Holder other(port);
+        QVERIFY(other.isReady());
+        QCOMPARE(findPortHolder(port), other.self());
+        const QTemporaryDir folder;
+        QVERIFY(QFile::link(port, folder.filePath(u"at"_s)));
+        QCOMPARE(holderByOpenFile(folder.filePath(u"at"_s)), other.self());
+    }
+
+    /// An administrator's program opens the port all the same, and hears nothing: the other one gets the
+    /// answers.
+    void heldCard()
+    {
+        const Terminal terminal;
+        const Holder other(terminal.name());
+        QVERIFY(other.isReady());
+        DeviceSettings settings;
+        settings.atPort = terminal.name();
+        const FoundCard found = CardFinder({}, settings).find(openAndListen);
+        QCOMPARE(found.presence, CardPresence::PortBusy);
+        QCOMPARE(found.holder, other.self());
+        QCOMPARE(found.port, terminal.name());
+    }
+
+    void claimedPort()
+    {
+        const Terminal terminal;
+        const QByteArray port = terminal.name().toLocal8Bit();
+        const int first = open(port.constData(), O_RDWR | O_NOCTTY);
+        const int second = open(port.constData(), O_RDWR | O_NOCTTY);
+        QVERIFY(first >= 0 && second >= 0);
+        QCOMPARE(claimPort(first), 0);
+        QCOMPARE(claimPort(second), EWOULDBLOCK);
+        releasePort(first);
+        QCOMPARE(claimPort(second), 0);
+        close(second); // as after a crash: nothing stays behind
+        QCOMPARE(claimPort(first), 0);
+        close(first);
+        QCOMPARE(claimPort(-1), EBADF);
+    }
+
+    void modemManager()
+    {
+        QCOMPARE(holderByModemManager(u"/dev/ttyUSB2"_s), PortHolder());
+
+        qDBusRegisterMetaType<ModemPort>();
+        qDBusRegisterMetaType<ModemPorts>();
+        qDBusRegisterMetaType<Interfaces>();
+        qDBusRegisterMetaType<Objects>();
+        QThread thread; // the question blocks this one
+        FakeModemManager fake;
+        fake.moveToThread(&thread);
+        thread.start();
+        const auto end = qScopeGuard([&thread] {
+            QDBusConnection::disconnectFromBus(u"fake"_s);
+            thread.quit();
+            thread.wait();
+        });
+        QDBusConnection service = m_systemBus.connection(u"fake"_s);
+        QVERIFY(service.registerObject(u"/org/freedesktop/ModemManager1"_s, &fake,
+                                       QDBusConnection::ExportAllSlots));
+        QVERIFY(service.registerService(u"org.freedesktop.ModemManager1"_s));
+        QCOMPARE(holderByModemManager(u"/dev/ttyUSB2"_s), (PortHolder{u"ModemManager"_s, getpid()}));
+        QCOMPARE(holderByModemManager(u"/dev/ttyUSB3"_s), PortHolder());
+    }
+
+    void advice_data() { addRows(adviceRows); }
+    void advice()
+    {
+        const auto &[name, holder, advice, step] = currentRow(adviceRows);
+        QCOMPARE(adviceFor(holder), advice);
+        const QString text = holderAdviceText(holder, u"/dev/ttyUSB2"_s);
+        QVERIFY2(text.contains(step), qPrintable(text));
+    }
 
 private:
     PrivateBus m_systemBus; // from the start: a connection that failed once is kept
 };
-
-void TestPortHolder::lockFile_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("isHeld");
-    const qint64 other = getppid();
-    const auto binary = [](qint32 pid) {
-        return QByteArray(reinterpret_cast<const char *>(&pid), sizeof pid);
-    };
-    QTest::newRow("ten characters and a line end") << QByteArray::number(other).rightJustified(10) + '\n'
-                                                   << true;
-    QTest::newRow("with the program's name")
-        << QByteArray::number(other).rightJustified(10) + " minicom root\n"
-        << true;
-    QTest::newRow("four bytes") << binary(static_cast<qint32>(other)) << true;
-    QTest::newRow("this process") << QByteArray::number(getpid()) << false;
-    QTest::newRow("a process that has ended") << QByteArray("4194304\n") << false; // above any process id
-    QTest::newRow("every process, to kill()") << QByteArray("-1\n") << false;
-    QTest::newRow("nothing") << QByteArray() << false;
-    QTest::newRow("no number") << QByteArray("minicom\n") << false;
-}
-
-void TestPortHolder::lockFile()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(bool, isHeld);
-    const QTemporaryDir folder;
-    QFile lock(folder.filePath(u"LCK..ttyUSB2"_s));
-    QVERIFY(lock.open(QIODevice::WriteOnly));
-    lock.write(content);
-    lock.close();
-    QVERIFY(QFile::link(u"ttyUSB2"_s, folder.filePath(u"at"_s)));
-    for (const QString &port : {u"/dev/ttyUSB2"_s, folder.filePath(u"at"_s)}) {
-        const PortHolder holder = holderByLockFile(port, folder.path());
-        QCOMPARE(holder.isKnown(), isHeld);
-        QCOMPARE(holder.pid, isHeld ? qint64(getppid()) : 0);
-    }
-    QVERIFY(!holderByLockFile(u"/dev/ttyUSB3"_s, folder.path()).isKnown());
-}
-
-void TestPortHolder::openFile()
-{
-    const Terminal terminal;
-    QVERIFY(terminal.isOpen);
-    const QString port = terminal.name();
-    QCOMPARE(holderByOpenFile(port), PortHolder()); // open here alone
-    QCOMPARE(holderByOpenFile(u"/nowhere"_s), PortHolder());
-    const Holder other(port);
-    QVERIFY(other.isReady());
-    QCOMPARE(findPortHolder(port), other.self());
-    const QTemporaryDir folder;
-    QVERIFY(QFile::link(port, folder.filePath(u"at"_s)));
-    QCOMPARE(holderByOpenFile(folder.filePath(u"at"_s)), other.self());
-}
-
-/// An administrator's program opens the port all the same, and hears nothing: the other one gets the answers.
-void TestPortHolder::heldCard()
-{
-    const Terminal terminal;
-    const Holder other(terminal.name());
-    QVERIFY(other.isReady());
-    DeviceSettings settings;
-    settings.atPort = terminal.name();
-    const FoundCard found = CardFinder({}, settings).find(openAndListen);
-    QCOMPARE(found.presence, CardPresence::PortBusy);
-    QCOMPARE(found.holder, other.self());
-    QCOMPARE(found.port, terminal.name());
-}
-
-void TestPortHolder::claimedPort()
-{
-    const Terminal terminal;
-    const QByteArray port = terminal.name().toLocal8Bit();
-    const int first = open(port.constData(), O_RDWR | O_NOCTTY);
-    const int second = open(port.constData(), O_RDWR | O_NOCTTY);
-    QVERIFY(first >= 0 && second >= 0);
-    QCOMPARE(claimPort(first), 0);
-    QCOMPARE(claimPort(second), EWOULDBLOCK);
-    releasePort(first);
-    QCOMPARE(claimPort(second), 0);
-    close(second); // as after a crash: nothing stays behind
-    QCOMPARE(claimPort(first), 0);
-    close(first);
-    QCOMPARE(claimPort(-1), EBADF);
-}
-
-void TestPortHolder::modemManager()
-{
-    QCOMPARE(holderByModemManager(u"/dev/ttyUSB2"_s), PortHolder());
-
-    qDBusRegisterMetaType<ModemPort>();
-    qDBusRegisterMetaType<ModemPorts>();
-    qDBusRegisterMetaType<Interfaces>();
-    qDBusRegisterMetaType<Objects>();
-    QThread thread; // the question blocks this one
-    FakeModemManager fake;
-    fake.moveToThread(&thread);
-    thread.start();
-    const auto end = qScopeGuard([&thread] {
-        QDBusConnection::disconnectFromBus(u"fake"_s);
-        thread.quit();
-        thread.wait();
-    });
-    QDBusConnection service = m_systemBus.connection(u"fake"_s);
-    QVERIFY(
-        service.registerObject(u"/org/freedesktop/ModemManager1"_s, &fake, QDBusConnection::ExportAllSlots));
-    QVERIFY(service.registerService(u"org.freedesktop.ModemManager1"_s));
-    QCOMPARE(holderByModemManager(u"/dev/ttyUSB2"_s), (PortHolder{u"ModemManager"_s, getpid()}));
-    QCOMPARE(holderByModemManager(u"/dev/ttyUSB3"_s), PortHolder());
-}
-
-void TestPortHolder::advice_data()
-{
-    QTest::addColumn<PortHolder>("holder");
-    QTest::addColumn<HolderAdvice>("advice");
-    QTest::addColumn<QString>("step"); // a part of the text
-    QTest::newRow("ModemManager") << PortHolder{u"ModemManager"_s, 7} << HolderAdvice::StopModemManager
-                                  << u"sudo systemctl stop ModemManager"_s;
-    QTest::newRow("message service of another name")
-        << PortHolder{u"smsd"_s, 7} << HolderAdvice::StopMessageService << u"sudo systemctl stop smstools"_s;
-    QTest::newRow("terminal program")
-        << PortHolder{u"minicom"_s, 7} << HolderAdvice::CloseProgram << u"minicom is using"_s;
-    QTest::newRow("no name") << PortHolder{{}, 7} << HolderAdvice::CloseProgram << u"process 7 is using"_s;
-    QTest::newRow("name like a place holder")
-        << PortHolder{u"%2"_s, 7} << HolderAdvice::CloseProgram << u"%2 is using the card on /dev/ttyUSB2"_s;
-    QTest::newRow("nobody knows") << PortHolder() << HolderAdvice::FindProgram << u"fuser -v /dev/ttyUSB2"_s;
-}
-
-void TestPortHolder::advice()
-{
-    QFETCH(PortHolder, holder);
-    QFETCH(HolderAdvice, advice);
-    QFETCH(QString, step);
-    QCOMPARE(adviceFor(holder), advice);
-    const QString text = holderAdviceText(holder, u"/dev/ttyUSB2"_s);
-    QVERIFY2(text.contains(step), qPrintable(text));
-}
 
 QTEST_GUILESS_MAIN(TestPortHolder)
 #include "tst_portholder.moc"

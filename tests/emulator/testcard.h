@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "../files.h"
+#include "../rows.h"
 #include "cardthread.h"
 
-#include <QFile>
 #include <QJsonArray>
-#include <QTemporaryDir>
-#include <QTest>
 #include <array>
 #include <fcntl.h>
 #include <poll.h>
@@ -27,8 +26,7 @@ public:
             throw std::runtime_error("cannot open " + path.toStdString());
     }
     ~TestPort() { ::close(m_descriptor); }
-    TestPort(const TestPort &) = delete;
-    TestPort &operator=(const TestPort &) = delete;
+    Q_DISABLE_COPY_MOVE(TestPort)
 
     bool write(const QByteArray &bytes)
     {
@@ -100,21 +98,21 @@ public:
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
     QJsonObject control(const QByteArray &json) { return m_card.control(json); }
-    /// True when the card did what it was told.
-    bool tell(const QByteArray &json)
+    QJsonObject state() { return control(R"({"command": "show"})")[u"state"_s].toObject(); }
+    /// What the card handed to the network.
+    QJsonArray sent() { return control(R"({"command": "sent"})")[u"sent"_s].toArray(); }
+    /// True when the card did what it was told, with `value` in the place of "%1".
+    bool tell(QByteArray json, const QByteArray &value = {})
     {
-        const QJsonObject answer = control(json);
+        const QJsonObject answer = control(json.replace("%1", value));
         if (!answer[u"ok"_s].toBool())
             qWarning("%s: %s", json.constData(), qPrintable(answer[u"error"_s].toString()));
         return answer[u"ok"_s].toBool();
     }
     /// Waits until the card has noticed that the last client closed the port.
-    bool isLeft(const QString &role)
+    bool isLeft(const QString &role = u"at"_s)
     {
-        return QTest::qWaitFor([&] {
-            const QJsonObject state = control(R"({"command": "show"})")[u"state"_s].toObject();
-            return !state[u"ports"_s][role][u"open"_s].toBool();
-        });
+        return QTest::qWaitFor([&] { return !state()[u"ports"_s][role][u"open"_s].toBool(); });
     }
     /// Waits until the card has taken in `text`, as its log shows it, or has answered.
     bool hears(const QString &text)
@@ -128,10 +126,7 @@ public:
         });
     }
     /// Moves the card's time on.
-    bool advance(int ms)
-    {
-        return tell("{\"command\": \"clock\", \"advance\": " + QByteArray::number(ms) + '}');
-    }
+    bool advance(int ms) { return tell(R"({"command": "clock", "advance": %1})", QByteArray::number(ms)); }
 
     /// Everything the card has sent on the AT port until now, read by marking its end.
     QByteArray pending(TestPort &port)
@@ -174,6 +169,14 @@ struct Talk {
         const QByteArray prompt = port.exchange(command + '\r', "> ");
         return prompt == "\r\n> " ? ask(pdu + '\x1a') : "no prompt: " + prompt;
     }
+
+    /// What the card sends of its own accord once it was told this.
+    QByteArray told(const QByteArray &json, const QByteArray &value = {})
+    {
+        return card.tell(json, value) ? card.pending(port) : "refused";
+    }
+    /// And once its time was moved on.
+    QByteArray later(int ms) { return card.advance(ms) ? card.pending(port) : "refused"; }
 
     TestCard card;
     TestPort port;

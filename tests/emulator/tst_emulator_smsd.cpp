@@ -4,15 +4,6 @@
 
 #include <QDir>
 #include <QProcess>
-#include <QTest>
-
-class TestEmulatorSmsd : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void sendsAndReceives();
-};
 
 namespace
 {
@@ -37,7 +28,7 @@ public:
                     "incoming = yes\npre_init = no\nmemory_start = 1\ncheck_memory_method = 31\n"
                     "init = AT+CPMS=\"SM\",\"SM\";+CSMS=1;+CNMI=2,1,0,1,0\n"
                     "using_routed_status_report = yes\nrouted_status_report_cnma = yes\n";
-        write(u"smsd.conf"_s, settings);
+        putFile(card.path(u"smsd.conf"_s), settings);
         m_process.start(u"/usr/sbin/smsd"_s, {u"-t"_s, u"-c"_s, card.path(u"smsd.conf"_s)});
     }
     ~Server()
@@ -45,25 +36,15 @@ public:
         m_process.terminate();
         m_process.waitForFinished(20000);
     }
-    Server(const Server &) = delete;
-    Server &operator=(const Server &) = delete;
+    Q_DISABLE_COPY_MOVE(Server)
 
-    void write(const QString &name, const QByteArray &text) const
-    {
-        QFile file(m_card.path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-            qFatal("cannot write %s", qPrintable(name));
-    }
     /// All files of a folder of the spool, one behind the other.
     QByteArray spool(const QString &folder) const
     {
         const QDir dir(m_card.path(folder));
         QByteArray texts;
-        for (const QString &name : dir.entryList(QDir::Files)) {
-            QFile file(dir.filePath(name));
-            if (file.open(QIODevice::ReadOnly))
-                texts += file.readAll() + '\n';
-        }
+        for (const QString &name : dir.entryList(QDir::Files))
+            texts += contentOf(dir.filePath(name)) + '\n';
         return texts;
     }
 
@@ -79,25 +60,32 @@ private:
 
 } // namespace
 
-void TestEmulatorSmsd::sendsAndReceives()
+class TestEmulatorSmsd : public QObject
 {
-    TestCard card;
-    const QByteArray greetings = QByteArray("Grüße ").repeated(40);
-    const QByteArray numbers = QByteArray("0123456789").repeated(20);
-    QVERIFY(card.tell(R"({"command": "sms-network", "reportDelay": 0})"));
-    QVERIFY(card.tell(R"({"command": "sms", "order": "2,1", "from": "+4917212345678", "text": ")" +
-                      greetings + "\"}"));
-    const Server server(card);
-    server.write(u"outgoing/one"_s, "To: 12025550123\nReport: yes\n\n" + numbers);
-    constexpr int patience = 30000;
-    QTRY_VERIFY_WITH_TIMEOUT(server.spool(u"sent"_s).contains(numbers), patience);
-    QTRY_VERIFY_WITH_TIMEOUT(server.spool(u"incoming"_s).contains("\n\n" + numbers), patience);
-    QTRY_COMPARE_WITH_TIMEOUT(server.spool(u"report"_s).count("Status: 0,Ok"), 2, patience);
-    const QByteArray received = server.spool(u"incoming"_s);
-    QVERIFY2(received.contains("From: 4917212345678\n") && received.contains("\n\n" + greetings), received);
-    QVERIFY2(server.spool(u"failed"_s).isEmpty(), server.spool(u"log"_s));
-    QCOMPARE(card.control(R"({"command": "sent"})")[u"sent"_s].toArray().size(), 2);
-}
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sendsAndReceives()
+    {
+        TestCard card;
+        const QByteArray greetings = QByteArray("Grüße ").repeated(40);
+        const QByteArray numbers = QByteArray("0123456789").repeated(20);
+        QVERIFY(card.tell(R"({"command": "sms-network", "reportDelay": 0})"));
+        QVERIFY(card.tell(R"({"command": "sms", "order": "2,1", "from": "+4917212345678", "text": "%1"})",
+                          greetings));
+        const Server server(card);
+        putFile(card.path(u"outgoing/one"_s), "To: 12025550123\nReport: yes\n\n" + numbers);
+        constexpr int patience = 30000;
+        QTRY_VERIFY_WITH_TIMEOUT(server.spool(u"sent"_s).contains(numbers), patience);
+        QTRY_VERIFY_WITH_TIMEOUT(server.spool(u"incoming"_s).contains("\n\n" + numbers), patience);
+        QTRY_COMPARE_WITH_TIMEOUT(server.spool(u"report"_s).count("Status: 0,Ok"), 2, patience);
+        const QByteArray received = server.spool(u"incoming"_s);
+        QVERIFY2(received.contains("From: 4917212345678\n") && received.contains("\n\n" + greetings),
+                 received);
+        QVERIFY2(server.spool(u"failed"_s).isEmpty(), server.spool(u"log"_s));
+        QCOMPARE(card.sent().size(), 2);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestEmulatorSmsd)
 #include "tst_emulator_smsd.moc"

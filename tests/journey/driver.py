@@ -80,6 +80,10 @@ class Program:
                                             stdout=log, stderr=log)
         return self
 
+    def start_on_network(self):
+        self.start()
+        self.wait_text("Test Network")
+
     def end(self):
         if self.process and self.process.poll() is None:
             self.process.terminate()

@@ -70,8 +70,7 @@ def add_profile(program, name):
 class Start(unittest.TestCase):
     def test_second_start_and_arguments_end_silently(self):
         with desk() as (_, program):
-            program.start()
-            program.wait_text("Test Network")
+            program.start_on_network()
             other = subprocess.run([program.folder / "corva"], cwd=program.folder, timeout=20)
             self.assertEqual(other.returncode, 0)
             argument = subprocess.run([program.folder / "corva", "--help"], cwd=program.folder, timeout=20)
@@ -100,8 +99,7 @@ class Start(unittest.TestCase):
 class CardState(unittest.TestCase):
     def test_state_follows_the_card(self):
         with desk() as (card, program):
-            program.start()
-            program.wait_text("Test Network")
+            program.start_on_network()
             program.picture("card")
             for words, shown in ((("operator", "00102", "long=Another Network"), "Another Network"),
                                  (("roaming", "on"), "Roaming")):
@@ -110,8 +108,7 @@ class CardState(unittest.TestCase):
 
     def test_unplugged_and_back(self):
         with desk() as (card, program):
-            program.start()
-            program.wait_text("Test Network")
+            program.start_on_network()
             card.say("unplug")
             program.wait_no_text("Test Network", 5)
             program.wait_text("No card", 5)
@@ -119,15 +116,9 @@ class CardState(unittest.TestCase):
             card.say("plug")
             program.wait_text("Test Network", 10)
 
-    def test_card_without_makers_commands(self):
-        with desk(profile="standard.json") as (_, program):
-            program.start()
-            program.wait_text("Test Network")
-
     def test_reports_reach_the_person(self):
         with desk(call__enable="1") as (card, program):
-            program.start()
-            program.wait_text("Test Network")
+            program.start_on_network()
             card.say("ring", "number=+12025550199")
             program.wait_text("The card is ringing.")
 
@@ -146,7 +137,7 @@ class Mending(unittest.TestCase):
             program.type(pin)
             program.keys("Return")
             program.wait_text("Test Network")
-            told = [line for line in (program.folder / "output.txt").read_text().splitlines() 
+            told = [line for line in (program.folder / "output.txt").read_text().splitlines()
                     if "CPIN" in line and pin in line]
             self.assertEqual(told, [], "the log masks PINs")
 
@@ -194,8 +185,7 @@ def open_messages(program, *keys):
 class Messages(unittest.TestCase):
     def test_message_comes_in_and_is_answered(self):
         with desk(sms__newsmsLocation="2", sms__deliveryReportMsgDlgShow="0") as (card, program):
-            program.start()
-            program.wait_text("Test Network")
+            program.start_on_network()
             card.say("sms", "from=+12025550123", "text=Meet <b>me</b> at eight, مرحبا", "alphabet=ucs2")
             program.wait_text("Messages, 1 new")
             open_messages(program, "Down", "Home")
@@ -213,8 +203,7 @@ class Messages(unittest.TestCase):
 
     def test_what_is_written_outlives_a_killed_program(self):
         with desk() as (_, program):
-            program.start()
-            program.wait_text("Test Network")
+            program.start_on_network()
             open_messages(program, "ctrl+n")
             program.wait_text("Symbol: 0 /1")
             program.type("+49 151 2345\tHalf a sentence")
@@ -222,8 +211,7 @@ class Messages(unittest.TestCase):
             wait_for("the draft on disk", lambda: drafts.exists() and "Half a sentence" in drafts.read_text())
             program.process.kill()
             program.process.wait(10)
-            program.start()
-            program.wait_text("Test Network")
+            program.start_on_network()
             open_messages(program)
             program.type("half")
             program.keys("Down", "Home", "Return")
@@ -236,8 +224,7 @@ class Connection(unittest.TestCase):
     def test_failed_dial_is_told_and_leaves_the_files_as_they_were(self):
         with desk() as (card, program):
             before = dialler_files()
-            program.start()
-            program.wait_text("Test Network")
+            program.start_on_network()
             add_profile(program, "Prepaid")
             program.picture("internet")
             card.say("dial-result", "no-carrier")
@@ -259,8 +246,7 @@ class Connection(unittest.TestCase):
     def test_asked_to_end_in_the_middle_of_a_dial(self):
         with desk() as (_, program):
             before = dialler_files()
-            program.start()
-            program.wait_text("Test Network")
+            program.start_on_network()
             add_profile(program, "Prepaid")
             program.keys("ctrl+d")
             wait_for("the files of the dial", lambda: dialler_files() != before)
@@ -270,16 +256,14 @@ class Connection(unittest.TestCase):
 
     def test_profiles_outlive_the_program_and_mirror(self):
         with desk() as (_, program):
-            program.start()
-            program.wait_text("Test Network")
+            program.start_on_network()
             add_profile(program, "Prepaid")
             left = program.node("Prepaid, connects with it").get_extents(0).x
             program.keys("ctrl+q")
             program.process.wait(15)
             program.configure("function", "selected-language", "Arabic")
             program.configure("window", "geometry", "200,100,800,520")
-            program.start()
-            program.wait_text("Test Network")
+            program.start_on_network()
             program.wait_text("Prepaid")
             program.picture("internet-arabic")
             mirrored = [node for node in program.nodes() if node.get_name().startswith("Prepaid")

@@ -5,16 +5,25 @@
 The window must be right each time, and no thread and no descriptor may be left over. Run on a program that was built with
 AddressSanitizer, its report or a leak makes the exit status wrong.
 """
+import json
 import pathlib
 import random
 import sys
 import time
 
-from driver import desk
+from driver import desk, wait_for
 
 
-def count(pid, what):
-    return len(list(pathlib.Path(f"/proc/{pid}/{what}").iterdir()))
+def counts(pid):
+    return {what: len(list(pathlib.Path(f"/proc/{pid}/{what}").iterdir())) for what in ("task", "fd")}
+
+
+def wait_for_polls(card):
+    """Until the card was asked twice more: what happens once when it is plugged in is over then."""
+    def asked():
+        return sum(entry.get("received", "").strip() == "AT+CSQ" for entry in json.loads(card.say("log"))["log"])
+    before = asked()
+    wait_for("two more polls", lambda: asked() >= before + 2, 60)
 
 
 def show(pid):
@@ -34,13 +43,13 @@ def main():
         card.say("pace", "delay=10")
         program.start()
         program.wait_text("Test Network", 30)
-        time.sleep(5)  # the echo is set, the first polls are through
+        wait_for_polls(card)
         card.say("unplug")
         program.wait_text("No card", 10)
         card.say("plug")  # threads that are made when they are first needed are there after this
         program.wait_text("Test Network", 10)
-        time.sleep(2)
-        before = {what: count(program.process.pid, what) for what in ("task", "fd")}
+        wait_for_polls(card)
+        before = counts(program.process.pid)
         for number in range(rounds):
             time.sleep(chance.uniform(0, 0.4))  # also in the middle of a poll or of the first reading
             card.say("unplug")
@@ -50,14 +59,13 @@ def main():
             card.say("plug")
             if chance.random() < 0.7 or number == rounds - 1:
                 program.wait_text("Test Network", 10)
-        for _ in range(45):  # work that is under way ends, and so does a thread that waits for more of it
-            time.sleep(1)
-            after = {what: count(program.process.pid, what) for what in ("task", "fd")}
-            if after["task"] <= before["task"] and after["fd"] <= before["fd"]:
-                break
-        else:
+        try:  # work that is under way ends, and so does a thread that waits for more of it
+            wait_for(f"no more than {before}",
+                     lambda: all(now <= before[what] for what, now in counts(program.process.pid).items()), 45)
+        except AssertionError:
             show(program.process.pid)
-        assert after["task"] <= before["task"] and after["fd"] <= before["fd"], f"left over: {before} -> {after}"
+            raise
+        after = counts(program.process.pid)
         program.keys("ctrl+q")
         status = program.process.wait(60)
         assert status == 0, f"exit status {status}"

@@ -3,7 +3,6 @@
 
 #include "link/serialthread.h"
 
-#include <QDir>
 #include <QRegularExpression>
 #include <cstdlib>
 #include <fcntl.h>
@@ -104,21 +103,10 @@ QStringList LogCapture::lines() const
     return logged;
 }
 
-ScratchFolder::ScratchFolder()
-{
-    QDir::setCurrent(m_folder.path());
-    QDir().mkdir(u"Data"_s);
-}
-
 void resetLinkGlobals()
 {
     foundPortFlag = false;
     receive_flag = false;
     gManualSearch = gManualSelect = gWaitSearchOrSelectEnd = 0;
     gManualSearchResult = gManualSelectResult = 0;
-}
-
-qsizetype openDescriptors()
-{
-    return QDir(u"/proc/self/fd"_s).entryList(QDir::Files | QDir::System | QDir::NoDotAndDotDot).size();
 }

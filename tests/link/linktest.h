@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "../files.h"
 #include "link/linkowner.h"
 
 #include <QByteArray>
 #include <QStringList>
-#include <QTemporaryDir>
 #include <functional>
 #include <future>
 #include <mutex>
@@ -90,22 +90,8 @@ public:
     QStringList lines() const;
 };
 
-/// A folder of its own to run in, with an empty configuration, which `cmcfg` writes to.
-class ScratchFolder
-{
-public:
-    ScratchFolder();
-    QString path() const { return m_folder.path(); }
-
-private:
-    QTemporaryDir m_folder;
-};
-
 /// Puts the link's globals back to what they are at the start of the program.
 void resetLinkGlobals();
-
-/// How many descriptors this process has open.
-qsizetype openDescriptors();
 
 template <typename Work> auto inBackground(Work work)
 {

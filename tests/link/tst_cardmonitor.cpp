@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../rows.h"
 #include "cardthread.h"
 #include "device/cardmonitor.h"
 #include "link/serialthread.h"
@@ -9,7 +10,6 @@
 
 #include <QJsonArray>
 #include <QSignalSpy>
-#include <QTest>
 #include <atomic>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -19,6 +19,17 @@ using namespace Qt::StringLiterals;
 using namespace corva;
 
 constexpr int patience = 20000; // ms, for what takes a moment on a busy machine
+
+namespace
+{
+
+const Rows<QString, int, QString> fullStateRows{
+    {"WCDMA", u"wcdma"_s, int(NetworkType::Umts), u"EM7-W"_s},
+    {"TD-SCDMA", u"tdscdma"_s, int(NetworkType::TdScdma), u"EM7-T"_s},
+    {"standard commands only", u"standard"_s, int(NetworkType::Umts), u"Standard card"_s},
+};
+
+} // namespace
 
 /// One card from plugging in to unplugging, on ports that the configuration names.
 class TestCardMonitor : public QObject
@@ -47,21 +58,11 @@ private Q_SLOTS:
         QTRY_COMPARE(openDescriptors(), m_descriptors);
     }
 
-    void fullState_data()
-    {
-        QTest::addColumn<QString>("profile");
-        QTest::addColumn<int>("networkType");
-        QTest::addColumn<QString>("model");
-        QTest::newRow("WCDMA") << u"wcdma"_s << int(NetworkType::Umts) << u"EM7-W"_s;
-        QTest::newRow("TD-SCDMA") << u"tdscdma"_s << int(NetworkType::TdScdma) << u"EM7-T"_s;
-        QTest::newRow("standard commands only")
-            << u"standard"_s << int(NetworkType::Umts) << u"Standard card"_s;
-    }
+    void fullState_data() { addRows(fullStateRows); }
     void fullState()
     {
-        QFETCH(QString, profile);
+        const auto &[name, profile, networkType, model] = currentRow(fullStateRows);
         begin(profile);
-        QTRY_VERIFY_WITH_TIMEOUT(state().modemReady && !state().identity.iccid.isEmpty(), patience);
         QCOMPARE(state().presence, CardPresence::Ready);
         QCOMPARE(state().portName, m_folder.path() + u"/card/at"_s);
         QCOMPARE(state().modemPortName, m_folder.path() + u"/card/modem"_s);
@@ -69,14 +70,14 @@ private Q_SLOTS:
         QCOMPARE(state().registration, Registration::Home);
         QCOMPARE(state().roaming, std::optional(false));
         QCOMPARE(state().service, ServiceState::Full);
-        QTEST(int(state().networkType), "networkType");
+        QCOMPARE(int(state().networkType), networkType);
         QCOMPARE(state().operatorName, u"Test Network"_s);
         QCOMPARE(state().signalBars(), 3);
         QCOMPARE(state().signalDbm, std::optional(-73));
         QCOMPARE(state().locationArea, std::optional(4660));
         QCOMPARE(state().cellId, std::optional(43981));
         QCOMPARE(state().functionality, std::optional(1));
-        QTEST(state().identity.model, "model");
+        QCOMPARE(state().identity.model, model);
         QCOMPARE(state().identity.imei, u"001012345678902"_s);
         QCOMPARE(state().identity.imsi, u"001010123456789"_s);
         QCOMPARE(state().identity.iccid, u"89001010123456789015"_s);
@@ -86,8 +87,7 @@ private Q_SLOTS:
 
     void changesAreSeen()
     {
-        begin(u"wcdma"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(state().modemReady, patience);
+        begin();
         tell(R"({"command": "roaming", "on": true})");
         tell(R"({"command": "signal", "rssi": 99})");
         m_monitor->refreshNow();
@@ -104,18 +104,18 @@ private Q_SLOTS:
     void makersCommandsAreAskedOnce()
     {
         begin(u"standard"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(!state().identity.iccid.isEmpty(), patience);
-        m_monitor->refreshNow();
-        QTRY_VERIFY_WITH_TIMEOUT(asked("AT+CSQ") >= 2, patience);
-        m_monitor->refreshNow();
-        QTRY_VERIFY_WITH_TIMEOUT(asked("AT+CSQ") >= 3, patience);
+        for (int polls = 2; polls <= 3; ++polls) {
+            m_monitor->refreshNow();
+            QTRY_VERIFY_WITH_TIMEOUT(asked("AT+CSQ") >= polls, patience);
+        }
         for (const char *command : {"AT^SYSINFO", "AT+JPAS?", "AT+JTIME?", "AT+JVN"})
             QCOMPARE(asked(command), 1);
     }
 
     void pinAndPuk()
     {
-        begin(u"locked"_s);
+        plugIn(u"locked"_s);
+        startMonitor();
         QTRY_COMPARE_WITH_TIMEOUT(state().pinAttempts, std::optional(3), patience);
         QCOMPARE(state().sim, SimState::PinNeeded);
         QVERIFY(!state().modemReady);
@@ -140,8 +140,7 @@ private Q_SLOTS:
 
     void silentCard()
     {
-        begin(u"wcdma"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(!state().identity.iccid.isEmpty(), patience);
+        begin();
         tell(R"({"command": "silence"})");
         QTRY_COMPARE_WITH_TIMEOUT((m_monitor->refreshNow(), state().presence), CardPresence::Silent,
                                   2 * patience);
@@ -153,14 +152,13 @@ private Q_SLOTS:
 
     void unpluggedInMidCommand()
     {
-        begin(u"wcdma"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(!state().identity.iccid.isEmpty(), patience);
+        begin();
         QTRY_COMPARE_WITH_TIMEOUT(UpdateCfg::value(UpdateKey::DeviceReady), u"1"_s, patience);
         tell(R"({"command": "fault", "kind": "noreply", "count": 0})");
         m_monitor->refreshNow();
         QTRY_VERIFY_WITH_TIMEOUT(asked("AT+CPIN?") >= 2, patience);
         tell(R"({"command": "unplug"})");
-        QTRY_COMPARE_WITH_TIMEOUT(state().presence, CardPresence::Absent, 1000); // not after a time-out
+        QTRY_COMPARE_WITH_TIMEOUT(state().presence, CardPresence::Absent, 2500); // not after a time-out
         QCOMPARE(state().identity, CardIdentity());
         QCOMPARE(UpdateCfg::value(UpdateKey::DeviceReady), u"0"_s);
         Pty takesTheNumber; // the card comes back on another one
@@ -171,8 +169,7 @@ private Q_SLOTS:
 
     void pollsDoNotQueueUp()
     {
-        begin(u"wcdma"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(!state().identity.iccid.isEmpty(), patience);
+        begin();
         tell(R"({"command": "pace", "delay": 50})");
         const int before = asked("AT+CSQ");
         for (int i = 0; i < 100; ++i)
@@ -186,8 +183,7 @@ private Q_SLOTS:
     {
         cmcfg.setValue(u"call"_s, u"enable"_s, u"1"_s);
         cmcfg.setValue(u"device"_s, u"voice_port"_s, m_folder.path() + u"/card/voice"_s);
-        begin(u"wcdma"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(state().modemReady, patience);
+        begin();
         for (const auto *port : {"at", "voice"}) {
             const QByteArray path = QFile::encodeName(m_folder.path()) + "/card/" + port;
             const int other = ::open(path.constData(), O_RDWR | O_NOCTTY | O_CLOEXEC);
@@ -218,10 +214,12 @@ private Q_SLOTS:
     }
 
 private:
-    void begin(const QString &profile)
+    /// A card that is plugged in and known in full.
+    void begin(const QString &profile = u"wcdma"_s)
     {
         plugIn(profile);
         startMonitor();
+        QTRY_VERIFY_WITH_TIMEOUT(state().modemReady && !state().identity.iccid.isEmpty(), patience);
     }
     void plugIn(const QString &profile)
     {
@@ -255,7 +253,7 @@ private:
     std::unique_ptr<cardemu::CardThread> m_card;
     std::unique_ptr<CardMonitor> m_monitor;
     std::atomic<CardMonitor *> m_searcher =
-        nullptr; ///< what the link's thread asks, also while it is destroyed
+        nullptr; ///< the link's thread asks it, also while it is destroyed
     qsizetype m_descriptors = 0;
 };
 

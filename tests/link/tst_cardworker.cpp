@@ -3,7 +3,6 @@
 #include "link/serialthread.h"
 #include "linktest.h"
 
-#include <QDir>
 #include <QSemaphore>
 #include <QTest>
 
@@ -135,11 +134,6 @@ private Q_SLOTS:
     }
 
 private:
-    static qsizetype threads()
-    {
-        return QDir(u"/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
-    }
-
     ScratchFolder m_folder;
     FakeOwner m_owner;
     std::unique_ptr<Pty> m_pty;

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../rows.h"
 #include "device/portclaim.h"
 #include "link/serialthread.h"
 #include "linktest.h"
 
-#include <QFile>
-#include <QTest>
 #include <algorithm>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -36,6 +35,19 @@ void disturb(const QString &port)
     ::close(fd);
 }
 
+const Rows<bool, uint> settingsRows{
+    {"soft flow control", true, uint(IXON | IXOFF)},
+    {"input left alone", false, uint(strangeInput)},
+};
+
+const Rows<QString, int> refusalsRows{
+    {"no such device", u"/dev/no-such-port"_s, ENOENT},
+    {"file", u"Data/phonebook"_s, ENOTTY},
+    {"folder", u"Data"_s, ENOTTY},
+    {"no terminal", u"/dev/null"_s, ENOTTY},
+    {"empty name", {}, ENOENT},
+};
+
 } // namespace
 
 class TestLine : public QObject
@@ -43,16 +55,10 @@ class TestLine : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void settings_data()
-    {
-        QTest::addColumn<bool>("softFlowControl");
-        QTest::addColumn<uint>("input");
-        QTest::newRow("soft flow control") << true << uint(IXON | IXOFF);
-        QTest::newRow("input left alone") << false << uint(strangeInput);
-    }
+    void settings_data() { addRows(settingsRows); }
     void settings()
     {
-        QFETCH(bool, softFlowControl);
+        const auto &[name, softFlowControl, input] = currentRow(settingsRows);
         Pty pty;
         const int keepsLine = ::open(qPrintable(pty.name()), O_RDWR | O_NOCTTY);
         disturb(pty.name());
@@ -64,7 +70,7 @@ private Q_SLOTS:
 
         termios line{};
         QCOMPARE(tcgetattr(fd, &line), 0);
-        QTEST(uint(line.c_iflag), "input");
+        QCOMPARE(uint(line.c_iflag), input);
         QCOMPARE(line.c_oflag, tcflag_t(0));
         QCOMPARE(line.c_lflag, tcflag_t(ECHONL | IEXTEN));
         // A pseudo-terminal insists on 8 bits without parity; what it keeps of the rest is compared.
@@ -81,32 +87,20 @@ private Q_SLOTS:
         ::close(keepsLine);
     }
 
-    void refusals_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<int>("error");
-        QTest::newRow("no such device") << u"/dev/no-such-port"_s << ENOENT;
-        QTest::newRow("file") << u"Data/phonebook"_s << ENOTTY;
-        QTest::newRow("folder") << u"Data"_s << ENOTTY;
-        QTest::newRow("no terminal") << u"/dev/null"_s << ENOTTY;
-        QTest::newRow("empty name") << QString() << ENOENT;
-    }
+    void refusals_data() { addRows(refusalsRows); }
     void refusals()
     {
-        QFETCH(QString, path);
-        QFile file(u"Data/phonebook"_s);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("a name");
-        file.close();
+        const auto &[name, path, error] = currentRow(refusalsRows);
+        putFile(u"Data/phonebook"_s, "a name");
         SerialThread link(&m_owner);
         const qsizetype before = openDescriptors();
 
         errno = 0;
         QCOMPARE(link.openPort(path), -1);
-        QTEST(int(errno), "error");
+        QCOMPARE(int(errno), error);
         QCOMPARE(link.descriptor(), -1);
         QCOMPARE(openDescriptors(), before);
-        QCOMPARE(file.size(), 6);
+        QCOMPARE(contentOf(u"Data/phonebook"_s), "a name");
     }
 
     void portOfAnotherProgramIsLeftAsItWas()

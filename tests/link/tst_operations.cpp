@@ -72,14 +72,14 @@ struct Operation {
     const char *name;
     QString (*run)(SerialThread &);
     const char *wcdma;
-    const char *tdscdma; ///< null: as WCDMA
-    const char *cdma;    ///< null: as WCDMA
+    const char *tdscdma = nullptr; ///< null: as WCDMA
+    const char *cdma = nullptr;    ///< null: as WCDMA
 };
 
 using Link = SerialThread;
 const Operation operations[] = {
-    {"probe", number<&Link::sendNULL_ATCmd>, "1", nullptr, nullptr},
-    {"manufacturer", text<&Link::getCGMI>, "1 Example Devices", nullptr, nullptr},
+    {"probe", number<&Link::sendNULL_ATCmd>, "1"},
+    {"manufacturer", text<&Link::getCGMI>, "1 Example Devices"},
     {"model", text<&Link::getCGMM>, "1 EM7-W", "1 EM7-T", "1 EM7-C"},
     {"IMEI", text<&Link::getIMEI>, "1 001012345678902", nullptr, "1 A1000009B1C2D3"},
     {"firmware", text<&Link::getCgmr>, "1 11.002.03.01.00", "1 21.001.07.00.00", "1 31.004.00.02.00"},
@@ -87,38 +87,37 @@ const Operation operations[] = {
      "1 31.004.00.02.00"},
     {"internal version", text<&Link::getJvn>, "1 EM7W-B112D03", "1 EM7T-B211D07", "1 EM7C-B314D00"},
     {"board", text<&Link::getJPCB>, "1 +JPCB: EM7W-PCB-A", "1 +JPCB: EM7T-PCB-B", "1 +JPCB: EM7C-PCB-A"},
-    {"SIM's number", text<&Link::getICCID>, "1 +CRSM: 144,0,\"98000101214365870951\"", nullptr, nullptr},
-    {"SIM's provider", text<&Link::getSPN>, "1 +CRSM: 144,0,\"0154657374204E6574776F726BFFFFFFFF\"", nullptr,
-     nullptr},
-    {"subscriber", text<&Link::getCIMI>, "1 001010123456789", nullptr, nullptr},
-    {"own number", text<&Link::getISDN>, "1 +12025550123", nullptr, nullptr},
-    {"signal", number<&Link::getSignalQuality>, "32", nullptr, nullptr},
+    {"SIM's number", text<&Link::getICCID>, "1 +CRSM: 144,0,\"98000101214365870951\""},
+    {"SIM's provider", text<&Link::getSPN>, "1 +CRSM: 144,0,\"0154657374204E6574776F726BFFFFFFFF\""},
+    {"subscriber", text<&Link::getCIMI>, "1 001010123456789"},
+    {"own number", text<&Link::getISDN>, "1 +12025550123"},
+    {"signal", number<&Link::getSignalQuality>, "32"},
     {"EV-DO signal", number<&Link::getEvdoSignalQuality>, "103", nullptr, "115"},
     {"system", text<&Link::get_SYSINFO_Res_Str>, "1 ^SYSINFO:2,3,0,5,1,0,4", "1 ^SYSINFO:2,3,0,15,1,0,8",
      "1 ^SYSINFO:2,255,0,8,1"},
     {"access", text<&Link::get_JPAS_Res_Str>, "1 +JPAS: 5,2,4", "1 +JPAS: 15,2,8", "1 +JPAS: 8,2,0"},
     {"operator", text<&Link::get_COPS_Res_Str>, "1 +COPS: 0,0,\"Test Network\",2", nullptr, "1 ERROR"},
     {"operator's name", text<&Link::getCOPS>, "1 0,0,\"Test Network\",2", nullptr, "0"},
-    {"registration", text<&Link::get_CREG_Res_Str>, "1 +CREG: 2,1,\"1234\",\"0000ABCD\"", nullptr, nullptr},
+    {"registration", text<&Link::get_CREG_Res_Str>, "1 +CREG: 2,1,\"1234\",\"0000ABCD\""},
     {"data registration", text<&Link::get_CGREG_Res_Str>, "1 +CGREG: 0,1", nullptr, "1 ERROR"},
-    {"area", number<&Link::getLac>, "4660", nullptr, nullptr},
-    {"cell", number<&Link::getCellID>, "43981", nullptr, nullptr},
-    {"unknown command", text<&Link::getResultForJAIRINFO>, "0", nullptr, nullptr},
+    {"area", number<&Link::getLac>, "4660"},
+    {"cell", number<&Link::getCellID>, "43981"},
+    {"unknown command", text<&Link::getResultForJAIRINFO>, "0"},
     {"on WCDMA", number<&Link::isWcdmaNetwork>, "1", "0", "0"},
-    {"new platform", number<&Link::isNewPlatform>, "1", nullptr, nullptr},
-    {"SIM phonebook", number<&Link::simCapacity>, "250", nullptr, nullptr},
-    {"card phonebook", number<&Link::modemSideCapacity>, "500", nullptr, nullptr},
-    {"level", number<&Link::getOnlineStatus>, "1", nullptr, nullptr},
-    {"radio on", number<&Link::setTDModemFullFun>, "1", nullptr, nullptr},
-    {"online", number<&Link::netCardStatus>, "1", nullptr, nullptr},
-    {"offline", number<&Link::netCardPowOn, false>, "1", nullptr, nullptr},
-    {"antenna", number<&Link::getAntennaStatus>, "1", nullptr, nullptr},
+    {"new platform", number<&Link::isNewPlatform>, "1"},
+    {"SIM phonebook", number<&Link::simCapacity>, "250"},
+    {"card phonebook", number<&Link::modemSideCapacity>, "500"},
+    {"level", number<&Link::getOnlineStatus>, "1"},
+    {"radio on", number<&Link::setTDModemFullFun>, "1"},
+    {"online", number<&Link::netCardStatus>, "1"},
+    {"offline", number<&Link::netCardPowOn, false>, "1"},
+    {"antenna", number<&Link::getAntennaStatus>, "1"},
     {"USIM", number<&Link::getUSIM>, "1", nullptr, "-1"},
-    {"errors in words", number<&Link::setErrorReporting, 2>, "1", nullptr, nullptr},
-    {"SIM state", number<&Link::connectDeviceNeedInputPIN>, "0", nullptr, nullptr},
+    {"errors in words", number<&Link::setErrorReporting, 2>, "1"},
+    {"SIM state", number<&Link::connectDeviceNeedInputPIN>, "0"},
     {"attempts", attempts, "3,10", nullptr, ""},
-    {"PIN request", changeLock, "0 0 1 1 0 1 0 1 0", nullptr, nullptr},
-    {"PUK", unblock, "1 0 0 0 1 2 -2 0 1 0 1", nullptr, nullptr},
+    {"PIN request", changeLock, "0 0 1 1 0 1 0 1 0"},
+    {"PUK", unblock, "1 0 0 0 1 2 -2 0 1 0 1"},
     {"selection", select, "1", nullptr, "0"},
 };
 

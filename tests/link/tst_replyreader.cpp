@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../rows.h"
 #include "byterules.h"
 #include "link/replyreader.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 namespace byterules
 {
@@ -58,6 +58,28 @@ QByteArray randomStream(QRandomGenerator &random)
     return stream;
 }
 
+const Rows<QByteArray, QByteArray, QByteArray> endsRows{
+    {"USSD answer comes later", "AT+CUSD=1\r\r\nOK\r\n\r\n+CUSD: 0\r\n", "AT+CUSD=1\r\r\nOK\r\n", {}},
+    {"CMS error", "\r\n+CMS ERROR\r\n", "\r\n+CMS ERROR\r\n", {}},
+    {"unsupported", "COMMAND not support\r\nOK\r\n", "COMMAND not support\r\n",
+     "****** Cmd of JCPBR is not support!"},
+    {"video call", "CONNECT\r\n", "CONNECT\r\n", "****** Video Call CONNECT!"},
+    {"CME number", "\r\n+CME ERROR: 14\r\n\r\n", "\r\n+CME ERROR: 14\r\n",
+     "****** in the resAtStr,to continue of while!!!"},
+    {"no network, words behind", "+CME ERROR: no network service\r\n", "+CME ERROR: no network service",
+     "****** in the resAtStr,to continue of while!!!|******3 JPDPACT!"},
+    {"no network, words before", "no network service\r\n+CME ERROR: 30\r\n",
+     "no network service\r\n+CME ERROR", "******3 JPDPACT!"},
+    {"prompt inside an error line", "+CME ERROR: > NO CARRIER\r\n", "+CME ERROR: > NO CARRIER\r\n",
+     "****** in the resAtStr,to continue of while!!!"},
+    {"end of call drops what came before", "+CSQ: 1\r\n+JEND\r\n\r\nOK\r\n", "\r\nOK\r\n",
+     "****** Cmd of JEND find!"},
+    {"data call comes up", "\r\n+JPDPACT: 1,1\r\nOK\r\n", "\r\n+JPDPACT: 1,1", "****** 1JPDPACT!"},
+    {"data call inside an error line", "+CME ERROR +JPDPACT: 1,0\r\n", " +JPDPACT: 1,0",
+     "****** in the resAtStr,to continue of while!!!|****** 0JPDPACT!"},
+    {"end mark in an operator's name", "+COPS: 0,0,\"NO CARRIER\"\r\nOK\r\n", "+COPS: 0,0,\"NO CARRIER", {}},
+};
+
 } // namespace
 
 class TestReplyReader : public QObject
@@ -83,49 +105,15 @@ private Q_SLOTS:
         QVERIFY2(completed > 5000 && completed < 19000, "both outcomes were met often");
     }
 
-    void ends_data()
-    {
-        QTest::addColumn<QByteArray>("stream");
-        QTest::addColumn<QByteArray>("reply");
-        QTest::addColumn<QByteArray>("notes");
-        const auto row = [](const char *name, const QByteArray &stream, const QByteArray &reply,
-                            const QByteArray &notes = {}) {
-            QTest::newRow(name) << stream << reply << notes;
-        };
-        row("probe", "\r\nOK\r\n\r\nRING\r\n", "\r\nOK\r\n");
-        row("USSD answer comes later", "AT+CUSD=1\r\r\nOK\r\n\r\n+CUSD: 0\r\n", "AT+CUSD=1\r\r\nOK\r\n");
-        row("message prompt", "\r\n> \r\n", "\r\n> ");
-        row("CMS error", "\r\n+CMS ERROR\r\n", "\r\n+CMS ERROR\r\n");
-        row("unsupported", "COMMAND not support\r\nOK\r\n", "COMMAND not support\r\n",
-            "****** Cmd of JCPBR is not support!");
-        row("video call", "CONNECT\r\n", "CONNECT\r\n", "****** Video Call CONNECT!");
-        row("CME number", "\r\n+CME ERROR: 14\r\n\r\n", "\r\n+CME ERROR: 14\r\n",
-            "****** in the resAtStr,to continue of while!!!");
-        row("no network, words behind", "+CME ERROR: no network service\r\n",
-            "+CME ERROR: no network service",
-            "****** in the resAtStr,to continue of while!!!|******3 JPDPACT!");
-        row("no network, words before", "no network service\r\n+CME ERROR: 30\r\n",
-            "no network service\r\n+CME ERROR", "******3 JPDPACT!");
-        row("prompt inside an error line", "+CME ERROR: > NO CARRIER\r\n", "+CME ERROR: > NO CARRIER\r\n",
-            "****** in the resAtStr,to continue of while!!!");
-        row("end of call drops what came before", "+CSQ: 1\r\n+JEND\r\n\r\nOK\r\n", "\r\nOK\r\n",
-            "****** Cmd of JEND find!");
-        row("data call comes up", "\r\n+JPDPACT: 1,1\r\nOK\r\n", "\r\n+JPDPACT: 1,1", "****** 1JPDPACT!");
-        row("data call inside an error line", "+CME ERROR +JPDPACT: 1,0\r\n", " +JPDPACT: 1,0",
-            "****** in the resAtStr,to continue of while!!!|****** 0JPDPACT!");
-        row("end mark in an operator's name", "+COPS: 0,0,\"NO CARRIER\"\r\nOK\r\n",
-            "+COPS: 0,0,\"NO CARRIER");
-    }
+    void ends_data() { addRows(endsRows); }
     void ends()
     {
-        QFETCH(QByteArray, stream);
-        QFETCH(QByteArray, reply);
+        const auto &[name, stream, reply, notes] = currentRow(endsRows);
         ReplyReader reader;
         const auto progress = reader.feed(stream);
         QCOMPARE(progress.status, ReplyReader::Status::Complete);
         QCOMPARE(reader.reply(), reply);
-        QByteArrayList notes(reader.notes().begin(), reader.notes().end());
-        QTEST(notes.join('|'), "notes");
+        QCOMPARE(QByteArrayList(reader.notes().begin(), reader.notes().end()).join('|'), notes);
     }
 
     void longestReply()

@@ -1,15 +1,58 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../rows.h"
 #include "link/replyreader.h"
 #include "link/serialthread.h"
 #include "linktest.h"
 #include "shell/commoncfg.h"
 
 #include <QElapsedTimer>
-#include <QTest>
+#include <QRegularExpression>
 #include <vector>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
+
+namespace
+{
+
+// A search that runs; "can be cancelled, may be disturbed" as configured; whether the command is sent.
+const Rows<bool, QString, const char *, bool> gatesRows{
+    {"nothing runs", false, u"1,0"_s, "AT+CSQ\r\n", true},
+    {"search runs", true, u"0,0"_s, "AT+CSQ\r\n", false},
+    {"search runs, keys missing", true, u","_s, "AT\r\n", false},
+    {"search may be disturbed", true, u"0,1"_s, "AT+CSQ\r\n", true},
+    {"search can be cancelled", true, u"1,1"_s, "AT+CSQ\r\n", false},
+    {"the search itself", true, u"1,0"_s, "AT+COPS=?\r\n", true},
+    {"almost the search", true, u"1,0"_s, "AT+COPS=?\r", false},
+};
+
+const Rows<QString> secretsAreMaskedRows{
+    {"AT+CPIN=\"4711\"", u"AT+CPIN=\"****\""_s},
+    {"AT+CPIN=\"47114711\",\"4711\"", u"\"********\",\"****\""_s},
+    {"AT+CLCK=\"SC\",1,\"4711\"", u"\"SC\",1,\"****\""_s},
+    {"at+cpwd=\"SC\",\"4711\",\"4711\"", u"\"SC\",\"****\",\"****\""_s},
+    {"AT^CPIN=\"4711\"", u"AT^CPIN=\"****\""_s},
+    {"AT+APWIFIW=1,2,a4711z", u"=1,2,******"_s},
+};
+
+// Probe's seconds and tenths, time-out of a reply: as configured, and as taken.
+const Rows<QString, QList<int>> timersRows{
+    {"none", u"  "_s, {0, 1, 3}},
+    {"lowest", u"0 1 1"_s, {0, 1, 1}},
+    {"highest", u"15 15 60"_s, {15, 15, 60}},
+    {"above", u"16 16 61"_s, {0, 1, 3}},
+    {"below", u"-1 0 0"_s, {0, 1, 3}},
+    {"any tenths beside seconds", u"2 99 4"_s, {2, 99, 4}},
+    {"no numbers", u"a b c"_s, {0, 1, 3}},
+};
+
+const Rows<int, int> silenceSpendsTheBudgetRows{
+    {"none", 0, 5},
+    {"less than a round", 99999, 5},
+    {"three rounds", 300000, 315},
+};
+
+} // namespace
 
 /// One command after another over a pseudo-terminal whose far side is the test.
 class TestTransaction : public QObject
@@ -36,33 +79,14 @@ private Q_SLOTS:
         m_link.reset();
     }
 
-    void gates_data()
-    {
-        QTest::addColumn<bool>("searching");
-        QTest::addColumn<QStringList>("keys"); // the search can be cancelled; it may be disturbed
-        QTest::addColumn<QByteArray>("cmd");
-        QTest::addColumn<bool>("passes");
-        const auto row = [](const char *name, bool searching, const QString &keys, const char *cmd,
-                            bool passes) {
-            QTest::newRow(name) << searching << keys.split(u',') << QByteArray(cmd) << passes;
-        };
-        row("nothing runs", false, u"1,0"_s, "AT+CSQ\r\n", true);
-        row("search runs", true, u"0,0"_s, "AT+CSQ\r\n", false);
-        row("search runs, keys missing", true, u","_s, "AT\r\n", false);
-        row("search may be disturbed", true, u"0,1"_s, "AT+CSQ\r\n", true);
-        row("search can be cancelled", true, u"1,1"_s, "AT+CSQ\r\n", false);
-        row("the search itself", true, u"1,0"_s, "AT+COPS=?\r\n", true);
-        row("almost the search", true, u"1,0"_s, "AT+COPS=?\r", false);
-    }
+    void gates_data() { addRows(gatesRows); }
     void gates()
     {
-        QFETCH(bool, searching);
-        QFETCH(QStringList, keys);
-        QFETCH(QByteArray, cmd);
-        cmcfg.setValue(u"function"_s, u"cancelManualSearch_enabled"_s, keys[0]);
-        cmcfg.setValue(u"network"_s, u"serchNetworkAlowSentAt_enabled"_s, keys[1]);
+        const auto &[name, searching, keys, cmd, passes] = currentRow(gatesRows);
+        cmcfg.setValue(u"function"_s, u"cancelManualSearch_enabled"_s, keys.section(u',', 0, 0));
+        cmcfg.setValue(u"network"_s, u"serchNetworkAlowSentAt_enabled"_s, keys.section(u',', 1));
         m_link->setCOPSCmdSendingStatus(searching);
-        QTEST(m_link->excuteAtStr(cmd.constData()), "passes");
+        QCOMPARE(m_link->excuteAtStr(cmd), passes);
     }
 
     void noPortOrNoDeviceFile()
@@ -98,30 +122,18 @@ private Q_SLOTS:
         QCOMPARE(exchange([this] { return m_link->sendCmdAndRec("AT+CSQ\r\n", 1, 500000); },
                           "+JEND\r\n\r\n+CSQ: 5,9\r\nOK\r\n"),
                  30);
-        QCOMPARE(log.lines(), (QStringList{u"purgeComData:: \r\nOK\r\n"_s, u"sent cmd: AT+CSQ\r\n"_s,
-                                           u"****** Cmd of JEND find!"_s,
-                                           u"****** in resAtStr, timer_sec=1, timer_usec=500000, con=15"_s,
-                                           u"****** in resAtStr, pResStr = \r\n+CSQ: 5,9\r\nOK\r\n"_s}));
+        QCOMPARE(withoutRounds(log),
+                 (QStringList{u"purgeComData:: \r\nOK\r\n"_s, u"sent cmd: AT+CSQ\r\n"_s,
+                              u"****** Cmd of JEND find!"_s,
+                              u"****** in resAtStr, timer_sec=1, timer_usec=500000"_s,
+                              u"****** in resAtStr, pResStr = \r\n+CSQ: 5,9\r\nOK\r\n"_s}));
     }
 
-    void secretsAreMasked_data()
-    {
-        QTest::addColumn<QByteArray>("cmd");
-        QTest::addColumn<QString>("shown");
-        const auto row = [](const char *cmd, const QString &shown) {
-            QTest::newRow(cmd) << QByteArray(cmd) + "\r\n" << shown;
-        };
-        row("AT+CPIN=\"4711\"", u"AT+CPIN=\"****\""_s);
-        row("AT+CPIN=\"47114711\",\"4711\"", u"\"********\",\"****\""_s);
-        row("AT+CLCK=\"SC\",1,\"4711\"", u"\"SC\",1,\"****\""_s);
-        row("at+cpwd=\"SC\",\"4711\",\"4711\"", u"\"SC\",\"****\",\"****\""_s);
-        row("AT^CPIN=\"4711\"", u"AT^CPIN=\"****\""_s);
-        row("AT+APWIFIW=1,2,a4711z", u"=1,2,******"_s);
-    }
+    void secretsAreMasked_data() { addRows(secretsAreMaskedRows); }
     void secretsAreMasked()
     {
-        QFETCH(QByteArray, cmd);
-        QFETCH(QString, shown);
+        const auto &[secret, shown] = currentRow(secretsAreMaskedRows);
+        const QByteArray cmd = QByteArray(secret) + "\r\n";
         const LogCapture log;
         m_pty->write(cmd); // an echo that comes late
         exchange([&] { return m_link->sendCmdAndRec(cmd.constData(), 1, 0); }, cmd + "\r\nOK\r\n");
@@ -130,25 +142,17 @@ private Q_SLOTS:
         QCOMPARE(log.lines().filter(shown).size(), 3); // drained, sent, in the reply
     }
 
-    void silenceSpendsTheBudget_data()
-    {
-        QTest::addColumn<int>("microseconds");
-        QTest::addColumn<int>("least");
-        QTest::newRow("none") << 0 << 5;
-        QTest::newRow("less than a round") << 99999 << 5;
-        QTest::newRow("three rounds") << 300000 << 315;
-    }
+    void silenceSpendsTheBudget_data() { addRows(silenceSpendsTheBudgetRows); }
     void silenceSpendsTheBudget()
     {
-        QFETCH(int, microseconds);
-        QFETCH(int, least);
+        const auto &[name, microseconds, least] = currentRow(silenceSpendsTheBudgetRows);
         std::vector<char> reply(SerialThread::replyBufferSize, 'x');
         m_pty->write("\r\n+CSQ: 1"); // half a reply is no reply
         const LogCapture log;
         QElapsedTimer time;
         time.start();
         QCOMPARE(m_link->resAtStr(m_link->descriptor(), reply.data(), 0, microseconds), -1);
-        QVERIFY2(time.elapsed() >= least - 2 && time.elapsed() < least + 300,
+        QVERIFY2(time.elapsed() >= least - 2 && time.elapsed() < least + 3000,
                  qPrintable(QString::number(time.elapsed())));
         QCOMPARE(QByteArray(reply.data()), QByteArray());
         QCOMPARE(log.lines(), QStringList{u"****** select of SerialThread::resAtStr is timerout"_s});
@@ -157,11 +161,10 @@ private Q_SLOTS:
 
     void arrivingBytesCostNoBudget()
     {
-        auto result = inBackground([this] { return m_link->sendCmdAndRec("AT+CSQ\r\n", 0, 500000); });
-        m_pty->readUntil("\n");
+        auto result = sent(1s);
         const QByteArray reply = "\r\n+CSQ: 20,9\r\n\r\nOK\r\n";
-        for (const char byte : reply) { // 0.8 s in all: the pace is what is tested
-            QTest::qWait(40);
+        for (const char byte : reply) { // 1.2 s in all: the pace is what is tested
+            QTest::qWait(60);
             m_pty->write({&byte, 1});
         }
         QCOMPARE(result.get(), 32);
@@ -169,10 +172,9 @@ private Q_SLOTS:
 
     void tricklesWithoutEndAreGivenUp()
     {
-        auto result = inBackground([this] { return m_link->sendCmdAndRec("AT+CSQ\r\n", 0, 500000); });
-        m_pty->readUntil("\n");
         QElapsedTimer time;
         time.start();
+        auto result = sent(2s);
         while (result.wait_for(60ms) != std::future_status::ready && !time.hasExpired(60000))
             m_pty->write("\r\n+JRSSI: -80,-5,-75\r\n");
         QVERIFY(time.elapsed() >= std::chrono::milliseconds(SerialThread::lowestCeiling).count());
@@ -254,15 +256,19 @@ private Q_SLOTS:
         QTRY_COMPARE(m_link->readDataWaiting(), 6);
     }
 
-    void unpluggedInMidCommand()
+    void longWaitsEndAtOnce()
     {
+        auto endless = sent(60s);
+        m_pty->write(QByteArray(corva::ReplyReader::capacity + 1, 'x'));
+        QCOMPARE(endless.get(), 102);
+        QVERIFY(!m_link->hasReadAhead());
+
         const LogCapture log;
-        auto result = inBackground([this] { return m_link->sendCmdAndRec("AT+CSQ\r\n", 60, 0); });
-        m_pty->readUntil("\n");
+        auto unplugged = sent(60s);
         m_pty->write("\r\n+CS");
         m_pty->unplug();
-        QCOMPARE(result.wait_for(5s), std::future_status::ready);
-        QCOMPARE(result.get(), 102);
+        QCOMPARE(unplugged.wait_for(5s), std::future_status::ready);
+        QCOMPARE(unplugged.get(), 102);
         QVERIFY(m_link->isPortLost());
         QCOMPARE(log.lines().last(), u"SerialThread::resAtStr() ===> no data to read!"_s);
         QCOMPARE(m_link->sendCmdAndRec("AT+CSQ\r\n", 60, 0), 103);
@@ -270,20 +276,11 @@ private Q_SLOTS:
 
     void stopEndsEveryWait()
     {
-        auto result = inBackground([this] { return m_link->sendCmdAndRec("AT+CSQ\r\n", 60, 0); });
-        m_pty->readUntil("\n");
+        auto result = sent(60s);
         m_link->requestStop();
         QCOMPARE(result.wait_for(5s), std::future_status::ready);
         QCOMPARE(result.get(), 102);
         QVERIFY(!m_link->isPortLost());
-    }
-
-    void endlessReplyFails()
-    {
-        auto result = inBackground([this] { return m_link->sendCmdAndRec("AT+CSQ\r\n", 60, 0); });
-        m_pty->readUntil("\n");
-        m_pty->write(QByteArray(corva::ReplyReader::capacity + 1, 'x'));
-        QCOMPARE(result.get(), 102);
     }
 
     void readersSeeWhatWasReadAhead()
@@ -306,33 +303,19 @@ private Q_SLOTS:
         QVERIFY(m_link->isPortLost());
     }
 
-    void timers_data()
-    {
-        QTest::addColumn<QStringList>("texts");
-        QTest::addColumn<QList<int>>("values");
-        const auto row = [](const char *name, const QString &values, const QList<int> &expected) {
-            QTest::newRow(name) << values.split(u' ') << expected;
-        };
-        // probe seconds, probe tenths, reply time-out
-        row("none", u"  "_s, {0, 1, 3});
-        row("lowest", u"0 1 1"_s, {0, 1, 1});
-        row("highest", u"15 15 60"_s, {15, 15, 60});
-        row("above", u"16 16 61"_s, {0, 1, 3});
-        row("below", u"-1 0 0"_s, {0, 1, 3});
-        row("any tenths beside seconds", u"2 99 4"_s, {2, 99, 4});
-        row("no numbers", u"a b c"_s, {0, 1, 3});
-    }
+    void timers_data() { addRows(timersRows); }
     void timers()
     {
-        QFETCH(QStringList, texts);
+        const auto &[name, texts, expected] = currentRow(timersRows);
         const char *const names[] = {"send_nullatcommand_timer_s", "send_nullatcommand_timer_100ms",
                                      "send_atcommand_timer"};
         for (int i = 0; i < 3; ++i)
-            cmcfg.setValue(u"network_dialer_setting"_s, QString::fromLatin1(names[i]), texts[i]);
+            cmcfg.setValue(u"network_dialer_setting"_s, QString::fromLatin1(names[i]),
+                           texts.section(u' ', i, i));
         const SerialThread link(&m_owner);
         const QList<int> values{send_nullatcommand_timer_s, send_nullatcommand_timer_100ms,
                                 send_atcommand_timer};
-        QTEST(values, "values");
+        QCOMPARE(values, expected);
     }
 
     void configuredTimeoutGoesOverTheCallers()
@@ -342,8 +325,8 @@ private Q_SLOTS:
             send_atcommand_timer = configured;
             exchange([this] { return m_link->sendCmdAndRec("AT\r\n", 1, 7); }, "\r\nOK\r\n");
         }
-        QCOMPARE(log.lines()[2], u"****** in resAtStr, timer_sec=1, timer_usec=7, con=10"_s);
-        QCOMPARE(log.lines()[6], u"****** in resAtStr, timer_sec=4, timer_usec=7, con=40"_s);
+        QCOMPARE(withoutRounds(log)[2], u"****** in resAtStr, timer_sec=1, timer_usec=7"_s);
+        QCOMPARE(withoutRounds(log)[6], u"****** in resAtStr, timer_sec=4, timer_usec=7"_s);
     }
 
     void probe()
@@ -404,6 +387,22 @@ private Q_SLOTS:
     }
 
 private:
+    /// Without the rounds that are left of the time-out: a busy machine spends some.
+    static QStringList withoutRounds(const LogCapture &log)
+    {
+        return log.lines().replaceInStrings(QRegularExpression(u", con=\\d+$"_s), {});
+    }
+
+    /// A command that the far side has read; its reply may take so long.
+    std::future<int> sent(std::chrono::microseconds timeout)
+    {
+        auto result = inBackground([this, timeout] {
+            return m_link->sendCmdAndRec("AT+CSQ\r\n", int(timeout / 1s), int((timeout % 1s).count()));
+        });
+        m_pty->readUntil("\n");
+        return result;
+    }
+
     /// Runs `work`, which writes one command, and answers it.
     int exchange(const std::function<int()> &work, const QByteArray &reply)
     {

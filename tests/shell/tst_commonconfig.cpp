@@ -1,39 +1,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../files.h"
+#include "../rows.h"
 #include "shell/commonconfig.h"
 
-#include <QDir>
-#include <QFile>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <algorithm>
 #include <cmath>
 #include <functional>
-#include <memory>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
 
-QByteArray shipped(const char *name)
-{
-    QFile file(QStringLiteral(CORVA_SOURCE_DIR) + u"/Data/"_s + QString::fromLatin1(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+const QString data = QStringLiteral(CORVA_SOURCE_DIR "/Data/");
 
 /// The record that the shipped file becomes with its lines from `first` on replaced.
 CommonConfig readWith(int first, const QByteArrayList &replacement)
 {
-    QByteArrayList lines = shipped("config").split('\n');
+    QByteArrayList lines = contentOf(data + u"config"_s).split('\n');
     for (const QByteArray &line : replacement)
         lines[first++] = line;
-    QFile file(u"config"_s);
+    putFile(u"config"_s, lines.join('\n'));
     CommonConfig config;
-    if (file.open(QIODevice::WriteOnly))
-        file.write(lines.join('\n'));
-    file.close();
     readConfigFile(config, u"config"_s);
     return config;
 }
@@ -103,6 +94,22 @@ QList<Pair> pairsOf(const CommonConfig &c)
     return pairs;
 }
 
+// The line counted from 0 where the replacement begins, the replacement, and what it changes.
+const Rows<int, QByteArrayList, std::function<void(CommonConfig &)>> readsRows{
+    {"labels mean nothing", 0, {"12"}, [](CommonConfig &) {}},
+    {"number with blanks and line end", 1, {" 1024 \r"}, [](CommonConfig &c) { c.windowWidth = 1024; }},
+    {"no number", 1, {"wide"}, [](CommonConfig &) {}},
+    {"number too small", 1, {"-5"}, [](CommonConfig &c) { c.windowWidth = 320; }},
+    {"number beyond counting", 1, {"99999999999999999999"}, [](CommonConfig &) {}},
+    {"size of text beyond what fits", 114, {"72"}, [](CommonConfig &c) { c.textSize = 24; }},
+    {"colour", 5, {"1", "2", "3"}, [](CommonConfig &c) { c.window = QColor(1, 2, 3); }},
+    {"colour out of range", 5, {"-1", "256", "3"}, [](CommonConfig &c) { c.window = QColor(0, 255, 3); }},
+    {"colour with a hole", 5, {"1", "", "3"}, [](CommonConfig &) {}},
+    {"text", 25, {"  Mine "}, [](CommonConfig &c) { c.skinName = u"  Mine "_s; }},
+    {"empty text", 25, {""}, [](CommonConfig &c) { c.skinName = QString(); }},
+    {"text not set", 25, {"null"}, [](CommonConfig &) {}},
+};
+
 } // namespace
 
 class TestCommonConfig : public QObject
@@ -110,84 +117,36 @@ class TestCommonConfig : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir::setCurrent(m_folder->path()));
-    }
-
-    void cleanup() { QDir::setCurrent(QDir::rootPath()); }
-
-    void shippedFilesHoldTheTable_data()
-    {
-        QTest::addColumn<QString>("name");
-        for (const char *name : {"config", "skins/light", "skins/dark"})
-            QTest::newRow(name) << QString::fromLatin1(name);
-    }
+    void init() { m_folder.emplace(); }
 
     void shippedFilesHoldTheTable()
     {
-        QFETCH(QString, name);
-        const QByteArray content = shipped(name.toLatin1().constData());
-        CommonConfig config;
-        QVERIFY(readConfigFile(config, QStringLiteral(CORVA_SOURCE_DIR) + u"/Data/"_s + name));
-        QVERIFY(writeConfig(config, u"written"_s));
-        QFile written(u"written"_s);
-        QVERIFY(written.open(QIODevice::ReadOnly));
-        QCOMPARE(written.readAll(), content);
-        QCOMPARE(config == CommonConfig(), name != "skins/dark"_L1);
-    }
-
-    void colorsCanBeRead_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("light") << u"light"_s;
-        QTest::newRow("dark") << u"dark"_s;
+        for (const QString &name : {u"config"_s, u"skins/light"_s, u"skins/dark"_s}) {
+            CommonConfig config;
+            QVERIFY2(readConfigFile(config, data + name), qPrintable(name));
+            QVERIFY(writeConfig(config, u"written"_s));
+            QCOMPARE(contentOf(u"written"_s), contentOf(data + name));
+            QCOMPARE(config == CommonConfig(), name != "skins/dark"_L1);
+        }
     }
 
     void colorsCanBeRead()
     {
-        QFETCH(QString, name);
-        CommonConfig config;
-        QVERIFY(readConfigFile(config, QStringLiteral(CORVA_SOURCE_DIR) + u"/Data/skins/"_s + name));
-        for (const Pair &pair : pairsOf(config)) {
-            const double ratio = contrast(pair.front, pair.back);
-            QVERIFY2(ratio >= pair.least, qPrintable(u"%1: %2"_s.arg(pair.name).arg(ratio)));
+        for (const QString &name : {u"light"_s, u"dark"_s}) {
+            CommonConfig config;
+            QVERIFY(readConfigFile(config, data + u"skins/"_s + name));
+            for (const Pair &pair : pairsOf(config)) {
+                const double ratio = contrast(pair.front, pair.back);
+                QVERIFY2(ratio >= pair.least, qPrintable(u"%1, %2: %3"_s.arg(name, pair.name).arg(ratio)));
+            }
         }
     }
 
-    void reads_data()
-    {
-        QTest::addColumn<int>("line"); // counted from 0, where the replacement begins
-        QTest::addColumn<QByteArrayList>("replacement");
-        QTest::addColumn<CommonConfig>("config");
-        const auto row = [](const char *name, int line, const QByteArrayList &lines,
-                            const std::function<void(CommonConfig &)> &change) {
-            QTest::newRow(name) << line << lines << changed(change);
-        };
-        row("labels mean nothing", 0, {"12"}, [](CommonConfig &) {});
-        row("number", 1, {"1024"}, [](CommonConfig &c) { c.windowWidth = 1024; });
-        row("number with blanks and line end", 1, {" 1024 \r"},
-            [](CommonConfig &c) { c.windowWidth = 1024; });
-        row("no number", 1, {"wide"}, [](CommonConfig &) {});
-        row("number too small", 1, {"-5"}, [](CommonConfig &c) { c.windowWidth = 320; });
-        row("number beyond counting", 1, {"99999999999999999999"}, [](CommonConfig &) {});
-        row("size of text beyond what fits", 114, {"72"}, [](CommonConfig &c) { c.textSize = 24; });
-        row("colour", 5, {"1", "2", "3"}, [](CommonConfig &c) { c.window = QColor(1, 2, 3); });
-        row("colour out of range", 5, {"-1", "256", "3"},
-            [](CommonConfig &c) { c.window = QColor(0, 255, 3); });
-        row("colour with a hole", 5, {"1", "", "3"}, [](CommonConfig &) {});
-        row("text", 25, {"  Mine "}, [](CommonConfig &c) { c.skinName = u"  Mine "_s; });
-        row("empty text", 25, {""}, [](CommonConfig &c) { c.skinName = QString(); });
-        row("text not set", 25, {"null"}, [](CommonConfig &) {});
-    }
-
+    void reads_data() { addRows(readsRows); }
     void reads()
     {
-        QFETCH(int, line);
-        QFETCH(QByteArrayList, replacement);
-        QFETCH(CommonConfig, config);
-        QVERIFY(readWith(line, replacement) == config);
+        const auto &[name, line, replacement, change] = currentRow(readsRows);
+        QVERIFY(readWith(line, replacement) == changed(change));
     }
 
     void pictureTakesOneLine()
@@ -205,14 +164,11 @@ private Q_SLOTS:
     void cutAnywhereKeepsTheRest()
     {
         CommonConfig dark;
-        QVERIFY(readConfigFile(dark, QStringLiteral(CORVA_SOURCE_DIR) + u"/Data/skins/dark"_s));
-        const QByteArrayList lines = shipped("skins/dark").split('\n');
+        QVERIFY(readConfigFile(dark, data + u"skins/dark"_s));
+        const QByteArrayList lines = contentOf(data + u"skins/dark"_s).split('\n');
         int filled = 0;
         for (qsizetype count = 0; count < lines.size(); ++count) {
-            QFile file(u"cut"_s);
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write(lines.first(count).join('\n'));
-            file.close();
+            putFile(u"cut"_s, lines.first(count).join('\n'));
             CommonConfig config;
             QVERIFY(readConfigFile(config, u"cut"_s));
             QCOMPARE(config.skinName, count > 25 ? dark.skinName : CommonConfig().skinName);
@@ -234,7 +190,7 @@ private Q_SLOTS:
     }
 
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<ScratchFolder> m_folder;
 };
 
 QTEST_APPLESS_MAIN(TestCommonConfig)

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../files.h"
+#include "../rows.h"
 #include "shell/configkeys.h"
 
 #include "shell/configxml.h"
 
 #include <QDirIterator>
-#include <QFile>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -15,11 +15,7 @@ using namespace corva;
 namespace
 {
 
-QByteArray shipped(const char *name)
-{
-    QFile file(QStringLiteral(CORVA_SOURCE_DIR) + QString::fromLatin1(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+const QString source = QStringLiteral(CORVA_SOURCE_DIR);
 
 /// "section/key=value" of every key, in the order of the file.
 QStringList linesOfFile(const QByteArray &xml)
@@ -36,6 +32,17 @@ QStringList linesOfFile(const QByteArray &xml)
     return lines;
 }
 
+const Rows<ConfigType, QString, bool> valuesHaveFormsRows{
+    {"flag", ConfigType::Flag, u"1"_s, true},
+    {"flag two", ConfigType::Flag, u"2"_s, false},
+    {"not set", ConfigType::Number, {}, true},
+    {"number with unit", ConfigType::Number, u"3s"_s, false},
+    {"negative time", ConfigType::Seconds, u"-1"_s, false},
+    {"colour", ConfigType::Colour, u"1,20,255"_s, true},
+    {"colour of two", ConfigType::Colour, u"1,20"_s, false},
+    {"relative path", ConfigType::File, u"ttyS0"_s, false},
+};
+
 } // namespace
 
 class TestConfigKeys : public QObject
@@ -48,10 +55,13 @@ private Q_SLOTS:
         QStringList lines;
         for (const ConfigKey &key : configKeys())
             lines += key.section + u'/' + key.name + u'=' + key.value;
-        QCOMPARE(linesOfFile(shipped("/Data/common-config.xml")), lines);
+        QCOMPARE(linesOfFile(contentOf(source + u"/Data/common-config.xml"_s)), lines);
     }
 
-    void manualHoldsTheTable() { QCOMPARE(shipped("/docs/manual/configuration-keys.md"), configKeysPage()); }
+    void manualHoldsTheTable()
+    {
+        QCOMPARE(contentOf(source + u"/docs/manual/configuration-keys.md"_s), configKeysPage());
+    }
 
     void everyRowIsSound()
     {
@@ -74,40 +84,23 @@ private Q_SLOTS:
         static const QRegularExpression use(
             uR"re(cmcfg\.(?:getNumber|getValue|setValue)\(\s*u"([^"]+)"_s,\s*u"([^"]+)"_s)re"_s);
         int uses = 0;
-        QDirIterator files(QStringLiteral(CORVA_SOURCE_DIR) + u"/src"_s, {u"*.cpp"_s}, QDir::Files,
-                           QDirIterator::Subdirectories);
+        QDirIterator files(source + u"/src"_s, {u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {
-            QFile file(files.next());
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            for (const auto &match : use.globalMatch(QString::fromUtf8(file.readAll()))) {
+            const QString file = files.next();
+            for (const auto &match : use.globalMatch(QString::fromUtf8(contentOf(file)))) {
                 const QString name = match.captured(1) + u'/' + match.captured(2);
-                QVERIFY2(declared.contains(name), qPrintable(file.fileName() + u": "_s + name));
+                QVERIFY2(declared.contains(name), qPrintable(file + u": "_s + name));
                 ++uses;
             }
         }
         QVERIFY(uses > 10);
     }
 
-    void valuesHaveForms_data()
-    {
-        QTest::addColumn<ConfigType>("type");
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<bool>("fits");
-        QTest::newRow("flag") << ConfigType::Flag << u"1"_s << true;
-        QTest::newRow("flag two") << ConfigType::Flag << u"2"_s << false;
-        QTest::newRow("not set") << ConfigType::Number << QString() << true;
-        QTest::newRow("number with unit") << ConfigType::Number << u"3s"_s << false;
-        QTest::newRow("negative time") << ConfigType::Seconds << u"-1"_s << false;
-        QTest::newRow("colour") << ConfigType::Colour << u"1,20,255"_s << true;
-        QTest::newRow("colour of two") << ConfigType::Colour << u"1,20"_s << false;
-        QTest::newRow("relative path") << ConfigType::File << u"ttyS0"_s << false;
-    }
-
+    void valuesHaveForms_data() { addRows(valuesHaveFormsRows); }
     void valuesHaveForms()
     {
-        QFETCH(ConfigType, type);
-        QFETCH(QString, value);
-        QTEST(isValueOf(type, value), "fits");
+        const auto &[name, type, value, fits] = currentRow(valuesHaveFormsRows);
+        QCOMPARE(isValueOf(type, value), fits);
     }
 };
 

@@ -1,30 +1,34 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../rows.h"
 #include "shell/endsignals.h"
 
 #include <QSignalSpy>
-#include <QTest>
 #include <csignal>
 #include <sys/wait.h>
 #include <unistd.h>
 
 using corva::EndSignals;
 
+namespace
+{
+
+const Rows<int> eachSignalBecomesAnEventRows{
+    {"asked to end", SIGTERM},
+    {"Ctrl+C", SIGINT},
+    {"the terminal closed", SIGHUP},
+};
+
+} // namespace
+
 class TestEndSignals : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void eachSignalBecomesAnEvent_data()
-    {
-        QTest::addColumn<int>("number");
-        QTest::newRow("asked to end") << SIGTERM;
-        QTest::newRow("Ctrl+C") << SIGINT;
-        QTest::newRow("the terminal closed") << SIGHUP;
-    }
-
+    void eachSignalBecomesAnEvent_data() { addRows(eachSignalBecomesAnEventRows); }
     void eachSignalBecomesAnEvent()
     {
-        QFETCH(const int, number);
+        const auto &[name, number] = currentRow(eachSignalBecomesAnEventRows);
         const EndSignals signals_;
         QSignalSpy ends(&signals_, &EndSignals::sigEnd);
         ::raise(number);

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../files.h"
+#include "../rows.h"
 #include "shell/inifile.h"
 
 #include "shell/globals.h"
 #include "shell/updatecfg.h"
 
-#include <QDir>
-#include <QFile>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <cstdio>
-#include <memory>
+#include <optional>
 #include <thread>
 #include <unistd.h>
 
@@ -22,19 +20,6 @@ namespace
 {
 
 constexpr auto absent = "(absent)";
-
-void put(const char *path, const QByteArray &content)
-{
-    QFile file(QString::fromLatin1(path));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-QByteArray contentOf(const char *path)
-{
-    QFile file(QString::fromLatin1(path));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// What `work` prints to the standard output.
 template <typename Work> QByteArray printedBy(Work work)
@@ -47,7 +32,7 @@ template <typename Work> QByteArray printedBy(Work work)
     std::fflush(stdout);
     ::dup2(saved, STDOUT_FILENO);
     ::close(saved);
-    return contentOf("printed");
+    return contentOf(u"printed"_s);
 }
 
 QByteArray randomLine(QRandomGenerator &random)
@@ -59,6 +44,37 @@ QByteArray randomLine(QRandomGenerator &random)
     return line + '\n';
 }
 
+const Rows<QByteArray, QByteArray, QByteArray, QByteArray> loadsRows{
+    {"plain", "[s]\nk=v\n", "s", "k", "v"},
+    {"letter case", "[Sec]\nKey=v\n", "sEC", "kEY", "v"},
+    {"letter case beyond ASCII counts", "[s]\n\xc3\x84=v\n", "s", "\xc3\xa4", absent},
+    {"blanks everywhere", " [ s ] \r\n\t k \t=\t v w \r\n", "s", "k", "v w"},
+    {"first equals sign splits", "[s]\nk=a=b\n", "s", "k", "a=b"},
+    {"no key", "[s]\n=v\n", "s", "", "v"},
+    {"before the first section", "k=v\n[s]\n", "", "k", "v"},
+    {"section without name", "[s]\n[]\nk=v\n", "", "k", "v"},
+    {"later value wins", "[s]\nk=1\n[t]\nk=2\n[S]\nK=3\n", "s", "k", "3"},
+    {"hash comment", "[s]\n#k=v\n", "s", "#k", absent},
+    {"semicolon comment", "[s]\n ;k=v\n", "s", ";k", absent},
+    {"hash inside is none", "[s]\nk=v # w\n", "s", "k", "v # w"},
+    {"bracket not closed", "[s]\n[t\nk=v\n", "s", "k", "v"},
+    {"bracket not closed, with equals sign", "[s]\n[t=v\n", "s", "[t", "v"},
+    {"letters above 127 are no blanks", "[s]\nk=\xa0\xff\n", "s", "k", "\xa0\xff"},
+    {"256 bytes are cut", "[s]\nk=" + QByteArray(254, 'x') + "\n", "s", "k", QByteArray(253, 'x')},
+    {"the second piece is a line", "[s]\nk=" + QByteArray(253, 'x') + "l=v\n", "s", "l", "v"},
+    {"a cut comment goes on as a line", "[s]\n#" + QByteArray(254, 'x') + "l=v\n", "s", "l", "v"},
+    {"blanks at a cut vanish", "[s]\nk=" + QByteArray(252, 'x') + "  y\n", "s", "k", QByteArray(252, 'x')},
+};
+
+const Rows<QByteArray, int> updateKeepsWhatWouldBeLostRows{
+    {"pairs and comments", "; c\n[UPDATE]\n k = v\r\n[update]\nDEVICE=d=e\n\n", 0},
+    {"the longest line", "[UPDATE]\nk=" + QByteArray(252, 'x') + "\n", 0},
+    {"a longer line", "[UPDATE]\nk=" + QByteArray(253, 'x') + "\n", 1},
+    {"no pair", "[UPDATE]\nsome words\n", 1},
+    {"two values", "[UPDATE]\nk=1\nK=2\n", 1},
+    {"NUL", QByteArray("[UPDATE]\nk=1\0002\n", 15), 1},
+};
+
 } // namespace
 
 class TestIniFile : public QObject
@@ -68,70 +84,26 @@ class TestIniFile : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir::setCurrent(m_folder->path()));
+        m_folder.emplace();
         basePath = m_folder->path();
     }
 
-    void cleanup() { QDir::setCurrent(QDir::rootPath()); }
-
-    void loads_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QByteArray>("section");
-        QTest::addColumn<QByteArray>("key");
-        QTest::addColumn<QByteArray>("value");
-        const auto row = [](const char *name, const QByteArray &content, const char *section, const char *key,
-                            const QByteArray &value) {
-            QTest::newRow(name) << content << QByteArray(section) << QByteArray(key) << value;
-        };
-        row("plain", "[s]\nk=v\n", "s", "k", "v");
-        row("letter case", "[Sec]\nKey=v\n", "sEC", "kEY", "v");
-        row("letter case beyond ASCII counts", "[s]\n\xc3\x84=v\n", "s", "\xc3\xa4", absent);
-        row("blanks everywhere", " [ s ] \r\n\t k \t=\t v w \r\n", "s", "k", "v w");
-        row("first equals sign splits", "[s]\nk=a=b\n", "s", "k", "a=b");
-        row("no value", "[s]\nk=\n", "s", "k", "");
-        row("no key", "[s]\n=v\n", "s", "", "v");
-        row("before the first section", "k=v\n[s]\n", "", "k", "v");
-        row("section without name", "[s]\n[]\nk=v\n", "", "k", "v");
-        row("later value wins", "[s]\nk=1\n[t]\nk=2\n[S]\nK=3\n", "s", "k", "3");
-        row("hash comment", "[s]\n#k=v\n", "s", "#k", absent);
-        row("semicolon comment", "[s]\n ;k=v\n", "s", ";k", absent);
-        row("slash comment", "[s]\n/k=v\n", "s", "/k", absent);
-        row("hash inside is none", "[s]\nk=v # w\n", "s", "k", "v # w");
-        row("bracket not closed", "[s]\n[t\nk=v\n", "s", "k", "v");
-        row("bracket not closed, with equals sign", "[s]\n[t=v\n", "s", "[t", "v");
-        row("bracket alone", "[s]\n[\nk=v\n", "s", "k", "v");
-        row("text behind the header", "[s]\n[t] x\nk=v\n", "s", "k", "v");
-        row("no end of the last line", "[s]\nk=v", "s", "k", "v");
-        row("letters above 127 are no blanks", "[s]\nk=\xa0\xff\n", "s", "k", "\xa0\xff");
-        row("delete is no blank", "[s]\nk=\x7f\n", "s", "k", "\x7f");
-        row("255 bytes in one piece", "[s]\nk=" + QByteArray(253, 'x') + "\nl=v\n", "s", "k",
-            QByteArray(253, 'x'));
-        row("256 bytes are cut", "[s]\nk=" + QByteArray(254, 'x') + "\n", "s", "k", QByteArray(253, 'x'));
-        row("the second piece is a line", "[s]\nk=" + QByteArray(253, 'x') + "l=v\n", "s", "l", "v");
-        row("a cut comment goes on as a line", "[s]\n#" + QByteArray(254, 'x') + "l=v\n", "s", "l", "v");
-        row("blanks at a cut vanish", "[s]\nk=" + QByteArray(252, 'x') + "  y\n", "s", "k",
-            QByteArray(252, 'x'));
-    }
-
+    void loads_data() { addRows(loadsRows); }
     void loads()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(QByteArray, section);
-        QFETCH(QByteArray, key);
-        put("file.ini", content);
+        const auto &[name, content, section, key, value] = currentRow(loadsRows);
+        putFile(u"file.ini"_s, content);
         CIniFile ini;
         QCOMPARE(ini.Load("file.ini"), 0);
-        QTEST(QByteArray(ini.Get(section.constData(), key.constData(), absent)), "value");
+        QCOMPARE(QByteArray(ini.Get(section.constData(), key.constData(), absent)), value);
     }
 
     void savesInOrder()
     {
-        put("file.ini", "; gone\n\nz=0\n[Two]\nb = 1\n[One]\na=2\n[two]\nB=3\nc=4\n");
+        putFile(u"file.ini"_s, "; gone\n\nz=0\n[Two]\nb = 1\n[One]\na=2\n[two]\nB=3\nc=4\n");
         const CIniFile ini("file.ini");
         QCOMPARE(ini.Save("file.ini"), 0);
-        QCOMPARE(contentOf("file.ini"), QByteArray("[]\nz=0\n\n[Two]\nb=3\nc=4\n\n[One]\na=2\n\n"));
+        QCOMPARE(contentOf(u"file.ini"_s), QByteArray("[]\nz=0\n\n[Two]\nb=3\nc=4\n\n[One]\na=2\n\n"));
     }
 
     void setTrimsOnlyNewPairs()
@@ -181,8 +153,8 @@ private Q_SLOTS:
 
     void loadReplaces()
     {
-        put("one.ini", "[s]\nk=1\n");
-        put("two.ini", "[t]\nl=2\n");
+        putFile(u"one.ini"_s, "[s]\nk=1\n");
+        putFile(u"two.ini"_s, "[t]\nl=2\n");
         CIniFile ini("one.ini");
         QCOMPARE(ini.Load("two.ini"), 0);
         QCOMPARE(ini.Get("s", "k", absent), absent);
@@ -198,11 +170,11 @@ private Q_SLOTS:
             QByteArray text;
             for (int lines = random.bounded(20); lines > 0; --lines)
                 text += randomLine(random);
-            put("file.ini", text);
+            putFile(u"file.ini"_s, text);
             QCOMPARE(CIniFile("file.ini").Save("first.ini"), 0);
             CIniFile("first.ini").Save("second.ini");
             CIniFile("second.ini").Save("third.ini");
-            QCOMPARE(contentOf("third.ini"), contentOf("second.ini"));
+            QCOMPARE(contentOf(u"third.ini"_s), contentOf(u"second.ini"_s));
         }
     }
 
@@ -215,36 +187,24 @@ private Q_SLOTS:
 
     void updateKeepsOthersKeys()
     {
-        put("UpdateCfg.ini", "[OTHER]\nk=v\n[UPDATE]\nUPDATE_FREQUENCE=7\nDEVICE=old\n");
+        putFile(u"UpdateCfg.ini"_s, "[OTHER]\nk=v\n[UPDATE]\nUPDATE_FREQUENCE=7\nDEVICE=old\n");
         QVERIFY(UpdateCfg::setValues({{UpdateKey::Device, u"new"_s}, {UpdateKey::ImeiId, u"123"_s}}));
-        QCOMPARE(contentOf("UpdateCfg.ini"),
+        QCOMPARE(contentOf(u"UpdateCfg.ini"_s),
                  QByteArray("[OTHER]\nk=v\n\n[UPDATE]\nUPDATE_FREQUENCE=7\nDEVICE=new\nIMEI_ID=123\n\n"));
         QCOMPARE(UpdateCfg::value(UpdateKey::UpdateFrequence), u"7"_s);
     }
 
-    void updateKeepsWhatWouldBeLost_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<int>("kept");
-        QTest::newRow("pairs and comments")
-            << QByteArray("; c\n[UPDATE]\n k = v\r\n[update]\nDEVICE=d=e\n\n") << 0;
-        QTest::newRow("the longest line") << "[UPDATE]\nk=" + QByteArray(252, 'x') + "\n" << 0;
-        QTest::newRow("a longer line") << "[UPDATE]\nk=" + QByteArray(253, 'x') + "\n" << 1;
-        QTest::newRow("no pair") << QByteArray("[UPDATE]\nsome words\n") << 1;
-        QTest::newRow("two values") << QByteArray("[UPDATE]\nk=1\nK=2\n") << 1;
-        QTest::newRow("NUL") << QByteArray("[UPDATE]\nk=1\0002\n", 15) << 1;
-    }
-
+    void updateKeepsWhatWouldBeLost_data() { addRows(updateKeepsWhatWouldBeLostRows); }
     void updateKeepsWhatWouldBeLost()
     {
-        QFETCH(QByteArray, content);
+        const auto &[name, content, copies] = currentRow(updateKeepsWhatWouldBeLostRows);
         for (int round = 0; round < 2; ++round) { // once, however often it is written
-            put("UpdateCfg.ini", content);
+            putFile(u"UpdateCfg.ini"_s, content);
             QVERIFY(UpdateCfg::setValue(UpdateKey::Device, u"new"_s));
             const QStringList kept = QDir().entryList({u"UpdateCfg.ini.before-*"_s});
-            QTEST(int(kept.size()), "kept");
+            QCOMPARE(kept.size(), copies);
             if (!kept.isEmpty())
-                QCOMPARE(contentOf(qPrintable(kept.first())), content);
+                QCOMPARE(contentOf(kept.first()), content);
         }
     }
 
@@ -264,7 +224,7 @@ private Q_SLOTS:
     }
 
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<ScratchFolder> m_folder;
 };
 
 QTEST_APPLESS_MAIN(TestIniFile)

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Runs the program's own main() as a process, with a main window that tells what is asked of it.
-#include <QDir>
-#include <QFile>
+#include "../files.h"
+#include "../rows.h"
+
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <memory>
 
@@ -16,11 +15,42 @@ namespace
 
 constexpr int longestRun = 60'000;
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+const QByteArray noSplash = "<function><splash_hide>1</splash_hide></function>";
+const QByteArray asked = noSplash + "<setting><system_enabled>1</system_enabled></setting>"
+                                    "<systemsetting><disclaimer_show>2</disclaimer_show></systemsetting>";
+const QString built = u"built wtmainwindowbase frameless Dark|"_s;
+const QString lines = u"Corva|Software version PC:3.1|"_s;
+
+// Settings; the answer to the disclaimer; what the window is asked for.
+const Rows<QByteArray, QString, QString> sequenceRows{
+    {"no splash", noSplash, {}, built + u"shown|stopped"_s},
+    {"splash, one round",
+     "<function><splash_hide>2</splash_hide></function>",
+     {},
+     built + u"modem?|"_s + lines + u"|Initializing|shown|stopped"_s},
+    {"splash, two rounds",
+     "<network_dialer_setting><splash_timer>1</splash_timer></network_dialer_setting>",
+     {},
+     built + u"modem?|modem?|"_s + lines + u"|Initializing.|shown|stopped"_s},
+    {"splash waits for the firmware",
+     "<network_dialer_setting><splash_timer>9</splash_timer></network_dialer_setting>"
+     "<function><splash_firmversion_enabled>1</splash_firmversion_enabled></function>",
+     {},
+     built + u"firmware?|"_s + lines + u"Firmware Version:1.2|Initializing...|shown|stopped"_s},
+    {"disclaimer accepted", asked, u"accept"_s, built + u"disclaimer accept|shown|stopped"_s},
+    {"disclaimer declined", asked, u"decline"_s, built + u"disclaimer decline|stopped"_s},
+    {"disclaimer not enabled",
+     noSplash + "<systemsetting><disclaimer_show>1</disclaimer_show></systemsetting>",
+     {},
+     built + u"shown|stopped"_s},
+};
+
+const Rows<QStringList> anyArgumentEndsItRows{
+    {"unknown", {u"--unknown"_s}},
+    {"empty", {QString()}},
+    {"the toolkit's own", {u"-style"_s, u"fusion"_s}},
+    {"one that the toolkit would end with", {u"-platform"_s, u"none"_s}},
+};
 
 } // namespace
 
@@ -36,53 +66,23 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(QStringLiteral(CORVA_DOUBLE), m_program->filePath(u"corva"_s)));
         QVERIFY(QDir(m_program->path()).mkdir(u"Data"_s));
         QVERIFY(QDir(m_start->path()).mkdir(u"Data"_s));
-        put(m_program->filePath(u"Data/version.txt"_s), "3.1\n");
-        put(m_start->filePath(u"Data/version.txt"_s), "wrong\n");
+        putFile(m_program->filePath(u"Data/version.txt"_s), "3.1\n");
+        putFile(m_start->filePath(u"Data/version.txt"_s), "wrong\n");
         QVERIFY(QFile::copy(QStringLiteral(CORVA_SOURCE_DIR "/Data/skins/dark"),
                             m_start->filePath(u"Data/config"_s)));
     }
 
-    void sequence_data()
-    {
-        QTest::addColumn<QByteArray>("sections");
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<QString>("steps");
-        const QString built = u"built wtmainwindowbase frameless Dark|"_s;
-        const QString lines = u"Corva|Software version PC:3.1|"_s;
-        const auto row = [](const char *name, const QByteArray &sections, const QString &answer,
-                            const QString &steps) { QTest::newRow(name) << sections << answer << steps; };
-        row("no splash", "<function><splash_hide>1</splash_hide></function>", {}, built + u"shown|stopped"_s);
-        row("splash, one round", "<function><splash_hide>2</splash_hide></function>", {},
-            built + u"modem?|"_s + lines + u"|Initializing|shown|stopped"_s);
-        row("splash, two rounds",
-            "<network_dialer_setting><splash_timer>1</splash_timer></network_dialer_setting>", {},
-            built + u"modem?|modem?|"_s + lines + u"|Initializing.|shown|stopped"_s);
-        row("splash waits for the firmware",
-            "<network_dialer_setting><splash_timer>9</splash_timer></network_dialer_setting>"
-            "<function><splash_firmversion_enabled>1</splash_firmversion_enabled></function>",
-            {}, built + u"firmware?|"_s + lines + u"Firmware Version:1.2|Initializing...|shown|stopped"_s);
-        const QByteArray asked = "<setting><system_enabled>1</system_enabled></setting>"
-                                 "<systemsetting><disclaimer_show>2</disclaimer_show></systemsetting>"
-                                 "<function><splash_hide>1</splash_hide></function>";
-        row("disclaimer accepted", asked, u"accept"_s, built + u"disclaimer accept|shown|stopped"_s);
-        row("disclaimer declined", asked, u"decline"_s, built + u"disclaimer decline|stopped"_s);
-        row("disclaimer not enabled",
-            "<systemsetting><disclaimer_show>1</disclaimer_show></systemsetting>"
-            "<function><splash_hide>1</splash_hide></function>",
-            {}, built + u"shown|stopped"_s);
-    }
-
+    void sequence_data() { addRows(sequenceRows); }
     void sequence()
     {
-        QFETCH(QByteArray, sections);
-        QFETCH(QString, answer);
+        const auto &[name, sections, answer, steps] = currentRow(sequenceRows);
         putSettings(sections);
         QProcess process;
         start(process, {}, {{u"DOUBLE_ANSWER"_s, answer}});
         QVERIFY(process.waitForFinished(longestRun));
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         QCOMPARE(process.exitCode(), 0);
-        QTEST(stepsOf(process), "steps");
+        QCOMPARE(stepsOf(process), steps);
     }
 
     void diagnosticsBeginWithTheTime()
@@ -98,18 +98,10 @@ private Q_SLOTS:
         QVERIFY2(said.contains(line), qPrintable(said));
     }
 
-    void anyArgumentEndsIt_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("unknown") << QStringList{u"--unknown"_s};
-        QTest::newRow("empty") << QStringList{QString()};
-        QTest::newRow("the toolkit's own") << QStringList{u"-style"_s, u"fusion"_s};
-        QTest::newRow("one that the toolkit would end with") << QStringList{u"-platform"_s, u"none"_s};
-    }
-
+    void anyArgumentEndsIt_data() { addRows(anyArgumentEndsItRows); }
     void anyArgumentEndsIt()
     {
-        QFETCH(QStringList, arguments);
+        const auto &[name, arguments] = currentRow(anyArgumentEndsItRows);
         QProcess process;
         start(process, arguments, {{u"QT_QPA_PLATFORM"_s, u"none"_s}}); // and without a display
         QVERIFY(process.waitForFinished(longestRun));
@@ -123,7 +115,7 @@ private Q_SLOTS:
 
     void secondStartLeavesTheFirst()
     {
-        putSettings("<function><splash_hide>1</splash_hide></function>");
+        putSettings(noSplash);
         QProcess first;
         start(first, {}, {{u"DOUBLE_STAYS"_s, u"1"_s}});
         QVERIFY(QTest::qWaitFor([&] { return contentOf(pidFile()).toLongLong() == first.processId(); }));
@@ -145,16 +137,9 @@ private Q_SLOTS:
     }
 
 private:
-    static void put(const QString &path, const QByteArray &content)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-
     void putSettings(const QByteArray &sections) const
     {
-        put(m_start->filePath(u"Data/common-config.xml"_s), "<settings>" + sections + "</settings>");
+        putFile(m_start->filePath(u"Data/common-config.xml"_s), "<settings>" + sections + "</settings>");
     }
 
     QString pidFile() const { return m_start->filePath(u"pid"_s); }

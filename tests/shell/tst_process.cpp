@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What belongs to the process as a whole: the instance lock, the version file, the debug log.
+#include "../files.h"
+#include "../rows.h"
 #include "device/modemtypes.h"
 #include "shell/commonconfig.h"
 #include "shell/debuglog.h"
@@ -8,14 +10,9 @@
 #include "shell/logging.h"
 #include "shell/updatecfg.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
-
 #include <csignal>
 #include <functional>
-#include <memory>
+#include <optional>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -24,19 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-
-void put(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// A child process that reports what `work` returned and then lives until it is killed.
 class Child
@@ -97,6 +81,13 @@ private:
     int m_reportEnd = -1;
 };
 
+const Rows<QByteArray, QString> versionRows{
+    {"other line end", "1.2.3\r\nmore\r\n", u"1.2.3"_s},
+    {"UTF-8", "1.2 \xc3\xa4\n", u"1.2 ä"_s},
+    {"first line empty", "\n1.2.3\n", {}},
+    {"empty", {}, {}},
+};
+
 } // namespace
 
 class TestProcess : public QObject
@@ -106,16 +97,15 @@ class TestProcess : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
+        m_folder.emplace();
         basePath = m_folder->path();
-        QVERIFY(QDir(basePath).mkdir(u"Data"_s));
     }
 
     void oneInstanceHoldsTheLock()
     {
         const QByteArray path = QFile::encodeName(basePath + u"/pid"_s);
         const auto take = [&] { return corva::takeInstanceLock(path.constData()); };
-        put(basePath + u"/pid"_s, "a longer text than any number");
+        putFile(basePath + u"/pid"_s, "a longer text than any number");
 
         Child first(take);
         QCOMPARE(first.result(), 0);
@@ -134,39 +124,22 @@ private Q_SLOTS:
         QCOMPARE(contentOf(basePath + u"/pid"_s), QByteArray::number(third.pid()));
     }
 
-    void lockFileThatCannotBeUsed_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("no such folder") << u"/no/pid"_s;
-        QTest::newRow("a folder") << u"/Data"_s;
-    }
-
     void lockFileThatCannotBeUsed()
     {
-        QFETCH(QString, name);
-        const QByteArray path = QFile::encodeName(basePath + name);
-        Child child([&] { return corva::takeInstanceLock(path.constData()); });
-        QCOMPARE(child.result(), 1001);
+        for (const char *name : {"/no/pid", "/Data"}) { // no such folder; a folder itself
+            const QByteArray path = QFile::encodeName(basePath) + name;
+            Child child([&] { return corva::takeInstanceLock(path.constData()); });
+            QCOMPARE(child.result(), 1001);
+        }
     }
 
-    void version_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("version");
-        QTest::newRow("one line") << QByteArray("1.2.3\n") << u"1.2.3"_s;
-        QTest::newRow("no line end") << QByteArray("1.2.3") << u"1.2.3"_s;
-        QTest::newRow("other line end") << QByteArray("1.2.3\r\nmore\r\n") << u"1.2.3"_s;
-        QTest::newRow("UTF-8") << QByteArray("1.2 \xc3\xa4\n") << u"1.2 ä"_s;
-        QTest::newRow("first line empty") << QByteArray("\n1.2.3\n") << QString();
-        QTest::newRow("empty") << QByteArray() << QString();
-    }
-
+    void version_data() { addRows(versionRows); }
     void version()
     {
-        QFETCH(QByteArray, content);
+        const auto &[name, content, version] = currentRow(versionRows);
         QCOMPARE(readVersionInfo(), QString());
-        put(basePath + u"/Data/version.txt"_s, content);
-        QTEST(readVersionInfo(), "version");
+        putFile(basePath + u"/Data/version.txt"_s, content);
+        QCOMPARE(readVersionInfo(), version);
     }
 
     void pipesInPlaceOfFilesAreNotWaitedFor()
@@ -185,7 +158,7 @@ private Q_SLOTS:
     void debugLogCollects()
     {
         const QString log = basePath + u"/Data/debug.log"_s;
-        put(log, QByteArray(1000, 'x'));
+        putFile(log, QByteArray(1000, 'x'));
         myMessageOutput(QtDebugMsg, {}, u"one ä"_s);
         myMessageOutput(QtWarningMsg, {}, u"dropped"_s);
         myMessageOutput(QtInfoMsg, {}, u"two"_s);
@@ -211,7 +184,7 @@ private Q_SLOTS:
     }
 
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<ScratchFolder> m_folder;
 };
 
 QTEST_APPLESS_MAIN(TestProcess)

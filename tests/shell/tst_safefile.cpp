@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../files.h"
+#include "../rows.h"
 #include "shell/safefile.h"
 
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <csignal>
 #include <memory>
@@ -22,19 +20,6 @@ using namespace corva;
 
 namespace
 {
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
-}
-
-void put(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-}
 
 /// A content that tells whether it is whole: one letter, many times, and an end mark.
 QByteArray wholeContent(int round)
@@ -82,6 +67,19 @@ int writeAndKill(const QString &path, int microseconds)
     return running ? status : -1;
 }
 
+const Rows<QString, QString> refusesWithASentenceRows{
+    {"a folder of that name", u"folder"_s, u"is not a plain file"_s},
+    {"a pipe of that name", u"pipe"_s, u"is not a plain file"_s},
+    {"a ring of links", u"ring"_s, u"is a ring of links"_s},
+    {"a file where a folder must be", u"plain/file"_s, u"Not a directory"_s},
+    {"a name that is too long", QString(300, u'n'), u"File name too long"_s},
+};
+
+const Rows<QString> leavesTheOldFileWhereRightsForbidRows{
+    {"file is read-only", u"folder/file"_s},
+    {"folder is read-only", u"folder"_s},
+};
+
 } // namespace
 
 class TestSafeFile : public QObject
@@ -105,7 +103,7 @@ private Q_SLOTS:
 
     void followsLinks()
     {
-        put(at("real"), "old");
+        putFile(at("real"), "old");
         QVERIFY(QFile::link(u"real"_s, at("link")));
         QVERIFY(QFile::link(at("link"), at("linkToLink")));
         QVERIFY(QFile::link(at("absent"), at("dangling")));
@@ -117,25 +115,14 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(at("dangling")).isSymLink());
     }
 
-    void refusesWithASentence_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("sentence");
-        QTest::newRow("a folder of that name") << u"folder"_s << u"is not a plain file"_s;
-        QTest::newRow("a pipe of that name") << u"pipe"_s << u"is not a plain file"_s;
-        QTest::newRow("a ring of links") << u"ring"_s << u"is a ring of links"_s;
-        QTest::newRow("a file where a folder must be") << u"plain/file"_s << u"Not a directory"_s;
-        QTest::newRow("a name that is too long") << QString(300, u'n') << u"File name too long"_s;
-    }
-
+    void refusesWithASentence_data() { addRows(refusesWithASentenceRows); }
     void refusesWithASentence()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, sentence);
+        const auto &[title, name, sentence] = currentRow(refusesWithASentenceRows);
         QVERIFY(QDir(m_folder->path()).mkdir(u"folder"_s));
         QCOMPARE(::mkfifo(QFile::encodeName(at("pipe")).constData(), 0600), 0);
         QVERIFY(QFile::link(at("ring"), at("ring")));
-        put(at("plain"), "plain");
+        putFile(at("plain"), "plain");
         const QStringList before = filesIn("");
 
         QString error;
@@ -145,16 +132,10 @@ private Q_SLOTS:
         QCOMPARE(contentOf(at("plain")), QByteArray("plain"));
     }
 
-    void leavesTheOldFileWhereRightsForbid_data()
-    {
-        QTest::addColumn<QString>("locked");
-        QTest::newRow("file is read-only") << u"folder/file"_s;
-        QTest::newRow("folder is read-only") << u"folder"_s;
-    }
-
+    void leavesTheOldFileWhereRightsForbid_data() { addRows(leavesTheOldFileWhereRightsForbidRows); }
     void leavesTheOldFileWhereRightsForbid()
     {
-        QFETCH(QString, locked);
+        const auto &[name, locked] = currentRow(leavesTheOldFileWhereRightsForbidRows);
         QVERIFY(writeFileSafely(at("folder/file"), "old"));
         const int status = asOrdinaryUser([&] {
             ::chmod(QFile::encodeName(at(locked)).constData(), 0500);
@@ -202,7 +183,7 @@ private Q_SLOTS:
     {
         const QString mine = u".file.new-%1-77"_s.arg(::getpid());
         for (const QString &name : {mine, u".file.new-x"_s, u".file.new-"_s, u".file"_s, u"file.new-1"_s})
-            put(at(name), "theirs");
+            putFile(at(name), "theirs");
         QVERIFY(writeFileSafely(at("file"), "content"));
         QCOMPARE(filesIn("").size(), 6);
     }
@@ -211,7 +192,7 @@ private Q_SLOTS:
     {
         QStringList kept;
         for (const char *content : {"first", "second", "third"}) {
-            put(at("file"), content);
+            putFile(at("file"), content);
             kept += keepBrokenFile(at("file"));
             QCOMPARE(contentOf(kept.last()), QByteArray(content));
             QVERIFY(!QFile::exists(at("file")));
@@ -223,7 +204,7 @@ private Q_SLOTS:
 
     void keepsBehindALink()
     {
-        put(at("real"), "broken");
+        putFile(at("real"), "broken");
         QVERIFY(QFile::link(at("real"), at("link")));
         QVERIFY(keepBrokenFile(at("link")).startsWith(at("real.broken-")));
         QVERIFY(writeFileSafely(at("link"), "new"));
@@ -232,8 +213,8 @@ private Q_SLOTS:
 
     void readsNoMoreThanAsked()
     {
-        put(at("file"), "abcdef");
-        put(at("empty"), "");
+        putFile(at("file"), "abcdef");
+        putFile(at("empty"), "");
         QCOMPARE(::mkfifo(QFile::encodeName(at("pipe")).constData(), 0600), 0);
         QCOMPARE(readAtMost(at("file"), 4), QByteArray("abcd"));
         QCOMPARE(readAtMost(at("file"), 100), QByteArray("abcdef"));
@@ -245,7 +226,7 @@ private Q_SLOTS:
 
     void keepsNothingWhereNothingIs()
     {
-        put(at("empty"), "");
+        putFile(at("empty"), "");
         QCOMPARE(keepBrokenFile(at("absent")), QString());
         QCOMPARE(keepBrokenFile(at("empty")), QString());
         QVERIFY(QFile::exists(at("empty")));

@@ -1,23 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "window/startup.h"
 
+#include "../files.h"
+#include "../rows.h"
 #include "shell/commoncfg.h"
 #include "shell/globals.h"
 #include "window/frmdisclaimer.h"
 #include "window/splash.h"
 
 #include <QCloseEvent>
-#include <QDir>
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 #include <QTranslator>
 
-#include <memory>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -62,6 +61,33 @@ protected:
     void closeEvent(QCloseEvent *event) override { event->setAccepted(givesIn); }
 };
 
+const QString source = u"Initializing"_s;
+
+const Rows<QString, QString, QString, Qt::LayoutDirection, QString> languageRows{
+    {"none", {}, u"English"_s, source, Qt::LeftToRight, u"May"_s},
+    {"Spanish", u"Spanish"_s, u"Spanish"_s, u"Iniciando"_s, Qt::LeftToRight, u"mayo"_s},
+    {"Arabic", u"Arabic"_s, u"Arabic"_s, u"جارٍ التهيئة"_s, Qt::RightToLeft, u"مايو"_s},
+    {"no such file", u"Martian"_s, u"Martian"_s, source, Qt::LeftToRight, u"May"_s},
+};
+
+// Whether the firmware is shown; the limit; the round from 1 in which the card is ready; the rounds; the last
+// line.
+const Rows<bool, int, int, int, QString> splashWaitsRows{
+    {"no limit is one round", false, 0, 99, 1, source},
+    {"limit below zero", false, -5, 99, 1, source},
+    {"card never answers", false, 3, 99, 4, u"Initializing. . ."_s},
+    {"the dots begin again", false, 5, 99, 6, source},
+    {"ready at once", false, 20, 1, 1, u"Initializing..."_s},
+    {"ready in the third", false, 20, 3, 3, u"Initializing."_s},
+    {"firmware known in the third", true, 20, 3, 3, u"Initializing..."_s},
+    {"firmware never known", true, 2, 99, 3, u"Initializing..."_s},
+};
+
+const Rows<Qt::Key, int> disclaimerByKeyboardRows{
+    {"Enter accepts", Qt::Key_Return, 1},
+    {"Escape declines", Qt::Key_Escape, 0},
+};
+
 } // namespace
 
 class TestStartup : public QObject
@@ -71,8 +97,7 @@ class TestStartup : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir::setCurrent(m_folder->path()));
+        m_folder.emplace();
         basePath = QStringLiteral(CORVA_SOURCE_DIR);
         for (const char *key : {"splash_fontname", "splash_fontsize"})
             cmcfg.setValue(u"fontsetting"_s, QString::fromLatin1(key), {});
@@ -84,36 +109,19 @@ private Q_SLOTS:
         qDeleteAll(translators);
         QApplication::setLayoutDirection(Qt::LeftToRight);
         QLocale::setDefault(QLocale::system());
-        QDir::setCurrent(QDir::rootPath());
     }
 
-    void language_data()
-    {
-        QTest::addColumn<QString>("chosen");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<Qt::LayoutDirection>("direction");
-        QTest::addColumn<QString>("may");
-        const QString source = u"Initializing"_s;
-        QTest::newRow("none") << QString() << u"English"_s << source << Qt::LeftToRight << u"May"_s;
-        QTest::newRow("Spanish") << u"Spanish"_s << u"Spanish"_s << u"Iniciando"_s << Qt::LeftToRight
-                                 << u"mayo"_s;
-        QTest::newRow("Arabic") << u"Arabic"_s << u"Arabic"_s << u"جارٍ التهيئة"_s << Qt::RightToLeft
-                                << u"مايو"_s;
-        QTest::newRow("no such file")
-            << u"Martian"_s << u"Martian"_s << source << Qt::LeftToRight << u"May"_s;
-    }
-
+    void language_data() { addRows(languageRows); }
     void language()
     {
-        QFETCH(QString, chosen);
+        const auto &[name, chosen, stored, text, direction, may] = currentRow(languageRows);
         QVERIFY(QFile::link(QStringLiteral(CORVA_APP_DIR "/Language"), u"Language"_s));
         cmcfg.setValue(u"function"_s, u"selected-language"_s, chosen);
         installTranslation();
-        QTEST(cmcfg.getValue(u"function"_s, u"selected-language"_s), "stored");
-        QTEST(SplashDialog::tr("Initializing"), "text");
-        QTEST(QApplication::layoutDirection(), "direction");
-        QTEST(QLocale().monthName(5), "may");
+        QCOMPARE(cmcfg.getValue(u"function"_s, u"selected-language"_s), stored);
+        QCOMPARE(SplashDialog::tr("Initializing"), text);
+        QCOMPARE(QApplication::layoutDirection(), direction);
+        QCOMPARE(QLocale().monthName(5), may);
     }
 
     void textsFit_data()
@@ -149,73 +157,30 @@ private Q_SLOTS:
         QVERIFY2(disclaimer.width() <= 800 && disclaimer.height() <= 520, "larger than the smallest window");
     }
 
-    void splashLooks()
-    {
-        cmcfg.setValue(u"fontsetting"_s, u"splash_fontsize"_s, u"11"_s);
-        const SplashDialog dialog(u"1.0"_s);
-        QCOMPARE(dialog.objectName(), u"edition"_s);
-        QCOMPARE(dialog.size(), QSize(388, 246));
-        QVERIFY(dialog.windowFlags().testFlag(Qt::FramelessWindowHint));
-        QVERIFY(!dialog.isModal());
-        QVERIFY(line(dialog, "init")->font().bold());
-        QCOMPARE(line(dialog, "init")->font().pointSize(), 11);
-        QCOMPARE(line(dialog, "softversion")->text(), u"Software version PC:1.0"_s);
-        QCOMPARE(line(dialog, "firmversion")->text(), QString());
-        QCOMPARE(line(dialog, "init")->text(), u"Initializing..."_s);
-        QVERIFY(!QPixmap(basePath + u"/res/startingWindow.jpg"_s).isNull());
-    }
-
-    void dotsComeAndGo()
-    {
-        SplashDialog dialog(u"1.0"_s);
-        const char *patterns[] = {"", ".", ". .", ". . .", ". . . .", "", "."};
-        for (int round = 0; round < 7; ++round) {
-            dialog.setRound(round);
-            QCOMPARE(line(dialog, "init")->text(), u"Initializing"_s + QString::fromLatin1(patterns[round]));
-        }
-    }
-
-    void splashWaits_data()
-    {
-        QTest::addColumn<bool>("showFirmware");
-        QTest::addColumn<int>("limit");
-        QTest::addColumn<int>("readyIn"); // the round in which the card is ready, counted from 1
-        QTest::addColumn<int>("rounds");
-        QTest::addColumn<QString>("activity");
-        QTest::newRow("no limit is one round") << false << 0 << 99 << 1 << u"Initializing"_s;
-        QTest::newRow("limit below zero") << false << -5 << 99 << 1 << u"Initializing"_s;
-        QTest::newRow("card never answers") << false << 3 << 99 << 4 << u"Initializing. . ."_s;
-        QTest::newRow("ready at once") << false << 20 << 1 << 1 << u"Initializing..."_s;
-        QTest::newRow("ready in the third") << false << 20 << 3 << 3 << u"Initializing."_s;
-        QTest::newRow("firmware known in the third") << true << 20 << 3 << 3 << u"Initializing..."_s;
-        QTest::newRow("firmware never known") << true << 2 << 99 << 3 << u"Initializing..."_s;
-    }
-
+    void splashWaits_data() { addRows(splashWaitsRows); }
     void splashWaits()
     {
-        QFETCH(bool, showFirmware);
-        QFETCH(int, limit);
-        QFETCH(int, readyIn);
+        const auto &[name, showFirmware, limit, ready, wanted, activity] = currentRow(splashWaitsRows);
         int rounds = 0;
         int wrongQuestions = 0;
         SplashWait wait;
         wait.showFirmware = showFirmware;
         wait.limit = limit;
         wait.round = [&] { ++rounds; };
-        wait.modemReady = [&] {
-            wrongQuestions += showFirmware ? 1 : 0;
+        wait.modemReady = [&, readyIn = ready] {
+            wrongQuestions += wait.showFirmware ? 1 : 0;
             return rounds >= readyIn;
         };
-        wait.firmwareVersion = [&] {
-            wrongQuestions += showFirmware ? 0 : 1;
+        wait.firmwareVersion = [&, readyIn = ready] {
+            wrongQuestions += wait.showFirmware ? 0 : 1;
             return rounds >= readyIn ? u"F1"_s : QString();
         };
         SplashDialog dialog(u"1.0"_s);
         waitForCard(dialog, wait);
-        QTEST(rounds, "rounds");
-        QTEST(line(dialog, "init")->text(), "activity");
+        QCOMPARE(rounds, wanted);
+        QCOMPARE(line(dialog, "init")->text(), activity);
         QCOMPARE(wrongQuestions, 0);
-        const QString firmware = u"Firmware Version:"_s + (rounds >= readyIn ? u"F1"_s : QString());
+        const QString firmware = u"Firmware Version:"_s + (rounds >= ready ? u"F1"_s : QString());
         QCOMPARE(line(dialog, "firmversion")->text(), showFirmware ? firmware : QString());
     }
 
@@ -225,26 +190,17 @@ private Q_SLOTS:
         dialog.show();
         QTest::keyClick(&dialog, Qt::Key_Escape);
         QVERIFY(dialog.isVisible());
+        QVERIFY(!QPixmap(basePath + u"/res/startingWindow.jpg"_s).isNull());
     }
 
-    void disclaimerByKeyboard_data()
-    {
-        QTest::addColumn<Qt::Key>("key");
-        QTest::addColumn<int>("modifiers");
-        QTest::addColumn<int>("result");
-        QTest::newRow("Enter accepts") << Qt::Key_Return << int(Qt::NoModifier) << 1;
-        QTest::newRow("Escape declines") << Qt::Key_Escape << int(Qt::NoModifier) << 0;
-    }
-
+    void disclaimerByKeyboard_data() { addRows(disclaimerByKeyboardRows); }
     void disclaimerByKeyboard()
     {
-        QFETCH(Qt::Key, key);
-        QFETCH(int, modifiers);
+        const auto &[name, key, result] = currentRow(disclaimerByKeyboardRows);
         FrmDisclaimer dialog;
         QCOMPARE(dialog.objectName(), u"disclaimer"_s);
-        QTimer::singleShot(0, &dialog,
-                           [&] { QTest::keyClick(&dialog, key, Qt::KeyboardModifiers(modifiers)); });
-        QTEST(dialog.exec(), "result");
+        QTimer::singleShot(0, &dialog, [&dialog, pressed = key] { QTest::keyClick(&dialog, pressed); });
+        QCOMPARE(dialog.exec(), result);
     }
 
     void onlyTheMainWindowEndsTheLoop()
@@ -270,7 +226,7 @@ private Q_SLOTS:
     }
 
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<ScratchFolder> m_folder;
 };
 
 QTEST_MAIN(TestStartup)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QDir>
+#include "../files.h"
+
 #include <QDomDocument>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -68,27 +68,20 @@ class TestTranslations : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void textsFitTheirSources_data()
-    {
-        QTest::addColumn<QString>("file");
-        for (const QString &file : QDir(folder).entryList({u"*.ts"_s}))
-            QTest::newRow(qPrintable(file)) << file;
-    }
-
     void textsFitTheirSources()
     {
-        QFETCH(QString, file);
-        QFile ts(folder + u'/' + file);
-        QVERIFY(ts.open(QIODevice::ReadOnly));
-        QDomDocument document;
-        QVERIFY(document.setContent(&ts));
-        const QDomNodeList messages = document.elementsByTagName(u"message"_s);
-        for (int i = 0; i < messages.size(); ++i) {
-            const QDomElement message = messages.at(i).toElement();
-            const QString source = message.firstChildElement(u"source"_s).text();
-            for (const QString &translation : translationsOf(message)) {
-                const QString fault = faultOf(source, translation);
-                QVERIFY2(fault.isEmpty(), qPrintable(fault + u": "_s + source + u" / "_s + translation));
+        for (const QString &file : QDir(folder).entryList({u"*.ts"_s})) {
+            QDomDocument document;
+            QVERIFY2(document.setContent(contentOf(folder + u'/' + file)), qPrintable(file));
+            const QDomNodeList messages = document.elementsByTagName(u"message"_s);
+            for (int i = 0; i < messages.size(); ++i) {
+                const QDomElement message = messages.at(i).toElement();
+                const QString source = message.firstChildElement(u"source"_s).text();
+                for (const QString &translation : translationsOf(message)) {
+                    const QString fault = faultOf(source, translation);
+                    QVERIFY2(fault.isEmpty(),
+                             qPrintable(u"%1: %2: %3 / %4"_s.arg(file, fault, source, translation)));
+                }
             }
         }
     }
