@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A client that knows nothing of this emulator must take it for a card.
-#include "testcard.h"
+#include "otherprograms.h"
 
-#include <QProcess>
 #include <QTest>
 
 class TestEmulatorGammu : public QObject
@@ -14,36 +13,6 @@ private Q_SLOTS:
     void finds();
     void readsSendsAndDeletesMessages();
 };
-
-namespace
-{
-
-QString writeFile(const TestCard &card, const QString &name, const QByteArray &text)
-{
-    QFile file(card.path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-        qFatal("cannot write %s", qPrintable(name));
-    return file.fileName();
-}
-
-/// What gammu prints for these commands, all in one session; connecting takes it seconds.
-QString gammu(const TestCard &card, const QStringList &commands)
-{
-    const QString configuration =
-        writeFile(card, u"gammurc"_s,
-                  "[gammu]\ndevice = " + QFile::encodeName(card.path(u"at"_s)) + "\nconnection = at115200\n");
-    const QString batch = writeFile(card, u"batch"_s, commands.join(u'\n').toUtf8() + '\n');
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
-    process.setProcessEnvironment(environment);
-    process.start(u"gammu"_s, {u"-c"_s, configuration, u"batch"_s, batch});
-    if (!process.waitForFinished(60000) || process.exitCode() != 0)
-        return u"gammu failed: "_s + process.errorString() + QString::fromUtf8(process.readAll());
-    return QString::fromUtf8(process.readAllStandardOutput());
-}
-
-} // namespace
 
 void TestEmulatorGammu::finds_data()
 {
