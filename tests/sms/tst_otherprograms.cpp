@@ -121,9 +121,15 @@ private Q_SLOTS:
     void gammuAndBack()
     {
         TestCard card;
-        QVERIFY(OwnLink(card).sends({longText, turkish, russian}));
+        const QStringList texts{longText,
+                                turkish,
+                                russian,
+                                u"Grüße, [Δ] für 5 €"_s,
+                                QString(160, u'x'),
+                                QString(152, u'z') + u"€€"_s + QString(200, u'€')};
+        QVERIFY(OwnLink(card).sends(texts));
         const QString output = gammu(card, {u"geteachsms"_s, u"deleteallsms 1"_s});
-        QCOMPARE(missing({longText, turkish, russian}, output.split(u'\n')), QByteArray());
+        QCOMPARE(missing(texts, output.split(u'\n')), QByteArray());
 
         card.tell(R"({"command": "sent", "clear": true})");
         gammu(card, {u"sendsms TEXT "_s + ownNumber + u" -len 400 -report -text "_s + longText,
