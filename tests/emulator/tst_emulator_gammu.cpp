@@ -1,24 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A client that knows nothing of this emulator must take it for a card.
-#include "testcard.h"
-
-#include <QProcess>
+#include "otherprograms.h"
 
 namespace
 {
-
-/// What gammu prints for these commands, all in one session; connecting takes it seconds.
-QString gammu(const TestCard &card, const QStringList &commands)
-{
-    const QByteArray port = QFile::encodeName(card.path(u"at"_s));
-    putFile(card.path(u"gammurc"_s), "[gammu]\ndevice = " + port + "\nconnection = at115200\n");
-    putFile(card.path(u"batch"_s), commands.join(u'\n').toUtf8() + '\n');
-    QProcess process;
-    process.start(u"gammu"_s, {u"-c"_s, card.path(u"gammurc"_s), u"batch"_s, card.path(u"batch"_s)});
-    if (!process.waitForFinished(60000) || process.exitCode() != 0)
-        return u"gammu failed: "_s + process.errorString() + QString::fromUtf8(process.readAll());
-    return QString::fromUtf8(process.readAllStandardOutput());
-}
 
 const Rows<QString, QStringList, QStringList> findsRows{
     {"everything about a card",

@@ -7,11 +7,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QRandomGenerator>
-#include <QThreadPool>
-#include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -64,48 +59,6 @@ QByteArray contentOf(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// Adds messages to the store one after another, and tells by the pipe of each that is safe, until killed.
-[[noreturn]] void addForEver(const QString &folder, int first, int safePipe)
-{
-    MessageStore store(folder, 9);
-    store.load();
-    store.flush();
-    for (int number = first;; ++number) {
-        const QString text = QString::number(number);
-        // A short one, and a part that joins the others of its kind.
-        const QFuture<bool> stored =
-            store.add({received(u"+49171234567"_s, text, number),
-                       longPart(u"Long"_s, number / 3, 3, 1 + number % 3, text + u' ', number)});
-        if (!stored.result() || ::write(safePipe, &number, sizeof number) != sizeof number)
-            ::_exit(1);
-    }
-}
-
-/// Starts a child that adds, kills it so long after its first message was safe, and returns the number of the
-/// last that was; -1 when it did not come so far.
-int addAndKill(const QString &folder, int first, int microseconds)
-{
-    int safe[2];
-    if (::pipe(safe) != 0)
-        return -1;
-    const pid_t child = ::fork();
-    if (child == 0)
-        addForEver(folder, first, safe[1]);
-    ::close(safe[1]);
-    int last = -1;
-    const bool isRunning = ::read(safe[0], &last, sizeof last) == sizeof last;
-    QElapsedTimer timer;
-    timer.start();
-    while (isRunning && timer.nsecsElapsed() < qint64(microseconds) * 1000) {
-    }
-    ::kill(child, SIGKILL);
-    ::waitpid(child, nullptr, 0);
-    for (int number = -1; ::read(safe[0], &number, sizeof number) == sizeof number;)
-        last = number;
-    ::close(safe[0]);
-    return isRunning ? last : -1;
 }
 
 } // namespace
@@ -243,31 +196,6 @@ private Q_SLOTS:
         QCOMPARE(store.errors.size(), 1);
         QCOMPARE(LoadedStore(m_folder->path()).texts(MessageBox::Inbox),
                  (QStringList{u"second"_s, u"first"_s}));
-    }
-
-    void killedInMidWrite()
-    {
-        constexpr int rounds = 60;
-        int next = 0;
-        for (int i = 0; i < rounds; ++i) {
-            const int last = addAndKill(m_folder->path(), next, QRandomGenerator::global()->bounded(8000));
-            QVERIFY(last >= next);
-            const ParsedMessages parsed = parseStoreXml(contentOf(path()));
-            QCOMPARE(parsed.problem, QString());
-            QStringList words;
-            for (const Message &message : parsed.messages)
-                words += message.text().split(u' ', Qt::SkipEmptyParts);
-            words.removeAll(u"[…]"_s);
-            // Each that was called safe is there in both forms, and none twice.
-            for (int number = 0; number <= last; ++number)
-                QCOMPARE(words.count(QString::number(number)), 2);
-            // The one that was under way is there in full or not at all.
-            QCOMPARE(words.count(QString::number(last + 1)) % 2, 0);
-            QVERIFY(words.size() / 2 <= last + 2);
-            // What was not called safe comes again, as the card has it still.
-            next = last + 1;
-        }
-        QCOMPARE(QDir(m_folder->path()).entryList({u"sms.xml.*"_s}), QStringList());
     }
 
     void readsTablesOfOthers_data()

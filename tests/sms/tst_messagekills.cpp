@@ -2,10 +2,9 @@
 #include "cardthread.h"
 #include "device/cardmonitor.h"
 #include "link/serialthread.h"
-#include "linktest.h"
+#include "serviceowner.h"
 #include "shell/commoncfg.h"
 #include "shell/globals.h"
-#include "sms/messageservice.h"
 #include "sms/messagestore.h"
 
 #include <QCoreApplication>
@@ -26,19 +25,6 @@ namespace
 
 constexpr int patience = 60000; // ms
 
-/// The window's part between link and service.
-class Owner : public FakeOwner
-{
-public:
-    MessageService *service = nullptr;
-    QObject context;
-
-    void getSmsAndVoice(const QString &text) override
-    {
-        QMetaObject::invokeMethod(&context, [this, text] { service->takeMessages(text); });
-    }
-};
-
 void say(const QString &line)
 {
     std::fputs(qPrintable(line + u'\n'), stdout);
@@ -50,7 +36,7 @@ int runProgram(const QStringList &arguments)
 {
     basePath = arguments.value(0);
     const QString text = arguments.value(1);
-    Owner owner;
+    ServiceOwner owner;
     CardMonitor monitor(&owner);
     owner.onFind = [&] { monitor.findPorts(false); };
     MessageStore store(basePath + u"/Data"_s);

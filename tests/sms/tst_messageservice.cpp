@@ -2,10 +2,9 @@
 #include "cardthread.h"
 #include "device/cardmonitor.h"
 #include "link/serialthread.h"
-#include "linktest.h"
+#include "serviceowner.h"
 #include "shell/commoncfg.h"
 #include "shell/globals.h"
-#include "sms/messageservice.h"
 #include "sms/messagestore.h"
 
 #include <QDir>
@@ -21,41 +20,6 @@ namespace
 {
 
 constexpr int patience = 30000; // ms, for what takes a moment on a busy machine
-
-/// The window's part between link and service: reports step over to this thread.
-class Owner : public FakeOwner
-{
-public:
-    QObject context;
-    MessageService *service = nullptr;
-
-    void getSmsAndVoice(const QString &text) override
-    {
-        pass([text](MessageService &to) { to.takeMessages(text); });
-    }
-    void smsStatusReported(const QString &text) override
-    {
-        pass([text](MessageService &to) { to.takeDeliveryReports(text); });
-    }
-    void class0SmsReceived(const QString &text) override
-    {
-        pass([text](MessageService &to) { to.takeImmediate(text); });
-    }
-    void cellBroadcastReceived(const QString &text) override
-    {
-        pass([text](MessageService &to) { to.takeBroadcasts(text); });
-    }
-
-private:
-    template <typename Take> void pass(Take take)
-    {
-        QMetaObject::invokeMethod(&context, [this, take] {
-            if (service)
-                take(*service);
-        });
-    }
-};
-
 } // namespace
 
 /// Messages between the emulated card and the store.
@@ -508,7 +472,7 @@ private:
     }
 
     ScratchFolder m_folder;
-    Owner m_owner;
+    ServiceOwner m_owner;
     std::unique_ptr<cardemu::CardThread> m_card;
     std::unique_ptr<CardMonitor> m_monitor;
     std::atomic<CardMonitor *> m_searcher = nullptr;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What becomes of messages in the store: put together, recognised, reported, deleted, listed, found.
+#include "sms/immediateparts.h"
 #include "storetest.h"
 
 #include <QSignalSpy>
@@ -7,6 +8,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace corva;
+using namespace std::chrono_literals;
 
 namespace
 {
@@ -104,6 +106,25 @@ private Q_SLOTS:
         QCOMPARE(added.made, QStringList());
         QCOMPARE(store->find(added.ids.front())->parts.size(), size_t(2));
         QVERIFY(store->find(added.ids.front())->recipients == other.recipients);
+    }
+
+    void showsImmediateOnesInTheEnd()
+    {
+        ImmediateParts parts(0ms);
+        QSignalSpy ready(&parts, &ImmediateParts::sigReady);
+        for (const int index : {1, 1, 2})
+            parts.take(threeParts(7)[size_t(index)]);
+        QVERIFY(ready.wait());
+        QCOMPARE(ready.at(0).at(0).value<Message>().text(), u"[…]two three"_s);
+    }
+
+    void keepsTheOrderOfOneMoment()
+    {
+        LoadedStore store(m_folder->path());
+        for (int i = 0; i < 20; ++i)
+            store->add({received(alice, QString::number(i))});
+        for (int i = 0; i < 20; ++i)
+            QCOMPARE(store.texts(MessageBox::Inbox).at(i), QString::number(19 - i));
     }
 
     void joinsTheNearestInTime()

@@ -7,6 +7,7 @@
 
 #include <QTemporaryDir>
 #include <QTest>
+#include <map>
 
 using namespace Qt::StringLiterals;
 using corva::encodeSubmit;
@@ -130,21 +131,13 @@ private Q_SLOTS:
         QTEST(encodeSubmit(message, text, settings), "expected");
     }
 
-    void validity_data()
-    {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<QByteArray>("octet");
-        QTest::newRow("half a day") << 0 << QByteArray("8F");
-        QTest::newRow("a day") << 1 << QByteArray("A7");
-        QTest::newRow("a week") << 2 << QByteArray("AD");
-        QTest::newRow("longest") << 3 << QByteArray("FF");
-        QTest::newRow("below the list") << -1 << QByteArray("FF");
-    }
     void validity()
     {
-        QFETCH(int, index);
-        SM_PARAM message = record();
-        QTEST(encodeSubmit(message, {}, {index, false, false}).mid(22, 2), "octet");
+        const std::map<int, QByteArray> octets{{0, "8F"}, {1, "A7"}, {2, "AD"}, {3, "FF"}, {-1, "FF"}};
+        for (const auto &[index, octet] : octets) {
+            SM_PARAM message = record();
+            QCOMPARE(encodeSubmit(message, {}, {index, false, false}).mid(22, 2), octet);
+        }
     }
 
     void composedParts_data()

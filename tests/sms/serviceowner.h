@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "linktest.h"
+#include "sms/messageservice.h"
+
+/// The window's part between link and service: reports step over to this thread.
+class ServiceOwner : public FakeOwner
+{
+public:
+    QObject context;
+    corva::MessageService *service = nullptr;
+
+    void getSmsAndVoice(const QString &text) override
+    {
+        pass([text](corva::MessageService &to) { to.takeMessages(text); });
+    }
+    void smsStatusReported(const QString &text) override
+    {
+        pass([text](corva::MessageService &to) { to.takeDeliveryReports(text); });
+    }
+    void class0SmsReceived(const QString &text) override
+    {
+        pass([text](corva::MessageService &to) { to.takeImmediate(text); });
+    }
+
+private:
+    template <typename Take> void pass(Take take)
+    {
+        QMetaObject::invokeMethod(&context, [this, take] {
+            if (service)
+                take(*service);
+        });
+    }
+};
