@@ -120,6 +120,7 @@ void MessageService::Private::connectParts()
     connect(&queue, &SendQueue::sigRefused, q, &MessageService::sigNotice);
     connect(&places, &CardPlaces::sigChanged, q, &MessageService::sigPlaceChanged);
     connect(&places, &CardPlaces::sigNotice, q, &MessageService::sigNotice);
+    connect(&places, &CardPlaces::sigNearlyFull, q, &MessageService::sigNearlyFull);
     connect(&places, &CardPlaces::sigUnreadMet, q, [this](const QStringList &ids) { takeUnread(ids); });
     connect(&places, &CardPlaces::sigNewListed, &reception, &SmsReception::takeListed);
     connect(&reception, &SmsReception::sigNewMessage, q, &MessageService::sigNewMessage);

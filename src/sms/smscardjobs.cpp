@@ -149,9 +149,11 @@ Listing list(SerialThread &link, MessagePlace place)
         return listing;
     }
     listing.isRead = true;
-    const QDateTime now = QDateTime::currentDateTime();
-    for (const ListedSms &each : parseSmsList(reply).messages)
+    QDateTime now = QDateTime::currentDateTime();
+    for (const ListedSms &each : parseSmsList(reply).messages) {
+        now = now.addMSecs(1); // of one moment they keep the card's order
         sortIn(listing, fileSms(each, place, now));
+    }
     return listing;
 }
 
