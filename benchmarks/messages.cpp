@@ -186,7 +186,7 @@ bool measureNew(cardemu::CardThread &card, MessagePage &page, const Route &route
         if (page.untilPainted(before + 1) < 0)
             return printRow(route.row, -1, 50);
         times.push_back(milliseconds() - start);
-        processFor(1s); // what follows on the card
+        processFor(500ms); // what follows on the card
     }
     return printRow(route.row, median(times), 50);
 }

@@ -202,9 +202,9 @@ void CardPlaces::warnBeforeFull(MessagePlace place, const StoreCapacity &now)
         makeRoom(place);
     if (isNearlyFull && !m_hasWarned[slot(place)]) {
         const QString fill = tr("%1 of %2").arg(now.used).arg(now.total);
-        Q_EMIT sigNotice(place == MessagePlace::Sim
-                             ? tr("The SIM's memory for messages is nearly full: %1").arg(fill)
-                             : tr("The card's memory for messages is nearly full: %1").arg(fill));
+        Q_EMIT sigNearlyFull(place == MessagePlace::Sim
+                                 ? tr("The SIM's memory for messages is nearly full: %1").arg(fill)
+                                 : tr("The card's memory for messages is nearly full: %1").arg(fill));
     }
     m_hasWarned[slot(place)] = isNearlyFull;
 }

@@ -48,6 +48,8 @@ public:
 Q_SIGNALS:
     void sigChanged(corva::MessagePlace place);
     void sigNotice(const QString &sentence);
+    /// Once, when little room is left, with a sentence that says so.
+    void sigNearlyFull(const QString &sentence);
     /// What the first listing of a place met unread, and what a later one met that was not there before.
     void sigUnreadMet(const QStringList &ids);
     void sigNewListed(const QStringList &ids);

@@ -119,6 +119,7 @@ void MessageService::Private::connectParts()
     connect(&queue, &SendQueue::sigRefused, q, &MessageService::sigNotice);
     connect(&places, &CardPlaces::sigChanged, q, &MessageService::sigPlaceChanged);
     connect(&places, &CardPlaces::sigNotice, q, &MessageService::sigNotice);
+    connect(&places, &CardPlaces::sigNearlyFull, q, &MessageService::sigNearlyFull);
     connect(&places, &CardPlaces::sigUnreadMet, q, [this](const QStringList &ids) { takeUnread(ids); });
     connect(&places, &CardPlaces::sigNewListed, &reception, &SmsReception::takeListed);
     connect(&places, &CardPlaces::sigReportListed, &reception, &SmsReception::deliveryReportSaveToSmsXml);

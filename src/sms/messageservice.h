@@ -126,6 +126,8 @@ Q_SIGNALS:
     void sigBroadcast(const QString &id);
     /// A sentence for the person: a refusal in words, a store that fills up.
     void sigNotice(const QString &sentence);
+    /// Another one, once when the SIM or the card has little room left; `place` goes on saying how much.
+    void sigNearlyFull(const QString &sentence);
     void sigServiceCentreChanged(const QString &number);
 
 private:

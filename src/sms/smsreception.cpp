@@ -79,9 +79,10 @@ void SmsReception::takeMessages(const QByteArray &text)
 
 void SmsReception::fileDelivered(const std::vector<ReportedPdu> &reports)
 {
-    const QDateTime now = QDateTime::currentDateTime();
+    QDateTime now = QDateTime::currentDateTime();
     for (const ReportedPdu &report : reports) {
         constexpr int unread = 0;
+        now = now.addMSecs(1); // one came behind the other
         const FiledSms filed = fileSms({-1, unread, report.length, report.pdu}, MessagePlace::Computer, now);
         if (const auto *message = std::get_if<Message>(&filed))
             announce(keep(*message));

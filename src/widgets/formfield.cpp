@@ -20,6 +20,7 @@ FormField::FormField(const QString &caption, const QString &objectName, Kind kin
 {
     m_edit->setObjectName(objectName);
     m_edit->setAccessibleName(QString(caption).remove(u'&'));
+    m_edit->setTextMargins(metrics::HalfGrid, 0, metrics::HalfGrid, 0);
     m_caption->setBuddy(m_edit);
     m_error->setObjectName(objectName + u"Error"_s);
     m_error->setWordWrap(true);

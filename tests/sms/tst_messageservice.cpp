@@ -424,8 +424,9 @@ private:
         m_service = std::make_unique<MessageService>(m_monitor.get(), m_store.get());
         m_owner.service = m_service.get();
         m_notices.clear();
-        connect(m_service.get(), &MessageService::sigNotice, this,
-                [this](const QString &sentence) { m_notices += sentence; });
+        for (const auto signal : {&MessageService::sigNotice, &MessageService::sigNearlyFull})
+            connect(m_service.get(), signal, this,
+                    [this](const QString &sentence) { m_notices += sentence; });
         m_store->load();
         m_monitor->start();
         QTRY_VERIFY_WITH_TIMEOUT(m_service->place(MessagePlace::Sim).isRead, patience);

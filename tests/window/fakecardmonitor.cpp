@@ -258,11 +258,6 @@ void answerPin(PinOutcome outcome)
     answer(strings().pin, outcome);
 }
 
-void answerRadio(bool isOn)
-{
-    answer(strings().radio, isOn);
-}
-
 void answerSwitch(const SwitchResult &result)
 {
     answer(strings().mode, result);

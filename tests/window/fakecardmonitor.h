@@ -18,13 +18,12 @@ void put(const corva::CardState &state);
 void say(const QString &sentence);
 /// Answers the PIN or PUK that was entered last.
 void answerPin(corva::PinOutcome outcome);
-/// Answers the last switching of the radio or of the USB mode.
-void answerRadio(bool isOn);
+/// Answers the last switching of the USB mode.
 void answerSwitch(const corva::SwitchResult &result);
 
 /// A card in its home network, with everything known.
 corva::CardState registeredCard();
-/// Named states for tests and for looking at: "registered", "absent", "storage", "norights", "busy",
+/// Named states for tests: "registered", "absent", "storage", "norights", "busy",
 /// "silent", "nosim", "pin", "puk", "radiooff", "searching", "denied", "roaming", "noservice". Any other name
 /// gives the registered card.
 corva::CardState namedState(const QString &name);

@@ -43,22 +43,6 @@ private Q_SLOTS:
         QTEST(networkTypeShort(type, naming3GFromNumber(2)), "asThreeG");
     }
 
-    void sumsUp_data()
-    {
-        QTest::addColumn<QString>("state");
-        QTest::addColumn<QString>("summary");
-        QTest::newRow("in the network") << u"registered"_s << u"Testnetz, HSPA"_s;
-        QTest::newRow("no card") << u"absent"_s << u"Offline: No card found"_s;
-        QTest::newRow("locked") << u"pin"_s << u"Offline: The SIM card is locked"_s;
-        QTest::newRow("searching") << u"searching"_s << u"Offline: Looking for a network"_s;
-    }
-
-    void sumsUp()
-    {
-        QFETCH(const QString, state);
-        QTEST(summaryText(fakecard::namedState(state)), "summary");
-    }
-
     void aNamelessNetworkIsCalledByItsCode()
     {
         CardState state = fakecard::registeredCard();

@@ -84,15 +84,6 @@ private Q_SLOTS:
         QCOMPARE(fakecard::takeCalls(), QStringList{u"stop"_s});
     }
 
-    void tellsTheStartWhenTheCardIsReady()
-    {
-        QVERIFY(!m_window->getModemState());
-        QVERIFY(m_window->getFirmwareVersion().isEmpty());
-        fakecard::put(fakecard::registeredCard());
-        QVERIFY(m_window->getModemState());
-        QCOMPARE(m_window->getFirmwareVersion(), u"11.126.03.01.00"_s);
-    }
-
     void takesTheSplashsPlaceTwoSecondsLater()
     {
         splash = new QDialog;
@@ -376,13 +367,6 @@ private Q_SLOTS:
         QCOMPARE(said(m_window.get(), u"statusText"_s), u"Identifying the card"_s);
         fakecard::say({});
         QCOMPARE(said(m_window.get(), u"statusText"_s), u"Testnetz, HSPA"_s);
-    }
-
-    void aRingIsSaidOnceItReachesTheGui()
-    {
-        m_window->show();
-        m_window->getSmsAndVoice(u"\r\nRING\r\n"_s);
-        QTRY_COMPARE(said(m_window.get(), u"statusText"_s), u"The card is ringing."_s);
     }
 
     void remembersPlaceAndPage()

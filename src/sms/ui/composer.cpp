@@ -199,7 +199,7 @@ void Composer::takeEdit()
 
 void Composer::showCount()
 {
-    m_count->setText(wordCount(m_text->split()));
+    m_count->setText(wordCount(m_text->getExtentLength(), m_text->split().formulaParts));
     m_notice->setText(lengthNotice(m_text->split()));
     m_send->setEnabled(m_text->split().isSendable());
 }

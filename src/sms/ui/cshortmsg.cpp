@@ -137,6 +137,7 @@ void CShortMsg::connectParts()
     connect(m_search, &QLineEdit::textChanged, this, &CShortMsg::search);
     connect(m_browser, &MessageBrowser::sigChosen, this, &CShortMsg::follow);
     connect(m_browser, &MessageBrowser::sigConversationsChanged, this, &CShortMsg::followConversation);
+    connect(m_browser, &MessageBrowser::sigEmptied, this, &CShortMsg::showHint);
     connect(m_browser, &MessageBrowser::sigActivated, this, &CShortMsg::activate);
     connect(m_thread, &ThreadPane::sigChosen, this, [this] { m_actions->setChosen(m_thread->chosen()); });
     connect(m_thread, &ThreadPane::sigWrite, this, [this](const QStringList &to) { write(to); });
@@ -286,9 +287,17 @@ void CShortMsg::showChosen(const QStringList &ids)
         m_detail->setCurrentWidget(m_reading);
         return;
     }
-    m_hint->setText(ids.isEmpty() ? tr("Choose a message to read it, or write one with Ctrl+N.")
-                                  : tr("%n messages are chosen.", nullptr, int(ids.size())));
     m_detail->setCurrentWidget(m_hint);
+    showHint();
+}
+
+/// What may be done next. An empty list says so itself.
+void CShortMsg::showHint()
+{
+    const auto count = int(m_browser->chosen().size());
+    m_hint->setText(m_browser->isEmpty() ? QString()
+                    : count == 0         ? tr("Choose a message to read it, or write one with Ctrl+N.")
+                                         : tr("%n messages are chosen.", nullptr, count));
 }
 
 void CShortMsg::markRead(const QStringList &ids)

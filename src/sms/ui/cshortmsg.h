@@ -59,6 +59,7 @@ private:
     void follow();
     void followConversation();
     void showChosen(const QStringList &ids);
+    void showHint();
     void activate();
     void leaveComposer();
     void setWriting(bool isWriting);

@@ -100,6 +100,7 @@ void MessageBrowser::build(MessageActions *actions)
     m_empty->setPlace(Qt::AlignCenter);
     m_stack->addWidget(m_list);
     m_stack->addWidget(m_empty);
+    connect(m_stack, &QStackedWidget::currentChanged, this, &MessageBrowser::sigEmptied);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, metrics::HalfGrid);
     layout->addWidget(m_stack);
@@ -116,6 +117,11 @@ void MessageBrowser::useModel(QAbstractItemModel *model)
                                                 : QAbstractItemView::ExtendedSelection);
     connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MessageBrowser::takeSelection);
+}
+
+bool MessageBrowser::isEmpty() const
+{
+    return m_stack->currentWidget() == m_empty;
 }
 
 bool MessageBrowser::isByPerson() const

@@ -31,6 +31,8 @@ public:
     void retell();
 
     bool isByPerson() const;
+    /// Whether a sentence stands in the place of the list.
+    bool isEmpty() const;
     /// Of the messages; empty when persons are shown.
     QStringList chosen() const;
     /// The person chosen, when persons are shown.
@@ -42,6 +44,8 @@ public:
 Q_SIGNALS:
     /// Another message or person is chosen, or none.
     void sigChosen();
+    /// The list became empty, or is not empty any more.
+    void sigEmptied();
     /// Enter, or a double click.
     void sigActivated();
     /// The persons changed; the one chosen may have another message.

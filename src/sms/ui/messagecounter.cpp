@@ -28,10 +28,10 @@ QString shownCharacter(const QString &character)
 
 } // namespace
 
-QString wordCount(const SplitText &split)
+QString wordCount(int length, int parts)
 {
     return text(QT_TRANSLATE_NOOP("MessageCounter", "Symbol: %1 /%2"))
-        .arg(QString::number(split.length), QString::number(split.formulaParts));
+        .arg(QString::number(length), QString::number(parts));
 }
 
 QString lengthNotice(const SplitText &split)

@@ -7,7 +7,7 @@ namespace corva
 {
 
 /// "Symbol: %1 /%2": how long the text is, and in how many parts it goes.
-QString wordCount(const SplitText &split);
+QString wordCount(int length, int parts);
 /// Why the text takes more room than it might, or cannot be sent at all; empty when there is nothing to say.
 QString lengthNotice(const SplitText &split);
 

@@ -64,9 +64,10 @@ void MessageDesk::connectService()
     connect(m_service, &MessageService::sigUnreadAtStart, this, &MessageDesk::tellUnread);
     connect(m_service, &MessageService::sigNewMessage, this, &MessageDesk::tellNew);
     connect(m_service, &MessageService::sigBroadcast, this, &MessageDesk::tellBroadcast);
-    connect(m_service, &MessageService::sigClass0, this, &MessageDesk::showClass0);
+    connect(m_service, &MessageService::sigClass0, this, &MessageDesk::displayClass0Sms);
     connect(m_service, &MessageService::sigDelivered, this, &MessageDesk::tellDelivered);
     connect(m_service, &MessageService::sigNotice, this, &MessageDesk::sigSaid);
+    connect(m_service, &MessageService::sigNearlyFull, this, &MessageDesk::sigSaid);
     connect(m_service, &MessageService::sigSendSummary, this, &MessageDesk::tellSummary);
 }
 
@@ -125,7 +126,7 @@ void MessageDesk::tellSummary(int sent, int failed)
         Q_EMIT sigNotify(sendingKey, tr("Messages"), summary);
 }
 
-void MessageDesk::showClass0(const QString &sender, const QString &text, const QString &pdu)
+void MessageDesk::displayClass0Sms(const QString &sender, const QString &text, const QString &pdu)
 {
     if (!m_class0)
         m_class0 = new Class0Dialog(m_store, m_window);

@@ -46,7 +46,7 @@ private:
     void tellBroadcast(const QString &id);
     void tellDelivered(const QString &sentence);
     void tellSummary(int sent, int failed);
-    void showClass0(const QString &sender, const QString &text, const QString &pdu);
+    void displayClass0Sms(const QString &sender, const QString &text, const QString &pdu);
 
     MessageService *m_service;
     MessageStore *m_store;

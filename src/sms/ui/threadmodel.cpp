@@ -78,7 +78,10 @@ QVariant ThreadModel::data(const QModelIndex &index, int role) const
         return {};
     const auto text = [&] { return message->error.isEmpty() ? message->text() : previewOf(*message); };
     const auto about = [&] {
-        QStringList words{fullWhen(message->time), stateTitle(message->state()), partsNote(*message)};
+        const QDateTime now = QDateTime::currentDateTime();
+        const bool isToday = message->time.toLocalTime().date() == now.date();
+        const QString when = isToday ? shortWhen(message->time, now) : fullWhen(message->time);
+        QStringList words{when, stateTitle(message->state()), partsNote(*message)};
         words.removeAll(QString());
         return words.join(tr("  ·  "));
     };
@@ -86,6 +89,7 @@ QVariant ThreadModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole: return text();
     case Qt::AccessibleTextRole:
         return (message->isReceived() ? tr("Received: %1, %2") : tr("Written: %1, %2")).arg(text(), about());
+    case Qt::ToolTipRole: return fullWhen(message->time);
     case IdRole: return message->id;
     case OwnRole: return !message->isReceived();
     case AboutRole: return about();
