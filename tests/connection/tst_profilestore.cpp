@@ -88,7 +88,6 @@ private Q_SLOTS:
     void simPicksProfile();
     void proposalTwice();
     void unreadableFileIsKept();
-    void unwritableFolder();
     void halfWritten();
 
 private:
@@ -161,7 +160,6 @@ void TestProfileStore::reading_data()
         << QByteArray("[ the record of <a> ]>b> ]\r\nAPN = x-|-\r\n") << u"a> ]>b"_s << u"x"_s;
     QTest::newRow("line doubled") << QByteArray("[ the record of <A> ]\nAPN = 1-|-\nAPN = 2-|-\n") << u"A"_s
                                   << u"1"_s;
-    QTest::newRow("no end mark") << QByteArray("[ the record of <A> ]\nAPN = 1") << u"A"_s << u"1"_s;
     QTest::newRow("other APN lines") << QByteArray(
                                             "[ the record of <A> ]\nuse APN = 1-|-\nobtain APN = 0-|-\n")
                                      << u"A"_s << QString();
@@ -300,17 +298,6 @@ void TestProfileStore::unreadableFileIsKept()
     const QStringList kept = QDir(m_folder->path()).entryList({u"totalRecord.conf.broken-*"_s});
     QCOMPARE(kept.size(), 1);
     QCOMPARE(content(kept.first()), QByteArray("no record at all\n"));
-}
-
-void TestProfileStore::unwritableFolder()
-{
-    put(u"blocked"_s, "a file, not a folder");
-    ProfileStore store(path(u"blocked"_s));
-    QString error;
-    QVERIFY(!store.add(wholeProfile(), &error));
-    QVERIFY(!error.isEmpty());
-    QCOMPARE(store.problem(), error);
-    QVERIFY(store.list().isEmpty());
 }
 
 /// The list was written, the file of the default profile cannot be: the list is as before.

@@ -20,7 +20,7 @@ from world import DOWNLOAD, Internet, World, Wvdial, pids, wait_for
 
 SCENARIOS = []
 LONG = "--long" in sys.argv
-LONGEST = 3000 if LONG else 400  # seconds, far more than a scenario takes
+LONGEST = 3000 if LONG else 600  # seconds, far more than a scenario takes
 
 
 def scenario(function):
@@ -183,24 +183,24 @@ def times_of_round(connect, disconnect, started, told, ends):
 
 
 def measure_times(world, rounds):
-    """Connects and disconnects so often; the medians, the longest gap, that of the idle window, and the slowness."""
+    """Connects and disconnects so often; the medians, the longest gap, that of the idle window. Fails where a dial does."""
     program = Internet(world.new_folder("app"))
     program.set_profile()
     watch = EveryTime(lambda: "primary   DNS" in connect_info())
-    slowness = Slowness()
     with program.running_bench(rounds) as bench:
         lines = [line.split() for line in bench.communicate(timeout=300)[0].splitlines()]
     told = watch.end()
     said = {name: [[float(word) for word in words] for other, *words in lines if other == name]
             for name in ("idle", "connect", "disconnect")}
-    assert len(told) == len(said["disconnect"]) == rounds, f"{len(told)} times told in {rounds} rounds, {lines}"
+    world.keep_output(program)
+    assert len(told) == len(said["disconnect"]) == rounds, f"{len(said['disconnect'])} of {rounds} rounds to their end"
     kernel = world.process_times
     ends = kernel.link_ended()
     measured = [times_of_round(*moments, kernel.began("/usr/bin/wvdial"), end, ends)
                 for *moments, end in zip(said["connect"], said["disconnect"], told)]
     middle = {name: statistics.median(each[name] for each in measured) for name in measured[0] if name != "gap"}
     shutil.rmtree(program.folder)
-    return middle, max(each["gap"] for each in measured), said["idle"][0], slowness.end()
+    return middle, max(each["gap"] for each in measured), said["idle"][0]
 
 
 @scenario
@@ -208,19 +208,25 @@ def times(world):
     """as soon as wvdial and pppd themselves, by the clocks of the kernel and of the window."""
     rounds = 5
     told = []
+    is_met = False
     with world.card(auth="require-pap"):
         for _ in range(2):
-            middle, (gap, worked, _), (idle_gap, *_), slowness = measure_times(world, rounds)
-            told.append(
-                f"medians of {rounds}: connected {middle['connected']:.2f} s = {middle['ratio']:.2f} x wvdial's own "
-                f"{middle['own']:.2f} s; disconnected, the files as before, {middle['disconnected']:.2f} s, "
-                f"{middle['late']:.2f} s behind pppd and its script; longest gap of a 10 ms timer {gap * 1000:.0f} ms, "
-                f"{worked * 1000:.0f} ms of it work, {idle_gap * 1000:.0f} ms idle; "
-                f"the machine {slowness:.2f} x as slow as at its best")
+            slowness = Slowness()
+            try:
+                middle, (gap, worked, _), (idle_gap, *_) = measure_times(world, rounds)
+            except AssertionError as problem:
+                said = str(problem)
+            else:
+                said = (f"medians of {rounds}: connected {middle['connected']:.2f} s = {middle['ratio']:.2f} x wvdial's own "
+                        f"{middle['own']:.2f} s; disconnected, the files as before, {middle['disconnected']:.2f} s, "
+                        f"{middle['late']:.2f} s behind pppd and its script; longest gap of a 10 ms timer {gap * 1000:.0f} ms, "
+                        f"{worked * 1000:.0f} ms of it work, {idle_gap * 1000:.0f} ms idle")
+            slower = slowness.end()
+            allowed = min(slower, 4)
+            told.append(f"{said}; the machine {slower:.2f} x as slow as at its best")
             world.etc.wait_same()
-            allowed = min(slowness, 4)
-            is_met = middle["ratio"] - 1 <= 0.1 * allowed and middle["late"] <= 1 * allowed
-            if is_met or slowness < 1.25:  # a machine that has nothing else to do measures no better the next time
+            is_met = said.startswith("medians") and middle["ratio"] - 1 <= 0.1 * allowed and middle["late"] <= allowed
+            if is_met or slower < 1.25:  # a machine that has nothing else to do measures no better the next time
                 break
     figures = "; once more: ".join(told)
     assert is_met, f"bars 1.1 x and 1 s, for the slowness of the machine {allowed:.2f} times as far: {figures}"

@@ -512,11 +512,15 @@ class World:
                 log.write(f"=== {words}\n")
                 log.flush()
                 subprocess.run(words.split(), stdout=log, stderr=log)
-        (EXCHANGE / f"failed{self.count}-dialler.txt").write_text(self.dialler_words.text)
-        for source, name in ((program.folder / "output.txt", "output"),
+        self.keep_output(program, f"failed{self.count}")
+
+    def keep_output(self, program, name="times"):
+        """What the program, the dialler and the network's side said."""
+        (EXCHANGE / f"{name}-dialler.txt").write_text(self.dialler_words.text)
+        for source, what in ((program.folder / "output.txt", "output"),
                              (pathlib.Path("/tmp/network-side.log"), "network-side")):
             with contextlib.suppress(Exception):
-                (EXCHANGE / f"failed{self.count}-{name}.txt").write_bytes(source.read_bytes())
+                (EXCHANGE / f"{name}-{what}.txt").write_bytes(source.read_bytes())
 
     def tell_where_it_hangs(self):
         """For a scenario that does not end: where it stands, and whom the kernel holds. Then the machine ends."""

@@ -391,7 +391,8 @@ private Q_SLOTS:
             if (choice->text().contains(u"quit"_s))
                 choice->click();
         QVERIFY(!m_window->isVisible());
-        QCOMPARE(fakeconnection::takeCalls(), QStringList{u"disconnect"_s});
+        QCOMPARE(fakeconnection::takeCalls(),
+                 QStringList{u"disconnect %1"_s.arg(int(ConnectionEnd::ByProgram))});
         QVERIFY2(!fakecard::takeCalls().contains(u"stop"_s), "the card's link serves until the link is down");
         fakeconnection::put({});
         QCOMPARE(fakecard::takeCalls(), QStringList{u"stop"_s});
