@@ -251,6 +251,9 @@ bool measureWindow(cardemu::CardThread &card, const QString &folder)
 {
     cmcfg.setValue(u"function"_s, u"modemSide_enabled"_s, u"1"_s);
     setUpApplication();
+    const QString file = folder + u"/messages.json"_s;
+    if (!exportStore(folder + u"/full/Data"_s, file))
+        return false;
     bool isMet = true;
     {
         MessagePage page;
@@ -261,9 +264,6 @@ bool measureWindow(cardemu::CardThread &card, const QString &folder)
             isMet &= measureNew(card, page, route);
         isMet &= printRow("  longest gap of a 10 ms timer, all marked as unread", gapOfMarkingAll(page), 50);
     }
-    const QString file = folder + u"/messages.json"_s;
-    if (!exportStore(folder + u"/full/Data"_s, file))
-        return false;
     makeProgramFolder(folder + u"/empty"_s, folder + u"/card"_s);
     MessagePage page;
     processFor(5s);

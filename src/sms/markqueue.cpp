@@ -8,7 +8,7 @@ namespace corva
 
 namespace
 {
-constexpr qsizetype markedAtOnce = 500; ///< what takes a few milliseconds
+constexpr qsizetype markedAtOnce = 200; ///< what takes a few milliseconds
 }
 
 MarkQueue::MarkQueue(MessageStore *store) : m_store(store)
