@@ -416,10 +416,6 @@
         <translation>تعذّر تسليم الرسالة ضمن المهلة.</translation>
     </message>
     <message>
-        <source>The message was deleted before it was delivered.</source>
-        <translation>حُذفت الرسالة قبل تسليمها.</translation>
-    </message>
-    <message>
         <source>The service centre does not know the message.</source>
         <translation>لا يعرف مركز الخدمة هذه الرسالة.</translation>
     </message>
@@ -438,6 +434,42 @@
     <message>
         <source>The card refuses, without saying why.</source>
         <translation>ترفض البطاقة دون ذكر السبب.</translation>
+    </message>
+    <message>
+        <source>The network refused the message, without saying why.</source>
+        <translation>رفضت الشبكة الرسالة دون ذكر السبب.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device is busy.</source>
+        <translation>جهاز المستلم مشغول.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device does not answer.</source>
+        <translation>جهاز المستلم لا يستجيب.</translation>
+    </message>
+    <message>
+        <source>The network has not the quality of service that the message asks for.</source>
+        <translation>لا توفّر الشبكة جودة الخدمة التي تطلبها الرسالة.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device failed.</source>
+        <translation>حدث عطل في جهاز المستلم.</translation>
+    </message>
+    <message>
+        <source>The message was passed on; whether it arrived is not known.</source>
+        <translation>حُوّلت الرسالة؛ ولا يُعرف هل وصلت.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s network does not work with this one.</source>
+        <translation>شبكة المستلم لا تعمل مع هذه الشبكة.</translation>
+    </message>
+    <message>
+        <source>The message was deleted by its sender before it was delivered.</source>
+        <translation>حذف المرسل الرسالة قبل تسليمها.</translation>
+    </message>
+    <message>
+        <source>The service centre deleted the message before it was delivered.</source>
+        <translation>حذف مركز الخدمة الرسالة قبل تسليمها.</translation>
     </message>
 </context>
 <context>
@@ -585,6 +617,10 @@
     <message>
         <source>Route</source>
         <translation>المسار</translation>
+    </message>
+    <message>
+        <source>The profile cannot be used</source>
+        <translation>لا يمكن استخدام ملف التعريف</translation>
     </message>
 </context>
 <context>
@@ -926,6 +962,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>May have been sent</source>
+        <translation>ربما أُرسلت</translation>
     </message>
 </context>
 <context>
@@ -1316,10 +1356,6 @@
         <translation>ا&amp;تصال</translation>
     </message>
     <message>
-        <source>&amp;Choose profile</source>
-        <translation>ا&amp;ختيار ملف تعريف</translation>
-    </message>
-    <message>
         <source>&amp;Edit profile</source>
         <translation>تح&amp;رير ملف التعريف</translation>
     </message>
@@ -1686,6 +1722,42 @@
         <source>The card lists the message without its content.</source>
         <translation>تُدرج البطاقة الرسالة دون محتواها.</translation>
     </message>
+    <message>
+        <source>A message came in without its content.</source>
+        <translation>وصلت رسالة دون محتواها.</translation>
+    </message>
+    <message>
+        <source>Voice messages are waiting for you.</source>
+        <translation>لديك رسائل صوتية في الانتظار.</translation>
+    </message>
+    <message>
+        <source>No voice messages are waiting any more.</source>
+        <translation>لم تعد هناك رسائل صوتية في الانتظار.</translation>
+    </message>
+    <message>
+        <source>Faxes are waiting for you.</source>
+        <translation>لديك فاكسات في الانتظار.</translation>
+    </message>
+    <message>
+        <source>No faxes are waiting any more.</source>
+        <translation>لم تعد هناك فاكسات في الانتظار.</translation>
+    </message>
+    <message>
+        <source>E-mails are waiting for you.</source>
+        <translation>لديك رسائل بريد إلكتروني في الانتظار.</translation>
+    </message>
+    <message>
+        <source>No e-mails are waiting any more.</source>
+        <translation>لم تعد هناك رسائل بريد إلكتروني في الانتظار.</translation>
+    </message>
+    <message>
+        <source>Messages of another kind are waiting for you.</source>
+        <translation>لديك رسائل من نوع آخر في الانتظار.</translation>
+    </message>
+    <message>
+        <source>No messages of another kind are waiting any more.</source>
+        <translation>لم تعد هناك رسائل من نوع آخر في الانتظار.</translation>
+    </message>
 </context>
 <context>
     <name>SmsJobs</name>
@@ -1704,6 +1776,14 @@
     <message>
         <source>The message has no content that the card could keep.</source>
         <translation>ليس للرسالة محتوى تستطيع البطاقة حفظه.</translation>
+    </message>
+    <message>
+        <source>The card names the message without its content.</source>
+        <translation>تذكر البطاقة الرسالة دون محتواها.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number, %1, is too long.</source>
+        <translation>رقم مركز الخدمة %1 أطول من اللازم.</translation>
     </message>
 </context>
 <context>
@@ -2111,6 +2191,18 @@
     <message>
         <source>A message could not be deleted from the card. It is kept on the computer as well.</source>
         <translation>تعذّر حذف رسالة من البطاقة. وهي محفوظة على الحاسوب أيضًا.</translation>
+    </message>
+    <message>
+        <source>The message is being sent.</source>
+        <translation>الرسالة قيد الإرسال.</translation>
+    </message>
+    <message>
+        <source>It is for several people, and the card keeps messages for one.</source>
+        <translation>الرسالة لعدة أشخاص، والبطاقة تحفظ رسائل موجهة إلى شخص واحد.</translation>
+    </message>
+    <message>
+        <source>What the card lists without its content stays where it is.</source>
+        <translation>ما تسرده البطاقة دون محتوى يبقى في مكانه.</translation>
     </message>
 </context>
 <context>
@@ -2635,6 +2727,10 @@
     <message>
         <source>There is no data transported recently. Auto Disconnect will close your internet link.</source>
         <translation>لم تُنقل بيانات مؤخرًا. سيُغلق الفصل التلقائي اتصالك بالإنترنت.</translation>
+    </message>
+    <message>
+        <source>An earlier connection was cut off and has left its own settings in files of the system. Start Corva again and enter the password: it puts them back.</source>
+        <translation>انقطع اتصال سابق وترك إعداداته في ملفات النظام. شغّل Corva من جديد وأدخل كلمة المرور، فيعيدها إلى ما كانت عليه.</translation>
     </message>
 </context>
 <context>
@@ -3949,12 +4045,16 @@ to %2</source>
         <translation>تغيّرت إعدادات الأبجدية منذ كتابة الرسالة.</translation>
     </message>
     <message>
-        <source>The card is gone.</source>
-        <translation>لم تعد البطاقة موجودة.</translation>
-    </message>
-    <message>
         <source>The message to %1 was not sent: %2</source>
         <translation>لم تُرسل الرسالة إلى ⁨%1⁩: %2</translation>
+    </message>
+    <message>
+        <source>There is another SIM in the card. What waited was not sent.</source>
+        <translation>في البطاقة شريحة SIM أخرى. لم يُرسل ما كان في الانتظار.</translation>
+    </message>
+    <message>
+        <source>The message to %1 may have been sent: the card did not say.</source>
+        <translation>ربما أُرسلت الرسالة إلى %1: لم تُفد البطاقة بذلك.</translation>
     </message>
 </context>
 <context>

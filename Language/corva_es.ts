@@ -412,10 +412,6 @@
         <translation>El mensaje no se pudo entregar a tiempo.</translation>
     </message>
     <message>
-        <source>The message was deleted before it was delivered.</source>
-        <translation>El mensaje se eliminó antes de entregarse.</translation>
-    </message>
-    <message>
         <source>The service centre does not know the message.</source>
         <translation>El centro de servicio no conoce el mensaje.</translation>
     </message>
@@ -434,6 +430,42 @@
     <message>
         <source>The card refuses, without saying why.</source>
         <translation>La tarjeta lo rechaza, sin decir por qué.</translation>
+    </message>
+    <message>
+        <source>The network refused the message, without saying why.</source>
+        <translation>La red rechazó el mensaje sin decir por qué.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device is busy.</source>
+        <translation>El dispositivo del destinatario está ocupado.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device does not answer.</source>
+        <translation>El dispositivo del destinatario no responde.</translation>
+    </message>
+    <message>
+        <source>The network has not the quality of service that the message asks for.</source>
+        <translation>La red no ofrece la calidad de servicio que pide el mensaje.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device failed.</source>
+        <translation>El dispositivo del destinatario falló.</translation>
+    </message>
+    <message>
+        <source>The message was passed on; whether it arrived is not known.</source>
+        <translation>El mensaje se transmitió; no se sabe si llegó.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s network does not work with this one.</source>
+        <translation>La red del destinatario no funciona con esta.</translation>
+    </message>
+    <message>
+        <source>The message was deleted by its sender before it was delivered.</source>
+        <translation>El remitente eliminó el mensaje antes de que se entregara.</translation>
+    </message>
+    <message>
+        <source>The service centre deleted the message before it was delivered.</source>
+        <translation>El centro de servicio eliminó el mensaje antes de que se entregara.</translation>
     </message>
 </context>
 <context>
@@ -581,6 +613,10 @@
     <message>
         <source>Route</source>
         <translation>Ruta</translation>
+    </message>
+    <message>
+        <source>The profile cannot be used</source>
+        <translation>El perfil no se puede usar</translation>
     </message>
 </context>
 <context>
@@ -922,6 +958,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>May have been sent</source>
+        <translation>Quizá se haya enviado</translation>
     </message>
 </context>
 <context>
@@ -1312,10 +1352,6 @@
         <translation>Co&amp;nectar</translation>
     </message>
     <message>
-        <source>&amp;Choose profile</source>
-        <translation>E&amp;legir perfil</translation>
-    </message>
-    <message>
         <source>&amp;Edit profile</source>
         <translation>&amp;Editar perfil</translation>
     </message>
@@ -1682,6 +1718,42 @@
         <source>The card lists the message without its content.</source>
         <translation>La tarjeta muestra el mensaje en la lista sin su contenido.</translation>
     </message>
+    <message>
+        <source>A message came in without its content.</source>
+        <translation>Llegó un mensaje sin su contenido.</translation>
+    </message>
+    <message>
+        <source>Voice messages are waiting for you.</source>
+        <translation>Tiene mensajes de voz en espera.</translation>
+    </message>
+    <message>
+        <source>No voice messages are waiting any more.</source>
+        <translation>Ya no hay mensajes de voz en espera.</translation>
+    </message>
+    <message>
+        <source>Faxes are waiting for you.</source>
+        <translation>Tiene faxes en espera.</translation>
+    </message>
+    <message>
+        <source>No faxes are waiting any more.</source>
+        <translation>Ya no hay faxes en espera.</translation>
+    </message>
+    <message>
+        <source>E-mails are waiting for you.</source>
+        <translation>Tiene correos en espera.</translation>
+    </message>
+    <message>
+        <source>No e-mails are waiting any more.</source>
+        <translation>Ya no hay correos en espera.</translation>
+    </message>
+    <message>
+        <source>Messages of another kind are waiting for you.</source>
+        <translation>Tiene mensajes de otro tipo en espera.</translation>
+    </message>
+    <message>
+        <source>No messages of another kind are waiting any more.</source>
+        <translation>Ya no hay mensajes de otro tipo en espera.</translation>
+    </message>
 </context>
 <context>
     <name>SmsJobs</name>
@@ -1700,6 +1772,14 @@
     <message>
         <source>The message has no content that the card could keep.</source>
         <translation>El mensaje no tiene contenido que la tarjeta pueda guardar.</translation>
+    </message>
+    <message>
+        <source>The card names the message without its content.</source>
+        <translation>La tarjeta nombra el mensaje sin su contenido.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number, %1, is too long.</source>
+        <translation>El número del centro de servicio, %1, es demasiado largo.</translation>
     </message>
 </context>
 <context>
@@ -2107,6 +2187,18 @@
     <message>
         <source>A message could not be deleted from the card. It is kept on the computer as well.</source>
         <translation>No se pudo eliminar un mensaje de la tarjeta. También se conserva en el equipo.</translation>
+    </message>
+    <message>
+        <source>The message is being sent.</source>
+        <translation>El mensaje se está enviando.</translation>
+    </message>
+    <message>
+        <source>It is for several people, and the card keeps messages for one.</source>
+        <translation>Es para varias personas, y la tarjeta guarda mensajes para una sola.</translation>
+    </message>
+    <message>
+        <source>What the card lists without its content stays where it is.</source>
+        <translation>Lo que la tarjeta lista sin contenido se queda donde está.</translation>
     </message>
 </context>
 <context>
@@ -2623,6 +2715,10 @@
     <message>
         <source>There is no data transported recently. Auto Disconnect will close your internet link.</source>
         <translation>No se han transmitido datos recientemente. La desconexión automática cerrará su conexión a internet.</translation>
+    </message>
+    <message>
+        <source>An earlier connection was cut off and has left its own settings in files of the system. Start Corva again and enter the password: it puts them back.</source>
+        <translation>Una conexión anterior se interrumpió y dejó sus propios ajustes en archivos del sistema. Vuelva a iniciar Corva e introduzca la contraseña: los repone.</translation>
     </message>
 </context>
 <context>
@@ -3889,12 +3985,16 @@ a %2</translation>
         <translation>Los ajustes del alfabeto han cambiado desde que se escribió.</translation>
     </message>
     <message>
-        <source>The card is gone.</source>
-        <translation>La tarjeta ya no está conectada.</translation>
-    </message>
-    <message>
         <source>The message to %1 was not sent: %2</source>
         <translation>El mensaje para %1 no se envió: %2</translation>
+    </message>
+    <message>
+        <source>There is another SIM in the card. What waited was not sent.</source>
+        <translation>Hay otra SIM en la tarjeta. Lo que esperaba no se envió.</translation>
+    </message>
+    <message>
+        <source>The message to %1 may have been sent: the card did not say.</source>
+        <translation>Puede que el mensaje a %1 se haya enviado: la tarjeta no lo dijo.</translation>
     </message>
 </context>
 <context>

@@ -412,10 +412,6 @@
         <translation>Le message n’a pas pu être remis à temps.</translation>
     </message>
     <message>
-        <source>The message was deleted before it was delivered.</source>
-        <translation>Le message a été supprimé avant d’être remis.</translation>
-    </message>
-    <message>
         <source>The service centre does not know the message.</source>
         <translation>Le centre de messagerie ne connaît pas le message.</translation>
     </message>
@@ -434,6 +430,42 @@
     <message>
         <source>The card refuses, without saying why.</source>
         <translation>La carte refuse, sans dire pourquoi.</translation>
+    </message>
+    <message>
+        <source>The network refused the message, without saying why.</source>
+        <translation>Le réseau a refusé le message sans dire pourquoi.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device is busy.</source>
+        <translation>L’appareil du destinataire est occupé.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device does not answer.</source>
+        <translation>L’appareil du destinataire ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The network has not the quality of service that the message asks for.</source>
+        <translation>Le réseau n’offre pas la qualité de service que le message demande.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device failed.</source>
+        <translation>L’appareil du destinataire a échoué.</translation>
+    </message>
+    <message>
+        <source>The message was passed on; whether it arrived is not known.</source>
+        <translation>Le message a été transmis ; on ne sait pas s’il est arrivé.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s network does not work with this one.</source>
+        <translation>Le réseau du destinataire ne fonctionne pas avec celui-ci.</translation>
+    </message>
+    <message>
+        <source>The message was deleted by its sender before it was delivered.</source>
+        <translation>L’expéditeur a supprimé le message avant sa remise.</translation>
+    </message>
+    <message>
+        <source>The service centre deleted the message before it was delivered.</source>
+        <translation>Le centre de messagerie a supprimé le message avant sa remise.</translation>
     </message>
 </context>
 <context>
@@ -581,6 +613,10 @@
     <message>
         <source>Route</source>
         <translation>Route</translation>
+    </message>
+    <message>
+        <source>The profile cannot be used</source>
+        <translation>Le profil ne peut pas être utilisé</translation>
     </message>
 </context>
 <context>
@@ -922,6 +958,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>May have been sent</source>
+        <translation>Peut-être envoyé</translation>
     </message>
 </context>
 <context>
@@ -1312,10 +1352,6 @@
         <translation>Co&amp;nnecter</translation>
     </message>
     <message>
-        <source>&amp;Choose profile</source>
-        <translation>Choisir un &amp;profil</translation>
-    </message>
-    <message>
         <source>&amp;Edit profile</source>
         <translation>Modi&amp;fier le profil</translation>
     </message>
@@ -1682,6 +1718,42 @@
         <source>The card lists the message without its content.</source>
         <translation>La carte liste le message sans son contenu.</translation>
     </message>
+    <message>
+        <source>A message came in without its content.</source>
+        <translation>Un message est arrivé sans son contenu.</translation>
+    </message>
+    <message>
+        <source>Voice messages are waiting for you.</source>
+        <translation>Des messages vocaux vous attendent.</translation>
+    </message>
+    <message>
+        <source>No voice messages are waiting any more.</source>
+        <translation>Plus aucun message vocal en attente.</translation>
+    </message>
+    <message>
+        <source>Faxes are waiting for you.</source>
+        <translation>Des fax vous attendent.</translation>
+    </message>
+    <message>
+        <source>No faxes are waiting any more.</source>
+        <translation>Plus aucun fax en attente.</translation>
+    </message>
+    <message>
+        <source>E-mails are waiting for you.</source>
+        <translation>Des courriels vous attendent.</translation>
+    </message>
+    <message>
+        <source>No e-mails are waiting any more.</source>
+        <translation>Plus aucun courriel en attente.</translation>
+    </message>
+    <message>
+        <source>Messages of another kind are waiting for you.</source>
+        <translation>Des messages d’un autre type vous attendent.</translation>
+    </message>
+    <message>
+        <source>No messages of another kind are waiting any more.</source>
+        <translation>Plus aucun message d’un autre type en attente.</translation>
+    </message>
 </context>
 <context>
     <name>SmsJobs</name>
@@ -1700,6 +1772,14 @@
     <message>
         <source>The message has no content that the card could keep.</source>
         <translation>Le message n’a pas de contenu que la carte pourrait conserver.</translation>
+    </message>
+    <message>
+        <source>The card names the message without its content.</source>
+        <translation>La carte nomme le message sans son contenu.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number, %1, is too long.</source>
+        <translation>Le numéro du centre de messagerie, %1, est trop long.</translation>
     </message>
 </context>
 <context>
@@ -2107,6 +2187,18 @@
     <message>
         <source>A message could not be deleted from the card. It is kept on the computer as well.</source>
         <translation>Un message n’a pas pu être supprimé de la carte. Il est aussi conservé sur l’ordinateur.</translation>
+    </message>
+    <message>
+        <source>The message is being sent.</source>
+        <translation>Le message est en cours d’envoi.</translation>
+    </message>
+    <message>
+        <source>It is for several people, and the card keeps messages for one.</source>
+        <translation>Il est destiné à plusieurs personnes, et la carte ne conserve que les messages pour une seule.</translation>
+    </message>
+    <message>
+        <source>What the card lists without its content stays where it is.</source>
+        <translation>Ce que la carte liste sans contenu reste où il est.</translation>
     </message>
 </context>
 <context>
@@ -2623,6 +2715,10 @@
     <message>
         <source>There is no data transported recently. Auto Disconnect will close your internet link.</source>
         <translation>Aucune donnée n’a été transmise récemment. La déconnexion automatique va fermer votre liaison internet.</translation>
+    </message>
+    <message>
+        <source>An earlier connection was cut off and has left its own settings in files of the system. Start Corva again and enter the password: it puts them back.</source>
+        <translation>Une connexion précédente a été interrompue et a laissé ses propres réglages dans des fichiers du système. Redémarrez Corva et saisissez le mot de passe : il les remet en place.</translation>
     </message>
 </context>
 <context>
@@ -3889,12 +3985,16 @@ au %2</translation>
         <translation>Les réglages de l’alphabet ont changé depuis sa rédaction.</translation>
     </message>
     <message>
-        <source>The card is gone.</source>
-        <translation>La carte n’est plus là.</translation>
-    </message>
-    <message>
         <source>The message to %1 was not sent: %2</source>
         <translation>Le message à %1 n’a pas été envoyé&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>There is another SIM in the card. What waited was not sent.</source>
+        <translation>Une autre carte SIM est dans la carte. Ce qui attendait n’a pas été envoyé.</translation>
+    </message>
+    <message>
+        <source>The message to %1 may have been sent: the card did not say.</source>
+        <translation>Le message à %1 a peut-être été envoyé : la carte ne l’a pas dit.</translation>
     </message>
 </context>
 <context>

@@ -412,10 +412,6 @@
         <translation>Não foi possível entregar a mensagem a tempo.</translation>
     </message>
     <message>
-        <source>The message was deleted before it was delivered.</source>
-        <translation>A mensagem foi eliminada antes de ser entregue.</translation>
-    </message>
-    <message>
         <source>The service centre does not know the message.</source>
         <translation>O centro de serviço não conhece a mensagem.</translation>
     </message>
@@ -434,6 +430,42 @@
     <message>
         <source>The card refuses, without saying why.</source>
         <translation>A placa recusa, sem dizer porquê.</translation>
+    </message>
+    <message>
+        <source>The network refused the message, without saying why.</source>
+        <translation>A rede recusou a mensagem sem dizer porquê.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device is busy.</source>
+        <translation>O dispositivo do destinatário está ocupado.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device does not answer.</source>
+        <translation>O dispositivo do destinatário não responde.</translation>
+    </message>
+    <message>
+        <source>The network has not the quality of service that the message asks for.</source>
+        <translation>A rede não tem a qualidade de serviço que a mensagem pede.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device failed.</source>
+        <translation>O dispositivo do destinatário falhou.</translation>
+    </message>
+    <message>
+        <source>The message was passed on; whether it arrived is not known.</source>
+        <translation>A mensagem foi encaminhada; não se sabe se chegou.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s network does not work with this one.</source>
+        <translation>A rede do destinatário não funciona com esta.</translation>
+    </message>
+    <message>
+        <source>The message was deleted by its sender before it was delivered.</source>
+        <translation>O remetente eliminou a mensagem antes de ser entregue.</translation>
+    </message>
+    <message>
+        <source>The service centre deleted the message before it was delivered.</source>
+        <translation>O centro de serviço eliminou a mensagem antes de ser entregue.</translation>
     </message>
 </context>
 <context>
@@ -581,6 +613,10 @@
     <message>
         <source>Route</source>
         <translation>Rota</translation>
+    </message>
+    <message>
+        <source>The profile cannot be used</source>
+        <translation>O perfil não pode ser usado</translation>
     </message>
 </context>
 <context>
@@ -922,6 +958,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>May have been sent</source>
+        <translation>Pode ter sido enviada</translation>
     </message>
 </context>
 <context>
@@ -1312,10 +1352,6 @@
         <translation>Li&amp;gar</translation>
     </message>
     <message>
-        <source>&amp;Choose profile</source>
-        <translation>&amp;Escolher perfil</translation>
-    </message>
-    <message>
         <source>&amp;Edit profile</source>
         <translation>E&amp;ditar perfil</translation>
     </message>
@@ -1682,6 +1718,42 @@
         <source>The card lists the message without its content.</source>
         <translation>A placa lista a mensagem sem o seu conteúdo.</translation>
     </message>
+    <message>
+        <source>A message came in without its content.</source>
+        <translation>Chegou uma mensagem sem o conteúdo.</translation>
+    </message>
+    <message>
+        <source>Voice messages are waiting for you.</source>
+        <translation>Tem mensagens de voz à espera.</translation>
+    </message>
+    <message>
+        <source>No voice messages are waiting any more.</source>
+        <translation>Já não há mensagens de voz à espera.</translation>
+    </message>
+    <message>
+        <source>Faxes are waiting for you.</source>
+        <translation>Tem faxes à espera.</translation>
+    </message>
+    <message>
+        <source>No faxes are waiting any more.</source>
+        <translation>Já não há faxes à espera.</translation>
+    </message>
+    <message>
+        <source>E-mails are waiting for you.</source>
+        <translation>Tem e-mails à espera.</translation>
+    </message>
+    <message>
+        <source>No e-mails are waiting any more.</source>
+        <translation>Já não há e-mails à espera.</translation>
+    </message>
+    <message>
+        <source>Messages of another kind are waiting for you.</source>
+        <translation>Tem mensagens de outro tipo à espera.</translation>
+    </message>
+    <message>
+        <source>No messages of another kind are waiting any more.</source>
+        <translation>Já não há mensagens de outro tipo à espera.</translation>
+    </message>
 </context>
 <context>
     <name>SmsJobs</name>
@@ -1700,6 +1772,14 @@
     <message>
         <source>The message has no content that the card could keep.</source>
         <translation>A mensagem não tem conteúdo que a placa possa guardar.</translation>
+    </message>
+    <message>
+        <source>The card names the message without its content.</source>
+        <translation>A placa indica a mensagem sem o conteúdo.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number, %1, is too long.</source>
+        <translation>O número do centro de serviço, %1, é demasiado longo.</translation>
     </message>
 </context>
 <context>
@@ -2107,6 +2187,18 @@
     <message>
         <source>A message could not be deleted from the card. It is kept on the computer as well.</source>
         <translation>Não foi possível eliminar uma mensagem da placa. Também é conservada no computador.</translation>
+    </message>
+    <message>
+        <source>The message is being sent.</source>
+        <translation>A mensagem está a ser enviada.</translation>
+    </message>
+    <message>
+        <source>It is for several people, and the card keeps messages for one.</source>
+        <translation>É para várias pessoas, e a placa guarda mensagens para uma só.</translation>
+    </message>
+    <message>
+        <source>What the card lists without its content stays where it is.</source>
+        <translation>O que a placa lista sem conteúdo fica onde está.</translation>
     </message>
 </context>
 <context>
@@ -2623,6 +2715,10 @@
     <message>
         <source>There is no data transported recently. Auto Disconnect will close your internet link.</source>
         <translation>Não houve dados transmitidos recentemente. A desconexão automática vai fechar a sua ligação à internet.</translation>
+    </message>
+    <message>
+        <source>An earlier connection was cut off and has left its own settings in files of the system. Start Corva again and enter the password: it puts them back.</source>
+        <translation>Uma ligação anterior foi interrompida e deixou as suas definições em ficheiros do sistema. Inicie o Corva de novo e introduza a palavra-passe: ele repõe-os.</translation>
     </message>
 </context>
 <context>
@@ -3889,12 +3985,16 @@ a %2</translation>
         <translation>As definições do alfabeto mudaram desde que foi escrita.</translation>
     </message>
     <message>
-        <source>The card is gone.</source>
-        <translation>A placa já não está ligada.</translation>
-    </message>
-    <message>
         <source>The message to %1 was not sent: %2</source>
         <translation>A mensagem para %1 não foi enviada: %2</translation>
+    </message>
+    <message>
+        <source>There is another SIM in the card. What waited was not sent.</source>
+        <translation>Há outro cartão SIM na placa. O que estava à espera não foi enviado.</translation>
+    </message>
+    <message>
+        <source>The message to %1 may have been sent: the card did not say.</source>
+        <translation>A mensagem para %1 pode ter sido enviada: a placa não o disse.</translation>
     </message>
 </context>
 <context>

@@ -411,10 +411,6 @@
         <translation>Mesaj zamanında iletilemedi.</translation>
     </message>
     <message>
-        <source>The message was deleted before it was delivered.</source>
-        <translation>Mesaj iletilmeden silindi.</translation>
-    </message>
-    <message>
         <source>The service centre does not know the message.</source>
         <translation>Mesaj merkezi mesajı tanımıyor.</translation>
     </message>
@@ -433,6 +429,42 @@
     <message>
         <source>The card refuses, without saying why.</source>
         <translation>Kart, nedenini bildirmeden reddediyor.</translation>
+    </message>
+    <message>
+        <source>The network refused the message, without saying why.</source>
+        <translation>Ağ, nedenini belirtmeden mesajı reddetti.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device is busy.</source>
+        <translation>Alıcının aygıtı meşgul.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device does not answer.</source>
+        <translation>Alıcının aygıtı yanıt vermiyor.</translation>
+    </message>
+    <message>
+        <source>The network has not the quality of service that the message asks for.</source>
+        <translation>Ağ, mesajın istediği hizmet kalitesini sunmuyor.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device failed.</source>
+        <translation>Alıcının aygıtında bir hata oluştu.</translation>
+    </message>
+    <message>
+        <source>The message was passed on; whether it arrived is not known.</source>
+        <translation>Mesaj aktarıldı; ulaşıp ulaşmadığı bilinmiyor.</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s network does not work with this one.</source>
+        <translation>Alıcının ağı bu ağla çalışmıyor.</translation>
+    </message>
+    <message>
+        <source>The message was deleted by its sender before it was delivered.</source>
+        <translation>Mesaj iletilmeden göndereni tarafından silindi.</translation>
+    </message>
+    <message>
+        <source>The service centre deleted the message before it was delivered.</source>
+        <translation>Mesaj merkezi mesajı iletilmeden sildi.</translation>
     </message>
 </context>
 <context>
@@ -580,6 +612,10 @@
     <message>
         <source>Route</source>
         <translation>Yönlendirme</translation>
+    </message>
+    <message>
+        <source>The profile cannot be used</source>
+        <translation>Profil kullanılamıyor</translation>
     </message>
 </context>
 <context>
@@ -921,6 +957,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>May have been sent</source>
+        <translation>Gönderilmiş olabilir</translation>
     </message>
 </context>
 <context>
@@ -1311,10 +1351,6 @@
         <translation>&amp;Bağlan</translation>
     </message>
     <message>
-        <source>&amp;Choose profile</source>
-        <translation>Profil s&amp;eç</translation>
-    </message>
-    <message>
         <source>&amp;Edit profile</source>
         <translation>Profili &amp;düzenle</translation>
     </message>
@@ -1681,6 +1717,42 @@
         <source>The card lists the message without its content.</source>
         <translation>Kart mesajı içeriği olmadan listeliyor.</translation>
     </message>
+    <message>
+        <source>A message came in without its content.</source>
+        <translation>İçeriği olmayan bir mesaj geldi.</translation>
+    </message>
+    <message>
+        <source>Voice messages are waiting for you.</source>
+        <translation>Sizi bekleyen sesli mesajlar var.</translation>
+    </message>
+    <message>
+        <source>No voice messages are waiting any more.</source>
+        <translation>Artık bekleyen sesli mesaj yok.</translation>
+    </message>
+    <message>
+        <source>Faxes are waiting for you.</source>
+        <translation>Sizi bekleyen fakslar var.</translation>
+    </message>
+    <message>
+        <source>No faxes are waiting any more.</source>
+        <translation>Artık bekleyen faks yok.</translation>
+    </message>
+    <message>
+        <source>E-mails are waiting for you.</source>
+        <translation>Sizi bekleyen e-postalar var.</translation>
+    </message>
+    <message>
+        <source>No e-mails are waiting any more.</source>
+        <translation>Artık bekleyen e-posta yok.</translation>
+    </message>
+    <message>
+        <source>Messages of another kind are waiting for you.</source>
+        <translation>Sizi bekleyen başka türde mesajlar var.</translation>
+    </message>
+    <message>
+        <source>No messages of another kind are waiting any more.</source>
+        <translation>Artık bekleyen başka türde mesaj yok.</translation>
+    </message>
 </context>
 <context>
     <name>SmsJobs</name>
@@ -1699,6 +1771,14 @@
     <message>
         <source>The message has no content that the card could keep.</source>
         <translation>Mesajın, kartın saklayabileceği bir içeriği yok.</translation>
+    </message>
+    <message>
+        <source>The card names the message without its content.</source>
+        <translation>Kart mesajı içeriği olmadan bildiriyor.</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number, %1, is too long.</source>
+        <translation>Mesaj merkezinin numarası (%1) çok uzun.</translation>
     </message>
 </context>
 <context>
@@ -2106,6 +2186,18 @@
     <message>
         <source>A message could not be deleted from the card. It is kept on the computer as well.</source>
         <translation>Bir mesaj karttan silinemedi. Bilgisayarda da saklanıyor.</translation>
+    </message>
+    <message>
+        <source>The message is being sent.</source>
+        <translation>Mesaj gönderiliyor.</translation>
+    </message>
+    <message>
+        <source>It is for several people, and the card keeps messages for one.</source>
+        <translation>Birden çok kişi için; kart ise tek kişilik mesajları saklar.</translation>
+    </message>
+    <message>
+        <source>What the card lists without its content stays where it is.</source>
+        <translation>Kartın içeriksiz listelediği, olduğu yerde kalır.</translation>
     </message>
 </context>
 <context>
@@ -2620,6 +2712,10 @@
     <message>
         <source>There is no data transported recently. Auto Disconnect will close your internet link.</source>
         <translation>Son zamanlarda veri aktarılmadı. Otomatik kesme internet bağlantınızı kapatacak.</translation>
+    </message>
+    <message>
+        <source>An earlier connection was cut off and has left its own settings in files of the system. Start Corva again and enter the password: it puts them back.</source>
+        <translation>Önceki bir bağlantı kesildi ve kendi ayarlarını sistem dosyalarında bıraktı. Corva’yı yeniden başlatıp parolayı girin: dosyaları eski hâline getirir.</translation>
     </message>
 </context>
 <context>
@@ -3874,12 +3970,16 @@ Bitiş: %2</translation>
         <translation>Yazıldığından bu yana alfabe ayarları değişti.</translation>
     </message>
     <message>
-        <source>The card is gone.</source>
-        <translation>Kart artık yok.</translation>
-    </message>
-    <message>
         <source>The message to %1 was not sent: %2</source>
         <translation>%1 alıcısına mesaj gönderilmedi: %2</translation>
+    </message>
+    <message>
+        <source>There is another SIM in the card. What waited was not sent.</source>
+        <translation>Kartta başka bir SIM var. Bekleyenler gönderilmedi.</translation>
+    </message>
+    <message>
+        <source>The message to %1 may have been sent: the card did not say.</source>
+        <translation>%1 için mesaj gönderilmiş olabilir: kart bildirmedi.</translation>
     </message>
 </context>
 <context>

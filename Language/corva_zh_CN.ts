@@ -411,10 +411,6 @@
         <translation>短信未能在期限内送达。</translation>
     </message>
     <message>
-        <source>The message was deleted before it was delivered.</source>
-        <translation>短信在送达前已被删除。</translation>
-    </message>
-    <message>
         <source>The service centre does not know the message.</source>
         <translation>短信中心没有该短信的记录。</translation>
     </message>
@@ -433,6 +429,42 @@
     <message>
         <source>The card refuses, without saying why.</source>
         <translation>上网卡拒绝，未说明原因。</translation>
+    </message>
+    <message>
+        <source>The network refused the message, without saying why.</source>
+        <translation>网络拒绝了该短信，未说明原因。</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device is busy.</source>
+        <translation>收件人的设备忙。</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device does not answer.</source>
+        <translation>收件人的设备无响应。</translation>
+    </message>
+    <message>
+        <source>The network has not the quality of service that the message asks for.</source>
+        <translation>网络无法提供该短信要求的服务质量。</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s device failed.</source>
+        <translation>收件人的设备故障。</translation>
+    </message>
+    <message>
+        <source>The message was passed on; whether it arrived is not known.</source>
+        <translation>短信已转发；是否送达未知。</translation>
+    </message>
+    <message>
+        <source>The recipient&apos;s network does not work with this one.</source>
+        <translation>收件人的网络与本网络不互通。</translation>
+    </message>
+    <message>
+        <source>The message was deleted by its sender before it was delivered.</source>
+        <translation>短信在送达前已被发件人删除。</translation>
+    </message>
+    <message>
+        <source>The service centre deleted the message before it was delivered.</source>
+        <translation>短信中心在送达前删除了该短信。</translation>
     </message>
 </context>
 <context>
@@ -580,6 +612,10 @@
     <message>
         <source>Route</source>
         <translation>路由</translation>
+    </message>
+    <message>
+        <source>The profile cannot be used</source>
+        <translation>该配置无法使用</translation>
     </message>
 </context>
 <context>
@@ -921,6 +957,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>May have been sent</source>
+        <translation>可能已发送</translation>
     </message>
 </context>
 <context>
@@ -1311,10 +1351,6 @@
         <translation>连接(&amp;C)</translation>
     </message>
     <message>
-        <source>&amp;Choose profile</source>
-        <translation>选择配置文件(&amp;C)</translation>
-    </message>
-    <message>
         <source>&amp;Edit profile</source>
         <translation>编辑配置文件(&amp;E)</translation>
     </message>
@@ -1681,6 +1717,42 @@
         <source>The card lists the message without its content.</source>
         <translation>上网卡列出了该短信，但没有内容。</translation>
     </message>
+    <message>
+        <source>A message came in without its content.</source>
+        <translation>收到一条没有内容的短信。</translation>
+    </message>
+    <message>
+        <source>Voice messages are waiting for you.</source>
+        <translation>您有语音留言。</translation>
+    </message>
+    <message>
+        <source>No voice messages are waiting any more.</source>
+        <translation>已没有语音留言。</translation>
+    </message>
+    <message>
+        <source>Faxes are waiting for you.</source>
+        <translation>您有传真。</translation>
+    </message>
+    <message>
+        <source>No faxes are waiting any more.</source>
+        <translation>已没有传真。</translation>
+    </message>
+    <message>
+        <source>E-mails are waiting for you.</source>
+        <translation>您有电子邮件。</translation>
+    </message>
+    <message>
+        <source>No e-mails are waiting any more.</source>
+        <translation>已没有电子邮件。</translation>
+    </message>
+    <message>
+        <source>Messages of another kind are waiting for you.</source>
+        <translation>您有其他类型的消息。</translation>
+    </message>
+    <message>
+        <source>No messages of another kind are waiting any more.</source>
+        <translation>已没有其他类型的消息。</translation>
+    </message>
 </context>
 <context>
     <name>SmsJobs</name>
@@ -1699,6 +1771,14 @@
     <message>
         <source>The message has no content that the card could keep.</source>
         <translation>该短信没有可供上网卡保存的内容。</translation>
+    </message>
+    <message>
+        <source>The card names the message without its content.</source>
+        <translation>上网卡列出了该短信，但没有内容。</translation>
+    </message>
+    <message>
+        <source>The service centre&apos;s number, %1, is too long.</source>
+        <translation>短信中心号码 %1 过长。</translation>
     </message>
 </context>
 <context>
@@ -2106,6 +2186,18 @@
     <message>
         <source>A message could not be deleted from the card. It is kept on the computer as well.</source>
         <translation>有一条短信无法从上网卡中删除。计算机上也保留了该短信。</translation>
+    </message>
+    <message>
+        <source>The message is being sent.</source>
+        <translation>短信正在发送。</translation>
+    </message>
+    <message>
+        <source>It is for several people, and the card keeps messages for one.</source>
+        <translation>该短信有多个收件人，而上网卡只能保存单个收件人的短信。</translation>
+    </message>
+    <message>
+        <source>What the card lists without its content stays where it is.</source>
+        <translation>上网卡列出但没有内容的短信将留在原处。</translation>
     </message>
 </context>
 <context>
@@ -2620,6 +2712,10 @@
     <message>
         <source>There is no data transported recently. Auto Disconnect will close your internet link.</source>
         <translation>最近没有数据传输。自动断开将关闭您的互联网连接。</translation>
+    </message>
+    <message>
+        <source>An earlier connection was cut off and has left its own settings in files of the system. Start Corva again and enter the password: it puts them back.</source>
+        <translation>先前的连接被中断，其设置仍留在系统文件中。请重新启动 Corva 并输入密码，即可恢复这些文件。</translation>
     </message>
 </context>
 <context>
@@ -3874,12 +3970,16 @@ to %2</source>
         <translation>字符集设置在短信写好之后已更改。</translation>
     </message>
     <message>
-        <source>The card is gone.</source>
-        <translation>上网卡已不在。</translation>
-    </message>
-    <message>
         <source>The message to %1 was not sent: %2</source>
         <translation>发送给 %1 的短信未发出：%2</translation>
+    </message>
+    <message>
+        <source>There is another SIM in the card. What waited was not sent.</source>
+        <translation>上网卡中换了另一张 SIM 卡。等待中的短信未发送。</translation>
+    </message>
+    <message>
+        <source>The message to %1 may have been sent: the card did not say.</source>
+        <translation>发给 %1 的短信可能已发送：上网卡未给出结果。</translation>
     </message>
 </context>
 <context>
