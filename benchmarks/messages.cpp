@@ -197,7 +197,8 @@ bool exportStore(const QString &folder, const QString &file)
     MessageStore store(folder, 9);
     store.load();
     timeUntil([&] { return store.isLoaded(); });
-    return exportMessages(store, store.ids([](const Message &) { return true; }), file).result().isEmpty();
+    const auto all = store.messages(store.ids([](const Message &) { return true; }));
+    return exportMessages(all, file).result().isEmpty();
 }
 
 void write(MessagePage &page, int parts)
