@@ -54,6 +54,12 @@ bool hasEmptyEntry(const Message &message)
            std::ranges::any_of(message.parts, [](const MessagePart &part) { return part.pdu.isEmpty(); });
 }
 
+/// Whatever became meanwhile of the places on the card from which they were taken.
+bool hasSameParts(const Message &one, const Message &other)
+{
+    return std::ranges::equal(one.parts, other.parts, {}, &MessagePart::pdu, &MessagePart::pdu);
+}
+
 /// Why the card cannot keep the whole of it, as a sentence; empty when it can: what came or went has a PDU
 /// for each part, a draft goes to `whom`, one person, and fits.
 QString whyNotWritten(const Message &message, const Recipients &whom, const QString &serviceCentre)
@@ -345,7 +351,7 @@ void CardPlaces::wroteToCard(const Message &message, MessagePlace to, After afte
         return;
     if (!isOnCard(message)) {
         const auto now = m_store->find(message.id);
-        if (now && now->parts == message.parts) // or else another part came meanwhile
+        if (now && hasSameParts(*now, message)) // or else another part came meanwhile
             m_store->purge({message.id});
         return;
     }

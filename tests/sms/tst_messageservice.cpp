@@ -383,7 +383,7 @@ private Q_SLOTS:
         const auto message = immediate.front().at(3).value<Message>(); // as it would be kept
         QCOMPARE(message.time.toUTC(), QDateTime({2024, 5, 3}, {10, 0}, Qt::UTC));
         QCOMPARE(message.text(), text);
-        tell(R"({"command": "sms", "from": "555", "class": 0, "alphabet": "8bit", "text": "data"})");
+        tell(R"({"command": "sms", "from": "555", "class": 0, "alphabet": "8bit", "text": "\u0001"})");
         QTRY_COMPARE_WITH_TIMEOUT(immediate.size(), 2, patience);
         QCOMPARE(immediate.back().at(1), u"The message holds data and no text."_s);
         QVERIFY(inbox().empty());

@@ -187,6 +187,8 @@ private Q_SLOTS:
         start({profile(u"Mine"_s)});
         m_backend->silentAt = DialVerb::Save;
         LinkPlan plan;
+        plan.profile = profile(u"Mine"_s);
+        plan.modemPort = u"/dev/null"_s;
         plan.hasContexts = false;
         plan.endLimit = std::chrono::milliseconds(50);
         DialUpLink link(*m_monitor, *m_backend, factsOfLoopback, plan);
