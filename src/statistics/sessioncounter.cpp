@@ -85,7 +85,7 @@ RunningSession SessionCounter::end(const QString &how)
 {
     read();
     m_session->ended = how;
-    m_lastVolume = volume();
+    m_lastVolumes = volumes();
     m_lastDuration = duration();
     return *std::exchange(m_session, std::nullopt);
 }
@@ -101,9 +101,9 @@ void SessionCounter::close(RunningSession &left) const
     left.ended = historyend::Unexpected;
 }
 
-TrafficVolume SessionCounter::volume() const
+TrafficVolumes SessionCounter::volumes() const
 {
-    return m_session ? m_session->carried.total().both() : m_lastVolume;
+    return m_session ? m_session->carried.total() : m_lastVolumes;
 }
 
 seconds SessionCounter::duration() const

@@ -32,7 +32,7 @@ public:
     void close(RunningSession &left) const;
 
     /// Of the running session, or of the last one.
-    TrafficVolume volume() const;
+    TrafficVolumes volumes() const;
     std::chrono::seconds duration() const;
     const RateTrace &rates() const { return m_rates; }
 
@@ -45,7 +45,7 @@ private:
     RateTrace m_rates;
     std::chrono::milliseconds m_startedAt{0};   ///< by `uptime`
     std::chrono::milliseconds m_countedUpTo{0}; ///< when the counters were known last
-    TrafficVolume m_lastVolume;                 ///< of the session that ran last
+    TrafficVolumes m_lastVolumes;               ///< of the session that ran last
     std::chrono::seconds m_lastDuration{0};
 };
 

@@ -178,9 +178,9 @@ bool TrafficService::isSessionUp() const
     return d->isUp();
 }
 
-TrafficVolume TrafficService::sessionVolume() const
+TrafficVolumes TrafficService::sessionVolumes() const
 {
-    return d->counter.volume();
+    return d->counter.volumes();
 }
 
 seconds TrafficService::sessionDuration() const

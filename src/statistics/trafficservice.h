@@ -52,7 +52,7 @@ public:
 
     bool isSessionUp() const;
     /// Of the running session, or of the last one.
-    TrafficVolume sessionVolume() const;
+    TrafficVolumes sessionVolumes() const;
     std::chrono::seconds sessionDuration() const;
     const RateTrace &rates() const;
 

@@ -76,9 +76,9 @@ void Services::connectParts()
 {
     connect(m_connection.get(), &ConnectionService::sigStatusChanged, this, &Services::takeStatus);
     m_connection->setByteCounter(
-        [this] { return m_isCounting ? std::optional(m_traffic->sessionVolume().total()) : std::nullopt; });
+        [this] { return m_isCounting ? std::optional(m_traffic->sessionVolumes().total()) : std::nullopt; });
     connect(m_traffic.get(), &TrafficService::sigRate, this, [this](const TrafficVolume &perSecond) {
-        const TrafficVolume carried = m_traffic->sessionVolume();
+        const TrafficVolume carried = m_traffic->sessionVolumes().both();
         m_meter.setTraffic({rateText(perSecond.received), rateText(perSecond.sent),
                             volumeText(carried.received), volumeText(carried.sent)});
     });

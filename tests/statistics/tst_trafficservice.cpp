@@ -64,7 +64,7 @@ private Q_SLOTS:
         carry(500, 50);
         m_service->sessionEnded(historyend::Person); // what was carried since the last reading counts
 
-        QCOMPARE(m_service->sessionVolume(), (TrafficVolume{1500, 150}));
+        QCOMPARE(m_service->sessionVolumes().both(), (TrafficVolume{1500, 150}));
         QCOMPARE(m_service->totals().total().home, (TrafficVolume{1500, 150}));
         QCOMPARE(m_service->history().size(), 1U);
         const HistoryRecord record = m_service->history().front();

@@ -101,7 +101,7 @@ private Q_SLOTS:
         QCOMPARE(first, u"lo"_s);
         carry(5000);
         m_services->traffic()->readNow();
-        QVERIFY(m_services->traffic()->sessionVolume().total() > 5000);
+        QVERIFY(m_services->traffic()->sessionVolumes().total() > 5000);
     }
 
     void aVolumeThatIsUsedUpEndsTheNextLinkAtOnce()

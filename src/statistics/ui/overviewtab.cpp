@@ -171,9 +171,9 @@ void OverviewTab::showSession()
 {
     const auto &history = m_service->history();
     if (m_service->isSessionUp()) {
-        const TrafficVolume carried = m_service->sessionVolume();
+        const TrafficVolumes carried = m_service->sessionVolumes();
         m_session->setTexts(tr("This connection, %1").arg(durationText(m_service->sessionDuration())),
-                            volumeText(carried.total()), volumesSentence({carried, {}}));
+                            volumeText(carried.total()), volumesSentence(carried));
     } else if (!history.empty()) {
         const HistoryRecord &last = history.back();
         m_session->setTexts(tr("Last connection, %1").arg(whenText(last.start, m_service->now())),
