@@ -14,6 +14,8 @@
 
 #include <QTimer>
 
+#include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <utility>
 #include <vector>
@@ -43,6 +45,17 @@ bool isRoutingKey(const QString &section, const QString &key)
                                      (key == "modemSide_enabled"_L1 || key == "cell_board_enabled"_L1);
 }
 
+/// Whether a part is out, or on its way, and asked for a report that has not come.
+bool awaitsReport(const Message &message)
+{
+    using enum DeliveryState;
+    const bool isOurs = message.place == MessagePlace::Computer && !message.isReceived();
+    return isOurs && std::ranges::any_of(message.parts, [](const MessagePart &part) {
+               return part.asksReport && part.state != None && part.state != Delivered &&
+                      part.state != Failed;
+           });
+}
+
 /// "50,919": what a person chose.
 QByteArray channelText(const QList<int> &channels)
 {
@@ -67,6 +80,7 @@ public:
     void takeUnread(const QStringList &ids);
     void setServiceCentre(const QString &number);
     void sendChannels();
+    void lookForAwaited();
 
     MessageService *q;
     CardMonitor *monitor;
@@ -84,6 +98,8 @@ public:
     };
     std::vector<Removed> removals; ///< the last one last
     QTimer again;                  ///< to the next try of preparing the card
+    QTimer looking;                ///< to the next look at what waits for its report
+    std::atomic<bool> awaitsReports = false;
     int tries = 0;
     bool isReady = false; ///< the card takes messages
     bool isPrepared = false;
@@ -114,6 +130,11 @@ void MessageService::Private::connectParts()
         takeCard(monitor->state());
     });
     connect(store, &MessageStore::sigError, q, &MessageService::sigNotice);
+    looking.setSingleShot(true);
+    connect(&looking, &QTimer::timeout, q, [this] { lookForAwaited(); });
+    for (const auto signal : {&MessageStore::sigAdded, &MessageStore::sigChanged, &MessageStore::sigRemoved})
+        connect(store, signal, &looking, qOverload<>(&QTimer::start));
+    connect(store, &MessageStore::sigLoaded, &looking, qOverload<>(&QTimer::start));
     connect(&queue, &SendQueue::sigProgress, q, &MessageService::sigSending);
     connect(&queue, &SendQueue::sigSummary, q, &MessageService::sigSendSummary);
     connect(&queue, &SendQueue::sigRefused, q, &MessageService::sigNotice);
@@ -222,12 +243,18 @@ void MessageService::Private::sendChannels()
     });
 }
 
+void MessageService::Private::lookForAwaited()
+{
+    awaitsReports = !store->ids(awaitsReport).isEmpty();
+}
+
 MessageService::MessageService(CardMonitor *monitor, MessageStore *store, QObject *parent)
     : QObject(parent), d(std::make_unique<Private>(this, monitor, store))
 {
     d->connectParts();
     if (store->isLoaded())
         d->queue.resume();
+    d->looking.start();
     d->takeCard(monitor->state());
 }
 
@@ -260,6 +287,11 @@ void MessageService::takeDeliveryReports(const QString &text)
     d->reception.takeDeliveryReports(text.toLatin1());
 }
 
+bool MessageService::awaitsReports() const
+{
+    return d->awaitsReports;
+}
+
 void MessageService::takeImmediate(const QString &text)
 {
     d->reception.takeImmediate(text.toLatin1());
@@ -272,11 +304,6 @@ void MessageService::takeBroadcasts(const QString &text)
 
 bool MessageService::send(const OutgoingSms &sms)
 {
-    // The encoder asks for reports by the setting: what was chosen for this message is the setting from now
-    // on.
-    const bool asksReports = cmcfg.getNumber(u"sms"_s, u"deliveryReport"_s) == 1;
-    if (sms.asksReport != asksReports)
-        cmcfg.setValue(u"sms"_s, u"deliveryReport"_s, sms.asksReport ? u"1"_s : u"0"_s);
     if (d->queue.add(sms))
         return true;
     Q_EMIT sigNotice(tr("The text is too long for one message."));

@@ -20,7 +20,7 @@ class MessageStore;
 struct OutgoingSms {
     QStringList recipients;
     QString text;
-    bool asksReport = false; ///< becomes the setting "deliveryReport"
+    bool asksReport = false; ///< for this message, whatever the setting "deliveryReport" is then
     QString draftId;         ///< the draft that it was, which goes once the message is queued; may be empty
 };
 
@@ -73,6 +73,9 @@ public:
     /// messages ("+JCLAS:") and cell broadcasts ("+CBM:"). What a text brings twice is filed once.
     void takeMessages(const QString &text);
     void takeDeliveryReports(const QString &text);
+    /// Whether a message that asked for a delivery report waits for it, so that "+CDSI:" is of interest. Any
+    /// thread.
+    bool awaitsReports() const;
     void takeImmediate(const QString &text);
     void takeBroadcasts(const QString &text);
 

@@ -158,6 +158,12 @@ QString subscriberOf(SerialThread &link)
     return parseImsi(text.constData()).valueOr({});
 }
 
+/// What was chosen when the part was written holds, whatever the settings say by now.
+ReportWish wishOf(const OutgoingPart &part)
+{
+    return part.asksReport ? ReportWish::Yes : ReportWish::No;
+}
+
 QString withoutContent()
 {
     return QCoreApplication::translate("SmsJobs", "The card names the message without its content.");
@@ -335,6 +341,7 @@ SentPart send(SerialThread &link, const OutgoingPart &part)
         return sent;
     SM_PARAM record = smParamFor(part.split, part.index, whom.numbers.value(0), centre.remove(u'+'),
                                  part.concatReference, part.asksReport);
+    record.report = wishOf(part);
     gUnicodeFlag = part.split.alphabet == Alphabet::Ucs2;
     const int result =
         link.gsmSendMessage(&record, part.split.parts[std::size_t(part.index)], nullptr, &sent.pdu);
@@ -358,6 +365,7 @@ QString encode(SerialThread &link, const OutgoingPart &part)
     SM_PARAM record =
         smParamFor(part.split, part.index, part.recipient, QString(part.serviceCentre).remove(u'+'),
                    part.concatReference, part.asksReport);
+    record.report = wishOf(part);
     gUnicodeFlag = part.split.alphabet == Alphabet::Ucs2;
     std::array<char, pduTextSize> whole{};
     std::array<char, pduTextSize> ucs2{};

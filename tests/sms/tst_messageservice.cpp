@@ -140,6 +140,25 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(stored(u"SR"_s), 0, patience);
     }
 
+    void eachAsksForItsReportByItself()
+    {
+        tell(R"({"command": "sms-network", "reportDelay": 50})");
+        set("deliveryReport", 0);
+        begin();
+        m_service->send({{u"111"_s}, u"one"_s, true, {}});
+        m_service->send({{u"222"_s}, u"two"_s, false, {}});
+        const auto states = [this] {
+            QStringList states;
+            for (const Message &message : m_store->messages(m_store->ids(MessageBox::Sent)))
+                states += message.recipients.front() +
+                          (message.state() == DeliveryState::Delivered ? u" delivered"_s : u" sent"_s);
+            states.sort();
+            return states;
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(states(), (QStringList{u"111 delivered"_s, u"222 sent"_s}), patience);
+        QCOMPARE(cmcfg.getNumber(u"sms"_s, u"deliveryReport"_s), 0);
+    }
+
     void refusedByTheNetwork()
     {
         tell(R"({"command": "sms-network", "refuse": 42, "nth": 2, "count": 1})");
