@@ -101,6 +101,26 @@ void failQueued(Message &message)
     }
 }
 
+/// What can be sent again: it is in the outbox, or it went out and its report says that it did not arrive.
+bool maySendAgain(const Message &message)
+{
+    return message.place == MessagePlace::Computer &&
+           (message.box == MessageBox::Outbox || message.box == MessageBox::Sent);
+}
+
+void queueAgain(Message &message)
+{
+    for (MessagePart &part : message.parts) {
+        if (part.state != DeliveryState::Failed && part.state != DeliveryState::Unsure)
+            continue;
+        part.state = DeliveryState::Queued;
+        part.errorCode = part.statusOctet = -1;
+        part.reference = -1; // a late report on the first try is not about the next one
+        part.reported = {};
+        message.box = MessageBox::Outbox;
+    }
+}
+
 DeliveryState stateBehind(smsjobs::SentPart::Outcome outcome)
 {
     using enum smsjobs::SentPart::Outcome;
@@ -223,16 +243,9 @@ void SendQueue::retry(const QStringList &ids)
 {
     for (const QString &id : ids) {
         const auto message = m_store->find(id);
-        if (!message || message->box != MessageBox::Outbox)
+        if (!message || !maySendAgain(*message))
             continue;
-        m_store->change(id, [](Message &failed) {
-            for (MessagePart &part : failed.parts) {
-                if (part.state == DeliveryState::Failed || part.state == DeliveryState::Unsure) {
-                    part.state = DeliveryState::Queued;
-                    part.errorCode = -1;
-                }
-            }
-        });
+        m_store->change(id, queueAgain);
         std::erase_if(m_failed, [&](const auto &each) { return each.first == id; });
         enqueue(id);
     }

@@ -41,6 +41,7 @@ public:
     /// False for a text that takes more parts than a message can have.
     bool add(const OutgoingSms &sms);
     void cancel();
+    /// Sends again what was refused, what may have gone out, and what did not arrive by its report.
     void retry(const QStringList &ids);
 
     const SendProgress &progress() const { return m_progress; }

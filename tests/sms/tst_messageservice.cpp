@@ -159,6 +159,24 @@ private Q_SLOTS:
         QCOMPARE(cmcfg.getNumber(u"sms"_s, u"deliveryReport"_s), 0);
     }
 
+    void sentAgainWhenItDidNotArrive()
+    {
+        begin();
+        m_service->send({{u"111"_s}, u"one"_s, true, {}});
+        QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Sent).parts.size(), 1U, patience);
+        const Message sent = only(MessageBox::Sent);
+        constexpr int incompatibleDestination = 0x41;
+        m_store->applyReport({.recipient = u"111"_s,
+                              .reference = sent.parts[0].reference,
+                              .status = incompatibleDestination,
+                              .sent = sent.parts[0].sent});
+        QCOMPARE(only(MessageBox::Sent).state(), DeliveryState::Failed);
+        m_service->retry({sent.id});
+        QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Sent).state(), DeliveryState::Sent, patience);
+        QCOMPARE(only(MessageBox::Sent).parts[0].statusOctet, -1);
+        QCOMPARE(this->sent(), 2);
+    }
+
     void refusedByTheNetwork()
     {
         tell(R"({"command": "sms-network", "refuse": 42, "nth": 2, "count": 1})");
