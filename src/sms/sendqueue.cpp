@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -234,9 +235,10 @@ bool SendQueue::add(const OutgoingSms &sms)
 
 void SendQueue::cancel()
 {
-    m_isCancelled = m_progress.isActive;
-    if (!m_isBusy)
-        pump();
+    if (!m_progress.isActive)
+        return;
+    giveUpWaiting();
+    pump();
 }
 
 void SendQueue::retry(const QStringList &ids)
@@ -281,8 +283,6 @@ void SendQueue::pump()
 {
     if (m_isBusy)
         return;
-    if (m_isCancelled)
-        giveUpWaiting();
     const Target target = m_isReady ? next() : Target();
     if (target.part >= 0)
         sendOne(target);
@@ -341,10 +341,15 @@ void SendQueue::took(const Target &target, const smsjobs::SentPart &sent)
 }
 
 /// It has not gone out, and waits for the card to be back; until that is noticed it is tried now and then.
+/// Unless the rest was given up meanwhile.
 void SendQueue::putBack(const Target &target)
 {
+    const bool isWanted = std::ranges::find(m_waiting, target.id) != m_waiting.end();
     m_store->change(target.id, [&](Message &message) {
-        message.parts[std::size_t(target.part)].state = DeliveryState::Queued;
+        MessagePart &part = message.parts[std::size_t(target.part)];
+        part.state = isWanted ? DeliveryState::Queued : DeliveryState::Failed;
+        if (!isWanted)
+            m_failed.insert({target.id, part.recipient});
     });
     QTimer::singleShot(pauseWithoutCard, this, [this] {
         m_isBusy = false;
@@ -377,18 +382,17 @@ void SendQueue::goOnWhen(const QFuture<bool> &stored)
 
 void SendQueue::giveUpWaiting()
 {
-    m_isCancelled = false;
-    for (const QString &id : m_waiting) {
+    for (const QString &id : std::exchange(m_waiting, {})) {
         m_store->change(id, [&](Message &message) {
             for (MessagePart &part : message.parts) {
                 if (part.state == DeliveryState::Queued) {
                     m_failed.insert({id, part.recipient});
                     part.state = DeliveryState::Failed;
+                    ++m_progress.sentParts;
                 }
             }
         });
     }
-    m_waiting.clear();
 }
 
 void SendQueue::endRun()
