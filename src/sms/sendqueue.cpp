@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <iterator>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -29,20 +30,18 @@ TextCoding configuredCoding()
     return TextCoding::fromSpecialCode(cmcfg.getValue(u"sms"_s, u"specialcode"_s));
 }
 
-/// One part for each recipient and piece of the text.
-std::vector<MessagePart> partsFor(const OutgoingSms &sms, const SplitText &split)
+/// One part for each piece of the text.
+std::vector<MessagePart> partsFor(int recipient, const SplitText &split, bool asksReport)
 {
     std::vector<MessagePart> parts;
-    for (int recipient = 0; recipient < int(sms.recipients.size()); ++recipient) {
-        for (int i = 0; i < int(split.parts.size()); ++i) {
-            MessagePart part;
-            part.sequence = i + 1;
-            part.recipient = recipient;
-            part.text = split.parts[std::size_t(i)];
-            part.asksReport = sms.asksReport && i + 1 == int(split.parts.size());
-            part.state = DeliveryState::Queued;
-            parts.push_back(part);
-        }
+    for (int i = 0; i < int(split.parts.size()); ++i) {
+        MessagePart part;
+        part.sequence = i + 1;
+        part.recipient = recipient;
+        part.text = split.parts[std::size_t(i)];
+        part.asksReport = asksReport && i + 1 == int(split.parts.size());
+        part.state = DeliveryState::Queued;
+        parts.push_back(part);
     }
     return parts;
 }
@@ -77,11 +76,15 @@ smsjobs::OutgoingPart outgoing(const Message &message, int part, const QString &
 }
 
 /// Whether the text still splits as it did when it was queued: the national tables may have changed since.
-bool isSplitAsQueued(const Message &message, int part, const SplitText &split)
+bool isSplitAsQueued(const Message &message, int recipient, const SplitText &split)
 {
-    const MessagePart &chosen = message.parts[std::size_t(part)];
-    return int(split.parts.size()) == message.total && chosen.sequence >= 1 &&
-           chosen.sequence <= message.total && split.parts[std::size_t(chosen.sequence - 1)] == chosen.text;
+    const auto isSame = [&](const MessagePart &part) {
+        return part.recipient != recipient ||
+               (part.sequence >= 1 && part.sequence <= int(split.parts.size()) &&
+                split.parts[std::size_t(part.sequence - 1)] == part.text);
+    };
+    const auto count = std::ranges::count(message.parts, recipient, &MessagePart::recipient);
+    return std::size_t(count) == split.parts.size() && std::ranges::all_of(message.parts, isSame);
 }
 
 /// What was not sent of a recipient's message stays unsent when one of its parts failed: half a message helps
@@ -109,8 +112,59 @@ bool maySendAgain(const Message &message)
            (message.box == MessageBox::Outbox || message.box == MessageBox::Sent);
 }
 
+/// Whether all that goes to that recipient is there.
+bool isWhole(const Message &message, int recipient)
+{
+    int next = 1;
+    for (const MessagePart &part : message.parts) {
+        if (part.recipient == recipient && part.sequence != next++)
+            return false;
+    }
+    return next > 1;
+}
+
+/// Whether nothing of it can have reached that recipient.
+bool isUntried(const Message &message, int recipient)
+{
+    return std::ranges::all_of(message.parts, [=](const MessagePart &part) {
+        const bool isUnsent = part.state == DeliveryState::Failed || part.state == DeliveryState::Queued;
+        return part.recipient != recipient || (isUnsent && part.reference < 0);
+    });
+}
+
+/// Cuts the text to that recipient as the alphabet's settings ask for it now.
+void splitAnew(Message &message, int recipient)
+{
+    const SplitText split = splitText(wholeText(message, recipient), configuredCoding());
+    if (!split.isSendable() || isSplitAsQueued(message, recipient, split))
+        return;
+    const auto isMine = [=](const MessagePart &part) { return part.recipient == recipient; };
+    const bool asksReport = std::ranges::any_of(
+        message.parts, [&](const MessagePart &part) { return isMine(part) && part.asksReport; });
+    const auto place = std::ranges::find_if(message.parts, isMine) - message.parts.begin();
+    std::erase_if(message.parts, isMine);
+    const std::vector<MessagePart> parts = partsFor(recipient, split, asksReport);
+    message.parts.insert(message.parts.begin() + place, parts.begin(), parts.end());
+    if (recipient == 0)
+        message.total = int(parts.size());
+    if (parts.size() > 1 && message.concatReference < 0)
+        message.concatReference = nextConcatReference();
+}
+
+/// A part that is on its way is known by its number: nothing moves then.
+void splitAnew(Message &message)
+{
+    if (countOf(message, DeliveryState::Sending) > 0)
+        return;
+    for (int recipient = 0; recipient < int(message.recipients.size()); ++recipient) {
+        if (isWhole(message, recipient) && isUntried(message, recipient))
+            splitAnew(message, recipient);
+    }
+}
+
 void queueAgain(Message &message)
 {
+    splitAnew(message);
     for (MessagePart &part : message.parts) {
         if (part.state != DeliveryState::Failed && part.state != DeliveryState::Unsure)
             continue;
@@ -211,7 +265,8 @@ bool SendQueue::add(const OutgoingSms &sms)
     message.isRead = true;
     message.total = int(split.parts.size());
     message.asksReport = sms.asksReport;
-    message.parts = partsFor(sms, split);
+    for (int recipient = 0; recipient < int(sms.recipients.size()); ++recipient)
+        std::ranges::copy(partsFor(recipient, split, sms.asksReport), std::back_inserter(message.parts));
     if (message.total > 1)
         message.concatReference = nextConcatReference();
     const MessageStore::Added added = m_store->insert({message});
@@ -308,7 +363,8 @@ void SendQueue::sendOne(const Target &target)
             return;
         }
         const auto part = outgoing(*current, target.part, m_serviceCentre);
-        if (!isSplitAsQueued(*current, target.part, part.split)) {
+        const int to = current->parts[std::size_t(target.part)].recipient;
+        if (!isSplitAsQueued(*current, to, part.split)) {
             refuse(target, tr("The alphabet's settings have changed since it was written."));
             return;
         }

@@ -199,6 +199,23 @@ private Q_SLOTS:
         QCOMPARE(only(MessageBox::Sent).id, failed.id);
     }
 
+    void theAlphabetChangedBetweenTwoTries()
+    {
+        tell(R"({"command": "sms-network", "refuse": 42, "nth": 1, "count": 1})");
+        cmcfg.setValue(u"sms"_s, u"specialcode"_s, u"gsm7ex_turkish"_s);
+        begin();
+        const QString text(100, QChar(0x15f)); // a letter of that alphabet
+        m_service->send({{u"10086"_s, u"10087"_s}, text, false, {}});
+        QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Outbox).state(0), DeliveryState::Failed, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Outbox).state(1), DeliveryState::Sent, patience);
+        const std::size_t parts = only(MessageBox::Outbox).parts.size();
+        cmcfg.setValue(u"sms"_s, u"specialcode"_s, u"gsm7ex_spanish"_s);
+        m_service->retry({only(MessageBox::Outbox).id});
+        QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Sent).text(), text, patience);
+        QVERIFY(only(MessageBox::Sent).parts.size() > parts);
+        QCOMPARE(only(MessageBox::Sent).missingParts(), 0);
+    }
+
     void aPromptThatComesLate()
     {
         tell(R"({"command": "fault", "kind": "late", "match": ">", "ms": 3300})");
