@@ -170,6 +170,7 @@ void queueAgain(Message &message)
             continue;
         part.state = DeliveryState::Queued;
         part.errorCode = part.statusOctet = -1;
+        part.fault.clear();
         part.reference = -1; // a late report on the first try is not about the next one
         part.reported = {};
         message.box = MessageBox::Outbox;
@@ -191,6 +192,7 @@ void takeOutcome(Message &message, int part, const smsjobs::SentPart &sent)
     chosen.state = stateBehind(sent.outcome);
     chosen.reference = sent.reference;
     chosen.errorCode = sent.error.code;
+    chosen.fault = chosen.state == DeliveryState::Failed && chosen.errorCode < 0 ? sent.fault : QString();
     if (chosen.state == DeliveryState::Sent)
         chosen.sent = message.time = QDateTime::currentDateTime();
     else if (chosen.state == DeliveryState::Failed)

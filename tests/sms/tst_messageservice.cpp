@@ -398,6 +398,7 @@ private Q_SLOTS:
         m_service->send({{u"10086"_s}, u"hello"_s, false, {}});
         QTRY_COMPARE_WITH_TIMEOUT(summary.size(), 1, patience);
         QVERIFY2(m_notices.join(u' ').contains(u"is too long"), qPrintable(m_notices.join(u' ')));
+        QVERIFY(only(MessageBox::Outbox).parts[0].fault.contains(u"is too long"));
         QCOMPARE(sent(), 0);
     }
 
