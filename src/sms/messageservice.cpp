@@ -5,6 +5,7 @@
 #include "link/cardworker.h"
 #include "link/serialthread.h"
 #include "shell/commoncfg.h"
+#include "shell/logging.h"
 #include "shell/whendone.h"
 #include "sms/cardplaces.h"
 #include "sms/markqueue.h"
@@ -12,6 +13,7 @@
 #include "sms/sendqueue.h"
 #include "sms/smsreception.h"
 
+#include <QSemaphore>
 #include <QTimer>
 
 #include <algorithm>
@@ -31,6 +33,7 @@ namespace
 
 constexpr int mostTries = 5;
 constexpr auto pauseBetweenTries = 10s;
+constexpr std::chrono::milliseconds longestFarewell = 4s;
 
 bool takesMessages(const CardState &card)
 {
@@ -101,7 +104,8 @@ public:
     QTimer looking;                ///< to the next look at what waits for its report
     std::atomic<bool> awaitsReports = false;
     int tries = 0;
-    bool isReady = false; ///< the card takes messages
+    bool isReady = false;  ///< the card takes messages
+    bool hasEnded = false; ///< the program does: nothing is begun any more
     bool isPrepared = false;
     bool isPreparing = false;
     bool preparesAgain = false; ///< what was asked for changed meanwhile
@@ -155,7 +159,7 @@ void MessageService::Private::connectParts()
 void MessageService::Private::takeCard(const CardState &card)
 {
     const bool isNow = takesMessages(card) && store->isLoaded();
-    if (isNow == isReady)
+    if (isNow == isReady || hasEnded)
         return;
     isReady = isNow;
     isPrepared = false;
@@ -174,6 +178,8 @@ void MessageService::Private::takeCard(const CardState &card)
 void MessageService::Private::prepare()
 {
     again.stop();
+    if (hasEnded)
+        return;
     if (std::exchange(isPreparing, true)) {
         preparesAgain = true;
         return;
@@ -290,6 +296,21 @@ void MessageService::takeDeliveryReports(const QString &text)
 bool MessageService::awaitsReports() const
 {
     return d->awaitsReports;
+}
+
+void MessageService::shutDown()
+{
+    if (std::exchange(d->hasEnded, true) || !d->isReady)
+        return;
+    d->again.stop();
+    d->queue.pause();
+    const auto isStored = std::make_shared<QSemaphore>();
+    d->monitor->worker().submit([isStored](SerialThread &link) {
+        smsjobs::storeNewMessages(link);
+        isStored->release();
+    });
+    if (!isStored->tryAcquire(1, int(longestFarewell.count())))
+        qCWarning(lcSms).noquote() << logTime() + u"the card was not told to keep new messages"_s;
 }
 
 void MessageService::takeImmediate(const QString &text)

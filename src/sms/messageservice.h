@@ -76,6 +76,10 @@ public:
     /// Whether a message that asked for a delivery report waits for it, so that "+CDSI:" is of interest. Any
     /// thread.
     bool awaitsReports() const;
+
+    /// The program ends: nothing more is sent, and the card keeps new messages from now on. Waits for that, a
+    /// few seconds at most; texts from the card are still taken. Safe to call twice.
+    void shutDown();
     void takeImmediate(const QString &text);
     void takeBroadcasts(const QString &text);
 

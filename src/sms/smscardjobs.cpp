@@ -45,16 +45,24 @@ QString readServiceCentre(SerialThread &link)
     return number;
 }
 
+/// New messages stored and announced: what every card with these commands knows, and loses nothing.
+QByteArray storedNotice(const QByteArray &mode)
+{
+    const bool wantsBroadcast = cmcfg.getNumber(u"function"_s, u"cell_board_enabled"_s) == 1;
+    return mode + (wantsBroadcast ? ",1,2,2,0" : ",1,0,2,0");
+}
+
+/// The same in the form nearest to it that the card offers.
+int storeAsOffered(SerialThread &link)
+{
+    return link.setNewMsgNoticeMode(nearestNoticeModes(storedNotice("2"), link.getNewMsgNoticeModes()));
+}
+
 /// Has new messages announced or delivered as configured, or as near to it as the card can.
 int routeMessages(SerialThread &link)
 {
     const int result = link.setNewMsgNoticeMode();
-    if (result == 1)
-        return result;
-    // Stored and announced is what every card with these commands knows, and loses nothing.
-    const bool wantsBroadcast = cmcfg.getNumber(u"function"_s, u"cell_board_enabled"_s) == 1;
-    return link.setNewMsgNoticeMode(
-        nearestNoticeModes(wantsBroadcast ? "2,1,2,2,0" : "2,1,0,2,0", link.getNewMsgNoticeModes()));
+    return result == 1 ? result : storeAsOffered(link);
 }
 
 /// The fill by a command of its own; some cards leave the stores' names out.
@@ -194,6 +202,12 @@ Preparation prepare(SerialThread &link)
     made.serviceCentre = readServiceCentre(link);
     made.subscriber = subscriberOf(link);
     return made;
+}
+
+void storeNewMessages(SerialThread &link)
+{
+    if (link.deliversDirectly() && link.setNewMsgNoticeMode(storedNotice("3")) != 1)
+        storeAsOffered(link);
 }
 
 Storage storageOf(MessagePlace place)

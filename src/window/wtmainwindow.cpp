@@ -270,9 +270,12 @@ void WTMainWindow::slotDelayShow()
 
 void WTMainWindow::stopLink()
 {
-    m_isReady = false;
     m_services->connection()->shutDown(); // while the card still answers
+    m_services->messages()->shutDown();
     m_monitor->stop();
+    m_isReady = false;
+    // What was read to the end is nowhere else, and no event loop may come to bring it.
+    QCoreApplication::sendPostedEvents(m_reports, QEvent::MetaCall);
 }
 
 void WTMainWindow::aboutShow()

@@ -448,6 +448,15 @@ private Q_SLOTS:
         QVERIFY(inbox().empty());
     }
 
+    void atTheEndTheCardKeepsThem()
+    {
+        begin();
+        QVERIFY(hears(u"AT+CNMI=1,2,2,2,0"_s));
+        m_service->shutDown();
+        tell(R"({"command": "sms", "from": "123", "text": "nobody listens"})");
+        QCOMPARE(stored(u"SM"_s) + stored(u"ME"_s), 1);
+    }
+
     void settingsThatRoute()
     {
         begin();
