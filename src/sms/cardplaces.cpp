@@ -265,16 +265,18 @@ void CardPlaces::toComputer(const std::vector<Message> &messages, After after,
     storedHere(m_store->insert(std::move(copies), deleted), messages, after);
 }
 
-QStringList CardPlaces::moveToDeleted(const std::vector<Message> &chosen)
+CardPlaces::Deleted CardPlaces::moveToDeleted(const std::vector<Message> &chosen)
 {
     std::vector<Message> messages = chosen;
     leaveEmptyEntries(messages);
+    if (messages.empty())
+        return {};
     std::vector<Message> copies;
     for (const Message &message : messages)
         copies.push_back(copyForComputer(message, MessageBox::Deleted));
     const MessageStore::Added added = m_store->insert(std::move(copies));
     storedHere(added, messages, After::Remove);
-    return added.made;
+    return {int(messages.size()), added.made};
 }
 
 void CardPlaces::storedHere(const MessageStore::Added &added, const std::vector<Message> &originals,

@@ -37,9 +37,14 @@ public:
 
     void copy(const QStringList &ids, MessagePlace to) { transfer(ids, to, After::Keep); }
     void move(const QStringList &ids, MessagePlace to) { transfer(ids, to, After::Remove); }
-    /// Copies into the computer's deleted box, then takes the originals from the card. Returns the copies'
-    /// ids.
-    QStringList moveToDeleted(const std::vector<Message> &chosen);
+    /// What went into the deleted box.
+    struct Deleted {
+        int count = 0;
+        QStringList copies; ///< ids of those that are new there
+    };
+    /// Copies into the computer's deleted box, then takes the originals from the card. What has no content
+    /// stays where it is, and `sigNotice` says so.
+    Deleted moveToDeleted(const std::vector<Message> &chosen);
     /// Takes `original` from the card, now that it is in `copies`, ids of the computer's messages.
     void takeFromCard(const QStringList &copies, const Message &original);
     /// Takes what a former run kept and did not take any more.

@@ -94,14 +94,9 @@ public:
     MarkQueue marks;
     NameLookup lookup;
     QString serviceCentre;
-    /// What was removed together.
-    struct Removed {
-        bool hasOwn;        ///< messages of the computer
-        QStringList copies; ///< of what was taken from the card
-    };
-    std::vector<Removed> removals; ///< the last one last
-    QTimer again;                  ///< to the next try of preparing the card
-    QTimer looking;                ///< to the next look at what waits for its report
+    std::vector<QStringList> removals; ///< what went into the deleted box together, the last one last
+    QTimer again;                      ///< to the next try of preparing the card
+    QTimer looking;                    ///< to the next look at what waits for its report
     std::atomic<bool> awaitsReports = false;
     int tries = 0;
     bool isReady = false;  ///< the card takes messages
@@ -373,33 +368,41 @@ void MessageService::moveTo(const QStringList &ids, MessagePlace place)
     d->places.move(ids, place);
 }
 
-void MessageService::removeMessages(const QStringList &ids)
+int MessageService::removeMessages(const QStringList &ids)
 {
-    QStringList here;
+    QStringList gone;
     std::vector<Message> onCard;
     for (const Message &message : d->store->messages(ids)) {
-        if (message.place == MessagePlace::Computer)
-            here.append(message.id);
-        else
+        if (message.place != MessagePlace::Computer)
             onCard.push_back(message);
+        else if (message.box != MessageBox::Deleted)
+            gone.append(message.id);
     }
-    if (!here.isEmpty())
-        d->store->remove(here);
-    d->removals.push_back(
-        {!here.isEmpty(), onCard.empty() ? QStringList() : d->places.moveToDeleted(onCard)});
+    if (!gone.isEmpty())
+        d->store->remove(gone);
+    const CardPlaces::Deleted fromCard = d->places.moveToDeleted(onCard);
+    const int count = int(gone.size()) + fromCard.count;
+    gone += fromCard.copies;
+    if (!gone.isEmpty())
+        d->removals.push_back(gone);
+    return count;
 }
 
 bool MessageService::undoRemoval()
 {
-    if (d->removals.empty())
-        return !d->store->undo().isEmpty();
-    const Private::Removed removed = d->removals.back();
-    d->removals.pop_back();
-    if (!removed.copies.isEmpty())
-        d->store->restore(removed.copies);
-    if (removed.hasOwn)
-        d->store->undo();
-    return true;
+    while (!d->removals.empty()) {
+        QStringList gone = d->removals.back();
+        d->removals.pop_back();
+        gone.removeIf([this](const QString &id) { // brought back or purged since
+            const auto message = d->store->find(id);
+            return !message || message->box != MessageBox::Deleted;
+        });
+        if (gone.isEmpty())
+            continue;
+        d->store->restore(gone);
+        return true;
+    }
+    return false;
 }
 
 void MessageService::setRead(const QStringList &ids, bool isRead)

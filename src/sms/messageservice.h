@@ -101,8 +101,9 @@ public:
     void copyTo(const QStringList &ids, MessagePlace place);
     void moveTo(const QStringList &ids, MessagePlace place);
     /// Into the deleted box; what lies on the SIM or the card is kept there first and then taken from it.
-    void removeMessages(const QStringList &ids);
-    /// Takes the last removal back. Returns false when there is none.
+    /// Returns how many go: what the card lists without its content stays there.
+    int removeMessages(const QStringList &ids);
+    /// Takes the last removal back of which something is still in the deleted box. False when there is none.
     bool undoRemoval();
     void setRead(const QStringList &ids, bool isRead);
 

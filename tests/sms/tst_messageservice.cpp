@@ -312,6 +312,24 @@ private Q_SLOTS:
         QCOMPARE(inbox().size(), 2U);
     }
 
+    void undoGoesOnBehindWhatIsGone()
+    {
+        begin();
+        QStringList ids;
+        for (const char16_t *text : {u"one", u"two"}) {
+            Message message;
+            message.recipients = {u"111"_s};
+            message.parts.emplace_back().text = QString(text);
+            ids += m_store->insert({message}).ids;
+        }
+        QCOMPARE(m_service->removeMessages({ids[0]}), 1);
+        QCOMPARE(m_service->removeMessages({ids[1]}), 1);
+        m_store->purge({ids[1]});
+        QVERIFY(m_service->undoRemoval());
+        QCOMPARE(inbox().size(), 1U);
+        QVERIFY(!m_service->undoRemoval());
+    }
+
     void noHalfMessageOnTheSim()
     {
         tell(R"({"command": "fill", "name": "ME", "count": 1, "status": 1})");

@@ -154,9 +154,10 @@ void MessageService::moveTo(const QStringList &ids, MessagePlace place)
     called(u"move"_s, ids, place);
 }
 
-void MessageService::removeMessages(const QStringList &ids)
+int MessageService::removeMessages(const QStringList &ids)
 {
     d->store->remove(ids);
+    return int(ids.size());
 }
 
 bool MessageService::undoRemoval()
