@@ -145,8 +145,10 @@ void CardPlaces::refresh(MessagePlace place)
     change(place, loading);
     const auto job = m_worker.submit([place](SerialThread &link) { return smsjobs::list(link, place); });
     whenDone(job, this, [this, place, generation = m_generation](std::optional<smsjobs::Listing> listing) {
-        if (generation == m_generation)
-            took(place, std::move(listing).value_or(smsjobs::Listing()));
+        if (generation != m_generation)
+            return;
+        took(place, std::move(listing).value_or(smsjobs::Listing()));
+        Q_EMIT sigListed();
     });
 }
 

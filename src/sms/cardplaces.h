@@ -55,6 +55,8 @@ Q_SIGNALS:
     void sigNotice(const QString &sentence);
     /// Once, when little room is left, with a sentence that says so.
     void sigNearlyFull(const QString &sentence);
+    /// A listing ended, also one that failed; what it brought is in the store.
+    void sigListed();
     /// What the first listing of a place met unread, and what a later one met that was not there before.
     void sigUnreadMet(const QStringList &ids);
     void sigNewListed(const QStringList &ids);

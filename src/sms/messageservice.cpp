@@ -14,6 +14,7 @@
 #include "sms/smsreception.h"
 
 #include <QSemaphore>
+#include <QSet>
 #include <QTimer>
 
 #include <algorithm>
@@ -33,6 +34,7 @@ namespace
 
 constexpr int mostTries = 5;
 constexpr auto pauseBetweenTries = 10s;
+constexpr auto patienceForCard = 15s;
 constexpr std::chrono::milliseconds longestFarewell = 4s;
 
 bool takesMessages(const CardState &card)
@@ -59,6 +61,19 @@ bool awaitsReport(const Message &message)
            });
 }
 
+/// Unread messages of all places; what lies in two of them once.
+int countUnread(const MessageStore &store)
+{
+    const QStringList ids =
+        store.ids([](const Message &message) { return message.box == MessageBox::Inbox && !message.isRead; });
+    QSet<QString> unread;
+    store.visit(ids, [&](const Message &message) {
+        const QString pdu = message.parts.empty() ? QString() : message.parts.front().pdu;
+        unread.insert(pdu.isEmpty() ? message.id : pdu);
+    });
+    return int(unread.size());
+}
+
 /// "50,919": what a person chose.
 QByteArray channelText(const QList<int> &channels)
 {
@@ -80,7 +95,7 @@ public:
     void prepare();
     void prepared(const smsjobs::Preparation &made);
     void initReadSMS();
-    void takeUnread(const QStringList &ids);
+    void announceUnread();
     void setServiceCentre(const QString &number);
     void sendChannels();
     void lookForAwaited();
@@ -97,6 +112,7 @@ public:
     std::vector<QStringList> removals; ///< what went into the deleted box together, the last one last
     QTimer again;                      ///< to the next try of preparing the card
     QTimer looking;                    ///< to the next look at what waits for its report
+    QTimer patience;                   ///< with a card that may come, until unread messages are announced
     std::atomic<bool> awaitsReports = false;
     int tries = 0;
     bool isReady = false;  ///< the card takes messages
@@ -126,6 +142,7 @@ void MessageService::Private::connectParts()
     connect(monitor, &CardMonitor::sigStateChanged, q, [this](const CardState &card) { takeCard(card); });
     connect(store, &MessageStore::sigLoaded, q, [this] {
         queue.resume();
+        patience.start(patienceForCard);
         takeCard(monitor->state());
     });
     connect(store, &MessageStore::sigError, q, &MessageService::sigNotice);
@@ -140,7 +157,10 @@ void MessageService::Private::connectParts()
     connect(&places, &CardPlaces::sigChanged, q, &MessageService::sigPlaceChanged);
     connect(&places, &CardPlaces::sigNotice, q, &MessageService::sigNotice);
     connect(&places, &CardPlaces::sigNearlyFull, q, &MessageService::sigNearlyFull);
-    connect(&places, &CardPlaces::sigUnreadMet, q, [this](const QStringList &ids) { takeUnread(ids); });
+    connect(&places, &CardPlaces::sigUnreadMet, &reception, &SmsReception::takeOver);
+    connect(&places, &CardPlaces::sigListed, q, [this] { announceUnread(); });
+    patience.setSingleShot(true);
+    connect(&patience, &QTimer::timeout, q, [this] { announceUnread(); });
     connect(&places, &CardPlaces::sigNewListed, &reception, &SmsReception::takeListed);
     connect(&places, &CardPlaces::sigReportListed, &reception, &SmsReception::deliveryReportSaveToSmsXml);
     connect(&reception, &SmsReception::sigNewMessage, q, &MessageService::sigNewMessage);
@@ -214,12 +234,19 @@ void MessageService::Private::initReadSMS()
     reception.readKeptReports();
 }
 
-void MessageService::Private::takeUnread(const QStringList &ids)
+/// Of all places together, as soon as all are known: the card's listings have ended, or there is no card.
+void MessageService::Private::announceUnread()
 {
-    const int unread = int(ids.size()) + store->unreadCount(MessageBox::Inbox);
-    reception.takeOver(ids);
-    if (!std::exchange(hasAnnouncedUnread, true) &&
-        cmcfg.getNumber(u"sms"_s, u"newSmsNoticeShowWhenProgramStart"_s) == 1)
+    if (isPreparing || places.state(MessagePlace::Sim).isLoading ||
+        places.state(MessagePlace::Card).isLoading) {
+        patience.start(patienceForCard);
+        return;
+    }
+    patience.stop();
+    if (std::exchange(hasAnnouncedUnread, true) ||
+        cmcfg.getNumber(u"sms"_s, u"newSmsNoticeShowWhenProgramStart"_s) != 1)
+        return;
+    if (const int unread = countUnread(*store); unread > 0)
         Q_EMIT q->sigUnreadAtStart(unread);
 }
 
@@ -253,8 +280,10 @@ MessageService::MessageService(CardMonitor *monitor, MessageStore *store, QObjec
     : QObject(parent), d(std::make_unique<Private>(this, monitor, store))
 {
     d->connectParts();
-    if (store->isLoaded())
+    if (store->isLoaded()) {
         d->queue.resume();
+        d->patience.start(patienceForCard);
+    }
     d->looking.start();
     d->takeCard(monitor->state());
 }

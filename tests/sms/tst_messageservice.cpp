@@ -110,6 +110,26 @@ private Q_SLOTS:
         QCOMPARE(announced.size(), 1);
     }
 
+    void unreadAtTheStart()
+    {
+        set("newSmsNoticeShowWhenProgramStart", 1);
+        set("newsmsLocation", 1);
+        {
+            MessageStore store(m_folder.path() + u"/Data"_s);
+            store.load();
+            QTRY_VERIFY_WITH_TIMEOUT(store.isLoaded(), patience);
+            Message message;
+            message.recipients = {u"111"_s};
+            message.parts.emplace_back().text = u"hello"_s;
+            store.add({message});
+        }
+        tell(R"({"command": "fill", "name": "SM", "count": 2, "status": 0})");
+        tell(R"({"command": "fill", "name": "ME", "count": 3, "status": 0, "text": "card"})");
+        begin();
+        QTRY_COMPARE_WITH_TIMEOUT(m_unreadAtStart, QList<int>{6}, patience);
+        set("newSmsNoticeShowWhenProgramStart", 0);
+    }
+
     void aMessageInTheMiddleOfAList()
     {
         tell(R"({"command": "fill", "name": "SM", "count": 20, "status": 1})");
@@ -513,6 +533,9 @@ private:
         for (const auto signal : {&MessageService::sigNotice, &MessageService::sigNearlyFull})
             connect(m_service.get(), signal, this,
                     [this](const QString &sentence) { m_notices += sentence; });
+        m_unreadAtStart.clear();
+        connect(m_service.get(), &MessageService::sigUnreadAtStart, this,
+                [this](int count) { m_unreadAtStart += count; });
         m_store->load();
         m_monitor->start();
         QTRY_VERIFY_WITH_TIMEOUT(m_service->place(MessagePlace::Sim).isRead, patience);
@@ -566,6 +589,7 @@ private:
     std::unique_ptr<MessageStore> m_store;
     std::unique_ptr<MessageService> m_service;
     QStringList m_notices;
+    QList<int> m_unreadAtStart;
 };
 
 QTEST_GUILESS_MAIN(TestMessageService)
