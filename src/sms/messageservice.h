@@ -130,7 +130,8 @@ Q_SIGNALS:
     /// its first part, and the message as the store can keep it if the person wants that.
     void sigClass0(const QString &sender, const QString &text, const QString &pdu,
                    const corva::Message &message = {});
-    /// "Message was successfully sent to ...", or what else a delivery report says.
+    /// "Message was successfully sent to ...", or what else a delivery report says. Without
+    /// "deliveryReportMsgDlgShow" it is a failure, and to be told quietly.
     void sigDelivered(const QString &sentence);
     void sigBroadcast(const QString &id);
     /// A sentence for the person: a refusal in words, a store that fills up.

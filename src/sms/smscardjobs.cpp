@@ -285,9 +285,13 @@ Fetched fetchReport(SerialThread &link, Storage storage, int index)
         fetched.fault = whyFailed(link);
         return fetched;
     }
-    auto listed = parseReadSms(link.getIndexSms(QByteArray::number(index).constData()));
-    if (!listed)
+    const QByteArray reply = link.getIndexSms(QByteArray::number(index).constData());
+    auto listed = parseReadSms(reply);
+    if (!listed) {
+        if (!isEmptyPlace(reply))
+            fetched.fault = whyFailed(link);
         return fetched;
+    }
     if (listed->pdu.isEmpty()) {
         fetched.fault = withoutContent();
         return fetched;
@@ -301,8 +305,10 @@ std::vector<KeptReport> listReports(SerialThread &link)
 {
     std::vector<KeptReport> reports;
     const QDateTime now = QDateTime::currentDateTime();
-    for (const ListedSms &each : parseSmsList(link.getSmsContent(everyStatus, int(Storage::Reports))))
-        reports.push_back(keptReport(Storage::Reports, each, now));
+    for (const ListedSms &each : parseSmsList(link.getSmsContent(everyStatus, int(Storage::Reports)))) {
+        if (!each.pdu.isEmpty()) // or else it would be filed at each start: it cannot be taken away
+            reports.push_back(keptReport(Storage::Reports, each, now));
+    }
     return reports;
 }
 

@@ -168,34 +168,36 @@ private Q_SLOTS:
         begin();
         m_service->send({{u"111"_s}, u"one"_s, true, {}});
         m_service->send({{u"222"_s}, u"two"_s, false, {}});
-        const auto states = [this] {
-            QStringList states;
+        const auto outcomes = [this] {
+            QStringList each;
             for (const Message &message : m_store->messages(m_store->ids(MessageBox::Sent)))
-                states += message.recipients.front() +
-                          (message.state() == DeliveryState::Delivered ? u" delivered"_s : u" sent"_s);
-            states.sort();
-            return states;
+                each += message.recipients.front() +
+                        (message.state() == DeliveryState::Delivered ? u" delivered"_s : u" sent"_s);
+            each.sort();
+            return each;
         };
-        QTRY_COMPARE_WITH_TIMEOUT(states(), (QStringList{u"111 delivered"_s, u"222 sent"_s}), patience);
+        QTRY_COMPARE_WITH_TIMEOUT(outcomes(), (QStringList{u"111 delivered"_s, u"222 sent"_s}), patience);
         QCOMPARE(cmcfg.getNumber(u"sms"_s, u"deliveryReport"_s), 0);
     }
 
     void sentAgainWhenItDidNotArrive()
     {
+        tell(R"({"command": "sms-network", "reportDelay": 3600000})");
         begin();
         m_service->send({{u"111"_s}, u"one"_s, true, {}});
         QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Sent).parts.size(), 1U, patience);
-        const Message sent = only(MessageBox::Sent);
-        constexpr int incompatibleDestination = 0x41;
-        m_store->applyReport({.recipient = u"111"_s,
-                              .reference = sent.parts[0].reference,
-                              .status = incompatibleDestination,
-                              .sent = sent.parts[0].sent});
+        const Message message = only(MessageBox::Sent);
+        StatusReport report;
+        report.recipient = u"111"_s;
+        report.reference = message.parts[0].reference;
+        report.status = 0x41; // incompatible destination
+        report.sent = message.parts[0].sent;
+        m_store->applyReport(report);
         QCOMPARE(only(MessageBox::Sent).state(), DeliveryState::Failed);
-        m_service->retry({sent.id});
+        m_service->retry({message.id});
         QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Sent).state(), DeliveryState::Sent, patience);
         QCOMPARE(only(MessageBox::Sent).parts[0].statusOctet, -1);
-        QCOMPARE(this->sent(), 2);
+        QCOMPARE(sent(), 2);
     }
 
     void refusedByTheNetwork()
@@ -398,6 +400,26 @@ private Q_SLOTS:
         bring("30"); // announced by "+CDSI", which names the SIM
         QTRY_COMPARE_WITH_TIMEOUT(m_store->ids(MessageBox::Reports).size(), 2, patience);
         QTRY_COMPARE_WITH_TIMEOUT(stored(u"SM"_s), 0, patience);
+    }
+
+    void aReportThatCannotBeRead()
+    {
+        set("deliveryReportMsgDlgShow", 0);
+        begin();
+        QSignalSpy delivered(m_service.get(), &MessageService::sigDelivered);
+        const auto bring = [&](const char *pdu) {
+            tell(QByteArray(R"({"command": "sms", "store": "SR", "unchecked": true, "pdu": "@"})")
+                     .replace('@', pdu));
+        };
+        bring("079194710167000006050991947111");
+        QTRY_COMPARE_WITH_TIMEOUT(m_store->ids(MessageBox::Reports).size(), 1, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(stored(u"SR"_s), 0, patience);
+        tell(R"({"command": "fault", "kind": "refuse", "match": "+CMGR", "code": 500})");
+        bring("0791947101670000060509919471111111F1425011210000004250112100000046");
+        QTRY_VERIFY_WITH_TIMEOUT(m_notices.join(u' ').contains(u"A delivery report could not be read"),
+                                 patience);
+        bring("0791947101670000060609919471111111F1425011210000004250112100000046"); // a failure
+        QTRY_COMPARE_WITH_TIMEOUT(delivered.size(), 1, patience);
     }
 
     void aDraftForTheSim_data()
