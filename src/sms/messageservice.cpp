@@ -13,6 +13,8 @@
 #include "sms/sendqueue.h"
 #include "sms/smsreception.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QSemaphore>
 #include <QSet>
 #include <QTimer>
@@ -335,6 +337,8 @@ void MessageService::shutDown()
     });
     if (!isStored->tryAcquire(1, int(longestFarewell.count())))
         qCWarning(lcSms).noquote() << logTime() + u"the card was not told to keep new messages"_s;
+    // What the jobs ahead of it did, a part that went out above all: no event loop may come to bring it.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::FutureCallOut);
 }
 
 void MessageService::takeImmediate(const QString &text)
