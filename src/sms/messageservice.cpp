@@ -96,7 +96,6 @@ public:
     void takeCard(const CardState &card);
     void prepare();
     void prepared(const smsjobs::Preparation &made);
-    void initReadSMS();
     void announceUnread();
     void setServiceCentre(const QString &number);
     void sendChannels();
@@ -222,18 +221,10 @@ void MessageService::Private::prepared(const smsjobs::Preparation &made)
         return;
     setServiceCentre(made.serviceCentre);
     places.setReady(true);
-    initReadSMS();
+    Q_EMIT q->sigCardReady();
     if (cmcfg.getNumber(u"function"_s, u"cell_board_enabled"_s) == 1 && !q->broadcastChannels().isEmpty())
         sendChannels();
     queue.begin(made.subscriber);
-}
-
-void MessageService::Private::initReadSMS()
-{
-    places.finishTaking();
-    places.refresh(MessagePlace::Sim);
-    places.refresh(MessagePlace::Card);
-    reception.readKeptReports();
 }
 
 /// Of all places together, as soon as all are known: the card's listings have ended, or there is no card.
@@ -307,6 +298,14 @@ void MessageService::setNameLookup(NameLookup lookup)
 {
     d->lookup = lookup;
     d->store->setNameLookup(std::move(lookup));
+}
+
+void MessageService::readCard()
+{
+    d->places.finishTaking();
+    d->places.refresh(MessagePlace::Sim);
+    d->places.refresh(MessagePlace::Card);
+    d->reception.readKeptReports();
 }
 
 void MessageService::takeMessages(const QString &text)

@@ -69,6 +69,10 @@ public:
     using NameLookup = std::function<QString(const QString &number)>;
     void setNameLookup(NameLookup lookup);
 
+    /// Lists what the SIM and the card hold, and files the delivery reports that came meanwhile. Wanted at
+    /// each `sigCardReady`.
+    void readCard();
+
     /// Texts in which the card reported messages ("+CMTI:", "+CMT:"), delivery reports ("+CDSI:"), immediate
     /// messages ("+JCLAS:") and cell broadcasts ("+CBM:"). What a text brings twice is filed once.
     void takeMessages(const QString &text);
@@ -117,6 +121,8 @@ public:
     void setServiceCentre(const QString &number);
 
 Q_SIGNALS:
+    /// The card takes messages from now on.
+    void sigCardReady();
     void sigSending(const corva::SendProgress &progress);
     /// The end of a run: messages that went out, and that did not, each recipient's counted by itself.
     void sigSendSummary(int sent, int failed);

@@ -215,6 +215,7 @@ void WTMainWindow::connectServices()
 
 void WTMainWindow::connectMessages()
 {
+    connect(m_services->messages(), &MessageService::sigCardReady, this, &WTMainWindow::initReadSMS);
     auto *desk = new MessageDesk(m_services->messages(), m_messages, this);
     connect(desk, &MessageDesk::sigBadge, this,
             [this](const QString &badge) { m_navigation->setBadge(u"messages"_s, badge); });
@@ -228,6 +229,11 @@ void WTMainWindow::connectMessages()
         if (m_desktop)
             m_desktop->withdraw(key);
     });
+}
+
+void WTMainWindow::initReadSMS()
+{
+    m_services->messages()->readCard();
 }
 
 /// The reports that a service files.

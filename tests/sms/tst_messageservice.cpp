@@ -550,6 +550,7 @@ private:
         m_searcher = m_monitor.get();
         m_store = std::make_unique<MessageStore>(m_folder.path() + u"/Data"_s);
         m_service = std::make_unique<MessageService>(m_monitor.get(), m_store.get());
+        connect(m_service.get(), &MessageService::sigCardReady, m_service.get(), &MessageService::readCard);
         m_owner.service = m_service.get();
         m_notices.clear();
         for (const auto signal : {&MessageService::sigNotice, &MessageService::sigNearlyFull})
