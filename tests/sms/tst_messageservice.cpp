@@ -338,10 +338,10 @@ private Q_SLOTS:
     {
         begin();
         QStringList ids;
-        for (const char16_t *text : {u"one", u"two"}) {
+        for (const QString &text : {u"one"_s, u"two"_s}) {
             Message message;
             message.recipients = {u"111"_s};
-            message.parts.emplace_back().text = QString(text);
+            message.parts.emplace_back().text = text;
             ids += m_store->insert({message}).ids;
         }
         QCOMPARE(m_service->removeMessages({ids[0]}), 1);
@@ -388,7 +388,7 @@ private Q_SLOTS:
 
     void reportsAmongTheMessages()
     {
-        const QByteArray report = "0791947101670000060509919471111111F14250112100000042501121000000";
+        const QByteArray report = "079194710167000006050B919471111111F14250112100000042501121000000";
         const auto bring = [&](const char *status) {
             tell(
                 QByteArray(R"({"command": "sms", "store": "SM", "pdu": "@"})").replace('@', report + status));
@@ -408,17 +408,16 @@ private Q_SLOTS:
         begin();
         QSignalSpy delivered(m_service.get(), &MessageService::sigDelivered);
         const auto bring = [&](const char *pdu) {
-            tell(QByteArray(R"({"command": "sms", "store": "SR", "unchecked": true, "pdu": "@"})")
-                     .replace('@', pdu));
+            tell(QByteArray(R"({"command": "sms-report", "pdu": "@"})").replace('@', pdu));
         };
-        bring("079194710167000006050991947111");
+        bring("079194710167000006050B91947111");
         QTRY_COMPARE_WITH_TIMEOUT(m_store->ids(MessageBox::Reports).size(), 1, patience);
         QTRY_COMPARE_WITH_TIMEOUT(stored(u"SR"_s), 0, patience);
         tell(R"({"command": "fault", "kind": "refuse", "match": "+CMGR", "code": 500})");
-        bring("0791947101670000060509919471111111F1425011210000004250112100000046");
+        bring("079194710167000006050B919471111111F1425011210000004250112100000046");
         QTRY_VERIFY_WITH_TIMEOUT(m_notices.join(u' ').contains(u"A delivery report could not be read"),
                                  patience);
-        bring("0791947101670000060609919471111111F1425011210000004250112100000046"); // a failure
+        bring("079194710167000006060B919471111111F1425011210000004250112100000046"); // a failure
         QTRY_COMPARE_WITH_TIMEOUT(delivered.size(), 1, patience);
     }
 
@@ -502,7 +501,7 @@ private Q_SLOTS:
         const auto message = immediate.front().at(3).value<Message>(); // as it would be kept
         QCOMPARE(message.time.toUTC(), QDateTime({2024, 5, 3}, {10, 0}, Qt::UTC));
         QCOMPARE(message.text(), text);
-        tell(R"({"command": "sms", "from": "555", "class": 0, "alphabet": "8bit", "text": "data"})");
+        tell(R"({"command": "sms", "from": "555", "class": 0, "alphabet": "8bit", "text": "\u0001"})");
         QTRY_COMPARE_WITH_TIMEOUT(immediate.size(), 2, patience);
         QCOMPARE(immediate.back().at(1), u"The message holds data and no text."_s);
         QVERIFY(inbox().empty());
