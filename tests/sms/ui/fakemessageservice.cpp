@@ -83,6 +83,15 @@ void MessageService::setNameLookup(NameLookup lookup)
     d->lookup = std::move(lookup);
 }
 
+void MessageService::readCard() {}
+
+void MessageService::shutDown() {}
+
+bool MessageService::awaitsReports() const
+{
+    return false;
+}
+
 void MessageService::takeMessages(const QString &text)
 {
     strings().calls += text;
