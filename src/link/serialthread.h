@@ -276,6 +276,8 @@ public:
     QByteArray getNewMsgNoticeModes();
     /// "AT+CNMI=<mode>,<mt>,<bm>,<ds>,<bfr>".
     int setNewMsgNoticeMode(const QByteArray &values);
+    /// Whether the card took one under which it hands new messages over and keeps none of them.
+    bool deliversDirectly() const { return m_deliversDirectly; }
     /// "AT+CSCB=0,"<channels>"": the cell broadcast channels that are wanted; none of them for an empty text.
     int setBroadcastChannels(const QByteArray &channels);
 
@@ -392,6 +394,7 @@ private:
     std::atomic<bool> m_stop = false;
     std::atomic<bool> m_isSending = false;
     bool m_mayHaveSent = false;
+    bool m_deliversDirectly = false;
     std::atomic<int> m_dataCallState = 0;
     std::atomic<int> m_latestDataCallState = 0;
     std::atomic<corva::CardFamily> m_family;

@@ -151,8 +151,10 @@ void CardPlaces::refresh(MessagePlace place)
     change(place, loading);
     const auto job = m_worker.submit([place](SerialThread &link) { return smsjobs::list(link, place); });
     whenDone(job, this, [this, place, generation = m_generation](std::optional<smsjobs::Listing> listing) {
-        if (generation == m_generation)
-            took(place, std::move(listing).value_or(smsjobs::Listing()));
+        if (generation != m_generation)
+            return;
+        took(place, std::move(listing).value_or(smsjobs::Listing()));
+        Q_EMIT sigListed();
     });
 }
 
@@ -271,16 +273,18 @@ void CardPlaces::toComputer(const std::vector<Message> &messages, After after,
     storedHere(m_store->insert(std::move(copies), deleted), messages, after);
 }
 
-QStringList CardPlaces::moveToDeleted(const std::vector<Message> &chosen)
+CardPlaces::Deleted CardPlaces::moveToDeleted(const std::vector<Message> &chosen)
 {
     std::vector<Message> messages = chosen;
     leaveEmptyEntries(messages);
+    if (messages.empty())
+        return {};
     std::vector<Message> copies;
     for (const Message &message : messages)
         copies.push_back(copyForComputer(message, MessageBox::Deleted));
     const MessageStore::Added added = m_store->insert(std::move(copies));
     storedHere(added, messages, After::Remove);
-    return added.made;
+    return {int(messages.size()), added.made};
 }
 
 void CardPlaces::storedHere(const MessageStore::Added &added, const std::vector<Message> &originals,

@@ -37,9 +37,14 @@ public:
 
     void copy(const QStringList &ids, MessagePlace to) { transfer(ids, to, After::Keep); }
     void move(const QStringList &ids, MessagePlace to) { transfer(ids, to, After::Remove); }
-    /// Copies into the computer's deleted box, then takes the originals from the card. Returns the copies'
-    /// ids.
-    QStringList moveToDeleted(const std::vector<Message> &chosen);
+    /// What went into the deleted box.
+    struct Deleted {
+        int count = 0;
+        QStringList copies; ///< ids of those that are new there
+    };
+    /// Copies into the computer's deleted box, then takes the originals from the card. What has no content
+    /// stays where it is, and `sigNotice` says so.
+    Deleted moveToDeleted(const std::vector<Message> &chosen);
     /// Takes `original` from the card, now that it is in `copies`, ids of the computer's messages.
     void takeFromCard(const QStringList &copies, const Message &original);
     /// Takes what a former run kept and did not take any more.
@@ -50,6 +55,8 @@ Q_SIGNALS:
     void sigNotice(const QString &sentence);
     /// Once, when little room is left, with a sentence that says so.
     void sigNearlyFull(const QString &sentence);
+    /// A listing ended, also one that failed; what it brought is in the store.
+    void sigListed();
     /// What the first listing of a place met unread, and what a later one met that was not there before.
     void sigUnreadMet(const QStringList &ids);
     void sigNewListed(const QStringList &ids);

@@ -37,6 +37,7 @@ struct MessagePart {
     QDateTime reported;   ///< the discharge time of the last report
     int statusOctet = -1; ///< TP-ST of the last report
     int errorCode = -1;   ///< of "+CMS ERROR", when sending was refused
+    QString fault;        ///< why it was not sent, as a sentence, where no code says it
 
     bool operator==(const MessagePart &) const = default;
 };

@@ -49,6 +49,7 @@ constexpr PartField ofPart[] = {
     {"reported"_L1, &MessagePart::reported},
     {"status"_L1, &MessagePart::statusOctet, -1, octet},
     {"error-code"_L1, &MessagePart::errorCode, -1, twoOctets},
+    {"reason"_L1, &MessagePart::fault},
     {"index"_L1, &MessagePart::storageIndex, -1, twoOctets},
     {"pdu"_L1, &MessagePart::pdu},
 };

@@ -5,6 +5,7 @@
 #include "link/cardworker.h"
 #include "link/serialthread.h"
 #include "shell/commoncfg.h"
+#include "shell/logging.h"
 #include "shell/whendone.h"
 #include "sms/cardplaces.h"
 #include "sms/markqueue.h"
@@ -12,8 +13,14 @@
 #include "sms/sendqueue.h"
 #include "sms/smsreception.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+#include <QSemaphore>
+#include <QSet>
 #include <QTimer>
 
+#include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <utility>
 #include <vector>
@@ -29,6 +36,8 @@ namespace
 
 constexpr int mostTries = 5;
 constexpr auto pauseBetweenTries = 10s;
+constexpr auto patienceForCard = 15s;
+constexpr std::chrono::milliseconds longestFarewell = 4s;
 
 bool takesMessages(const CardState &card)
 {
@@ -41,6 +50,30 @@ bool isRoutingKey(const QString &section, const QString &key)
     return section == "sms"_L1 ? key == "newsmsLocation"_L1
                                : section == "function"_L1 &&
                                      (key == "modemSide_enabled"_L1 || key == "cell_board_enabled"_L1);
+}
+
+/// Whether a part is out, or on its way, and asked for a report that has not come.
+bool awaitsReport(const Message &message)
+{
+    using enum DeliveryState;
+    const bool isOurs = message.place == MessagePlace::Computer && !message.isReceived();
+    return isOurs && std::ranges::any_of(message.parts, [](const MessagePart &part) {
+               return part.asksReport && part.state != None && part.state != Delivered &&
+                      part.state != Failed;
+           });
+}
+
+/// Unread messages of all places; what lies in two of them once.
+int countUnread(const MessageStore &store)
+{
+    const QStringList ids =
+        store.ids([](const Message &message) { return message.box == MessageBox::Inbox && !message.isRead; });
+    QSet<QString> unread;
+    store.visit(ids, [&](const Message &message) {
+        const QString pdu = message.parts.empty() ? QString() : message.parts.front().pdu;
+        unread.insert(pdu.isEmpty() ? message.id : pdu);
+    });
+    return int(unread.size());
 }
 
 /// "50,919": what a person chose.
@@ -63,10 +96,10 @@ public:
     void takeCard(const CardState &card);
     void prepare();
     void prepared(const smsjobs::Preparation &made);
-    void initReadSMS();
-    void takeUnread(const QStringList &ids);
+    void announceUnread();
     void setServiceCentre(const QString &number);
     void sendChannels();
+    void lookForAwaited();
 
     MessageService *q;
     CardMonitor *monitor;
@@ -77,15 +110,14 @@ public:
     MarkQueue marks;
     NameLookup lookup;
     QString serviceCentre;
-    /// What was removed together.
-    struct Removed {
-        bool hasOwn;        ///< messages of the computer
-        QStringList copies; ///< of what was taken from the card
-    };
-    std::vector<Removed> removals; ///< the last one last
-    QTimer again;                  ///< to the next try of preparing the card
+    std::vector<QStringList> removals; ///< what went into the deleted box together, the last one last
+    QTimer again;                      ///< to the next try of preparing the card
+    QTimer looking;                    ///< to the next look at what waits for its report
+    QTimer patience;                   ///< with a card that may come, until unread messages are announced
+    std::atomic<bool> awaitsReports = false;
     int tries = 0;
-    bool isReady = false; ///< the card takes messages
+    bool isReady = false;  ///< the card takes messages
+    bool hasEnded = false; ///< the program does: nothing is begun any more
     bool isPrepared = false;
     bool isPreparing = false;
     bool preparesAgain = false; ///< what was asked for changed meanwhile
@@ -111,16 +143,25 @@ void MessageService::Private::connectParts()
     connect(monitor, &CardMonitor::sigStateChanged, q, [this](const CardState &card) { takeCard(card); });
     connect(store, &MessageStore::sigLoaded, q, [this] {
         queue.resume();
+        patience.start(patienceForCard);
         takeCard(monitor->state());
     });
     connect(store, &MessageStore::sigError, q, &MessageService::sigNotice);
+    looking.setSingleShot(true);
+    connect(&looking, &QTimer::timeout, q, [this] { lookForAwaited(); });
+    for (const auto signal : {&MessageStore::sigAdded, &MessageStore::sigChanged, &MessageStore::sigRemoved})
+        connect(store, signal, &looking, qOverload<>(&QTimer::start));
+    connect(store, &MessageStore::sigLoaded, &looking, qOverload<>(&QTimer::start));
     connect(&queue, &SendQueue::sigProgress, q, &MessageService::sigSending);
     connect(&queue, &SendQueue::sigSummary, q, &MessageService::sigSendSummary);
     connect(&queue, &SendQueue::sigRefused, q, &MessageService::sigNotice);
     connect(&places, &CardPlaces::sigChanged, q, &MessageService::sigPlaceChanged);
     connect(&places, &CardPlaces::sigNotice, q, &MessageService::sigNotice);
     connect(&places, &CardPlaces::sigNearlyFull, q, &MessageService::sigNearlyFull);
-    connect(&places, &CardPlaces::sigUnreadMet, q, [this](const QStringList &ids) { takeUnread(ids); });
+    connect(&places, &CardPlaces::sigUnreadMet, &reception, &SmsReception::takeOver);
+    connect(&places, &CardPlaces::sigListed, q, [this] { announceUnread(); });
+    patience.setSingleShot(true);
+    connect(&patience, &QTimer::timeout, q, [this] { announceUnread(); });
     connect(&places, &CardPlaces::sigNewListed, &reception, &SmsReception::takeListed);
     connect(&places, &CardPlaces::sigReportListed, &reception, &SmsReception::deliveryReportSaveToSmsXml);
     connect(&reception, &SmsReception::sigNewMessage, q, &MessageService::sigNewMessage);
@@ -134,7 +175,7 @@ void MessageService::Private::connectParts()
 void MessageService::Private::takeCard(const CardState &card)
 {
     const bool isNow = takesMessages(card) && store->isLoaded();
-    if (isNow == isReady)
+    if (isNow == isReady || hasEnded)
         return;
     isReady = isNow;
     isPrepared = false;
@@ -153,6 +194,8 @@ void MessageService::Private::takeCard(const CardState &card)
 void MessageService::Private::prepare()
 {
     again.stop();
+    if (hasEnded)
+        return;
     if (std::exchange(isPreparing, true)) {
         preparesAgain = true;
         return;
@@ -178,26 +221,25 @@ void MessageService::Private::prepared(const smsjobs::Preparation &made)
         return;
     setServiceCentre(made.serviceCentre);
     places.setReady(true);
-    initReadSMS();
+    Q_EMIT q->sigCardReady();
     if (cmcfg.getNumber(u"function"_s, u"cell_board_enabled"_s) == 1 && !q->broadcastChannels().isEmpty())
         sendChannels();
     queue.begin(made.subscriber);
 }
 
-void MessageService::Private::initReadSMS()
+/// Of all places together, as soon as all are known: the card's listings have ended, or there is no card.
+void MessageService::Private::announceUnread()
 {
-    places.finishTaking();
-    places.refresh(MessagePlace::Sim);
-    places.refresh(MessagePlace::Card);
-    reception.readKeptReports();
-}
-
-void MessageService::Private::takeUnread(const QStringList &ids)
-{
-    const int unread = int(ids.size()) + store->unreadCount(MessageBox::Inbox);
-    reception.takeOver(ids);
-    if (!std::exchange(hasAnnouncedUnread, true) &&
-        cmcfg.getNumber(u"sms"_s, u"newSmsNoticeShowWhenProgramStart"_s) == 1)
+    if (isPreparing || places.state(MessagePlace::Sim).isLoading ||
+        places.state(MessagePlace::Card).isLoading) {
+        patience.start(patienceForCard);
+        return;
+    }
+    patience.stop();
+    if (std::exchange(hasAnnouncedUnread, true) ||
+        cmcfg.getNumber(u"sms"_s, u"newSmsNoticeShowWhenProgramStart"_s) != 1)
+        return;
+    if (const int unread = countUnread(*store); unread > 0)
         Q_EMIT q->sigUnreadAtStart(unread);
 }
 
@@ -222,12 +264,20 @@ void MessageService::Private::sendChannels()
     });
 }
 
+void MessageService::Private::lookForAwaited()
+{
+    awaitsReports = !store->ids(awaitsReport).isEmpty();
+}
+
 MessageService::MessageService(CardMonitor *monitor, MessageStore *store, QObject *parent)
     : QObject(parent), d(std::make_unique<Private>(this, monitor, store))
 {
     d->connectParts();
-    if (store->isLoaded())
+    if (store->isLoaded()) {
         d->queue.resume();
+        d->patience.start(patienceForCard);
+    }
+    d->looking.start();
     d->takeCard(monitor->state());
 }
 
@@ -250,6 +300,14 @@ void MessageService::setNameLookup(NameLookup lookup)
     d->store->setNameLookup(std::move(lookup));
 }
 
+void MessageService::readCard()
+{
+    d->places.finishTaking();
+    d->places.refresh(MessagePlace::Sim);
+    d->places.refresh(MessagePlace::Card);
+    d->reception.readKeptReports();
+}
+
 void MessageService::takeMessages(const QString &text)
 {
     d->reception.takeMessages(text.toLatin1());
@@ -258,6 +316,28 @@ void MessageService::takeMessages(const QString &text)
 void MessageService::takeDeliveryReports(const QString &text)
 {
     d->reception.takeDeliveryReports(text.toLatin1());
+}
+
+bool MessageService::awaitsReports() const
+{
+    return d->awaitsReports;
+}
+
+void MessageService::shutDown()
+{
+    if (std::exchange(d->hasEnded, true) || !d->isReady)
+        return;
+    d->again.stop();
+    d->queue.pause();
+    const auto isStored = std::make_shared<QSemaphore>();
+    d->monitor->worker().submit([isStored](SerialThread &link) {
+        smsjobs::storeNewMessages(link);
+        isStored->release();
+    });
+    if (!isStored->tryAcquire(1, int(longestFarewell.count())))
+        qCWarning(lcSms).noquote() << logTime() + u"the card was not told to keep new messages"_s;
+    // What the jobs ahead of it did, a part that went out above all: no event loop may come to bring it.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::FutureCallOut);
 }
 
 void MessageService::takeImmediate(const QString &text)
@@ -272,11 +352,6 @@ void MessageService::takeBroadcasts(const QString &text)
 
 bool MessageService::send(const OutgoingSms &sms)
 {
-    // The encoder asks for reports by the setting: what was chosen for this message is the setting from now
-    // on.
-    const bool asksReports = cmcfg.getNumber(u"sms"_s, u"deliveryReport"_s) == 1;
-    if (sms.asksReport != asksReports)
-        cmcfg.setValue(u"sms"_s, u"deliveryReport"_s, sms.asksReport ? u"1"_s : u"0"_s);
     if (d->queue.add(sms))
         return true;
     Q_EMIT sigNotice(tr("The text is too long for one message."));
@@ -325,33 +400,41 @@ void MessageService::moveTo(const QStringList &ids, MessagePlace place)
     d->places.move(ids, place);
 }
 
-void MessageService::removeMessages(const QStringList &ids)
+int MessageService::removeMessages(const QStringList &ids)
 {
-    QStringList here;
+    QStringList gone;
     std::vector<Message> onCard;
     for (const Message &message : d->store->messages(ids)) {
-        if (message.place == MessagePlace::Computer)
-            here.append(message.id);
-        else
+        if (message.place != MessagePlace::Computer)
             onCard.push_back(message);
+        else if (message.box != MessageBox::Deleted)
+            gone.append(message.id);
     }
-    if (!here.isEmpty())
-        d->store->remove(here);
-    d->removals.push_back(
-        {!here.isEmpty(), onCard.empty() ? QStringList() : d->places.moveToDeleted(onCard)});
+    if (!gone.isEmpty())
+        d->store->remove(gone);
+    const CardPlaces::Deleted fromCard = d->places.moveToDeleted(onCard);
+    const int count = int(gone.size()) + fromCard.count;
+    gone += fromCard.copies;
+    if (!gone.isEmpty())
+        d->removals.push_back(gone);
+    return count;
 }
 
 bool MessageService::undoRemoval()
 {
-    if (d->removals.empty())
-        return !d->store->undo().isEmpty();
-    const Private::Removed removed = d->removals.back();
-    d->removals.pop_back();
-    if (!removed.copies.isEmpty())
-        d->store->restore(removed.copies);
-    if (removed.hasOwn)
-        d->store->undo();
-    return true;
+    while (!d->removals.empty()) {
+        QStringList gone = d->removals.back();
+        d->removals.pop_back();
+        gone.removeIf([this](const QString &id) { // brought back or purged since
+            const auto message = d->store->find(id);
+            return !message || message->box != MessageBox::Deleted;
+        });
+        if (gone.isEmpty())
+            continue;
+        d->store->restore(gone);
+        return true;
+    }
+    return false;
 }
 
 void MessageService::setRead(const QStringList &ids, bool isRead)

@@ -20,7 +20,7 @@ class MessageStore;
 struct OutgoingSms {
     QStringList recipients;
     QString text;
-    bool asksReport = false; ///< becomes the setting "deliveryReport"
+    bool asksReport = false; ///< for this message, whatever the setting "deliveryReport" is then
     QString draftId;         ///< the draft that it was, which goes once the message is queued; may be empty
 };
 
@@ -69,10 +69,21 @@ public:
     using NameLookup = std::function<QString(const QString &number)>;
     void setNameLookup(NameLookup lookup);
 
+    /// Lists what the SIM and the card hold, and files the delivery reports that came meanwhile. Wanted at
+    /// each `sigCardReady`.
+    void readCard();
+
     /// Texts in which the card reported messages ("+CMTI:", "+CMT:"), delivery reports ("+CDSI:"), immediate
     /// messages ("+JCLAS:") and cell broadcasts ("+CBM:"). What a text brings twice is filed once.
     void takeMessages(const QString &text);
     void takeDeliveryReports(const QString &text);
+    /// Whether a message that asked for a delivery report waits for it, so that "+CDSI:" is of interest. Any
+    /// thread.
+    bool awaitsReports() const;
+
+    /// The program ends: nothing more is sent, and the card keeps new messages from now on. Waits for that, a
+    /// few seconds at most; texts from the card are still taken. Safe to call twice.
+    void shutDown();
     void takeImmediate(const QString &text);
     void takeBroadcasts(const QString &text);
 
@@ -94,8 +105,9 @@ public:
     void copyTo(const QStringList &ids, MessagePlace place);
     void moveTo(const QStringList &ids, MessagePlace place);
     /// Into the deleted box; what lies on the SIM or the card is kept there first and then taken from it.
-    void removeMessages(const QStringList &ids);
-    /// Takes the last removal back. Returns false when there is none.
+    /// Returns how many go: what the card lists without its content stays there.
+    int removeMessages(const QStringList &ids);
+    /// Takes the last removal back of which something is still in the deleted box. False when there is none.
     bool undoRemoval();
     void setRead(const QStringList &ids, bool isRead);
 
@@ -109,19 +121,23 @@ public:
     void setServiceCentre(const QString &number);
 
 Q_SIGNALS:
+    /// The card takes messages from now on.
+    void sigCardReady();
     void sigSending(const corva::SendProgress &progress);
     /// The end of a run: messages that went out, and that did not, each recipient's counted by itself.
     void sigSendSummary(int sent, int failed);
     void sigPlaceChanged(corva::MessagePlace place);
     /// A message came in. Of a long one: its first part, and no more for the others.
     void sigNewMessage(const QString &id);
-    /// Once after the start, when messages wait unread and are to be announced.
+    /// Once after the start, when messages wait unread on the computer, the SIM or the card, and are to be
+    /// announced.
     void sigUnreadAtStart(int count);
     /// An immediate message, whole or what came of it, which is kept nowhere: what is shown of it, the PDU of
     /// its first part, and the message as the store can keep it if the person wants that.
     void sigClass0(const QString &sender, const QString &text, const QString &pdu,
                    const corva::Message &message = {});
-    /// "Message was successfully sent to ...", or what else a delivery report says.
+    /// "Message was successfully sent to ...", or what else a delivery report says. Without
+    /// "deliveryReportMsgDlgShow" it is a failure, and to be told quietly.
     void sigDelivered(const QString &sentence);
     void sigBroadcast(const QString &id);
     /// A sentence for the person: a refusal in words, a store that fills up.

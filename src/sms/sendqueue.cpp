@@ -11,6 +11,8 @@
 
 #include <algorithm>
 #include <chrono>
+#include <iterator>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -28,20 +30,18 @@ TextCoding configuredCoding()
     return TextCoding::fromSpecialCode(cmcfg.getValue(u"sms"_s, u"specialcode"_s));
 }
 
-/// One part for each recipient and piece of the text.
-std::vector<MessagePart> partsFor(const OutgoingSms &sms, const SplitText &split)
+/// One part for each piece of the text.
+std::vector<MessagePart> partsFor(int recipient, const SplitText &split, bool asksReport)
 {
     std::vector<MessagePart> parts;
-    for (int recipient = 0; recipient < int(sms.recipients.size()); ++recipient) {
-        for (int i = 0; i < int(split.parts.size()); ++i) {
-            MessagePart part;
-            part.sequence = i + 1;
-            part.recipient = recipient;
-            part.text = split.parts[std::size_t(i)];
-            part.asksReport = sms.asksReport && i + 1 == int(split.parts.size());
-            part.state = DeliveryState::Queued;
-            parts.push_back(part);
-        }
+    for (int i = 0; i < int(split.parts.size()); ++i) {
+        MessagePart part;
+        part.sequence = i + 1;
+        part.recipient = recipient;
+        part.text = split.parts[std::size_t(i)];
+        part.asksReport = asksReport && i + 1 == int(split.parts.size());
+        part.state = DeliveryState::Queued;
+        parts.push_back(part);
     }
     return parts;
 }
@@ -76,11 +76,15 @@ smsjobs::OutgoingPart outgoing(const Message &message, int part, const QString &
 }
 
 /// Whether the text still splits as it did when it was queued: the national tables may have changed since.
-bool isSplitAsQueued(const Message &message, int part, const SplitText &split)
+bool isSplitAsQueued(const Message &message, int recipient, const SplitText &split)
 {
-    const MessagePart &chosen = message.parts[std::size_t(part)];
-    return int(split.parts.size()) == message.total && chosen.sequence >= 1 &&
-           chosen.sequence <= message.total && split.parts[std::size_t(chosen.sequence - 1)] == chosen.text;
+    const auto isSame = [&](const MessagePart &part) {
+        return part.recipient != recipient ||
+               (part.sequence >= 1 && part.sequence <= int(split.parts.size()) &&
+                split.parts[std::size_t(part.sequence - 1)] == part.text);
+    };
+    const auto count = std::ranges::count(message.parts, recipient, &MessagePart::recipient);
+    return std::size_t(count) == split.parts.size() && std::ranges::all_of(message.parts, isSame);
 }
 
 /// What was not sent of a recipient's message stays unsent when one of its parts failed: half a message helps
@@ -101,6 +105,78 @@ void failQueued(Message &message)
     }
 }
 
+/// What can be sent again: it is in the outbox, or it went out and its report says that it did not arrive.
+bool maySendAgain(const Message &message)
+{
+    return message.place == MessagePlace::Computer &&
+           (message.box == MessageBox::Outbox || message.box == MessageBox::Sent);
+}
+
+/// Whether all that goes to that recipient is there.
+bool isWhole(const Message &message, int recipient)
+{
+    int next = 1;
+    for (const MessagePart &part : message.parts) {
+        if (part.recipient == recipient && part.sequence != next++)
+            return false;
+    }
+    return next > 1;
+}
+
+/// Whether nothing of it can have reached that recipient.
+bool isUntried(const Message &message, int recipient)
+{
+    return std::ranges::all_of(message.parts, [=](const MessagePart &part) {
+        const bool isUnsent = part.state == DeliveryState::Failed || part.state == DeliveryState::Queued;
+        return part.recipient != recipient || (isUnsent && part.reference < 0);
+    });
+}
+
+/// Cuts the text to that recipient as the alphabet's settings ask for it now.
+void splitAnew(Message &message, int recipient)
+{
+    const SplitText split = splitText(wholeText(message, recipient), configuredCoding());
+    if (!split.isSendable() || isSplitAsQueued(message, recipient, split))
+        return;
+    const auto isMine = [=](const MessagePart &part) { return part.recipient == recipient; };
+    const bool asksReport = std::ranges::any_of(
+        message.parts, [&](const MessagePart &part) { return isMine(part) && part.asksReport; });
+    const auto place = std::ranges::find_if(message.parts, isMine) - message.parts.begin();
+    std::erase_if(message.parts, isMine);
+    const std::vector<MessagePart> parts = partsFor(recipient, split, asksReport);
+    message.parts.insert(message.parts.begin() + place, parts.begin(), parts.end());
+    if (recipient == 0)
+        message.total = int(parts.size());
+    if (parts.size() > 1 && message.concatReference < 0)
+        message.concatReference = nextConcatReference();
+}
+
+/// A part that is on its way is known by its number: nothing moves then.
+void splitAnew(Message &message)
+{
+    if (countOf(message, DeliveryState::Sending) > 0)
+        return;
+    for (int recipient = 0; recipient < int(message.recipients.size()); ++recipient) {
+        if (isWhole(message, recipient) && isUntried(message, recipient))
+            splitAnew(message, recipient);
+    }
+}
+
+void queueAgain(Message &message)
+{
+    splitAnew(message);
+    for (MessagePart &part : message.parts) {
+        if (part.state != DeliveryState::Failed && part.state != DeliveryState::Unsure)
+            continue;
+        part.state = DeliveryState::Queued;
+        part.errorCode = part.statusOctet = -1;
+        part.fault.clear();
+        part.reference = -1; // a late report on the first try is not about the next one
+        part.reported = {};
+        message.box = MessageBox::Outbox;
+    }
+}
+
 DeliveryState stateBehind(smsjobs::SentPart::Outcome outcome)
 {
     using enum smsjobs::SentPart::Outcome;
@@ -116,6 +192,7 @@ void takeOutcome(Message &message, int part, const smsjobs::SentPart &sent)
     chosen.state = stateBehind(sent.outcome);
     chosen.reference = sent.reference;
     chosen.errorCode = sent.error.code;
+    chosen.fault = chosen.state == DeliveryState::Failed && chosen.errorCode < 0 ? sent.fault : QString();
     if (chosen.state == DeliveryState::Sent)
         chosen.sent = message.time = QDateTime::currentDateTime();
     else if (chosen.state == DeliveryState::Failed)
@@ -190,7 +267,8 @@ bool SendQueue::add(const OutgoingSms &sms)
     message.isRead = true;
     message.total = int(split.parts.size());
     message.asksReport = sms.asksReport;
-    message.parts = partsFor(sms, split);
+    for (int recipient = 0; recipient < int(sms.recipients.size()); ++recipient)
+        std::ranges::copy(partsFor(recipient, split, sms.asksReport), std::back_inserter(message.parts));
     if (message.total > 1)
         message.concatReference = nextConcatReference();
     const MessageStore::Added added = m_store->insert({message});
@@ -214,25 +292,19 @@ bool SendQueue::add(const OutgoingSms &sms)
 
 void SendQueue::cancel()
 {
-    m_isCancelled = m_progress.isActive;
-    if (!m_isBusy)
-        pump();
+    if (!m_progress.isActive)
+        return;
+    giveUpWaiting();
+    pump();
 }
 
 void SendQueue::retry(const QStringList &ids)
 {
     for (const QString &id : ids) {
         const auto message = m_store->find(id);
-        if (!message || message->box != MessageBox::Outbox)
+        if (!message || !maySendAgain(*message))
             continue;
-        m_store->change(id, [](Message &failed) {
-            for (MessagePart &part : failed.parts) {
-                if (part.state == DeliveryState::Failed || part.state == DeliveryState::Unsure) {
-                    part.state = DeliveryState::Queued;
-                    part.errorCode = -1;
-                }
-            }
-        });
+        m_store->change(id, queueAgain);
         std::erase_if(m_failed, [&](const auto &each) { return each.first == id; });
         enqueue(id);
     }
@@ -268,8 +340,6 @@ void SendQueue::pump()
 {
     if (m_isBusy)
         return;
-    if (m_isCancelled)
-        giveUpWaiting();
     const Target target = m_isReady ? next() : Target();
     if (target.part >= 0)
         sendOne(target);
@@ -295,7 +365,8 @@ void SendQueue::sendOne(const Target &target)
             return;
         }
         const auto part = outgoing(*current, target.part, m_serviceCentre);
-        if (!isSplitAsQueued(*current, target.part, part.split)) {
+        const int to = current->parts[std::size_t(target.part)].recipient;
+        if (!isSplitAsQueued(*current, to, part.split)) {
             refuse(target, tr("The alphabet's settings have changed since it was written."));
             return;
         }
@@ -328,10 +399,15 @@ void SendQueue::took(const Target &target, const smsjobs::SentPart &sent)
 }
 
 /// It has not gone out, and waits for the card to be back; until that is noticed it is tried now and then.
+/// Unless the rest was given up meanwhile.
 void SendQueue::putBack(const Target &target)
 {
+    const bool isWanted = std::ranges::find(m_waiting, target.id) != m_waiting.end();
     m_store->change(target.id, [&](Message &message) {
-        message.parts[std::size_t(target.part)].state = DeliveryState::Queued;
+        MessagePart &part = message.parts[std::size_t(target.part)];
+        part.state = isWanted ? DeliveryState::Queued : DeliveryState::Failed;
+        if (!isWanted)
+            m_failed.insert({target.id, part.recipient});
     });
     QTimer::singleShot(pauseWithoutCard, this, [this] {
         m_isBusy = false;
@@ -364,18 +440,17 @@ void SendQueue::goOnWhen(const QFuture<bool> &stored)
 
 void SendQueue::giveUpWaiting()
 {
-    m_isCancelled = false;
-    for (const QString &id : m_waiting) {
+    for (const QString &id : std::exchange(m_waiting, {})) {
         m_store->change(id, [&](Message &message) {
             for (MessagePart &part : message.parts) {
                 if (part.state == DeliveryState::Queued) {
                     m_failed.insert({id, part.recipient});
                     part.state = DeliveryState::Failed;
+                    ++m_progress.sentParts;
                 }
             }
         });
     }
-    m_waiting.clear();
 }
 
 void SendQueue::endRun()

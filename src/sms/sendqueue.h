@@ -40,7 +40,9 @@ public:
 
     /// False for a text that takes more parts than a message can have.
     bool add(const OutgoingSms &sms);
+    /// Nothing more of what waits now goes out; the part that is on its way does.
     void cancel();
+    /// Sends again what was refused, what may have gone out, and what did not arrive by its report.
     void retry(const QStringList &ids);
 
     const SendProgress &progress() const { return m_progress; }
@@ -80,7 +82,6 @@ private:
     SendProgress m_progress;
     bool m_isReady = false;
     bool m_isBusy = false;
-    bool m_isCancelled = false;
 };
 
 } // namespace corva

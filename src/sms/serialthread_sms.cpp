@@ -152,7 +152,11 @@ int SerialThread::setNewMsgNoticeMode()
 
 int SerialThread::setNewMsgNoticeMode(const QByteArray &values)
 {
-    return outcome(transactMessage("AT+CNMI=" + values + "\r\n", shortWait));
+    const int result = outcome(transactMessage("AT+CNMI=" + values + "\r\n", shortWait));
+    constexpr qsizetype newMessages = 1; // <mt>: from 2 on they are handed over
+    if (result == 1)
+        m_deliversDirectly = values.split(',').value(newMessages).toInt() >= 2;
+    return result;
 }
 
 QByteArray SerialThread::getNewMsgNoticeModes()

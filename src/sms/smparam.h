@@ -5,6 +5,9 @@
 
 #include <atomic>
 
+/// Whether a delivery report is asked for.
+enum class ReportWish : unsigned char { AsConfigured, Yes, No };
+
 /// One outgoing message for the encoder. Zero-filled before use.
 struct SM_PARAM {
     char SCA[16] = {};        ///< service centre number, digits
@@ -21,6 +24,7 @@ struct SM_PARAM {
     unsigned char national = 0;     ///< 1: the header names a national table
     unsigned char reportPart = 0;   ///< 1: the part on which a report may be asked for
     int tp_udlength = 0;            ///< used bytes of `TP_UD`; UCS2: characters, and 6 for a header
+    ReportWish report = ReportWish::AsConfigured; ///< of this message, whatever the settings say
 };
 
 /// One decoded message.

@@ -45,16 +45,24 @@ QString readServiceCentre(SerialThread &link)
     return number;
 }
 
+/// New messages stored and announced: what every card with these commands knows, and loses nothing.
+QByteArray storedNotice(const QByteArray &mode)
+{
+    const bool wantsBroadcast = cmcfg.getNumber(u"function"_s, u"cell_board_enabled"_s) == 1;
+    return mode + (wantsBroadcast ? ",1,2,2,0" : ",1,0,2,0");
+}
+
+/// The same in the form nearest to it that the card offers.
+int storeAsOffered(SerialThread &link)
+{
+    return link.setNewMsgNoticeMode(nearestNoticeModes(storedNotice("2"), link.getNewMsgNoticeModes()));
+}
+
 /// Has new messages announced or delivered as configured, or as near to it as the card can.
 int routeMessages(SerialThread &link)
 {
     const int result = link.setNewMsgNoticeMode();
-    if (result == 1)
-        return result;
-    // Stored and announced is what every card with these commands knows, and loses nothing.
-    const bool wantsBroadcast = cmcfg.getNumber(u"function"_s, u"cell_board_enabled"_s) == 1;
-    return link.setNewMsgNoticeMode(
-        nearestNoticeModes(wantsBroadcast ? "2,1,2,2,0" : "2,1,0,2,0", link.getNewMsgNoticeModes()));
+    return result == 1 ? result : storeAsOffered(link);
 }
 
 /// The fill by a command of its own; some cards leave the stores' names out.
@@ -158,6 +166,12 @@ QString subscriberOf(SerialThread &link)
     return parseImsi(text.constData()).valueOr({});
 }
 
+/// What was chosen when the part was written holds, whatever the settings say by now.
+ReportWish wishOf(const OutgoingPart &part)
+{
+    return part.asksReport ? ReportWish::Yes : ReportWish::No;
+}
+
 QString withoutContent()
 {
     return QCoreApplication::translate("SmsJobs", "The card names the message without its content.");
@@ -188,6 +202,12 @@ Preparation prepare(SerialThread &link)
     made.serviceCentre = readServiceCentre(link);
     made.subscriber = subscriberOf(link);
     return made;
+}
+
+void storeNewMessages(SerialThread &link)
+{
+    if (link.deliversDirectly() && link.setNewMsgNoticeMode(storedNotice("3")) != 1)
+        storeAsOffered(link);
 }
 
 Storage storageOf(MessagePlace place)
@@ -265,9 +285,13 @@ Fetched fetchReport(SerialThread &link, Storage storage, int index)
         fetched.fault = whyFailed(link);
         return fetched;
     }
-    auto listed = parseReadSms(link.getIndexSms(QByteArray::number(index).constData()));
-    if (!listed)
+    const QByteArray reply = link.getIndexSms(QByteArray::number(index).constData());
+    auto listed = parseReadSms(reply);
+    if (!listed) {
+        if (!isEmptyPlace(reply))
+            fetched.fault = whyFailed(link);
         return fetched;
+    }
     if (listed->pdu.isEmpty()) {
         fetched.fault = withoutContent();
         return fetched;
@@ -281,8 +305,10 @@ std::vector<KeptReport> listReports(SerialThread &link)
 {
     std::vector<KeptReport> reports;
     const QDateTime now = QDateTime::currentDateTime();
-    for (const ListedSms &each : parseSmsList(link.getSmsContent(everyStatus, int(Storage::Reports))))
-        reports.push_back(keptReport(Storage::Reports, each, now));
+    for (const ListedSms &each : parseSmsList(link.getSmsContent(everyStatus, int(Storage::Reports)))) {
+        if (!each.pdu.isEmpty()) // or else it would be filed at each start: it cannot be taken away
+            reports.push_back(keptReport(Storage::Reports, each, now));
+    }
     return reports;
 }
 
@@ -335,6 +361,7 @@ SentPart send(SerialThread &link, const OutgoingPart &part)
         return sent;
     SM_PARAM record = smParamFor(part.split, part.index, whom.numbers.value(0), centre.remove(u'+'),
                                  part.concatReference, part.asksReport);
+    record.report = wishOf(part);
     gUnicodeFlag = part.split.alphabet == Alphabet::Ucs2;
     const int result =
         link.gsmSendMessage(&record, part.split.parts[std::size_t(part.index)], nullptr, &sent.pdu);
@@ -358,6 +385,7 @@ QString encode(SerialThread &link, const OutgoingPart &part)
     SM_PARAM record =
         smParamFor(part.split, part.index, part.recipient, QString(part.serviceCentre).remove(u'+'),
                    part.concatReference, part.asksReport);
+    record.report = wishOf(part);
     gUnicodeFlag = part.split.alphabet == Alphabet::Ucs2;
     std::array<char, pduTextSize> whole{};
     std::array<char, pduTextSize> ucs2{};

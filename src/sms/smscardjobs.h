@@ -26,6 +26,9 @@ struct Preparation {
 };
 Preparation prepare(SerialThread &link);
 
+/// Has the card keep new messages again, when it hands them over: nobody takes them from now on.
+void storeNewMessages(SerialThread &link);
+
 /// The card's stores by their numbers. 3GPP TS 27.005 3.1 <mem1>.
 enum class Storage { Sim = 0, Card = 1, Reports = 2 };
 Storage storageOf(MessagePlace place);

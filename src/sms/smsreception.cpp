@@ -256,7 +256,10 @@ void SmsReception::deliveryReportSaveToSmsXml(const smsjobs::KeptReport &report)
 QFuture<bool> SmsReception::fileReport(const StatusReport &report)
 {
     const MessageStore::Reported reported = m_store->applyReport(report);
-    if (reported.isNew && cmcfg.getNumber(u"sms"_s, u"deliveryReportMsgDlgShow"_s) == 1)
+    // That it arrived is told where it is wanted; that it did not is told in any case.
+    const bool isTold = cmcfg.getNumber(u"sms"_s, u"deliveryReportMsgDlgShow"_s) == 1 ||
+                        deliveryStateOf(report.status) == DeliveryState::Failed;
+    if (reported.isNew && isTold)
         Q_EMIT sigDelivered(sentenceFor(report));
     return reported.stored;
 }

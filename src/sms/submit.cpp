@@ -84,7 +84,9 @@ quint8 firstOctet(const SM_PARAM &record, const SubmitSettings &settings)
     quint8 octet = submitRelative;
     if (isLong)
         octet |= headerBit;
-    if (settings.asksReport && (!isLong || record.reportPart))
+    const bool asksReport =
+        record.report == ReportWish::AsConfigured ? settings.asksReport : record.report == ReportWish::Yes;
+    if (asksReport && (!isLong || record.reportPart))
         octet |= reportBit;
     return octet;
 }

@@ -13,7 +13,7 @@ namespace corva
 /// What the encoder takes from the settings.
 struct SubmitSettings {
     int validPeriod = 0;     ///< 0 half a day, 1 a day, 2 a week, anything else the longest time
-    bool asksReport = false; ///< where the record allows it
+    bool asksReport = false; ///< where the record allows it, and does not say itself
     bool isUcs2 = false;
 };
 

@@ -215,6 +215,7 @@ void WTMainWindow::connectServices()
 
 void WTMainWindow::connectMessages()
 {
+    connect(m_services->messages(), &MessageService::sigCardReady, this, &WTMainWindow::initReadSMS);
     auto *desk = new MessageDesk(m_services->messages(), m_messages, this);
     connect(desk, &MessageDesk::sigBadge, this,
             [this](const QString &badge) { m_navigation->setBadge(u"messages"_s, badge); });
@@ -228,6 +229,11 @@ void WTMainWindow::connectMessages()
         if (m_desktop)
             m_desktop->withdraw(key);
     });
+}
+
+void WTMainWindow::initReadSMS()
+{
+    m_services->messages()->readCard();
 }
 
 /// The reports that a service files.
@@ -270,9 +276,12 @@ void WTMainWindow::slotDelayShow()
 
 void WTMainWindow::stopLink()
 {
-    m_isReady = false;
     m_services->connection()->shutDown(); // while the card still answers
+    m_services->messages()->shutDown();
     m_monitor->stop();
+    m_isReady = false;
+    // What was read to the end is nowhere else, and no event loop may come to bring it.
+    QCoreApplication::sendPostedEvents(m_reports, QEvent::MetaCall);
 }
 
 void WTMainWindow::aboutShow()

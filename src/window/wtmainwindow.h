@@ -51,6 +51,8 @@ public:
     /// Ends the link's threads. Safe to call twice; to be called on every way out of the program.
     void stopLink();
     void aboutShow();
+    /// Has the messages on the SIM and the card read, when the card is ready for that.
+    void initReadSMS();
 
     /// Opens a page by its id; an unknown one changes nothing.
     void showPage(const QString &pageId);

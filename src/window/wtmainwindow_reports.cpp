@@ -3,6 +3,8 @@
 // thread.
 #include "device/cardmonitor.h"
 #include "shell/commoncfg.h"
+#include "sms/messageservice.h"
+#include "window/services.h"
 #include "window/wtmainwindow.h"
 
 using namespace Qt::StringLiterals;
@@ -15,7 +17,7 @@ bool WTMainWindow::isReadyForReports() const
 
 bool WTMainWindow::wantsDeliveryReports() const
 {
-    return cmcfg.getNumber(u"sms"_s, u"deliveryReport"_s) == 1;
+    return cmcfg.getNumber(u"sms"_s, u"deliveryReport"_s) == 1 || m_services->messages()->awaitsReports();
 }
 
 bool WTMainWindow::wantsStkSmsState() const

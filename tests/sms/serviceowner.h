@@ -2,15 +2,24 @@
 #pragma once
 
 #include "linktest.h"
+#include "shell/commoncfg.h"
 #include "sms/messageservice.h"
+
+#include <atomic>
 
 /// The window's part between link and service: reports step over to this thread.
 class ServiceOwner : public FakeOwner
 {
 public:
     QObject context;
-    corva::MessageService *service = nullptr;
+    std::atomic<corva::MessageService *> service = nullptr;
 
+    bool wantsDeliveryReports() const override
+    {
+        const corva::MessageService *to = service;
+        return cmcfg.getNumber(QStringLiteral("sms"), QStringLiteral("deliveryReport")) == 1 ||
+               (to && to->awaitsReports());
+    }
     void getSmsAndVoice(const QString &text) override
     {
         pass([text](corva::MessageService &to) { to.takeMessages(text); });
@@ -28,8 +37,8 @@ private:
     template <typename Take> void pass(Take take)
     {
         QMetaObject::invokeMethod(&context, [this, take] {
-            if (service)
-                take(*service);
+            if (corva::MessageService *to = service)
+                take(*to);
         });
     }
 };

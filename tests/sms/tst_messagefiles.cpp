@@ -38,6 +38,7 @@ Message fullMessage()
     part.reported = moment(99);
     part.statusOctet = 0x21;
     part.errorCode = 513;
+    part.fault = u"Because."_s;
     return message;
 }
 

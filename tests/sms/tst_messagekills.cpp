@@ -42,6 +42,7 @@ int runProgram(const QStringList &arguments)
     MessageStore store(basePath + u"/Data"_s);
     MessageService service(&monitor, &store);
     owner.service = &service;
+    QObject::connect(&service, &MessageService::sigCardReady, &service, &MessageService::readCard);
     QObject::connect(&service, &MessageService::sigPlaceChanged, &service, [&](MessagePlace place) {
         if (service.place(place).isRead && !service.place(place).isLoading)
             say(u"listed"_s);

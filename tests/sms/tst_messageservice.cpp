@@ -12,6 +12,7 @@
 #include <QJsonObject>
 #include <QSignalSpy>
 #include <QTest>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -109,6 +110,26 @@ private Q_SLOTS:
         QCOMPARE(announced.size(), 1);
     }
 
+    void unreadAtTheStart()
+    {
+        set("newSmsNoticeShowWhenProgramStart", 1);
+        set("newsmsLocation", 1);
+        {
+            MessageStore store(m_folder.path() + u"/Data"_s);
+            store.load();
+            QTRY_VERIFY_WITH_TIMEOUT(store.isLoaded(), patience);
+            Message message;
+            message.recipients = {u"111"_s};
+            message.parts.emplace_back().text = u"hello"_s;
+            store.add({message});
+        }
+        tell(R"({"command": "fill", "name": "SM", "count": 2, "status": 0})");
+        tell(R"({"command": "fill", "name": "ME", "count": 3, "status": 0, "text": "card"})");
+        begin();
+        QTRY_COMPARE_WITH_TIMEOUT(m_unreadAtStart, QList<int>{6}, patience);
+        set("newSmsNoticeShowWhenProgramStart", 0);
+    }
+
     void aMessageInTheMiddleOfAList()
     {
         tell(R"({"command": "fill", "name": "SM", "count": 20, "status": 1})");
@@ -140,6 +161,45 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(stored(u"SR"_s), 0, patience);
     }
 
+    void eachAsksForItsReportByItself()
+    {
+        tell(R"({"command": "sms-network", "reportDelay": 50})");
+        set("deliveryReport", 0);
+        begin();
+        m_service->send({{u"111"_s}, u"one"_s, true, {}});
+        m_service->send({{u"222"_s}, u"two"_s, false, {}});
+        const auto outcomes = [this] {
+            QStringList each;
+            for (const Message &message : m_store->messages(m_store->ids(MessageBox::Sent)))
+                each += message.recipients.front() +
+                        (message.state() == DeliveryState::Delivered ? u" delivered"_s : u" sent"_s);
+            each.sort();
+            return each;
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(outcomes(), (QStringList{u"111 delivered"_s, u"222 sent"_s}), patience);
+        QCOMPARE(cmcfg.getNumber(u"sms"_s, u"deliveryReport"_s), 0);
+    }
+
+    void sentAgainWhenItDidNotArrive()
+    {
+        tell(R"({"command": "sms-network", "reportDelay": 3600000})");
+        begin();
+        m_service->send({{u"111"_s}, u"one"_s, true, {}});
+        QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Sent).parts.size(), 1U, patience);
+        const Message message = only(MessageBox::Sent);
+        StatusReport report;
+        report.recipient = u"111"_s;
+        report.reference = message.parts[0].reference;
+        report.status = 0x41; // incompatible destination
+        report.sent = message.parts[0].sent;
+        m_store->applyReport(report);
+        QCOMPARE(only(MessageBox::Sent).state(), DeliveryState::Failed);
+        m_service->retry({message.id});
+        QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Sent).state(), DeliveryState::Sent, patience);
+        QCOMPARE(only(MessageBox::Sent).parts[0].statusOctet, -1);
+        QCOMPARE(sent(), 2);
+    }
+
     void refusedByTheNetwork()
     {
         tell(R"({"command": "sms-network", "refuse": 42, "nth": 2, "count": 1})");
@@ -159,6 +219,23 @@ private Q_SLOTS:
         QCOMPARE(summary.back(), (QVariantList{1, 0}));
         QCOMPARE(sent(), 3);
         QCOMPARE(only(MessageBox::Sent).id, failed.id);
+    }
+
+    void theAlphabetChangedBetweenTwoTries()
+    {
+        tell(R"({"command": "sms-network", "refuse": 42, "nth": 1, "count": 1})");
+        cmcfg.setValue(u"sms"_s, u"specialcode"_s, u"gsm7ex_turkish"_s);
+        begin();
+        const QString text(100, QChar(0x15f)); // a letter of that alphabet
+        m_service->send({{u"10086"_s, u"10087"_s}, text, false, {}});
+        QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Outbox).state(0), DeliveryState::Failed, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Outbox).state(1), DeliveryState::Sent, patience);
+        const std::size_t parts = only(MessageBox::Outbox).parts.size();
+        cmcfg.setValue(u"sms"_s, u"specialcode"_s, u"gsm7ex_spanish"_s);
+        m_service->retry({only(MessageBox::Outbox).id});
+        QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Sent).text(), text, patience);
+        QVERIFY(only(MessageBox::Sent).parts.size() > parts);
+        QCOMPARE(only(MessageBox::Sent).missingParts(), 0);
     }
 
     void aPromptThatComesLate()
@@ -182,10 +259,13 @@ private Q_SLOTS:
         m_service->send({{u"10086"_s}, QString(400, u'a'), false, {}});
         QTRY_VERIFY_WITH_TIMEOUT(m_service->sending().isActive, patience);
         m_service->cancelSending();
-        QTRY_COMPARE_WITH_TIMEOUT(summary.size(), 1, patience);
-        QCOMPARE(summary.front(), (QVariantList{0, 1}));
-        QVERIFY(sent() < 3);
-        QVERIFY(!m_service->sending().isActive);
+        m_service->send({{u"222"_s}, u"later"_s, false, {}}); // which is not given up with the rest
+        QTRY_COMPARE_WITH_TIMEOUT(only(MessageBox::Sent).recipients, QStringList(u"222"_s), patience);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_service->sending().isActive, patience);
+        QCOMPARE(only(MessageBox::Outbox).state(), DeliveryState::Failed);
+        QVERIFY(sent() < 4);
+        const auto failed = [](int sum, const QVariantList &run) { return sum + run.at(1).toInt(); };
+        QCOMPARE(std::accumulate(summary.begin(), summary.end(), 0, failed), 1);
     }
 
     void theQueueOverARestart()
@@ -254,6 +334,24 @@ private Q_SLOTS:
         QCOMPARE(inbox().size(), 2U);
     }
 
+    void undoGoesOnBehindWhatIsGone()
+    {
+        begin();
+        QStringList ids;
+        for (const QString &text : {u"one"_s, u"two"_s}) {
+            Message message;
+            message.recipients = {u"111"_s};
+            message.parts.emplace_back().text = text;
+            ids += m_store->insert({message}).ids;
+        }
+        QCOMPARE(m_service->removeMessages({ids[0]}), 1);
+        QCOMPARE(m_service->removeMessages({ids[1]}), 1);
+        m_store->purge({ids[1]});
+        QVERIFY(m_service->undoRemoval());
+        QCOMPARE(inbox().size(), 1U);
+        QVERIFY(!m_service->undoRemoval());
+    }
+
     void noHalfMessageOnTheSim()
     {
         tell(R"({"command": "fill", "name": "ME", "count": 1, "status": 1})");
@@ -290,7 +388,7 @@ private Q_SLOTS:
 
     void reportsAmongTheMessages()
     {
-        const QByteArray report = "0791947101670000060509919471111111F14250112100000042501121000000";
+        const QByteArray report = "079194710167000006050B919471111111F14250112100000042501121000000";
         const auto bring = [&](const char *status) {
             tell(
                 QByteArray(R"({"command": "sms", "store": "SM", "pdu": "@"})").replace('@', report + status));
@@ -302,6 +400,25 @@ private Q_SLOTS:
         bring("30"); // announced by "+CDSI", which names the SIM
         QTRY_COMPARE_WITH_TIMEOUT(m_store->ids(MessageBox::Reports).size(), 2, patience);
         QTRY_COMPARE_WITH_TIMEOUT(stored(u"SM"_s), 0, patience);
+    }
+
+    void aReportThatCannotBeRead()
+    {
+        set("deliveryReportMsgDlgShow", 0);
+        begin();
+        QSignalSpy delivered(m_service.get(), &MessageService::sigDelivered);
+        const auto bring = [&](const char *pdu) {
+            tell(QByteArray(R"({"command": "sms-report", "pdu": "@"})").replace('@', pdu));
+        };
+        bring("079194710167000006050B91947111");
+        QTRY_COMPARE_WITH_TIMEOUT(m_store->ids(MessageBox::Reports).size(), 1, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(stored(u"SR"_s), 0, patience);
+        tell(R"({"command": "fault", "kind": "refuse", "match": "+CMGR", "code": 500})");
+        bring("079194710167000006050B919471111111F1425011210000004250112100000046");
+        QTRY_VERIFY_WITH_TIMEOUT(m_notices.join(u' ').contains(u"A delivery report could not be read"),
+                                 patience);
+        bring("079194710167000006060B919471111111F1425011210000004250112100000046"); // a failure
+        QTRY_COMPARE_WITH_TIMEOUT(delivered.size(), 1, patience);
     }
 
     void aDraftForTheSim_data()
@@ -340,6 +457,7 @@ private Q_SLOTS:
         m_service->send({{u"10086"_s}, u"hello"_s, false, {}});
         QTRY_COMPARE_WITH_TIMEOUT(summary.size(), 1, patience);
         QVERIFY2(m_notices.join(u' ').contains(u"is too long"), qPrintable(m_notices.join(u' ')));
+        QVERIFY(only(MessageBox::Outbox).parts[0].fault.contains(u"is too long"));
         QCOMPARE(sent(), 0);
     }
 
@@ -389,6 +507,15 @@ private Q_SLOTS:
         QVERIFY(inbox().empty());
     }
 
+    void atTheEndTheCardKeepsThem()
+    {
+        begin();
+        QVERIFY(hears(u"AT+CNMI=1,2,2,2,0"_s));
+        m_service->shutDown();
+        tell(R"({"command": "sms", "from": "123", "text": "nobody listens"})");
+        QCOMPARE(stored(u"SM"_s) + stored(u"ME"_s), 1);
+    }
+
     void settingsThatRoute()
     {
         begin();
@@ -422,11 +549,15 @@ private:
         m_searcher = m_monitor.get();
         m_store = std::make_unique<MessageStore>(m_folder.path() + u"/Data"_s);
         m_service = std::make_unique<MessageService>(m_monitor.get(), m_store.get());
+        connect(m_service.get(), &MessageService::sigCardReady, m_service.get(), &MessageService::readCard);
         m_owner.service = m_service.get();
         m_notices.clear();
         for (const auto signal : {&MessageService::sigNotice, &MessageService::sigNearlyFull})
             connect(m_service.get(), signal, this,
                     [this](const QString &sentence) { m_notices += sentence; });
+        m_unreadAtStart.clear();
+        connect(m_service.get(), &MessageService::sigUnreadAtStart, this,
+                [this](int count) { m_unreadAtStart += count; });
         m_store->load();
         m_monitor->start();
         QTRY_VERIFY_WITH_TIMEOUT(m_service->place(MessagePlace::Sim).isRead, patience);
@@ -480,6 +611,7 @@ private:
     std::unique_ptr<MessageStore> m_store;
     std::unique_ptr<MessageService> m_service;
     QStringList m_notices;
+    QList<int> m_unreadAtStart;
 };
 
 QTEST_GUILESS_MAIN(TestMessageService)

@@ -189,6 +189,10 @@ private Q_SLOTS:
         const int length = SerialThread::gsmEncodePdu(&message, sent, {}, hex);
         QCOMPARE(length, int(qstrlen(sent)));
         QCOMPARE(QByteArray(sent), QByteArray("0181310005810180F60000AD05E8329BFD06"));
+        message = record();
+        message.report = ReportWish::No; // what was chosen for this one
+        SerialThread::gsmEncodePdu(&message, sent, {}, hex);
+        QCOMPARE(QByteArray(sent).mid(4, 2), QByteArray("11"));
         gUnicodeFlag = true;
         message = ucs2Part(u"\u00ab"_s, true);
         SerialThread::gsmEncodePdu(&message, sent, u"\u00ab"_s, hex);

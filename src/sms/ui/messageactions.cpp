@@ -176,8 +176,8 @@ void MessageActions::deleteChosen()
     for (const Message &message : messages())
         (isDeleted(message) ? again : first) += message.id;
     if (!first.isEmpty()) {
-        m_service->removeMessages(first);
-        Q_EMIT sigSaid(tr("%n messages were deleted.", nullptr, int(first.size())), true);
+        if (const int gone = m_service->removeMessages(first); gone > 0)
+            Q_EMIT sigSaid(tr("%n messages were deleted.", nullptr, gone), true);
     }
     if (again.isEmpty())
         return;

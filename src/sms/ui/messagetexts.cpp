@@ -95,6 +95,7 @@ QString partDetails(const Message &message, const MessagePart &part)
                                                  .arg(QLocale().toString(part.sequence), stateAndTime)
                                            : stateAndTime;
     const QString reason = part.errorCode >= 0     ? cmsErrorText({part.errorCode, {}})
+                           : !part.fault.isEmpty() ? part.fault
                            : part.statusOctet >= 0 ? deliveryStatusText(part.statusOctet)
                                                    : QString();
     return reason.isEmpty() ? line : text(QT_TRANSLATE_NOOP("Messages", "%1. %2")).arg(line, reason);

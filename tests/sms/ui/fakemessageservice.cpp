@@ -83,6 +83,15 @@ void MessageService::setNameLookup(NameLookup lookup)
     d->lookup = std::move(lookup);
 }
 
+void MessageService::readCard() {}
+
+void MessageService::shutDown() {}
+
+bool MessageService::awaitsReports() const
+{
+    return false;
+}
+
 void MessageService::takeMessages(const QString &text)
 {
     strings().calls += text;
@@ -154,9 +163,10 @@ void MessageService::moveTo(const QStringList &ids, MessagePlace place)
     called(u"move"_s, ids, place);
 }
 
-void MessageService::removeMessages(const QStringList &ids)
+int MessageService::removeMessages(const QStringList &ids)
 {
     d->store->remove(ids);
+    return int(ids.size());
 }
 
 bool MessageService::undoRemoval()
