@@ -197,7 +197,9 @@ bool exportStore(const QString &folder, const QString &file)
     MessageStore store(folder, 9);
     store.load();
     timeUntil([&] { return store.isLoaded(); });
-    return exportMessages(store, store.ids([](const Message &) { return true; }), file).result().isEmpty();
+    return exportMessages(store.messages(store.ids([](const Message &) { return true; })), file)
+        .result()
+        .isEmpty();
 }
 
 void write(MessagePage &page, int parts)
