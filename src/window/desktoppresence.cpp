@@ -23,6 +23,7 @@ DesktopPresence::DesktopPresence(QObject *parent)
     : QObject(parent), m_tray(nullptr),
       m_notifier([this](const QString &title, const QString &body) { m_tray.notify(title, body); })
 {
+    connect(&m_notifier, &DesktopNotifier::sigActivated, this, &DesktopPresence::sigActivated);
 }
 
 bool DesktopPresence::keepsWindow() const
@@ -35,10 +36,11 @@ void DesktopPresence::tell(const QString &sentence)
     notify(u"volume"_s, comcfg.softwareName, sentence);
 }
 
-void DesktopPresence::notify(const QString &key, const QString &title, const QString &body)
+void DesktopPresence::notify(const QString &key, const QString &title, const QString &body,
+                             const QString &action)
 {
     if (isOn(u"notifications_enabled"_s))
-        m_notifier.notify(key, title, body);
+        m_notifier.notify(key, title, body, action);
 }
 
 void DesktopPresence::report(LinkReport report, const QString &text)

@@ -26,8 +26,12 @@ public:
     /// Notifies of something that is the program's own.
     void tell(const QString &sentence);
     /// One of the same key takes the place of the one before.
-    void notify(const QString &key, const QString &title, const QString &body);
+    void notify(const QString &key, const QString &title, const QString &body, const QString &action = {});
     void withdraw(const QString &key) { m_notifier.withdraw(key); }
+
+Q_SIGNALS:
+    /// The person clicked on a notification that has an action.
+    void sigActivated(const QString &key);
 
 private:
     TrayIcon m_tray;

@@ -34,6 +34,8 @@ public:
 
     /// Fetches the shown data anew, beside the card's state ("F5").
     virtual void refresh() {}
+    /// Shows one of its entries, if it has it.
+    virtual void showEntry([[maybe_unused]] const QString &id) {}
 
 protected:
     /// One sentence below the title, for pages that need it.

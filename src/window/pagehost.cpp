@@ -29,6 +29,13 @@ void PageHost::openPage(const QString &pageId)
     Q_EMIT sigOpened(pageId);
 }
 
+void PageHost::openEntry(const QString &pageId, const QString &entryId)
+{
+    openPage(pageId);
+    if (Page *page = m_pages.value(pageId))
+        page->showEntry(entryId);
+}
+
 Page *PageHost::build(const PageEntry &entry)
 {
     Page *page = entry.create(entry.info, m_context, this);

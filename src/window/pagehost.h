@@ -25,6 +25,7 @@ public:
     const QString &currentPage() const { return m_currentPage; }
     /// An unknown id changes nothing.
     void openPage(const QString &pageId);
+    void openEntry(const QString &pageId, const QString &entryId);
     void openDiagnosis();
     /// Has the page that is open fetch its data anew.
     void refresh();

@@ -72,7 +72,8 @@ WTMainWindow::WTMainWindow(QWidget *parent, const char *name, Qt::WindowFlags fl
       m_reports(new ReportHub(this)), m_mender(new Mender(m_monitor, this)),
       m_messages(new MessageQueue(this)), m_services(new Services(m_monitor, this)),
       m_connector(
-          new Connector(m_monitor, m_services->connection(), m_services->profiles(), m_messages, this))
+          new Connector(m_monitor, m_services->connection(), m_services->profiles(), m_messages, this)),
+      m_desk(new MessageDesk(m_services->messages(), m_messages, this))
 {
     setObjectName(QString::fromLatin1(name));
     setWindowTitle(comcfg.softwareName);
@@ -216,16 +217,19 @@ void WTMainWindow::connectServices()
 void WTMainWindow::connectMessages()
 {
     connect(m_services->messages(), &MessageService::sigCardReady, this, &WTMainWindow::initReadSMS);
-    auto *desk = new MessageDesk(m_services->messages(), m_messages, this);
-    connect(desk, &MessageDesk::sigBadge, this,
+    connect(m_desk, &MessageDesk::sigBadge, this,
             [this](const QString &badge) { m_navigation->setBadge(u"messages"_s, badge); });
-    connect(desk, &MessageDesk::sigSaid, m_strip, &StatusStrip::say);
-    connect(desk, &MessageDesk::sigNotify, this,
+    connect(m_desk, &MessageDesk::sigSaid, m_strip, &StatusStrip::say);
+    connect(m_desk, &MessageDesk::sigNotify, this,
             [this](const QString &key, const QString &title, const QString &body) {
                 if (m_desktop)
-                    m_desktop->notify(key, title, body);
+                    m_desktop->notify(key, title, body, tr("Show"));
             });
-    connect(desk, &MessageDesk::sigNotificationEnded, this, [this](const QString &key) {
+    connect(m_desk, &MessageDesk::sigOpen, this, [this](const QString &id) {
+        m_pages->openEntry(u"messages"_s, id);
+        showInFront();
+    });
+    connect(m_desk, &MessageDesk::sigNotificationEnded, this, [this](const QString &key) {
         if (m_desktop)
             m_desktop->withdraw(key);
     });
@@ -389,6 +393,7 @@ void WTMainWindow::showEvent(QShowEvent *event)
 void WTMainWindow::finishShowing()
 {
     m_desktop = new DesktopPresence(this);
+    connect(m_desktop, &DesktopPresence::sigActivated, m_desk, &MessageDesk::open);
     TrayIcon &tray = m_desktop->tray();
     tray.setState(m_monitor->state());
     tray.setConnection(m_services->connection()->status());

@@ -20,6 +20,7 @@ class DesktopPresence;
 class KeyboardMover;
 enum class MendAction;
 class Mender;
+class MessageDesk;
 class MessageQueue;
 class Navigation;
 class PageHost;
@@ -126,6 +127,7 @@ private:
     corva::MessageQueue *m_messages;
     corva::Services *m_services;
     corva::Connector *m_connector;
+    corva::MessageDesk *m_desk;
     corva::TopBar *m_topBar = nullptr;
     corva::Navigation *m_navigation = nullptr;
     corva::PageHost *m_pages = nullptr;

@@ -4,6 +4,7 @@
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
+#include <QSignalSpy>
 #include <QTest>
 #include <QVariantMap>
 
@@ -18,6 +19,7 @@ struct Shown {
     uint id = 0;
     QString title;
     QString body;
+    QStringList actions;
 };
 
 class Server : public QDBusAbstractAdaptor
@@ -33,12 +35,12 @@ public:
 public Q_SLOTS:
     // clang-format off
     uint Notify(const QString &, uint replaces, const QString &, const QString &title, const QString &body,
-                const QStringList &, const QVariantMap &, int)
+                const QStringList &actions, const QVariantMap &, int)
     // clang-format on
     {
         const uint id = replaces != 0 ? replaces : ++m_lastId;
         CloseNotification(id);
-        shown.append({id, title, body});
+        shown.append({id, title, body, actions});
         wasShown += body;
         return id;
     }
@@ -47,6 +49,9 @@ public Q_SLOTS:
     {
         shown.removeIf([id](const Shown &one) { return one.id == id; });
     }
+
+Q_SIGNALS:
+    void ActionInvoked(uint id, const QString &action); // NOLINT: the name is the interface's
 
 private:
     uint m_lastId = 40;
@@ -93,6 +98,23 @@ private Q_SLOTS:
         notifier.withdraw(u"call"_s);
         QTRY_VERIFY(m_server->wasShown.contains(u"short"_s));
         QTRY_COMPARE(bodies(), QStringList());
+    }
+
+    void aClickIsToldOfWhatHasAnAction()
+    {
+        QVERIFY(m_bus.registerService(u"org.freedesktop.Notifications"_s));
+        m_server->shown.clear();
+        DesktopNotifier notifier(fallback());
+        QSignalSpy activated(&notifier, &DesktopNotifier::sigActivated);
+        notifier.notify(u"call"_s, u"Incoming call"_s, u"ring"_s);
+        notifier.notify(u"message"_s, u"Anna"_s, u"hello"_s, u"Show"_s);
+        QTRY_COMPARE(bodies(), QStringList({u"ring"_s, u"hello"_s}));
+        QCOMPARE(m_server->shown.at(0).actions, QStringList());
+        QCOMPARE(m_server->shown.at(1).actions, QStringList({u"default"_s, u"Show"_s}));
+        Q_EMIT m_server->ActionInvoked(m_server->shown.at(1).id + 1, u"default"_s); // somebody else's
+        Q_EMIT m_server->ActionInvoked(m_server->shown.at(1).id, u"default"_s);
+        QTRY_COMPARE(activated.size(), 1);
+        QCOMPARE(activated.front().front().toString(), u"message"_s);
     }
 
     void withoutADesktopTheTrayShowsIt()

@@ -27,8 +27,19 @@ MessageView placeView(MessagePlace place)
     return {.filter = {.kind = MessageFilter::Kind::Place, .place = place}};
 }
 
+/// What waits in the outbox; what a phone has sent and left on its SIM is there, too.
+int waitingOf(const MessageStore &store)
+{
+    int waiting = 0;
+    store.visit(store.ids(MessageBox::Outbox),
+                [&](const Message &message) { waiting += message.state() != DeliveryState::None; });
+    return waiting;
+}
+
 int countOf(const MessageStore &store, MessageBox box)
 {
+    if (box == MessageBox::Outbox)
+        return waitingOf(store);
     qsizetype count = 0;
     for (const MessagePlace place : {MessagePlace::Computer, MessagePlace::Sim, MessagePlace::Card})
         count += box == MessageBox::Inbox ? store.unreadCount(box, place) : store.ids(box, place).size();

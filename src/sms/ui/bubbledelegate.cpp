@@ -21,6 +21,19 @@ constexpr int padding = metrics::Grid;
 constexpr int gap = metrics::HalfGrid; ///< above and below
 constexpr int widestShare = 82;        ///< of the view's width, in percent
 
+/// Addresses as the reading pane has them; in the bubble of what was written here in the colour of its text.
+QList<QTextLayout::FormatRange> linkFormats(const QString &text, bool isOwn)
+{
+    QTextCharFormat format;
+    format.setFontUnderline(true);
+    if (!isOwn)
+        format.setForeground(skinColor(SkinRole::Accent));
+    QList<QTextLayout::FormatRange> formats;
+    for (const LinkPlace &place : linkPlaces(text))
+        formats += {place.start, place.length, format};
+    return formats;
+}
+
 /// The text in lines, and what stands below it, as large as they are in a view of this width.
 class Bubble
 {
@@ -30,6 +43,7 @@ public:
           m_layout(QString(m_text).replace(u'\n', QChar::LineSeparator), skinFont(TextRole::Text))
     {
         m_layout.setTextOption(optionFor(m_text));
+        m_layout.setFormats(linkFormats(m_text, index.data(ThreadModel::OwnRole).toBool()));
         const QFontMetrics caption(skinFont(TextRole::Caption));
         const int room = viewWidth * widestShare / 100 - 2 * padding;
         m_aboutHeight = caption.height();

@@ -3,7 +3,6 @@
 
 #include "shell/commoncfg.h"
 #include "sms/messagestore.h"
-#include "sms/smsfiling.h"
 #include "sms/ui/messagetexts.h"
 #include "sms/ui/plaintextview.h"
 #include "widgets/buttonkind.h"
@@ -26,28 +25,17 @@ constexpr int fewestLines = 3;
 constexpr int mostLines = 30;
 constexpr int charactersWide = 44;
 
-/// As it is kept. One without a text says why, as it would among the others.
-Message keptMessage(const Class0Dialog::Entry &entry)
-{
-    Message message;
-    message.recipients = {entry.number};
-    message.time = message.arrived = QDateTime::currentDateTime();
-    message.isRead = true;
-    MessagePart part;
-    part.pdu = entry.pdu;
-    part.text = entry.text;
-    message.parts = {part};
-    if (entry.text.isEmpty()) {
-        const FiledSms filed = fileSms({-1, 1, -1, entry.pdu.toLatin1()}, message.place, message.arrived);
-        if (const auto *read = std::get_if<Message>(&filed))
-            message.error = read->error;
-    }
-    return message;
-}
-
 QString shownText(const Class0Dialog::Entry &entry)
 {
-    return entry.text.isEmpty() ? previewOf(keptMessage(entry)) : entry.text;
+    return entry.text.isEmpty() ? previewOf(entry.message) : entry.text;
+}
+
+/// Sent again by a network that heard no acknowledgement.
+bool isSame(const Class0Dialog::Entry &one, const Class0Dialog::Entry &other)
+{
+    const auto samePdu = [](const MessagePart &a, const MessagePart &b) { return a.pdu == b.pdu; };
+    return one.text == other.text && one.message.recipients == other.message.recipients &&
+           std::ranges::equal(one.message.parts, other.message.parts, samePdu);
 }
 
 } // namespace
@@ -89,13 +77,13 @@ void Class0Dialog::build()
     layout->addSpacing(metrics::Grid);
     layout->addLayout(buttons);
     connect(m_close, &QPushButton::clicked, this, &QDialog::reject);
-    connect(keeping, &QPushButton::clicked, this, &Class0Dialog::keep);
+    connect(keeping, &QPushButton::clicked, this, &Class0Dialog::keepMessage);
 }
 
 void Class0Dialog::add(const Entry &entry)
 {
-    if (std::find(m_entries.begin(), m_entries.end(), entry) != m_entries.end())
-        return; // sent again by a network that heard no acknowledgement
+    if (std::ranges::any_of(m_entries, [&](const Entry &each) { return isSame(each, entry); }))
+        return;
     m_entries.push_back(entry);
     showFirst();
     open();
@@ -113,9 +101,11 @@ void Class0Dialog::showFirst()
     m_close->setText(behind > 0 ? tr("&Next") : tr("&Close"));
 }
 
-void Class0Dialog::keep()
+void Class0Dialog::keepMessage()
 {
-    m_store->add({keptMessage(m_entries.front())});
+    Message message = m_entries.front().message;
+    message.isRead = true;
+    m_store->add({message});
     accept();
 }
 

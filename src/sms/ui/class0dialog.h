@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "sms/message.h"
+
 #include <QDialog>
 #include <deque>
 
@@ -22,10 +24,8 @@ class Class0Dialog final : public QDialog
 public:
     struct Entry {
         QString sender; ///< as it is shown
-        QString number;
         QString text;
-        QString pdu; ///< hex as it came
-        bool operator==(const Entry &) const = default;
+        Message message; ///< as the store keeps it
     };
 
     Class0Dialog(MessageStore *store, QWidget *parent);
@@ -39,7 +39,7 @@ protected:
 private:
     void build();
     void showFirst();
-    void keep();
+    void keepMessage();
 
     MessageStore *m_store;
     std::deque<Entry> m_entries;

@@ -127,6 +127,7 @@ void CShortMsg::buildDetail()
     for (QWidget *part : std::initializer_list<QWidget *>{m_hint, m_reading, m_thread, m_composer})
         m_detail->addWidget(part);
     m_reading->addActions(m_actions->all());
+    m_thread->addActions(m_actions->all());
 }
 
 void CShortMsg::connectParts()
@@ -142,7 +143,7 @@ void CShortMsg::connectParts()
     connect(m_thread, &ThreadPane::sigChosen, this, [this] { m_actions->setChosen(m_thread->chosen()); });
     connect(m_thread, &ThreadPane::sigWrite, this, [this](const QStringList &to) { write(to); });
     connect(m_actions, &MessageActions::sigCompose, this, &CShortMsg::write);
-    connect(m_actions, &MessageActions::sigEdit, this, &CShortMsg::activate);
+    connect(m_actions, &MessageActions::sigEdit, this, &CShortMsg::goInto);
     connect(m_actions, &MessageActions::sigSaid, this, &CShortMsg::say);
     connect(m_actions, &MessageActions::sigPrint, this, &CShortMsg::print);
     connect(m_actions, &MessageActions::sigExport, m_exchange, &MessageExchange::exportMessages);
@@ -185,7 +186,8 @@ void CShortMsg::addShortcuts()
         m_search->setFocus(Qt::ShortcutFocusReason);
         m_search->selectAll();
     });
-    add(QKeySequence::Undo, m_browser, [this] { undo(); });
+    for (QWidget *part : std::initializer_list<QWidget *>{m_browser, m_reading, m_thread})
+        add(QKeySequence::Undo, part, [this] { undo(); });
     add(Qt::Key_Escape, m_search, [this] {
         m_search->clear();
         m_browser->takeFocus();
@@ -201,9 +203,14 @@ void CShortMsg::showEvent(QShowEvent *event)
     m_browser->retell();
 }
 
-void CShortMsg::refresh()
+void CShortMsg::getSimAllSmsItem()
 {
     m_service->refreshPlace(MessagePlace::Sim);
+}
+
+void CShortMsg::refresh()
+{
+    getSimAllSmsItem();
     if (m_service->hasCardStore())
         m_service->refreshPlace(MessagePlace::Card);
 }
@@ -313,8 +320,13 @@ void CShortMsg::markRead(const QStringList &ids)
 
 void CShortMsg::activate()
 {
-    const QStringList ids = m_browser->chosen();
-    const auto message = ids.size() == 1 ? m_service->store()->find(ids.front()) : std::nullopt;
+    if (const QStringList ids = m_browser->chosen(); ids.size() == 1)
+        goInto(ids.front());
+}
+
+void CShortMsg::goInto(const QString &id)
+{
+    const auto message = m_service->store()->find(id);
     if (message && message->box == MessageBox::Drafts) {
         leaveComposer();
         setWriting(true);
@@ -322,7 +334,7 @@ void CShortMsg::activate()
             m_composer->open(message->id);
         else // the one on the card stays as it is
             m_composer->begin(message->recipients, message->text());
-    } else if (message) {
+    } else if (message && m_detail->currentWidget() == m_reading) {
         m_reading->takeFocus();
     }
 }
@@ -351,15 +363,22 @@ void CShortMsg::setWriting(bool isWriting)
         m_detail->setCurrentWidget(m_composer);
 }
 
-void CShortMsg::showMessage(const QString &id)
+void CShortMsg::showEntry(const QString &id)
 {
     const auto message = m_service->store()->find(id);
     if (!message)
         return;
-    const MessageView view{.filter = {.box = message->box}};
-    m_boxes->choose(view);
-    openView(view);
+    leaveComposer();
+    m_boxes->offer(); // the settings may have changed while the page was not shown
+    const bool isBroadcast = message->isBroadcast && message->box == MessageBox::Inbox;
+    m_boxes->choose(
+        {.filter = {.kind = isBroadcast ? MessageFilter::Kind::Broadcasts : MessageFilter::Kind::Box,
+                    .box = message->box}});
+    openView(m_boxes->view());
     m_browser->choose(id);
+    if (m_browser->chosen() != QStringList{id}) // its box is not offered any more
+        showChosen({id});
+    m_browser->takeFocus();
 }
 
 void CShortMsg::discard(const QString &draftId)

@@ -36,12 +36,14 @@ public:
 
     /// Lists the SIM and the card anew.
     void refresh() override;
+    /// Lists the SIM anew, in the background.
+    void getSimAllSmsItem();
+    /// Opens a message in the box that it is in.
+    void showEntry(const QString &id) override;
 
 public Q_SLOTS:
     /// Begins a message.
     void write(const QStringList &recipients = {}, const QString &text = {});
-    /// Opens a message in the box that it is in.
-    void showMessage(const QString &id);
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -61,6 +63,8 @@ private:
     void showChosen(const QStringList &ids);
     void showHint();
     void activate();
+    /// Opens a draft in the composer, and takes the keyboard into the text of anything else.
+    void goInto(const QString &id);
     void leaveComposer();
     void setWriting(bool isWriting);
     void discard(const QString &draftId);

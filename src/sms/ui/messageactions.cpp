@@ -30,12 +30,31 @@ bool isDeleted(const Message &message)
     return message.box == MessageBox::Deleted;
 }
 
+bool hasFailed(const Message &message)
+{
+    const DeliveryState state = message.state();
+    return state == DeliveryState::Failed || state == DeliveryState::Unsure;
+}
+
+/// Whether what is missing of it can go out from where it lies.
+bool canBeSentAgain(const Message &message)
+{
+    const bool isOwn = message.box == MessageBox::Outbox || message.box == MessageBox::Sent;
+    return isOwn && message.place == MessagePlace::Computer && hasFailed(message);
+}
+
+bool mayHaveGoneOut(const Message &message)
+{
+    return std::ranges::find(message.parts, DeliveryState::Unsure, &MessagePart::state) !=
+           message.parts.end();
+}
+
 /// What decides what can be done with the chosen ones.
 struct Chosen {
     int count = 0;
     int deleted = 0;
-    bool hasFailed = false;
-    bool hasRead = false; ///< of those that are received and not deleted
+    bool canBeSentAgain = false; ///< one of them at least
+    bool hasRead = false;        ///< of those that are received and not deleted
     bool hasUnread = false;
 };
 
@@ -45,8 +64,7 @@ Chosen lookAt(const MessageStore &store, const QStringList &ids)
     store.visit(ids, [&](const Message &message) {
         ++chosen.count;
         chosen.deleted += isDeleted(message);
-        const DeliveryState state = message.state();
-        chosen.hasFailed |= state == DeliveryState::Failed || state == DeliveryState::Unsure;
+        chosen.canBeSentAgain |= canBeSentAgain(message);
         const bool mayBeMarked = message.isReceived() && !isDeleted(message);
         chosen.hasRead |= mayBeMarked && message.isRead;
         chosen.hasUnread |= mayBeMarked && !message.isRead;
@@ -113,7 +131,7 @@ void MessageActions::follow()
     m_reply->setEnabled(one && canBeAnswered(*one));
     m_forward->setEnabled(one && !one->text().isEmpty());
     m_restore->setVisible(chosen.count > 0 && chosen.deleted == chosen.count);
-    m_retry->setVisible(chosen.hasFailed);
+    m_retry->setVisible(chosen.canBeSentAgain);
     m_read->setEnabled(chosen.hasUnread);
     m_unread->setEnabled(chosen.hasRead);
     m_remove->setText(chosen.count > 1 ? tr("De&lete %n messages", nullptr, chosen.count) : tr("De&lete"));
@@ -209,7 +227,17 @@ void MessageActions::markUnread()
 
 void MessageActions::retryFailed()
 {
-    m_service->retry(m_ids);
+    QStringList failed;
+    QStringList unsure;
+    m_service->store()->visit(m_ids, [&](const Message &message) {
+        if (canBeSentAgain(message))
+            (mayHaveGoneOut(message) ? unsure : failed) += message.id;
+    });
+    if (!failed.isEmpty())
+        m_service->retry(failed);
+    if (!unsure.isEmpty())
+        m_messages->ask(tr("The message may have gone out already. Send it again?"), tr("Send a&gain"),
+                        [service = m_service, unsure] { service->retry(unsure); });
 }
 
 void MessageActions::copyText()

@@ -82,11 +82,23 @@ void MessageDesk::showBadge()
         Q_EMIT sigNotificationEnded(messageKey);
 }
 
+void MessageDesk::notify(const QString &key, const QString &title, const QString &body, const QString &id)
+{
+    m_notified.insert(key, id);
+    Q_EMIT sigNotify(key, title, body);
+}
+
+void MessageDesk::open(const QString &key)
+{
+    if (const auto notified = m_notified.constFind(key); notified != m_notified.constEnd())
+        Q_EMIT sigOpen(*notified);
+}
+
 void MessageDesk::tellUnread(int count)
 {
     const QString sentence = tr("%n messages are unread.", nullptr, count);
     Q_EMIT sigSaid(sentence);
-    Q_EMIT sigNotify(messageKey, tr("Messages"), sentence);
+    notify(messageKey, tr("Messages"), sentence);
 }
 
 void MessageDesk::tellNew(const QString &id)
@@ -97,7 +109,7 @@ void MessageDesk::tellNew(const QString &id)
     const QString sender =
         peopleOf(*message, [this](const QString &number) { return m_service->nameFor(number); });
     Q_EMIT sigSaid(tr("New message from %1").arg(sender));
-    Q_EMIT sigNotify(messageKey, sender, previewOf(*message));
+    notify(messageKey, sender, previewOf(*message), id);
 }
 
 void MessageDesk::tellBroadcast(const QString &id)
@@ -107,7 +119,7 @@ void MessageDesk::tellBroadcast(const QString &id)
         return;
     const QString title = tr("Broadcast on channel %1").arg(message->channel);
     Q_EMIT sigSaid(title);
-    Q_EMIT sigNotify(broadcastKey, title, previewOf(*message));
+    notify(broadcastKey, title, previewOf(*message), id);
 }
 
 void MessageDesk::tellDelivered(const QString &sentence)
@@ -123,14 +135,15 @@ void MessageDesk::tellSummary(int sent, int failed)
     const QString summary = tr("Sent successfully %1,failed %2").arg(sent).arg(failed);
     Q_EMIT sigSaid(summary);
     if (failed > 0 && !m_window->isActiveWindow())
-        Q_EMIT sigNotify(sendingKey, tr("Messages"), summary);
+        notify(sendingKey, tr("Messages"), summary);
 }
 
-void MessageDesk::displayClass0Sms(const QString &sender, const QString &text, const QString &pdu)
+void MessageDesk::displayClass0Sms(const QString &sender, const QString &text,
+                                   [[maybe_unused]] const QString &pdu, const Message &message)
 {
     if (!m_class0)
         m_class0 = new Class0Dialog(m_store, m_window);
-    m_class0->add({m_service->nameFor(sender), sender, text, pdu});
+    m_class0->add({m_service->nameFor(sender), text, message});
 }
 
 } // namespace corva

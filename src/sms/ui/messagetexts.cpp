@@ -209,15 +209,25 @@ QTextOption optionFor(const QString &text)
     return option;
 }
 
-QStringList linksIn(const QString &text)
+std::vector<LinkPlace> linkPlaces(const QString &text)
 {
     // What stands behind a sentence is its own: a full stop, a bracket.
     static const QRegularExpression link(
         uR"((?:https?://|www\.)[^\s<>"]*[^\s<>".,;:!?)\]}']|[\w.+-]+@[\w-]+(?:\.[\w-]+)+)"_s,
         QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
+    std::vector<LinkPlace> places;
+    for (auto found = link.globalMatch(text); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        places.push_back({int(match.capturedStart()), int(match.capturedLength())});
+    }
+    return places;
+}
+
+QStringList linksIn(const QString &text)
+{
     QStringList links;
-    for (auto found = link.globalMatch(text); found.hasNext();)
-        links += found.next().captured();
+    for (const LinkPlace &place : linkPlaces(text))
+        links += text.mid(place.start, place.length);
     links.removeDuplicates();
     return links;
 }

@@ -37,7 +37,13 @@ Qt::LayoutDirection directionOf(const QString &text);
 /// How a text is set that runs in its own direction: from the side where it begins.
 QTextOption optionFor(const QString &text);
 
-/// Web and mail addresses in a text, as they stand there, each once.
+/// Where a text has a web or mail address, in characters.
+struct LinkPlace {
+    int start = 0;
+    int length = 0;
+};
+std::vector<LinkPlace> linkPlaces(const QString &text);
+/// The addresses themselves, as they stand there, each once.
 QStringList linksIn(const QString &text);
 
 } // namespace corva

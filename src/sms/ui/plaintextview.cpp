@@ -9,8 +9,35 @@
 #include <QGuiApplication>
 #include <QMenu>
 
+using namespace Qt::StringLiterals;
+
 namespace corva
 {
+
+namespace
+{
+
+constexpr int longestShown = 64;
+constexpr int mostLinks = 12;
+
+/// A line of a menu: what is longer shows its ends.
+QString menuLine(const QString &link)
+{
+    const int half = longestShown / 2;
+    const QString shown = link.size() <= longestShown ? link : link.left(half) + u'…' + link.right(half);
+    return QString(shown).replace(u'&', u"&&"_s);
+}
+
+} // namespace
+
+void addLinkCopies(QMenu *menu, const QStringList &links)
+{
+    for (const QString &link : links.first(qMin<qsizetype>(links.size(), mostLinks)))
+        menu->addAction(PlainTextView::tr("Copy %1").arg(menuLine(link)), menu,
+                        [link] { QGuiApplication::clipboard()->setText(link); });
+    if (!menu->isEmpty())
+        menu->addSeparator();
+}
 
 PlainTextView::PlainTextView(QWidget *parent) : QPlainTextEdit(parent)
 {
@@ -34,11 +61,12 @@ void PlainTextView::markLinks()
     format.setFontUnderline(true);
     format.setForeground(skinColor(SkinRole::Accent));
     QList<QTextEdit::ExtraSelection> marks;
-    const QStringList links = linksIn(toPlainText());
-    for (const QString &link : links)
-        for (QTextCursor found = document()->find(link, 0, QTextDocument::FindCaseSensitively);
-             !found.isNull(); found = document()->find(link, found, QTextDocument::FindCaseSensitively))
-            marks += {found, format};
+    for (const LinkPlace &place : linkPlaces(toPlainText())) {
+        QTextCursor found(document());
+        found.setPosition(place.start);
+        found.setPosition(place.start + place.length, QTextCursor::KeepAnchor);
+        marks += {found, format};
+    }
     setExtraSelections(marks);
 }
 
@@ -48,12 +76,7 @@ QMenu *PlainTextView::makeMenu()
     menu->setAttribute(Qt::WA_DeleteOnClose);
     if (textCursor().hasSelection())
         menu->addAction(tr("&Copy"), this, &QPlainTextEdit::copy);
-    const QStringList links = linksIn(toPlainText());
-    for (const QString &link : links)
-        menu->addAction(tr("Copy %1").arg(QString(link).replace(u'&', QStringLiteral("&&"))), menu,
-                        [link] { QGuiApplication::clipboard()->setText(link); });
-    if (!menu->isEmpty())
-        menu->addSeparator();
+    addLinkCopies(menu, linksIn(toPlainText()));
     return menu;
 }
 

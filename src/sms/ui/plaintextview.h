@@ -3,8 +3,13 @@
 
 #include <QPlainTextEdit>
 
+class QMenu;
+
 namespace corva
 {
+
+/// Puts an entry for each address into the menu, which copies it.
+void addLinkCopies(QMenu *menu, const QStringList &links);
 
 /// Shows the text of a message as it is: nothing in it is taken as markup. It reads in its own direction.
 /// Addresses in it are underlined; the menu copies them, and nothing opens them.

@@ -66,6 +66,14 @@ void ThreadModel::takeChanged(const QStringList &ids)
             Q_EMIT dataChanged(index(row), index(row));
 }
 
+QString ThreadModel::textOf(const QModelIndexList &rows) const
+{
+    QStringList texts;
+    for (const QModelIndex &row : rows)
+        texts += data(row, Qt::DisplayRole).toString();
+    return texts.join(u'\n');
+}
+
 int ThreadModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : int(m_shown.size());

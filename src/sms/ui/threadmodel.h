@@ -28,6 +28,8 @@ public:
     /// The messages of `ids`, the oldest first. `isOther`: of another person than before.
     void setMessages(const QStringList &ids, bool isOther);
     QString idAt(int row) const { return m_shown.value(row); }
+    /// The texts of these, one behind the other.
+    QString textOf(const QModelIndexList &rows) const;
     bool hasEarlier() const { return m_shown.size() < m_ids.size(); }
     void showEarlier();
 

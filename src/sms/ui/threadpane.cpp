@@ -6,6 +6,8 @@
 #include "sms/ui/actionbutton.h"
 #include "sms/ui/bubbledelegate.h"
 #include "sms/ui/messageactions.h"
+#include "sms/ui/messagetexts.h"
+#include "sms/ui/plaintextview.h"
 #include "sms/ui/threadmodel.h"
 #include "widgets/buttonkind.h"
 #include "widgets/textlabel.h"
@@ -56,7 +58,6 @@ void ThreadPane::build()
     m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // or bubbles change their width with it
     m_list->setResizeMode(QListView::Adjust);
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
-    m_list->addActions(m_actions->all());
 
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(metrics::Grid);
@@ -115,6 +116,7 @@ void ThreadPane::openMenu(const QPoint &position)
 {
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    addLinkCopies(menu, linksIn(m_model->textOf(m_list->selectionModel()->selectedRows())));
     m_actions->fill(menu);
     menu->popup(m_list->viewport()->mapToGlobal(position));
 }

@@ -56,6 +56,8 @@ private Q_SLOTS:
     void exportedMessagesComeBack();
     void immediateMessagesQueueUp();
     void badgeFollowsWithoutThePage();
+    void aNotificationLeadsToItsMessage();
+    void onlyWhatCanGoOutIsSentAgain();
 
 private:
     void add(const std::vector<Message> &messages) { m_store->add(messages); }
@@ -65,6 +67,7 @@ private:
     void choose(int row) { list()->setCurrentIndex(list()->model()->index(row, 0)); }
     template <typename Widget> Widget *part(const QString &name) { return m_page->findChild<Widget *>(name); }
     void press(const QString &button) { part<QPushButton>(button)->click(); }
+    static QAction *action(const QWidget *widget, const QString &title);
     void write(const QString &recipients, const QString &text);
     QStringList texts(MessageBox box);
 
@@ -123,6 +126,14 @@ QStringList TestMessagePage::rows(int role)
     for (int row = 0; row < list()->model()->rowCount(); ++row)
         all += list()->model()->index(row, 0).data(role).toString();
     return all;
+}
+
+QAction *TestMessagePage::action(const QWidget *widget, const QString &title)
+{
+    for (QAction *each : widget->actions())
+        if (each->text().remove(u'&') == title && each->isVisible() && each->isEnabled())
+            return each;
+    qFatal("%s cannot be done there", qPrintable(title));
 }
 
 void TestMessagePage::write(const QString &recipients, const QString &text)
@@ -200,6 +211,14 @@ void TestMessagePage::whatIsDeletedComesBack()
         if (action->isVisible())
             action->click();
     QTRY_COMPARE(rows(), QStringList({u"three"_s, u"two"_s, u"one"_s}));
+    // The same from within the message.
+    choose(0);
+    part<QWidget>(u"messageBody"_s)->setFocus();
+    QTest::keyClick(part<QWidget>(u"messageBody"_s), Qt::Key_Delete);
+    QTRY_COMPARE(rows(), QStringList({u"two"_s, u"one"_s}));
+    part<QWidget>(u"messageBody"_s)->setFocus();
+    QTest::keyClick(part<QWidget>(u"messageBody"_s), Qt::Key_Z, Qt::ControlModifier);
+    QTRY_COMPARE(rows(), QStringList({u"three"_s, u"two"_s, u"one"_s}));
 }
 
 void TestMessagePage::searchFindsEverywhere()
@@ -248,6 +267,14 @@ void TestMessagePage::conversationGathersAPerson()
     QTRY_COMPARE(unreadBadge(*m_store), u"1"_s); // the other person's
     press(u"write"_s);
     QCOMPARE(part<QLineEdit>(u"recipients"_s)->text(), u"+4915112345678"_s);
+
+    part<MyTextEdit>(u"messageText"_s)->setPlainText(u"to be ended"_s);
+    QTest::keyClick(part<MyTextEdit>(u"messageText"_s), Qt::Key_Escape);
+    QTRY_COMPARE(thread->model()->rowCount(), 4);
+    thread->setCurrentIndex(thread->model()->index(3, 0));
+    action(part<QWidget>(u"threadPane"_s), u"Edit"_s)->trigger();
+    QVERIFY(part<Composer>(u"composer"_s)->isVisible());
+    QCOMPARE(part<MyTextEdit>(u"messageText"_s)->toPlainText(), u"to be ended"_s);
 }
 
 void TestMessagePage::draftIsKeptWhileWriting()
@@ -384,22 +411,29 @@ void TestMessagePage::exportedMessagesComeBack()
 void TestMessagePage::immediateMessagesQueueUp()
 {
     const MessageDesk desk(m_service.get(), m_messages, m_window.get());
-    Q_EMIT m_service->sigClass0(u"Operator"_s, u"one"_s, u"AA"_s);
-    Q_EMIT m_service->sigClass0(u"Operator"_s, u"two"_s, u"BB"_s);
-    Q_EMIT m_service->sigClass0(u"Operator"_s, u"one"_s, u"AA"_s); // once more, while it is shown
+    const auto come = [this](const QString &text, qint64 seconds) {
+        Message message = received(u"Operator"_s, text, seconds);
+        message.error = text.isEmpty() ? u"A length is wrong."_s : QString();
+        Q_EMIT m_service->sigClass0(u"Operator"_s, text, message.parts.front().pdu, message);
+    };
+    come(u"one"_s, 10);
+    come(u"two"_s, 20);
+    come(u"one"_s, 10); // once more, while it is shown
     auto *dialog = m_window->findChild<Class0Dialog *>();
     QVERIFY(dialog && dialog->isVisible());
     const auto *text = dialog->findChild<PlainTextView *>(u"class0Text"_s);
     QCOMPARE(text->toPlainText(), u"Operator :\n one"_s);
     dialog->findChild<QPushButton *>(u"class0Keep"_s)->click();
     QCOMPARE(text->toPlainText(), u"Operator :\n two"_s);
-    const QString data = u"000405810180F600F44250302100008003010203"_s;
-    Q_EMIT m_service->sigClass0(u"Operator"_s, QString(), data);
+    come(QString(), 30);
     QTest::keyClick(dialog, Qt::Key_Escape);
     QCOMPARE(text->toPlainText(), u"Operator :\n This message cannot be read"_s);
     QTest::keyClick(dialog, Qt::Key_Escape);
     QVERIFY(!dialog->isVisible());
     QTRY_COMPARE(texts(MessageBox::Inbox), QStringList{u"one"_s});
+    const auto kept = m_store->find(m_store->ids(MessageBox::Inbox).front());
+    QCOMPARE(kept->time, moment(10)); // not when it was kept
+    QVERIFY(kept->isRead);
 }
 
 void TestMessagePage::badgeFollowsWithoutThePage()
@@ -416,6 +450,64 @@ void TestMessagePage::badgeFollowsWithoutThePage()
     choose(0);
     QTRY_COMPARE(ended.size(), 1);
     QCOMPARE(badges.last().front().toString(), QString());
+}
+
+void TestMessagePage::aNotificationLeadsToItsMessage()
+{
+    cmcfg.setValue(u"function"_s, u"cell_board_enabled"_s, u"1"_s);
+    MessageDesk desk(m_service.get(), m_messages, m_window.get());
+    connect(&desk, &MessageDesk::sigOpen, m_page, &CShortMsg::showEntry);
+    Message page = received(QString(), u"storm"_s, 10);
+    page.isBroadcast = true;
+    page.channel = 919;
+    add({page, received(u"+491"_s, u"hello"_s, 20), received(u"+491"_s, u"other"_s, 30)});
+    const auto told = [&](const QString &text, auto signal) {
+        Q_EMIT(m_service.get()->*signal)(m_store->search(text).front());
+    };
+    told(u"hello"_s, &MessageService::sigNewMessage);
+    told(u"storm"_s, &MessageService::sigBroadcast);
+    open({.filter = {.box = MessageBox::Drafts}});
+    write(u"0151"_s, u"half"_s);
+    desk.open(u"message"_s);
+    QCOMPARE(part<QPlainTextEdit>(u"messageBody"_s)->toPlainText(), u"hello"_s);
+    QVERIFY(part<QWidget>(u"readingPane"_s)->isVisible());
+    QCOMPARE(rows(), QStringList({u"other"_s, u"hello"_s}));
+    QCOMPARE(texts(MessageBox::Drafts), QStringList{u"half"_s});
+    desk.open(u"broadcast"_s);
+    QCOMPARE(rows(), QStringList{u"storm"_s});
+    QCOMPARE(part<QPlainTextEdit>(u"messageBody"_s)->toPlainText(), u"storm"_s);
+    cmcfg.setValue(u"function"_s, u"cell_board_enabled"_s, u"0"_s);
+}
+
+void TestMessagePage::onlyWhatCanGoOutIsSentAgain()
+{
+    const auto failed = [](const QString &text, MessageBox box, DeliveryState state) {
+        Message message = received(u"0151"_s, text);
+        message.box = box;
+        message.parts.front().state = state;
+        return message;
+    };
+    add({failed(u"refused"_s, MessageBox::Outbox, DeliveryState::Failed),
+         failed(u"half way"_s, MessageBox::Outbox, DeliveryState::Unsure),
+         failed(u"gone"_s, MessageBox::Deleted, DeliveryState::Failed)});
+    const auto idOf = [this](const QString &text) { return m_store->search(text).front(); };
+    auto *boxes = m_page->findChild<BoxChooser *>();
+    QTRY_VERIFY(boxes->itemText(2).contains(u"(2)"_s));
+    m_page->showEntry(idOf(u"gone"_s));
+    QVERIFY(!part<QPushButton>(u"retry"_s)->isVisible());
+    m_page->showEntry(idOf(u"refused"_s));
+    press(u"retry"_s);
+    QCOMPARE(fakesms::takeCalls(), QStringList{u"retry "_s + idOf(u"refused"_s)});
+    m_page->showEntry(idOf(u"half way"_s));
+    press(u"retry"_s);
+    QCOMPARE(fakesms::takeCalls(), QStringList());
+    auto *box = m_window->findChild<QMessageBox *>(u"messageBox"_s);
+    QVERIFY(box);
+    QCOMPARE(box->text(), u"The message may have gone out already. Send it again?"_s);
+    for (QAbstractButton *button : box->buttons())
+        if (box->buttonRole(button) == QMessageBox::YesRole)
+            button->click();
+    QCOMPARE(fakesms::takeCalls(), QStringList{u"retry "_s + idOf(u"half way"_s)});
 }
 
 QTEST_MAIN(TestMessagePage)
