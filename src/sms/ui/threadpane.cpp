@@ -74,6 +74,8 @@ void ThreadPane::build()
     layout->addWidget(m_list, 1);
     layout->addSpacing(metrics::HalfGrid);
     layout->addLayout(buttons);
+    setTabOrder(m_earlier, m_list);
+    setTabOrder(m_list, m_write);
 }
 
 void ThreadPane::show(const Conversation &conversation)
