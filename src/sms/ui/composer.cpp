@@ -112,6 +112,9 @@ void Composer::buildButtons(QVBoxLayout *layout)
     layout->addLayout(options);
     layout->addSpacing(metrics::HalfGrid);
     layout->addLayout(buttons);
+    setTabOrder(m_report, templates);
+    setTabOrder(templates, discardButton);
+    setTabOrder(discardButton, m_send);
 }
 
 void Composer::connectParts()

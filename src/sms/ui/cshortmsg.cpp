@@ -56,10 +56,10 @@ CShortMsg::CShortMsg(const PageInfo &info, MessageService *service, MessageQueue
       m_exchange(new MessageExchange(service->store(), this)),
       m_actions(new MessageActions(service, messages, this)),
       m_new(new QPushButton(tr("&New message"), this)), m_more(new QMenu(this)),
-      m_boxes(new BoxChooser(service, this)), m_search(new QLineEdit(this)), m_said(new NoticeBar(this)),
-      m_problem(new NoticeBar(this)), m_channels(new BroadcastBar(service, this)),
-      m_browser(new MessageBrowser(service, m_actions, this)), m_detail(new QStackedWidget(this)),
-      m_hint(new TextLabel(TextRole::Text, m_detail)),
+      m_boxes(new BoxChooser(service, this)), m_search(new QLineEdit(this)),
+      m_channels(new BroadcastBar(service, this)), m_problem(new NoticeBar(this)),
+      m_said(new NoticeBar(this)), m_browser(new MessageBrowser(service, m_actions, this)),
+      m_detail(new QStackedWidget(this)), m_hint(new TextLabel(TextRole::Text, m_detail)),
       m_reading(new ReadingPane(service, m_actions, m_detail)),
       m_thread(new ThreadPane(service, m_actions, m_detail)),
       m_composer(new Composer(service, &m_templates, m_detail))
@@ -108,6 +108,7 @@ void CShortMsg::buildHead()
     setButtonKind(m_new, ButtonKind::Primary);
     Page::addAction(more);
     Page::addAction(m_new);
+    setTabOrder(more, m_new);
     m_boxes->setMinimumWidth(boxesWidth);
     m_search->setObjectName(u"messageSearch"_s);
     m_search->setAccessibleName(tr("Search all messages"));

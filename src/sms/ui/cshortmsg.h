@@ -83,9 +83,9 @@ private:
     QMenu *m_more;
     corva::BoxChooser *m_boxes;
     QLineEdit *m_search;
-    corva::NoticeBar *m_said;
-    corva::NoticeBar *m_problem; ///< of the place that is shown
     corva::BroadcastBar *m_channels;
+    corva::NoticeBar *m_problem; ///< of the place that is shown
+    corva::NoticeBar *m_said;
     corva::MessageBrowser *m_browser;
     QStackedWidget *m_detail;
     corva::TextLabel *m_hint;

@@ -7,9 +7,9 @@
 #include "sms/ui/messageactions.h"
 #include "sms/ui/messagerowdelegate.h"
 #include "sms/ui/messagetexts.h"
+#include "sms/ui/rowlist.h"
 #include "widgets/textlabel.h"
 
-#include <QListView>
 #include <QMenu>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -36,23 +36,6 @@ constexpr EmptyRow emptyRows[] = {
      QT_TRANSLATE_NOOP("corva::MessageBrowser", "No drafts. What you write is kept here until you send it.")},
     {MessageBox::Deleted, QT_TRANSLATE_NOOP("corva::MessageBrowser", "Nothing was deleted.")},
     {MessageBox::Reports, QT_TRANSLATE_NOOP("corva::MessageBrowser", "No delivery report has come yet.")},
-};
-
-/// The first key chooses the row that has the cursor, where none is chosen: the first row is not passed by.
-class RowList final : public QListView
-{
-public:
-    using QListView::QListView;
-
-protected:
-    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override
-    {
-        const QModelIndex current = currentIndex();
-        if (!current.isValid() || selectionModel()->hasSelection())
-            return QListView::moveCursor(action, modifiers);
-        selectionModel()->select(current, QItemSelectionModel::ClearAndSelect);
-        return current;
-    }
 };
 
 } // namespace

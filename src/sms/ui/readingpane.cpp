@@ -12,6 +12,7 @@
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QMenu>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -62,13 +63,18 @@ void ReadingPane::build()
 
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(metrics::Grid);
-    buttons->addWidget(new ActionButton(m_actions->reply(), u"reply"_s, this));
-    buttons->addWidget(new ActionButton(m_actions->edit(), u"editDraft"_s, this));
-    buttons->addWidget(new ActionButton(m_actions->forward(), u"forward"_s, this));
-    buttons->addWidget(new ActionButton(m_actions->retry(), u"retry"_s, this));
+    QWidget *before = m_details;
+    const auto add = [&](QWidget *button) {
+        buttons->addWidget(button);
+        setTabOrder(std::exchange(before, button), button);
+    };
+    add(new ActionButton(m_actions->reply(), u"reply"_s, this));
+    add(new ActionButton(m_actions->edit(), u"editDraft"_s, this));
+    add(new ActionButton(m_actions->forward(), u"forward"_s, this));
+    add(new ActionButton(m_actions->retry(), u"retry"_s, this));
     buttons->addStretch(1);
-    buttons->addWidget(m_more);
-    buttons->addWidget(new ActionButton(m_actions->remove(), u"deleteMessage"_s, this));
+    add(m_more);
+    add(new ActionButton(m_actions->remove(), u"deleteMessage"_s, this));
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, metrics::HalfGrid);
     layout->setSpacing(metrics::HalfGrid);

@@ -8,12 +8,12 @@
 #include "sms/ui/messageactions.h"
 #include "sms/ui/messagetexts.h"
 #include "sms/ui/plaintextview.h"
+#include "sms/ui/rowlist.h"
 #include "sms/ui/threadmodel.h"
 #include "widgets/buttonkind.h"
 #include "widgets/textlabel.h"
 
 #include <QHBoxLayout>
-#include <QListView>
 #include <QMenu>
 #include <QScrollBar>
 
@@ -26,7 +26,7 @@ ThreadPane::ThreadPane(MessageService *service, MessageActions *actions, QWidget
     : QWidget(parent), m_service(service), m_actions(actions),
       m_name(new ElidedLabel(TextRole::Strong, this)), m_numbers(new ElidedLabel(TextRole::Caption, this)),
       m_earlier(new QPushButton(tr("Show &earlier messages"), this)),
-      m_write(new QPushButton(tr("&Write"), this)), m_list(new QListView(this)),
+      m_write(new QPushButton(tr("&Write"), this)), m_list(new RowList(this)),
       m_model(new ThreadModel(service, this))
 {
     setObjectName(u"threadPane"_s);
@@ -74,6 +74,8 @@ void ThreadPane::build()
     layout->addWidget(m_list, 1);
     layout->addSpacing(metrics::HalfGrid);
     layout->addLayout(buttons);
+    setTabOrder(m_earlier, m_list);
+    setTabOrder(m_list, m_write);
 }
 
 void ThreadPane::show(const Conversation &conversation)
@@ -88,6 +90,9 @@ void ThreadPane::show(const Conversation &conversation)
     const Recipients recipients = readRecipients(conversation.numbers.value(0));
     m_write->setEnabled(recipients.error.isEmpty() && !recipients.numbers.isEmpty());
     m_model->setMessages(conversation.ids, isOther);
+    if (isOther) // where the keyboard begins
+        m_list->selectionModel()->setCurrentIndex(m_model->index(m_model->rowCount() - 1),
+                                                  QItemSelectionModel::NoUpdate);
     if (followsEnd)
         m_list->scrollToBottom();
 }
