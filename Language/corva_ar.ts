@@ -1908,6 +1908,10 @@
         <source>Disconnect and &amp;quit</source>
         <translation>قطع الاتصال والخ&amp;روج</translation>
     </message>
+    <message>
+        <source>Show</source>
+        <translation>إظهار</translation>
+    </message>
 </context>
 <context>
     <name>WvdialProcess</name>
@@ -3395,6 +3399,10 @@ to %2</source>
             <numerusform>حذف %n &amp;رسالة</numerusform>
             <numerusform>حذف %n &amp;رسالة</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The message may have gone out already. Send it again?</source>
+        <translation>ربما أُرسلت الرسالة بالفعل. هل تريد إرسالها من جديد؟</translation>
     </message>
 </context>
 <context>

@@ -1904,6 +1904,10 @@
         <source>Disconnect and &amp;quit</source>
         <translation>Desconectar y sal&amp;ir</translation>
     </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
 </context>
 <context>
     <name>WvdialProcess</name>
@@ -3355,6 +3359,10 @@ a %2</translation>
             <numerusform>Eliminar %n mensa&amp;je</numerusform>
             <numerusform>Eliminar %n mensa&amp;jes</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The message may have gone out already. Send it again?</source>
+        <translation>Puede que el mensaje ya haya salido. ¿Enviarlo de nuevo?</translation>
     </message>
 </context>
 <context>

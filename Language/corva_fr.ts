@@ -1904,6 +1904,10 @@
         <source>Disconnect and &amp;quit</source>
         <translation>Déconnecter et qui&amp;tter</translation>
     </message>
+    <message>
+        <source>Show</source>
+        <translation>Afficher</translation>
+    </message>
 </context>
 <context>
     <name>WvdialProcess</name>
@@ -3355,6 +3359,10 @@ au %2</translation>
             <numerusform>Supprim&amp;er %n message</numerusform>
             <numerusform>Supprim&amp;er %n messages</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The message may have gone out already. Send it again?</source>
+        <translation>Le message est peut-être déjà parti. L’envoyer à nouveau ?</translation>
     </message>
 </context>
 <context>

@@ -1904,6 +1904,10 @@
         <source>Disconnect and &amp;quit</source>
         <translation>Desligar e sa&amp;ir</translation>
     </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
 </context>
 <context>
     <name>WvdialProcess</name>
@@ -3355,6 +3359,10 @@ a %2</translation>
             <numerusform>Eliminar %n men&amp;sagem</numerusform>
             <numerusform>Eliminar %n men&amp;sagens</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The message may have gone out already. Send it again?</source>
+        <translation>A mensagem pode já ter sido enviada. Enviar de novo?</translation>
     </message>
 </context>
 <context>

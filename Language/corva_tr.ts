@@ -1903,6 +1903,10 @@
         <source>Disconnect and &amp;quit</source>
         <translation>Bağlantıyı kes &amp;ve çık</translation>
     </message>
+    <message>
+        <source>Show</source>
+        <translation>Göster</translation>
+    </message>
 </context>
 <context>
     <name>WvdialProcess</name>
@@ -3345,6 +3349,10 @@ Bitiş: %2</translation>
         <translation>
             <numerusform>%n m&amp;esajı sil</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The message may have gone out already. Send it again?</source>
+        <translation>Mesaj zaten gönderilmiş olabilir. Yeniden gönderilsin mi?</translation>
     </message>
 </context>
 <context>

@@ -1903,6 +1903,10 @@
         <source>Disconnect and &amp;quit</source>
         <translation>断开并退出(&amp;Q)</translation>
     </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
 </context>
 <context>
     <name>WvdialProcess</name>
@@ -3345,6 +3349,10 @@ to %2</source>
         <translation>
             <numerusform>删除 %n 条短信(&amp;M)</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The message may have gone out already. Send it again?</source>
+        <translation>短信可能已经发出。要再次发送吗？</translation>
     </message>
 </context>
 <context>
