@@ -97,11 +97,11 @@ void DialWork::carryOutNext()
 
 void DialWork::carryOut(DialRequest request)
 {
-    QString error = m_check ? m_check(request) : QString();
-    if (!error.isEmpty()) {
-        answer({DialResult::Kind::NoRights, error});
+    if (const DialResult result = m_check ? m_check(request) : DialResult(); !result.isDone()) {
+        answer(result);
         return;
     }
+    QString error;
     switch (request.verb) {
     case DialVerb::Save:
         if (m_wvdial.isPresent())

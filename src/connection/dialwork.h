@@ -20,7 +20,7 @@ class DialWork : public QObject
 
 public:
     /// Why a request is refused, or an empty text; may put right what the request says.
-    using Check = std::function<QString(DialRequest &)>;
+    using Check = std::function<DialResult(DialRequest &)>;
 
     /// `onRun` hears when a dialler runs, on another thread.
     DialWork(const SystemFiles &files, std::function<void()> onRun, Check check = {},

@@ -104,7 +104,9 @@ bool hasLinkMark(const QStringList &files, const QDateTime &since)
 {
     return std::ranges::any_of(files, [&](const QString &path) {
         const QFileInfo file(path);
-        return file.isFile() && file.lastModified() >= since && !processNumberIn(path);
+        // /tmp is everybody's.
+        return file.isFile() && !file.isSymLink() && file.ownerId() == 0 && file.lastModified() >= since &&
+               !processNumberIn(path);
     });
 }
 

@@ -41,8 +41,8 @@ LinkFacts linkFacts(const QString &interfaceName, const QString &resolverFile);
 
 /// Whether one of the files holds the process number of a pppd that lives: files outlive their writers.
 bool hasLinkFile(const QStringList &files);
-/// Whether one of the files holds no process number and is newer than `since`: a script's mark for a link
-/// that is up.
+/// Whether one of the files holds no process number and is newer than `since`: a script's mark, made by
+/// root, for a link that is up.
 bool hasLinkMark(const QStringList &files, const QDateTime &since);
 
 } // namespace corva

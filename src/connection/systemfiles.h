@@ -27,7 +27,6 @@ struct SystemFiles {
     QString chapSecrets = QStringLiteral("/etc/ppp/chap-secrets");
     QString savedChapSecrets = QStringLiteral("/etc/ppp/tmpchap-secrets");
 
-    /// Where pppd leaves the network's name servers.
     /// The files of which one says that the link is built.
     QStringList pppLinkFiles = {QStringLiteral("/etc/ppp/ppp0.lnk"), QStringLiteral("/tmp/ppp0.lnk")};
     QString routeHelper = QStringLiteral("/etc/ppp/get_route_info");

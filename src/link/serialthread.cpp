@@ -310,8 +310,8 @@ std::optional<QByteArray> SerialThread::writeAndCollect(const QByteArray &cmd,
     m_lastReply.clear();
     purgeComData();
     const auto whole = floor<seconds>(timeout);
-    if (!excuteAtStr(cmd.constData()) ||
-        collectReply(m_fd, m_lastReply, whole, timeout - whole, std::move(reader)) == -1)
+    m_wasWritten = excuteAtStr(cmd.constData());
+    if (!m_wasWritten || collectReply(m_fd, m_lastReply, whole, timeout - whole, std::move(reader)) == -1)
         return std::nullopt;
     return m_lastReply;
 }

@@ -393,6 +393,7 @@ private:
     std::atomic<bool> m_portLost = false;
     std::atomic<bool> m_stop = false;
     std::atomic<bool> m_isSending = false;
+    bool m_wasWritten = false; ///< the last command of a transaction went out
     bool m_mayHaveSent = false;
     bool m_deliversDirectly = false;
     std::atomic<int> m_dataCallState = 0;

@@ -54,12 +54,6 @@ bool hasEmptyEntry(const Message &message)
            std::ranges::any_of(message.parts, [](const MessagePart &part) { return part.pdu.isEmpty(); });
 }
 
-/// Whatever became meanwhile of the places on the card from which they were taken.
-bool hasSameParts(const Message &one, const Message &other)
-{
-    return std::ranges::equal(one.parts, other.parts, {}, &MessagePart::pdu, &MessagePart::pdu);
-}
-
 /// Why the card cannot keep the whole of it, as a sentence; empty when it can: what came or went has a PDU
 /// for each part, a draft goes to `whom`, one person, and fits.
 QString whyNotWritten(const Message &message, const Recipients &whom, const QString &serviceCentre)
@@ -83,6 +77,14 @@ void forgetIndices(Message &message)
 {
     for (MessagePart &part : message.parts)
         part.storageIndex = -1;
+}
+
+/// Whatever became meanwhile of the places on the card from which they were taken.
+bool hasSameContent(Message one, Message other)
+{
+    forgetIndices(one);
+    forgetIndices(other);
+    return one.parts == other.parts && one.recipients == other.recipients;
 }
 
 /// What was sent from elsewhere is sent; our own outbox is for what goes out from here.
@@ -355,7 +357,7 @@ void CardPlaces::wroteToCard(const Message &message, MessagePlace to, After afte
         return;
     if (!isOnCard(message)) {
         const auto now = m_store->find(message.id);
-        if (now && hasSameParts(*now, message)) // or else another part came meanwhile
+        if (now && hasSameContent(*now, message)) // or else it was changed, or another part came
             m_store->purge({message.id});
         return;
     }

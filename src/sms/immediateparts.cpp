@@ -12,6 +12,8 @@ namespace corva
 namespace
 {
 
+constexpr std::size_t mostBegun = 16;
+
 bool isSameLong(const Message &one, const Message &other)
 {
     return one.recipients == other.recipients && one.concatReference == other.concatReference &&
@@ -48,11 +50,15 @@ void ImmediateParts::take(Message given)
         return;
     }
     m_begun.push_back(std::move(message));
-    m_patience.start();
+    if (m_begun.size() > mostBegun)
+        giveUpWaiting();
+    else if (!m_patience.isActive()) // whoever goes on sending first parts holds up nobody else's
+        m_patience.start();
 }
 
 void ImmediateParts::giveUpWaiting()
 {
+    m_patience.stop();
     for (const Message &message : std::exchange(m_begun, {}))
         Q_EMIT sigReady(message);
 }

@@ -17,7 +17,7 @@ class ImmediateParts final : public QObject
     Q_OBJECT
 
 public:
-    /// `patience`: how long a message waits for its next part before it is handed on as it is.
+    /// `patience`: how long the first that waits does so before all are handed on as they are.
     explicit ImmediateParts(std::chrono::milliseconds patience, QObject *parent = nullptr);
 
     void take(Message message);

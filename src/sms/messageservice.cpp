@@ -22,6 +22,7 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <deque>
 #include <utility>
 #include <vector>
 
@@ -35,6 +36,7 @@ namespace
 {
 
 constexpr int mostTries = 5;
+constexpr std::size_t mostUndone = 100;
 constexpr auto pauseBetweenTries = 10s;
 constexpr auto patienceForCard = 15s;
 constexpr std::chrono::milliseconds longestFarewell = 4s;
@@ -107,13 +109,12 @@ public:
     CardPlaces places;
     SmsReception reception;
     SendQueue queue;
-    MarkQueue marks;
     NameLookup lookup;
     QString serviceCentre;
-    std::vector<QStringList> removals; ///< what went into the deleted box together, the last one last
-    QTimer again;                      ///< to the next try of preparing the card
-    QTimer looking;                    ///< to the next look at what waits for its report
-    QTimer patience;                   ///< with a card that may come, until unread messages are announced
+    std::deque<QStringList> removals; ///< what went into the deleted box together, the last one last
+    QTimer again;                     ///< to the next try of preparing the card
+    QTimer looking;                   ///< to the next look at what waits for its report
+    QTimer patience;                  ///< with a card that may come, until unread messages are announced
     std::atomic<bool> awaitsReports = false;
     int tries = 0;
     bool isReady = false;  ///< the card takes messages
@@ -122,6 +123,7 @@ public:
     bool isPreparing = false;
     bool preparesAgain = false; ///< what was asked for changed meanwhile
     bool hasAnnouncedUnread = false;
+    MarkQueue marks; ///< last: at its end it marks what waits, and whoever shows it asks for names
 };
 
 MessageService::Private::Private(MessageService *service, CardMonitor *cardMonitor,
@@ -203,6 +205,8 @@ void MessageService::Private::prepare()
     whenDone(monitor->worker().submit(smsjobs::prepare), q,
              [this](const std::optional<smsjobs::Preparation> &made) {
                  isPreparing = false;
+                 if (hasEnded)
+                     return;
                  if (made && isReady && std::exchange(preparesAgain, false))
                      prepare();
                  else if (made && isReady)
@@ -417,6 +421,8 @@ int MessageService::removeMessages(const QStringList &ids)
     gone += fromCard.copies;
     if (!gone.isEmpty())
         d->removals.push_back(gone);
+    if (d->removals.size() > mostUndone)
+        d->removals.pop_front();
     return count;
 }
 

@@ -304,7 +304,12 @@ void SendQueue::retry(const QStringList &ids)
         const auto message = m_store->find(id);
         if (!message || !maySendAgain(*message))
             continue;
+        const int before = countOf(*message, DeliveryState::Queued);
         m_store->change(id, queueAgain);
+        if (std::ranges::find(m_waiting, id) != m_waiting.end()) { // more of what is counted already
+            const auto now = m_store->find(id);
+            m_progress.totalParts += now ? countOf(*now, DeliveryState::Queued) - before : 0;
+        }
         std::erase_if(m_failed, [&](const auto &each) { return each.first == id; });
         enqueue(id);
     }
@@ -359,6 +364,10 @@ void SendQueue::sendOne(const Target &target)
         changed.parts[std::size_t(part)].state = DeliveryState::Sending;
     });
     whenDone(marked, this, [this, target](std::optional<bool> isMarked) {
+        if (!m_isReady) { // the card went, or the program ends
+            putBack(target);
+            return;
+        }
         const auto current = m_store->find(target.id);
         if (!isMarked.value_or(false) || !current) {
             refuse(target, tr("The message could not be written to disk."));

@@ -7,7 +7,6 @@
 #include <QFuture>
 #include <QObject>
 #include <deque>
-#include <functional>
 #include <set>
 
 namespace corva

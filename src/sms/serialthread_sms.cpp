@@ -258,7 +258,7 @@ int SerialThread::sendPDU(const char *pdu)
     const auto reply = transactMessage(pdu, sendWait);
     // With its reference the network has taken it, whatever ended the reply.
     const bool isTaken = reply && corva::parseMessageReference(*reply) >= 0;
-    m_mayHaveSent = !isTaken && !(reply && corva::cmsErrorIn(*reply));
+    m_mayHaveSent = m_wasWritten && !isTaken && !(reply && corva::cmsErrorIn(*reply));
     return isTaken ? 1 : -1;
 }
 

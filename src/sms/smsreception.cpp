@@ -56,7 +56,7 @@ SmsReception::SmsReception(CardWorker &worker, MessageStore *store, CardPlaces *
 // --- Messages
 // ----------------------------------------------------------------------------------------------------
 
-/// A text that holds several reports is handed on once for each of them.
+/// A text that holds reports of several kinds is handed on once for each kind.
 bool SmsReception::isRepeated(const QByteArray &text)
 {
     if (m_lastText.isEmpty())

@@ -284,6 +284,7 @@ void WTMainWindow::stopLink()
     m_services->messages()->shutDown();
     m_monitor->stop();
     m_isReady = false;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::FutureCallOut); // of the job that ended just then
     // What was read to the end is nowhere else, and no event loop may come to bring it.
     QCoreApplication::sendPostedEvents(m_reports, QEvent::MetaCall);
 }

@@ -52,11 +52,12 @@ void DialHelper::start()
 
 /// The caller has no more rights here than to what is his: his port, and the network interface of the same
 /// stick.
-QString DialHelper::check(DialRequest &request)
+DialResult DialHelper::check(DialRequest &request)
 {
-    QString notYours = DialWork::tr("You may not use this card's data port.");
+    using enum DialResult::Kind;
+    const DialResult notYours{NoRights, DialWork::tr("You may not use this card's data port.")};
     if (request.verb == DialVerb::Dial)
-        return m_port.isSame() ? QString() : notYours;
+        return m_port.isSame() ? DialResult() : notYours;
     HeldPort asked;
     HeldPort &port = request.verb == DialVerb::Write ? m_port : asked;
     if (request.verb == DialVerb::Write || request.verb == DialVerb::Lease) {
@@ -65,13 +66,16 @@ QString DialHelper::check(DialRequest &request)
         request.modemPort = port.path();
     }
     if (request.verb == DialVerb::Lease && request.interfaceName != networkCardOf(request.modemPort))
-        return DialWork::tr("The network interface does not belong to the card.");
+        return {NoRights, DialWork::tr("The network interface does not belong to the card.")};
     if (request.verb == DialVerb::Release && request.interfaceName != m_work.leasedInterface())
-        return DialWork::tr("The network interface has no address from here.");
-    if (request.verb == DialVerb::Write)
-        return dialRefusal(request.profile, request.modemPort);
-    return std::ranges::all_of(request.nameServers, isHostAddress) ? QString()
-                                                                   : DialWork::tr("The DNS is invalid !");
+        return {NoRights, DialWork::tr("The network interface has no address from here.")};
+    if (request.verb == DialVerb::Write) {
+        const QString refusal = dialRefusal(request.profile, request.modemPort);
+        return refusal.isEmpty() ? DialResult() : DialResult{Failed, refusal};
+    }
+    if (!std::ranges::all_of(request.nameServers, isHostAddress))
+        return {Failed, DialWork::tr("The DNS is invalid !")};
+    return {};
 }
 
 void DialHelper::readInput()

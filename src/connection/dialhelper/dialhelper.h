@@ -25,7 +25,7 @@ public:
     void start();
 
 private:
-    QString check(DialRequest &request);
+    DialResult check(DialRequest &request);
     void readInput();
     void say(const DialEvent &event);
     void end(int exitStatus);
