@@ -219,6 +219,10 @@ private Q_SLOTS:
         row("a time of no calendar",
             "number,time,text\n+491,yesterday,no\n+491,2024-05-03T10:00:00,one; two\n", {both}, 1);
         row("a quote that is not closed", "number,time,text\n+491,2024-05-03T10:00:00,\"one; two", {both}, 0);
+        row("a number that is none",
+            "number,time,text\n\"+492\n" + QByteArray(2000, 'x') +
+                "\",,no\n+491,2024-05-03T10:00:00,one; two\n",
+            {both}, 1);
         row("empty rows", "number,time,text\n,,\n+491,2024-05-03T10:00:00,one; two\n", {both}, 1);
     }
 
