@@ -77,11 +77,12 @@ private:
 
     void addText()
     {
-        if (m_depth == 0 || (m_depth < keyDepth && m_reader.isWhitespace()))
-            return;
-        // Text that strays between sections and keys must not grow with each indenting.
+        // Text that strays between sections and keys must not grow with each indenting. The reader's isWhitespace()
+        // denies blanks that were written as references, hence the look at what is left.
         const QString text =
             xmlText((m_depth < keyDepth ? m_reader.text().trimmed() : m_reader.text()).toString());
+        if (m_depth == 0 || text.isEmpty())
+            return;
         m_place.appendChild(m_reader.isCDATA() ? m_document.createCDATASection(text)
                                                : m_document.createTextNode(text));
     }
