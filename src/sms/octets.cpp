@@ -48,8 +48,10 @@ std::optional<PduError> readHex(QByteArrayView hex, Octets &octets)
     quint8 *out = octets.data() + before;
     for (qsizetype i = 0; i < whole; ++i, digits += 2) {
         const int value = octetAt(digits);
-        if (value < 0)
+        if (value < 0) {
+            octets.resize(before + i);
             return pduError(pduField, i, PduFault::NotHex);
+        }
         out[i] = quint8(value);
     }
     if (hex.size() % 2 != 0)

@@ -150,7 +150,8 @@ QString shownText(const DecodedSms &sms)
     return sms.text;
 }
 
-FiledSms fileSms(const ListedSms &listed, MessagePlace place, const QDateTime &arrived)
+FiledSms fileSms(const ListedSms &listed, MessagePlace place, const QDateTime &arrived,
+                 SmsDirection direction)
 {
     Message message;
     message.box = boxOfStatus(listed.status);
@@ -160,7 +161,7 @@ FiledSms fileSms(const ListedSms &listed, MessagePlace place, const QDateTime &a
     MessagePart &part = message.parts.emplace_back();
     part.pdu = QString::fromLatin1(listed.pdu);
     part.storageIndex = listed.index;
-    const SmsResult result = decodeSms(listed.pdu, SmsDirection::OnCard);
+    const SmsResult result = decodeSms(listed.pdu, direction);
     if (const auto *error = std::get_if<PduError>(&result)) {
         message.box = MessageBox::Inbox;
         message.error = listed.pdu.isEmpty() ? whyNothing(place) : error->text();

@@ -26,7 +26,8 @@ using FiledSms = std::variant<Message, StatusReport>;
 /// A PDU from the card as the store keeps it. What cannot be read is a message in the inbox that says why and
 /// holds the PDU. `arrived` stands in where the PDU tells no time. A notice to be discarded which only says
 /// that nothing waits any more counts as read.
-FiledSms fileSms(const ListedSms &listed, MessagePlace place, const QDateTime &arrived);
+FiledSms fileSms(const ListedSms &listed, MessagePlace place, const QDateTime &arrived,
+                 SmsDirection direction = SmsDirection::OnCard);
 
 /// A page of a cell broadcast.
 Message fileBroadcast(const QByteArray &pdu, const QDateTime &arrived);

@@ -83,7 +83,8 @@ void SmsReception::fileDelivered(const std::vector<ReportedPdu> &reports)
     for (const ReportedPdu &report : reports) {
         constexpr int unread = 0;
         now = now.addMSecs(1); // one came behind the other
-        const FiledSms filed = fileSms({-1, unread, report.length, report.pdu}, MessagePlace::Computer, now);
+        const FiledSms filed = fileSms({-1, unread, report.length, report.pdu}, MessagePlace::Computer, now,
+                                       SmsDirection::FromNetwork);
         if (const auto *message = std::get_if<Message>(&filed))
             announce(keep(*message));
         else
@@ -179,7 +180,8 @@ void SmsReception::takeImmediate(const QByteArray &text)
     const QDateTime now = QDateTime::currentDateTime();
     for (const ReportedPdu &report : parseReportedPdus(text, "+JCLAS:")) {
         constexpr int read = 1;
-        FiledSms filed = fileSms({-1, read, report.length, report.pdu}, MessagePlace::Computer, now);
+        FiledSms filed = fileSms({-1, read, report.length, report.pdu}, MessagePlace::Computer, now,
+                                 SmsDirection::FromNetwork);
         if (auto *message = std::get_if<Message>(&filed))
             m_immediate.take(std::move(*message));
         else

@@ -210,6 +210,7 @@ private Q_SLOTS:
         QCOMPARE(SerialThread::gsmEncode7bit("12345678", octets, 8), 7);
         QCOMPARE(SerialThread::gsmBytes2String(octets, text, 7), 14);
         QCOMPARE(QByteArray(text), QByteArray("31D98C56B3DD70"));
+        QCOMPARE(SerialThread::gsmString2Bytes("4G42", text, 4), 0);
         QCOMPARE(SerialThread::gsmString2Bytes("4aB", text, 3), 1);
         QCOMPARE(QByteArray(text), QByteArray("J"));
         char hex[64];

@@ -123,10 +123,8 @@ void ReadingPane::showHead(const Message &message)
 
 void ReadingPane::showNotice(const Message &message)
 {
-    QString notice = message.error;
-    if (!notice.isEmpty())
-        notice = tr("This message cannot be read: %1").arg(notice);
-    else if (const QString parts = partsNote(message); !parts.isEmpty())
+    QString notice = message.error; // a sentence of its own
+    if (const QString parts = partsNote(message); notice.isEmpty() && !parts.isEmpty())
         notice = tr("%1 parts are here. The others are added when they come.").arg(parts);
     m_notice->setText(notice);
     m_notice->setVisible(!notice.isEmpty());
