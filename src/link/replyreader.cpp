@@ -30,10 +30,19 @@ ReplyReader::Progress ReplyReader::feed(QByteArrayView bytes)
     for (qsizetype i = 0; i < bytes.size(); ++i) {
         if (++m_taken > capacity)
             return {Status::TooLong, i};
-        if (bytes[i] != '\0' && take(bytes[i]))
+        if (bytes[i] != '\0' && take(bytes[i])) {
+            m_isComplete = true;
             return {Status::Complete, i + 1};
+        }
     }
     return {Status::More, bytes.size()};
+}
+
+QByteArray ReplyReader::leftOver() const
+{
+    if (m_isComplete)
+        return m_thrownAway;
+    return m_thrownAway + (m_continuation ? m_reply : QByteArray()) + m_text;
 }
 
 /// One byte; true when it completes the reply.
@@ -112,6 +121,7 @@ ReplyReader::Then ReplyReader::act(const Mark &mark)
     keepText();
     if (mark.effect == Effect::Complete)
         return Then::Done;
+    m_thrownAway += m_text.chopped(mark.text.size());
     m_text.clear();
     m_noNetworkService = false;
     return Then::GoOn;

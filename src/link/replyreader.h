@@ -45,6 +45,9 @@ public:
 
     /// The reply so far; whole once `feed` said Complete.
     const QByteArray &reply() const { return m_reply; }
+    /// What came and is not in the reply: thrown away by "JEND\r\n", and while the reply is not complete, all
+    /// of it. Reports in it are still to be seen: nobody sends them again.
+    QByteArray leftOver() const;
     /// Log lines earned so far, in order.
     const std::vector<const char *> &notes() const { return m_notes; }
 
@@ -63,8 +66,10 @@ private:
 
     QByteArray m_text;  ///< the working buffer
     QByteArray m_reply; ///< what is handed over
+    QByteArray m_thrownAway;
     std::vector<const char *> m_notes;
     qsizetype m_taken = 0;
+    bool m_isComplete = false;
     bool m_continuation = false; ///< "+CME ERROR" was seen, its line is not at its end
     bool m_noNetworkService = false;
     bool m_endsOnCmsError;

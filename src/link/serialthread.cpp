@@ -195,6 +195,7 @@ int SerialThread::collectReply(int fd, QByteArray &reply, seconds whole, microse
                   steady_clock::now() +
                       std::max<std::chrono::microseconds>(timeout * ceilingFactor, lowestCeiling)};
     const QString failure = readReply(fd, reader, budget);
+    findUpReportAtCmd(QString::fromLatin1(reader.leftOver())); // a message that is here is not in the card any more
     if (!failure.isEmpty()) {
         logLine(failure);
         receive_flag = false;

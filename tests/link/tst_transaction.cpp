@@ -159,6 +159,20 @@ private Q_SLOTS:
         QVERIFY(!receive_flag);
     }
 
+    /// Nobody sends them again, whatever became of the command that they came into.
+    void reportsAreSeenWithoutAReply()
+    {
+        m_owner.takeCalls();
+        std::vector<char> reply(SerialThread::replyBufferSize);
+        m_pty->write("+CUSD: 0\r\n");
+        QCOMPARE(m_link->resAtStr(m_link->descriptor(), reply.data(), 0, 100000), -1);
+        QCOMPARE(QByteArray(reply.data()), QByteArray());
+        QVERIFY2(m_owner.takeCalls().join(u'|').contains(u"+CUSD: 0"_s), "time-out");
+        exchange([this] { return m_link->sendCmdAndRec("AT+CSQ\r\n", 1, 500000); },
+                 "+CUSD: 0\r\n+JEND\r\n\r\n+CSQ: 5,9\r\nOK\r\n");
+        QVERIFY2(m_owner.takeCalls().join(u'|').contains(u"+CUSD: 0"_s), "thrown away");
+    }
+
     void arrivingBytesCostNoBudget()
     {
         auto result = sent(1s);
