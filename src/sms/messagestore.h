@@ -74,9 +74,6 @@ public:
 
     /// To `Deleted`. Only the computer's; those in `Deleted` already are left alone.
     QFuture<bool> remove(const QStringList &ids);
-    bool canUndo() const;
-    /// Takes the last removal back that was not taken back yet. Returns the ids.
-    QStringList undo();
     /// Back to where they were deleted from.
     QFuture<bool> restore(const QStringList &ids);
     /// Out of the store, for good.
