@@ -201,8 +201,10 @@ void takeOutcome(Message &message, int part, const smsjobs::SentPart &sent)
         return each.state == DeliveryState::Sent || each.state == DeliveryState::Delivered ||
                each.state == DeliveryState::StillTrying;
     };
-    if (std::ranges::all_of(message.parts, isOut))
-        (message.box == MessageBox::Deleted ? message.deletedFrom : message.box) = MessageBox::Sent;
+    if (!std::ranges::all_of(message.parts, isOut))
+        return;
+    (message.box == MessageBox::Deleted ? message.deletedFrom : message.box) = MessageBox::Sent;
+    message.subscriber.clear();
 }
 
 } // namespace
@@ -236,21 +238,24 @@ void SendQueue::resume()
                     part.state = DeliveryState::Unsure;
             }
         });
-        enqueue(id);
+        m_left += id;
     }
     pump();
 }
 
 void SendQueue::begin(const QString &subscriber)
 {
-    const bool isAnother =
-        !m_subscriber.isEmpty() && !subscriber.isEmpty() && subscriber != m_subscriber && !m_waiting.empty();
-    if (isAnother) { // it may cost somebody else, and name another sender
+    m_isSubscriberThere = !subscriber.isEmpty();
+    const bool isOther = m_isSubscriberThere && subscriber != m_subscriber;
+    // With another SIM it may cost somebody else, and name another sender.
+    const bool hasGivenUp = isOther && !m_subscriber.isEmpty() && !m_waiting.empty();
+    if (hasGivenUp)
         giveUpWaiting();
-        Q_EMIT sigRefused(tr("There is another SIM in the card. What waited was not sent."));
-    }
-    if (!subscriber.isEmpty())
+    if (m_isSubscriberThere)
         m_subscriber = subscriber;
+    takeUpLeft();
+    if (hasGivenUp || (isOther && !m_left.isEmpty()))
+        Q_EMIT sigRefused(tr("There is another SIM in the card. What waited was not sent."));
     m_isReady = true;
     pump();
 }
@@ -267,6 +272,7 @@ bool SendQueue::add(const OutgoingSms &sms)
     message.isRead = true;
     message.total = int(split.parts.size());
     message.asksReport = sms.asksReport;
+    message.subscriber = m_subscriber;
     for (int recipient = 0; recipient < int(sms.recipients.size()); ++recipient)
         std::ranges::copy(partsFor(recipient, split, sms.asksReport), std::back_inserter(message.parts));
     if (message.total > 1)
@@ -305,7 +311,11 @@ void SendQueue::retry(const QStringList &ids)
         if (!message || !maySendAgain(*message))
             continue;
         const int before = countOf(*message, DeliveryState::Queued);
-        m_store->change(id, queueAgain);
+        m_store->change(id, [this](Message &changed) {
+            queueAgain(changed);
+            changed.subscriber = m_subscriber;
+        });
+        m_left.removeOne(id);
         if (std::ranges::find(m_waiting, id) != m_waiting.end()) { // more of what is counted already
             const auto now = m_store->find(id);
             m_progress.totalParts += now ? countOf(*now, DeliveryState::Queued) - before : 0;
@@ -326,16 +336,45 @@ void SendQueue::enqueue(const QString &id)
     m_progress.totalParts += parts;
 }
 
+bool SendQueue::mayGoOut(const Message &message) const
+{
+    return message.subscriber.isEmpty() || (m_isSubscriberThere && message.subscriber == m_subscriber);
+}
+
+void SendQueue::leaveWaiting(const Message &message)
+{
+    if (!m_left.contains(message.id))
+        m_left += message.id;
+    m_progress.totalParts -= countOf(message, DeliveryState::Queued);
+}
+
+/// What was left and may go out now; nothing as long as it is not known whose SIM it is.
+void SendQueue::takeUpLeft()
+{
+    if (!m_isSubscriberThere)
+        return;
+    for (const QString &id : std::exchange(m_left, {})) {
+        const auto message = m_store->find(id);
+        if (message && !mayGoOut(*message) && countOf(*message, DeliveryState::Queued) > 0)
+            m_left += id;
+        else
+            enqueue(id);
+    }
+}
+
 SendQueue::Target SendQueue::next()
 {
     while (!m_waiting.empty()) {
         const QString id = m_waiting.front();
         if (const auto message = m_store->find(id); message && message->box == MessageBox::Outbox) {
             const auto part = std::ranges::find(message->parts, DeliveryState::Queued, &MessagePart::state);
-            if (part != message->parts.end())
+            if (part != message->parts.end() && mayGoOut(*message))
                 return {id, int(part - message->parts.begin())};
+            if (part != message->parts.end())
+                leaveWaiting(*message);
+        } else {
+            m_store->change(id, failQueued); // deleted while it waited: put back, it waits for the person
         }
-        m_store->change(id, failQueued); // deleted while it waited: put back, it waits for the person
         m_waiting.pop_front();
     }
     return {};
@@ -360,15 +399,17 @@ void SendQueue::sendOne(const Target &target)
     m_progress.isActive = true;
     m_progress.recipient = message->recipients.value(recipient);
     tell();
-    const auto marked = m_store->change(target.id, [part = target.part](Message &changed) {
+    const auto marked = m_store->change(target.id, [this, part = target.part](Message &changed) {
         changed.parts[std::size_t(part)].state = DeliveryState::Sending;
+        if (m_isSubscriberThere) // the rest of it goes out with the same SIM
+            changed.subscriber = m_subscriber;
     });
     whenDone(marked, this, [this, target](std::optional<bool> isMarked) {
-        if (!m_isReady) { // the card went, or the program ends
+        const auto current = m_store->find(target.id);
+        if (!m_isReady || (current && !mayGoOut(*current))) { // the card or its SIM went, or the program ends
             putBack(target);
             return;
         }
-        const auto current = m_store->find(target.id);
         if (!isMarked.value_or(false) || !current) {
             refuse(target, tr("The message could not be written to disk."));
             return;
