@@ -36,6 +36,7 @@ bool isUnderWay(const MessagePart &part)
 Message imported(Message message)
 {
     message.place = MessagePlace::Computer;
+    message.subscriber.clear();
     for (MessagePart &part : message.parts) {
         part.storageIndex = -1;
         if (isUnderWay(part))
@@ -85,6 +86,11 @@ bool MessageStore::flush()
         d->takeLoaded();
     }
     return d->phase == Private::Phase::New || d->commit().result();
+}
+
+QFuture<bool> MessageStore::written()
+{
+    return isLoaded() ? d->commit() : d->whenLoaded([this] { d->commit(); });
 }
 
 MessageStore::Added MessageStore::insert(std::vector<Message> messages, DeletedOnes deleted)
@@ -165,12 +171,15 @@ MessageStore::Reported MessageStore::applyReport(const StatusReport &given)
     return {d->commit(), place ? place->id : QString(), place ? place->part : -1, entry.id, true};
 }
 
-QFuture<bool> MessageStore::replaceMirror(MessagePlace place, std::vector<Message> messages)
+QFuture<bool> MessageStore::replaceMirror(MessagePlace place, std::vector<Message> messages,
+                                          const QString &owner)
 {
     if (place == MessagePlace::Computer)
         return QtFuture::makeReadyFuture(false);
     if (!isLoaded())
-        return d->whenLoaded([this, place, messages] { replaceMirror(place, messages); });
+        return d->whenLoaded([this, place, messages, owner] { replaceMirror(place, messages, owner); });
+    if (mirrorOwner(place) != owner)
+        d->setMirrorOwner(place, owner);
     QSet<QString> listed;
     for (Message &message : mirrored(d->mirror, place, std::move(messages), d->matchingLength)) {
         listed += message.id;
@@ -182,6 +191,20 @@ QFuture<bool> MessageStore::replaceMirror(MessagePlace place, std::vector<Messag
     gone.removeIf([&](const QString &id) { return listed.contains(id); });
     d->remove(gone);
     return d->commit();
+}
+
+QString MessageStore::mirrorOwner(MessagePlace place) const
+{
+    const PlaceOwners owners = d->mirrorFile.owners();
+    return place == MessagePlace::Sim ? owners.sim : owners.card;
+}
+
+bool MessageStore::knows(const Message &message) const
+{
+    return std::ranges::any_of(message.parts, [&](const MessagePart &part) {
+        const QString identity = partIdentity(message, part);
+        return !d->computer.withPart(identity).isEmpty() || !d->mirror.withPart(identity).isEmpty();
+    });
 }
 
 MessageStore::Imported MessageStore::import(std::vector<Message> messages)

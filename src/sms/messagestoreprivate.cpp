@@ -50,6 +50,10 @@ StoreFile::Listener MessageStore::Private::listener()
             [this] {
                 QMetaObject::invokeMethod(
                     q, [this] { scheduleRetry(); }, Qt::QueuedConnection);
+            },
+            [this] {
+                QMetaObject::invokeMethod(
+                    q, [this] { Q_EMIT q->sigWrittenAgain(); }, Qt::QueuedConnection);
             }};
 }
 
@@ -146,6 +150,14 @@ void MessageStore::Private::remove(const QStringList &ids)
     }
     computer.remove(ids);
     mirror.remove(ids);
+}
+
+void MessageStore::Private::setMirrorOwner(MessagePlace place, const QString &owner)
+{
+    PlaceOwners owners = mirrorFile.owners();
+    (place == MessagePlace::Sim ? owners.sim : owners.card) = owner;
+    mirrorFile.setOwners(owners);
+    changes.isMirror = true;
 }
 
 QFuture<bool> MessageStore::Private::commit()

@@ -33,6 +33,7 @@ public:
     /// The next three note what is to be saved and said by `commit`.
     void put(Message message);
     void remove(const QStringList &ids);
+    void setMirrorOwner(MessagePlace place, const QString &owner);
     /// Without changes: when all is on disk.
     QFuture<bool> commit();
     void settle(const TicketPtr &ticket);
