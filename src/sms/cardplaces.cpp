@@ -98,6 +98,7 @@ MessageBox boxOnComputer(const Message &message)
 CardPlaces::CardPlaces(CardWorker &worker, MessageStore *store, QObject *parent)
     : QObject(parent), m_worker(worker), m_store(store)
 {
+    connect(store, &MessageStore::sigWrittenAgain, this, &CardPlaces::finishTaking);
 }
 
 void CardPlaces::forget()
@@ -107,6 +108,7 @@ void CardPlaces::forget()
     m_hasMadeRoom = false;
     m_hasWarned = {};
     m_listsAgain = {};
+    m_owners = {};
     for (const MessagePlace place : {MessagePlace::Sim, MessagePlace::Card})
         change(place, {});
 }
@@ -160,6 +162,23 @@ void CardPlaces::refresh(MessagePlace place)
     });
 }
 
+void CardPlaces::refreshAll()
+{
+    refresh(MessagePlace::Sim);
+    refresh(MessagePlace::Card);
+}
+
+void CardPlaces::showUnseen(MessagePlace place, std::vector<Message> &messages) const
+{
+    const QString &owner = m_owners[slot(place)];
+    if (owner.isEmpty() || m_store->mirrorOwner(place) != owner)
+        return; // what was read there before is not known
+    for (Message &message : messages) {
+        if (message.box == MessageBox::Inbox && !hasEmptyEntry(message) && !m_store->knows(message))
+            message.isRead = false;
+    }
+}
+
 void CardPlaces::took(MessagePlace place, smsjobs::Listing listing)
 {
     if (place == MessagePlace::Card)
@@ -178,7 +197,9 @@ void CardPlaces::took(MessagePlace place, smsjobs::Listing listing)
     const QSet<QString> known(before.begin(), before.end());
     for (const smsjobs::KeptReport &report : listing.reports)
         Q_EMIT sigReportListed(report);
-    m_store->replaceMirror(place, std::move(listing.messages));
+    if (isFirst) // later ones are met as they come, and what is moved there is read
+        showUnseen(place, listing.messages);
+    m_store->replaceMirror(place, std::move(listing.messages), m_owners[slot(place)]);
     takeFill(place, listing.fill);
     QStringList unread = m_store->ids(MessageBox::Inbox, place);
     unread.removeIf([&](const QString &id) {
@@ -379,7 +400,22 @@ void CardPlaces::finishTaking()
         const auto liesThere = [](const MessagePart &part) { return part.storageIndex >= 0; };
         return !isOnCard(message) && std::ranges::any_of(message.parts, liesThere);
     };
-    for (const Message &message : m_store->messages(m_store->ids(isToBeTaken))) {
+    const QStringList kept = m_store->ids(isToBeTaken);
+    if (!m_isReady || kept.isEmpty()) {
+        refreshAll();
+        return;
+    }
+    whenDone(m_store->written(), this,
+             [this, messages = m_store->messages(kept)](std::optional<bool> isWritten) {
+                 if (isWritten.value_or(false))
+                     takeRest(messages);
+                 refreshAll();
+             });
+}
+
+void CardPlaces::takeRest(const std::vector<Message> &messages)
+{
+    for (const Message &message : messages) {
         for (const MessagePart &part : message.parts) {
             if (part.storageIndex < 0)
                 continue;

@@ -16,7 +16,11 @@ class CardWorker;
 /// The messages on the SIM and in the card's memory: listed into the store's mirror, copied, moved, taken
 /// away. Nothing is taken from the card before its copy is on the computer's disk. Until it is taken, the
 /// copy's parts keep the `storageIndex` that they had there, so that a taking that was cut short is finished
-/// the next time.
+/// the next time, or when a disk that was full is written again.
+///
+/// A message is read on the card as soon as it was fetched, whether or not its copy came to the disk. What
+/// the first listing of a SIM or card, which the last listing was of too, meets read and nobody here knows is
+/// therefore as good as unread.
 class CardPlaces final : public QObject
 {
     Q_OBJECT
@@ -28,6 +32,8 @@ public:
     void forget();
     void setReady(bool isReady) { m_isReady = isReady; }
     void setServiceCentre(const QString &number) { m_serviceCentre = number; }
+    /// Whose SIM it is, and which card, as digits; empty when not known.
+    void setOwners(const QString &subscriber, const QString &card) { m_owners = {subscriber, card}; }
 
     void refresh(MessagePlace place);
     const PlaceState &state(MessagePlace place) const;
@@ -47,7 +53,8 @@ public:
     Deleted moveToDeleted(const std::vector<Message> &chosen);
     /// Takes `original` from the card, now that it is in `copies`, ids of the computer's messages.
     void takeFromCard(const QStringList &copies, const Message &original);
-    /// Takes what a former run kept and did not take any more.
+    /// Takes what was kept and not taken any more, by a former run or while the disk was full, and lists the
+    /// SIM and the card behind that.
     void finishTaking();
 
 Q_SIGNALS:
@@ -78,6 +85,9 @@ private:
     void forgetIndex(const QStringList &copies, const MessagePart &part);
     void storedHere(const MessageStore::Added &added, const std::vector<Message> &originals, After after);
     void took(MessagePlace place, smsjobs::Listing listing);
+    void showUnseen(MessagePlace place, std::vector<Message> &messages) const;
+    void refreshAll();
+    void takeRest(const std::vector<Message> &messages);
     void warnBeforeFull(MessagePlace place, const StoreCapacity &now);
     void makeRoom(MessagePlace place);
     PlaceState &stateOf(MessagePlace place);
@@ -86,6 +96,7 @@ private:
     CardWorker &m_worker;
     MessageStore *m_store;
     QString m_serviceCentre;
+    std::array<QString, 2> m_owners;
     std::array<PlaceState, 2> m_states; ///< SIM, card
     std::array<bool, 2> m_hasWarned{};
     bool m_hasMadeRoom =

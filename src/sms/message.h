@@ -62,6 +62,7 @@ struct Message {
     QString error;                              ///< why it could not be decoded; the PDU is in `parts`
     MessageBox deletedFrom = MessageBox::Inbox; ///< where a restored one goes; of use in `Deleted` only
     QString about;                              ///< of a report: the id of the message that it is about
+    QString subscriber; ///< of one to be sent: the IMSI with which it is to go out; empty when not known
 
     bool operator==(const Message &) const = default;
 

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace corva
 {
 
@@ -13,10 +15,34 @@ namespace
 constexpr qsizetype longestRecipient = 1000;
 
 /// A quote that is never closed makes a "number" of all that follows.
-bool hasSenselessRecipient(const Message &message)
+bool isSenselessRecipient(const QString &recipient)
 {
-    return std::ranges::any_of(message.recipients,
-                               [](const QString &each) { return each.size() > longestRecipient; });
+    return recipient.size() > longestRecipient;
+}
+
+/// What has no person, no text and no PDU is no message.
+bool isSenseless(const Message &message)
+{
+    const auto saysSomething = [](const MessagePart &part) {
+        return !part.text.isEmpty() || !part.pdu.isEmpty();
+    };
+    return std::ranges::any_of(message.recipients, isSenselessRecipient) ||
+           (message.recipients.join(QString()).isEmpty() &&
+            std::ranges::none_of(message.parts, saysSomething));
+}
+
+bool isControl(QChar c)
+{
+    return c.category() == QChar::Other_Control;
+}
+
+/// Whoever wrote the file: control characters are neither dialled nor shown.
+void clean(Message &message)
+{
+    for (QString &recipient : message.recipients)
+        recipient.removeIf(isControl);
+    for (MessagePart &part : message.parts)
+        part.text.removeIf([](QChar c) { return isControl(c) && !u"\n\r\t"_s.contains(c); });
 }
 
 } // namespace
@@ -26,7 +52,8 @@ ExportedMessages parseExport(const QByteArray &bytes)
     ExportedMessages exported = parseMessagesJson(bytes);
     if (!exported.isKnown)
         exported = parseMessagesCsv(bytes);
-    exported.unreadable += int(std::erase_if(exported.messages, hasSenselessRecipient));
+    std::ranges::for_each(exported.messages, clean);
+    exported.unreadable += int(std::erase_if(exported.messages, isSenseless));
     return exported;
 }
 

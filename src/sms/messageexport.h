@@ -27,7 +27,8 @@ ExportedMessages parseMessagesCsv(const QByteArray &bytes);
 QByteArray messagesJson(const std::vector<Message> &messages);
 ExportedMessages parseMessagesJson(const QByteArray &bytes);
 
-/// Of either form.
+/// Of either form, as an import takes it: without control characters in numbers and texts, and without what
+/// has neither of them.
 ExportedMessages parseExport(const QByteArray &bytes);
 
 } // namespace corva

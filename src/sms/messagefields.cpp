@@ -37,6 +37,7 @@ constexpr MessageField ofMessage[] = {
     {"fault"_L1, &Message::error},
     {"deleted-from"_L1, &Message::deletedFrom},
     {"about"_L1, &Message::about},
+    {"subscriber"_L1, &Message::subscriber},
 };
 
 constexpr PartField ofPart[] = {

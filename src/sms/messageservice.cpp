@@ -219,11 +219,13 @@ void MessageService::Private::prepared(const smsjobs::Preparation &made)
     if (!made.fault.isEmpty())
         Q_EMIT q->sigNotice(made.fault);
     isPrepared = made.isReady;
-    if (!made.fault.isEmpty() && ++tries < mostTries)
+    const bool isUnknown = made.isReady && made.subscriber.isEmpty(); // and what is queued waits for that
+    if ((!made.fault.isEmpty() || isUnknown) && ++tries < mostTries)
         again.start(pauseBetweenTries);
     if (!made.isReady)
         return;
     setServiceCentre(made.serviceCentre);
+    places.setOwners(made.subscriber, monitor->state().identity.imei);
     places.setReady(true);
     Q_EMIT q->sigCardReady();
     if (cmcfg.getNumber(u"function"_s, u"cell_board_enabled"_s) == 1 && !q->broadcastChannels().isEmpty())
@@ -307,8 +309,6 @@ void MessageService::setNameLookup(NameLookup lookup)
 void MessageService::readCard()
 {
     d->places.finishTaking();
-    d->places.refresh(MessagePlace::Sim);
-    d->places.refresh(MessagePlace::Card);
     d->reception.readKeptReports();
 }
 

@@ -2,45 +2,20 @@
 #include "sms/messagestore.h"
 
 #include "shell/commonconfig.h"
-#include "sms/conversations.h"
 #include "sms/messagefiling.h"
-#include "sms/messagesearch.h"
+#include "sms/messagestoreprivate.h"
 #include "sms/numbermatch.h"
-#include "sms/reportmatching.h"
-#include "sms/storefile.h"
 
 #include <QSet>
 #include <QSignalBlocker>
-#include <QTimer>
 #include <algorithm>
-#include <chrono>
 #include <iterator>
-#include <mutex>
-
-using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace corva
 {
 
 namespace
 {
-
-constexpr auto retryAfter = 10s; ///< when a file could not be written
-constexpr qsizetype mostUndone = 100;
-
-/// Moves what a file had to where that file belongs, whatever it says itself.
-std::vector<Message> placed(std::vector<Message> messages, bool isMirror)
-{
-    for (Message &message : messages) {
-        if (!isMirror)
-            message.place = MessagePlace::Computer;
-        else if (message.place == MessagePlace::Computer)
-            message.place = MessagePlace::Sim;
-        message = tidied(std::move(message));
-    }
-    return messages;
-}
 
 bool hasNewReference(const Message &before, const Message &after)
 {
@@ -61,6 +36,7 @@ bool isUnderWay(const MessagePart &part)
 Message imported(Message message)
 {
     message.place = MessagePlace::Computer;
+    message.subscriber.clear();
     for (MessagePart &part : message.parts) {
         part.storageIndex = -1;
         if (isUnderWay(part))
@@ -70,269 +46,6 @@ Message imported(Message message)
 }
 
 } // namespace
-
-class MessageStore::Private
-{
-public:
-    Private(MessageStore *store, const QString &folder, int length)
-        : q(store), matchingLength(length), computerFile(folder + u"/sms.xml"_s, pool, listener()),
-          mirrorFile(folder + u"/cardsms.xml"_s, pool, listener())
-    {
-        pool.setMaxThreadCount(1);
-    }
-
-    StoreFile::Listener listener();
-    void scheduleRetry();
-
-    void read();
-    void takeLoaded();
-    /// `action` ends in `commit`.
-    QFuture<bool> whenLoaded(std::function<void()> action);
-
-    RecordPtr find(const QString &id) const;
-    /// The next three note what is to be saved and said by `commit`.
-    void put(Message message);
-    void remove(const QStringList &ids);
-    /// Without changes: when all is on disk.
-    QFuture<bool> commit();
-    void settle(const TicketPtr &ticket);
-
-    QString file(Message message, DeletedOnes deleted);
-    bool moveToDeleted(const QString &id);
-    void restore(const QStringList &ids);
-    std::optional<PartPlace> enterReport(const StatusReport &report, Message entry);
-
-    MessageStore *const q;
-    const int matchingLength;
-    QThreadPool pool;
-    StoreFile computerFile;
-    StoreFile mirrorFile;
-
-    enum class Phase { New, Loading, Loaded } phase = Phase::New;
-    struct Tables {
-        MessageTable computer;
-        MessageTable mirror;
-    };
-    std::mutex loadedMutex;
-    std::unique_ptr<Tables> loaded; ///< from the pool's thread to `takeLoaded`
-    std::vector<std::function<void()>> waiting;
-    TicketPtr givenOut; ///< for the next `commit`, whose future somebody has already
-
-    MessageTable computer{matchingLength};
-    MessageTable mirror{matchingLength}; ///< of the SIM and the card
-
-    struct Changes {
-        QStringList added;
-        QStringList changed;
-        QStringList removed;
-        bool isComputer = false;
-        bool isMirror = false;
-    } changes;
-
-    QList<QStringList> removals; ///< to `Deleted`, the last behind
-    MessageSearch search;
-    std::optional<std::vector<Conversation>> conversations;
-    bool isRetrying = false;
-};
-
-StoreFile::Listener MessageStore::Private::listener()
-{
-    return {[this](const QString &text) {
-                QMetaObject::invokeMethod(
-                    q, [this, text] { Q_EMIT q->sigError(text); }, Qt::QueuedConnection);
-            },
-            [this] {
-                QMetaObject::invokeMethod(
-                    q, [this] { scheduleRetry(); }, Qt::QueuedConnection);
-            }};
-}
-
-void MessageStore::Private::scheduleRetry()
-{
-    if (std::exchange(isRetrying, true))
-        return;
-    QTimer::singleShot(retryAfter, q, [this] {
-        isRetrying = false;
-        commit();
-    });
-}
-
-void MessageStore::Private::read()
-{
-    std::vector<Message> ofComputer = placed(computerFile.read(), false);
-    std::vector<Message> ofMirror = placed(mirrorFile.read(), true);
-    auto tables = std::make_unique<Tables>(
-        Tables{MessageTable(std::move(ofComputer), matchingLength), MessageTable(matchingLength)});
-    for (Message &message : ofMirror) {
-        if (tables->computer.find(message.id))
-            message.id.clear();
-    }
-    tables->mirror = MessageTable(std::move(ofMirror), matchingLength);
-    const auto listed = [](const MessageTable &table) {
-        return std::vector<RecordPtr>(table.records().begin(), table.records().end());
-    };
-    const std::vector<RecordPtr> records = listed(tables->computer);
-    const std::vector<RecordPtr> mirrored = listed(tables->mirror);
-    {
-        const std::scoped_lock lock(loadedMutex);
-        loaded = std::move(tables);
-    }
-    QMetaObject::invokeMethod(
-        q, [this] { takeLoaded(); }, Qt::QueuedConnection);
-    // By now they are shown: what the first search and the first change would have to wait for.
-    std::ranges::for_each(records, &MessageRecord::folded);
-    std::ranges::for_each(mirrored, &MessageRecord::folded);
-    StoreFile::prepare(records);
-}
-
-void MessageStore::Private::takeLoaded()
-{
-    if (phase != Phase::Loading)
-        return;
-    phase = Phase::Loaded;
-    {
-        const std::scoped_lock lock(loadedMutex);
-        computer = std::move(loaded->computer);
-        mirror = std::move(loaded->mirror);
-        loaded.reset();
-    }
-    changes.isComputer = computerFile.isDamaged();
-    changes.isMirror = mirrorFile.isDamaged();
-    commit();
-    Q_EMIT q->sigLoaded();
-    for (const auto &action : std::exchange(waiting, {}))
-        action();
-}
-
-QFuture<bool> MessageStore::Private::whenLoaded(std::function<void()> action)
-{
-    const auto ticket = std::make_shared<StoreTicket>();
-    waiting.push_back([this, ticket, action = std::move(action)] {
-        givenOut = ticket;
-        action();
-    });
-    return ticket->future();
-}
-
-RecordPtr MessageStore::Private::find(const QString &id) const
-{
-    const RecordPtr record = computer.find(id);
-    return record ? record : mirror.find(id);
-}
-
-void MessageStore::Private::put(Message message)
-{
-    const bool isMirror = message.place != MessagePlace::Computer;
-    MessageTable &table = isMirror ? mirror : computer;
-    (table.find(message.id) ? changes.changed : changes.added) += message.id;
-    (isMirror ? changes.isMirror : changes.isComputer) = true;
-    table.put(std::move(message));
-}
-
-void MessageStore::Private::remove(const QStringList &ids)
-{
-    for (const QString &id : ids) {
-        if (const RecordPtr record = find(id)) {
-            const bool isMirror = record->message.place != MessagePlace::Computer;
-            (isMirror ? changes.isMirror : changes.isComputer) = true;
-            changes.removed += id;
-        }
-    }
-    computer.remove(ids);
-    mirror.remove(ids);
-}
-
-QFuture<bool> MessageStore::Private::commit()
-{
-    Changes done = std::exchange(changes, {});
-    TicketPtr ticket = std::exchange(givenOut, {});
-    if (!ticket)
-        ticket = std::make_shared<StoreTicket>();
-    if (done.isComputer)
-        computerFile.write(computer.records(), ticket);
-    if (done.isMirror)
-        mirrorFile.write(mirror.records(), ticket);
-    if (!done.isComputer && !done.isMirror)
-        settle(ticket);
-    ticket->settle(true);
-    if (done.isComputer || done.isMirror) {
-        search.forgetResult();
-        conversations.reset();
-    }
-    const QSet<QString> isNew(done.added.begin(), done.added.end());
-    done.changed.removeIf([&](const QString &id) { return isNew.contains(id); });
-    done.changed.removeDuplicates();
-    if (!done.added.isEmpty())
-        Q_EMIT q->sigAdded(done.added);
-    if (!done.changed.isEmpty())
-        Q_EMIT q->sigChanged(done.changed);
-    if (!done.removed.isEmpty())
-        Q_EMIT q->sigRemoved(done.removed);
-    return ticket->future();
-}
-
-void MessageStore::Private::settle(const TicketPtr &ticket)
-{
-    computerFile.settle(computer.records(), ticket);
-    mirrorFile.settle(mirror.records(), ticket);
-}
-
-/// Returns where the message is now.
-QString MessageStore::Private::file(Message message, DeletedOnes deleted)
-{
-    message.place = MessagePlace::Computer;
-    message = tidied(std::move(message));
-    if (const RecordPtr known = takeKnownParts(computer, message)) {
-        if (deleted == DeletedOnes::ComeBack)
-            restore({known->message.id});
-        return known->message.id;
-    }
-    if (const RecordPtr begun = longMessageFor(computer, message)) {
-        put(joined(begun->message, message));
-        return begun->message.id;
-    }
-    if (message.id.isEmpty() || find(message.id))
-        message.id = newMessageId();
-    QString id = message.id;
-    put(std::move(message));
-    return id;
-}
-
-bool MessageStore::Private::moveToDeleted(const QString &id)
-{
-    const RecordPtr record = computer.find(id);
-    if (!record || record->message.box == MessageBox::Deleted)
-        return false;
-    Message message = record->message;
-    message.deletedFrom = std::exchange(message.box, MessageBox::Deleted);
-    put(std::move(message));
-    return true;
-}
-
-void MessageStore::Private::restore(const QStringList &ids)
-{
-    for (const QString &id : ids) {
-        const RecordPtr record = computer.find(id);
-        if (!record || record->message.box != MessageBox::Deleted)
-            continue;
-        Message message = record->message;
-        message.box = message.deletedFrom;
-        put(std::move(message));
-    }
-}
-
-std::optional<PartPlace> MessageStore::Private::enterReport(const StatusReport &report, Message entry)
-{
-    std::optional<PartPlace> place = reportedPart(computer.records(), report, matchingLength);
-    if (place) {
-        Message message = computer.find(place->id)->message;
-        applyTo(message.parts[size_t(place->part)], report);
-        entry.about = message.id;
-        put(std::move(message));
-    }
-    put(std::move(entry));
-    return place;
-}
 
 MessageStore::MessageStore(const QString &folder, int matchingLength, QObject *parent)
     : QObject(parent), d(std::make_unique<Private>(this, folder, matchingLength))
@@ -373,6 +86,11 @@ bool MessageStore::flush()
         d->takeLoaded();
     }
     return d->phase == Private::Phase::New || d->commit().result();
+}
+
+QFuture<bool> MessageStore::written()
+{
+    return isLoaded() ? d->commit() : d->whenLoaded([this] { d->commit(); });
 }
 
 MessageStore::Added MessageStore::insert(std::vector<Message> messages, DeletedOnes deleted)
@@ -421,32 +139,9 @@ QFuture<bool> MessageStore::setRead(const QStringList &ids, bool isRead)
 
 QFuture<bool> MessageStore::remove(const QStringList &ids)
 {
-    QStringList moved;
-    for (const QString &id : ids) {
-        if (d->moveToDeleted(id))
-            moved += id;
-    }
-    if (!moved.isEmpty())
-        d->removals += moved;
-    if (d->removals.size() > mostUndone)
-        d->removals.removeFirst();
+    for (const QString &id : ids)
+        d->moveToDeleted(id);
     return d->commit();
-}
-
-bool MessageStore::canUndo() const
-{
-    return !d->removals.isEmpty();
-}
-
-QStringList MessageStore::undo()
-{
-    if (d->removals.isEmpty())
-        return {};
-    const QStringList ids = d->removals.takeLast();
-    d->restore(ids);
-    QStringList back = d->changes.changed;
-    d->commit();
-    return back;
 }
 
 QFuture<bool> MessageStore::restore(const QStringList &ids)
@@ -458,11 +153,6 @@ QFuture<bool> MessageStore::restore(const QStringList &ids)
 QFuture<bool> MessageStore::purge(const QStringList &ids)
 {
     d->remove(ids);
-    // What is gone cannot be taken back.
-    const QSet<QString> gone(d->changes.removed.begin(), d->changes.removed.end());
-    for (QStringList &removal : d->removals)
-        removal.removeIf([&](const QString &id) { return gone.contains(id); });
-    d->removals.removeIf([](const QStringList &removal) { return removal.isEmpty(); });
     return d->commit();
 }
 
@@ -481,12 +171,15 @@ MessageStore::Reported MessageStore::applyReport(const StatusReport &given)
     return {d->commit(), place ? place->id : QString(), place ? place->part : -1, entry.id, true};
 }
 
-QFuture<bool> MessageStore::replaceMirror(MessagePlace place, std::vector<Message> messages)
+QFuture<bool> MessageStore::replaceMirror(MessagePlace place, std::vector<Message> messages,
+                                          const QString &owner)
 {
     if (place == MessagePlace::Computer)
         return QtFuture::makeReadyFuture(false);
     if (!isLoaded())
-        return d->whenLoaded([this, place, messages] { replaceMirror(place, messages); });
+        return d->whenLoaded([this, place, messages, owner] { replaceMirror(place, messages, owner); });
+    if (mirrorOwner(place) != owner)
+        d->setMirrorOwner(place, owner);
     QSet<QString> listed;
     for (Message &message : mirrored(d->mirror, place, std::move(messages), d->matchingLength)) {
         listed += message.id;
@@ -498,6 +191,20 @@ QFuture<bool> MessageStore::replaceMirror(MessagePlace place, std::vector<Messag
     gone.removeIf([&](const QString &id) { return listed.contains(id); });
     d->remove(gone);
     return d->commit();
+}
+
+QString MessageStore::mirrorOwner(MessagePlace place) const
+{
+    const PlaceOwners owners = d->mirrorFile.owners();
+    return place == MessagePlace::Sim ? owners.sim : owners.card;
+}
+
+bool MessageStore::knows(const Message &message) const
+{
+    return std::ranges::any_of(message.parts, [&](const MessagePart &part) {
+        const QString identity = partIdentity(message, part);
+        return !d->computer.withPart(identity).isEmpty() || !d->mirror.withPart(identity).isEmpty();
+    });
 }
 
 MessageStore::Imported MessageStore::import(std::vector<Message> messages)

@@ -60,6 +60,8 @@ public:
     /// Begins to read both files; `sigLoaded` follows. What is added before that waits for it.
     void load();
     bool isLoaded() const;
+    /// True once all that was changed is on disk; what could not be written is tried again.
+    QFuture<bool> written();
     /// Waits until all that was changed is written, or failed to be. False when it failed.
     bool flush();
 
@@ -74,9 +76,6 @@ public:
 
     /// To `Deleted`. Only the computer's; those in `Deleted` already are left alone.
     QFuture<bool> remove(const QStringList &ids);
-    bool canUndo() const;
-    /// Takes the last removal back that was not taken back yet. Returns the ids.
-    QStringList undo();
     /// Back to where they were deleted from.
     QFuture<bool> restore(const QStringList &ids);
     /// Out of the store, for good.
@@ -85,8 +84,13 @@ public:
     /// Files the report, and marks the part that it is about. Before `sigLoaded` nothing is known of a match.
     Reported applyReport(const StatusReport &report);
 
-    /// Replaces what is known of the SIM or the card by a new listing. What was there keeps its id.
-    QFuture<bool> replaceMirror(MessagePlace place, std::vector<Message> messages);
+    /// Replaces what is known of the SIM or the card by a new listing. What was there keeps its id. `owner`:
+    /// whose SIM, or which card it is, as digits; empty when not known.
+    QFuture<bool> replaceMirror(MessagePlace place, std::vector<Message> messages, const QString &owner = {});
+    /// That of the last listing, also of an earlier run.
+    QString mirrorOwner(MessagePlace place) const;
+    /// Whether a received part of it is on the computer or was in the last listing.
+    bool knows(const Message &message) const;
 
     /// Adds what was exported, here or elsewhere. Never doubles what is here. None before `sigLoaded`.
     Imported import(std::vector<Message> messages);
@@ -126,6 +130,8 @@ Q_SIGNALS:
     void sigRemoved(const QStringList &ids);
     /// A sentence: a file could not be read in full, or not be written.
     void sigError(const QString &text);
+    /// A file could be written, the first time after it could not.
+    void sigWrittenAgain();
 
 private:
     class Private;

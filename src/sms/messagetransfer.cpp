@@ -102,7 +102,9 @@ QFuture<QString> exportMessages(const std::vector<Message> &messages, const QStr
 {
     const auto promise = std::make_shared<QPromise<QString>>();
     promise->start();
-    QThreadPool::globalInstance()->start([promise, path, messages] {
+    QThreadPool::globalInstance()->start([promise, path, messages = messages]() mutable {
+        for (Message &message : messages) // whose SIM it was is nobody else's business
+            message.subscriber.clear();
         const bool isTable = QFileInfo(path).suffix().compare("csv"_L1, Qt::CaseInsensitive) == 0;
         QString error;
         writeFileSafely(path, isTable ? messagesCsv(messages) : messagesJson(messages), &error);

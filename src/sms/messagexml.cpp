@@ -21,6 +21,8 @@ constexpr QLatin1StringView numberName = "number"_L1;
 constexpr QLatin1StringView partName = "part"_L1;
 constexpr QLatin1StringView versionName = "version"_L1;
 constexpr QLatin1StringView formatVersion = "1"_L1;
+constexpr QLatin1StringView simName = "sim"_L1;
+constexpr QLatin1StringView cardName = "card"_L1;
 
 template <typename Record>
 void writeFields(QXmlStreamWriter &writer, const Record &record, std::span<const RecordField<Record>> fields)
@@ -65,6 +67,8 @@ public:
             note(u"this is another kind of file"_s);
         else if (QLatin1StringView(root.attribute(versionName.data()).value()) != formatVersion)
             note(u"the file is of another version"_s);
+        parsed.owners = {textOf(root.attribute(simName.data()).value()),
+                         textOf(root.attribute(cardName.data()).value())};
         for (const pugi::xml_node node : root.children()) {
             if (isNamed(node, messageName))
                 parsed.messages.push_back(readMessage(node));
@@ -126,6 +130,15 @@ private:
     }
 };
 
+/// Empty for an empty text.
+QByteArray rootAttribute(QLatin1StringView name, const QString &text)
+{
+    if (text.isEmpty())
+        return {};
+    return ' ' + QByteArray(name.data(), name.size()) + "=\"" + escapedText(text).toHtmlEscaped().toUtf8() +
+           '"';
+}
+
 /// Where the next message begins in a file of any kind; -1 behind the last.
 qsizetype nextMessage(const QByteArray &bytes, qsizetype from)
 {
@@ -182,9 +195,10 @@ QByteArray messageXml(const Message &message)
     return bytes;
 }
 
-QByteArray storeXmlHead()
+QByteArray storeXmlHead(const PlaceOwners &owners)
 {
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<messages version=\"1\">\n";
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<messages version=\"1\"" +
+           rootAttribute(simName, owners.sim) + rootAttribute(cardName, owners.card) + ">\n";
 }
 
 QByteArray storeXmlTail()
@@ -196,13 +210,14 @@ ParsedMessages parseStoreXml(const QByteArray &bytes)
 {
     StoreReader reader;
     if (!QUtf8StringView(bytes).isValidUtf8())
-        return {salvage(bytes), u"bytes that are no text"_s};
+        return {salvage(bytes), {}, u"bytes that are no text"_s};
     QByteArray scratch = bytes;
     pugi::xml_document document;
     const pugi::xml_parse_result result = document.load_buffer_inplace(scratch.data(), size_t(scratch.size()),
                                                                        parseOptions, pugi::encoding_utf8);
     if (!result)
         return {salvage(bytes),
+                {},
                 u"at byte %1: %2"_s.arg(result.offset).arg(QLatin1StringView(result.description()))};
     reader.readStore(document);
     return std::move(reader.parsed);

@@ -8,9 +8,18 @@
 namespace corva
 {
 
+/// Whose messages a listing of the SIM and the card were, as digits: the IMSI and the IMEI. Empty when not
+/// known.
+struct PlaceOwners {
+    QString sim;
+    QString card;
+    bool operator==(const PlaceOwners &) const = default;
+};
+
 /// What a file said, as far as it could be read; `problem` says for the log why that is not all of it.
 struct ParsedMessages {
     std::vector<Message> messages;
+    PlaceOwners owners;
     QString problem;
 };
 
@@ -23,7 +32,7 @@ struct ParsedMessages {
 ///
 /// What has its default is left out. Texts are escaped as `escapedText` does.
 QByteArray messageXml(const Message &message);
-QByteArray storeXmlHead();
+QByteArray storeXmlHead(const PlaceOwners &owners = {});
 QByteArray storeXmlTail();
 
 /// Reads a store's file. In one that is damaged each message is looked for by itself, so that only those that

@@ -2,10 +2,10 @@
 #include "sms/sendqueue.h"
 
 #include "link/cardworker.h"
-#include "shell/commoncfg.h"
 #include "shell/whendone.h"
 #include "sms/concatreference.h"
 #include "sms/messagestore.h"
+#include "sms/queuedparts.h"
 
 #include <QTimer>
 
@@ -14,7 +14,6 @@
 #include <iterator>
 #include <utility>
 
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace corva
@@ -24,186 +23,6 @@ namespace
 {
 
 constexpr auto pauseWithoutCard = 2s;
-
-TextCoding configuredCoding()
-{
-    return TextCoding::fromSpecialCode(cmcfg.getValue(u"sms"_s, u"specialcode"_s));
-}
-
-/// One part for each piece of the text.
-std::vector<MessagePart> partsFor(int recipient, const SplitText &split, bool asksReport)
-{
-    std::vector<MessagePart> parts;
-    for (int i = 0; i < int(split.parts.size()); ++i) {
-        MessagePart part;
-        part.sequence = i + 1;
-        part.recipient = recipient;
-        part.text = split.parts[std::size_t(i)];
-        part.asksReport = asksReport && i + 1 == int(split.parts.size());
-        part.state = DeliveryState::Queued;
-        parts.push_back(part);
-    }
-    return parts;
-}
-
-int countOf(const Message &message, DeliveryState state)
-{
-    return int(std::ranges::count(message.parts, state, &MessagePart::state));
-}
-
-/// The whole text, as it was split.
-QString wholeText(const Message &message, int recipient)
-{
-    QString text;
-    for (const MessagePart &part : message.parts) {
-        if (part.recipient == recipient)
-            text += part.text;
-    }
-    return text;
-}
-
-smsjobs::OutgoingPart outgoing(const Message &message, int part, const QString &serviceCentre)
-{
-    const MessagePart &chosen = message.parts[std::size_t(part)];
-    return {
-        .split = splitText(wholeText(message, chosen.recipient), configuredCoding()),
-        .index = chosen.sequence - 1,
-        .recipient = message.recipients.value(chosen.recipient),
-        .serviceCentre = serviceCentre,
-        .concatReference = std::max(message.concatReference, 0),
-        .asksReport = chosen.asksReport,
-    };
-}
-
-/// Whether the text still splits as it did when it was queued: the national tables may have changed since.
-bool isSplitAsQueued(const Message &message, int recipient, const SplitText &split)
-{
-    const auto isSame = [&](const MessagePart &part) {
-        return part.recipient != recipient ||
-               (part.sequence >= 1 && part.sequence <= int(split.parts.size()) &&
-                split.parts[std::size_t(part.sequence - 1)] == part.text);
-    };
-    const auto count = std::ranges::count(message.parts, recipient, &MessagePart::recipient);
-    return std::size_t(count) == split.parts.size() && std::ranges::all_of(message.parts, isSame);
-}
-
-/// What was not sent of a recipient's message stays unsent when one of its parts failed: half a message helps
-/// nobody.
-void failRest(Message &message, int recipient)
-{
-    for (MessagePart &part : message.parts) {
-        if (part.recipient == recipient && part.state == DeliveryState::Queued)
-            part.state = DeliveryState::Failed;
-    }
-}
-
-void failQueued(Message &message)
-{
-    for (MessagePart &part : message.parts) {
-        if (part.state == DeliveryState::Queued)
-            part.state = DeliveryState::Failed;
-    }
-}
-
-/// What can be sent again: it is in the outbox, or it went out and its report says that it did not arrive.
-bool maySendAgain(const Message &message)
-{
-    return message.place == MessagePlace::Computer &&
-           (message.box == MessageBox::Outbox || message.box == MessageBox::Sent);
-}
-
-/// Whether all that goes to that recipient is there.
-bool isWhole(const Message &message, int recipient)
-{
-    int next = 1;
-    for (const MessagePart &part : message.parts) {
-        if (part.recipient == recipient && part.sequence != next++)
-            return false;
-    }
-    return next > 1;
-}
-
-/// Whether nothing of it can have reached that recipient.
-bool isUntried(const Message &message, int recipient)
-{
-    return std::ranges::all_of(message.parts, [=](const MessagePart &part) {
-        const bool isUnsent = part.state == DeliveryState::Failed || part.state == DeliveryState::Queued;
-        return part.recipient != recipient || (isUnsent && part.reference < 0);
-    });
-}
-
-/// Cuts the text to that recipient as the alphabet's settings ask for it now.
-void splitAnew(Message &message, int recipient)
-{
-    const SplitText split = splitText(wholeText(message, recipient), configuredCoding());
-    if (!split.isSendable() || isSplitAsQueued(message, recipient, split))
-        return;
-    const auto isMine = [=](const MessagePart &part) { return part.recipient == recipient; };
-    const bool asksReport = std::ranges::any_of(
-        message.parts, [&](const MessagePart &part) { return isMine(part) && part.asksReport; });
-    const auto place = std::ranges::find_if(message.parts, isMine) - message.parts.begin();
-    std::erase_if(message.parts, isMine);
-    const std::vector<MessagePart> parts = partsFor(recipient, split, asksReport);
-    message.parts.insert(message.parts.begin() + place, parts.begin(), parts.end());
-    if (recipient == 0)
-        message.total = int(parts.size());
-    if (parts.size() > 1 && message.concatReference < 0)
-        message.concatReference = nextConcatReference();
-}
-
-/// A part that is on its way is known by its number: nothing moves then.
-void splitAnew(Message &message)
-{
-    if (countOf(message, DeliveryState::Sending) > 0)
-        return;
-    for (int recipient = 0; recipient < int(message.recipients.size()); ++recipient) {
-        if (isWhole(message, recipient) && isUntried(message, recipient))
-            splitAnew(message, recipient);
-    }
-}
-
-void queueAgain(Message &message)
-{
-    splitAnew(message);
-    for (MessagePart &part : message.parts) {
-        if (part.state != DeliveryState::Failed && part.state != DeliveryState::Unsure)
-            continue;
-        part.state = DeliveryState::Queued;
-        part.errorCode = part.statusOctet = -1;
-        part.fault.clear();
-        part.reference = -1; // a late report on the first try is not about the next one
-        part.reported = {};
-        message.box = MessageBox::Outbox;
-    }
-}
-
-DeliveryState stateBehind(smsjobs::SentPart::Outcome outcome)
-{
-    using enum smsjobs::SentPart::Outcome;
-    if (outcome == Sent)
-        return DeliveryState::Sent;
-    return outcome == Unsure ? DeliveryState::Unsure : DeliveryState::Failed;
-}
-
-void takeOutcome(Message &message, int part, const smsjobs::SentPart &sent)
-{
-    MessagePart &chosen = message.parts[std::size_t(part)];
-    chosen.pdu = sent.pdu;
-    chosen.state = stateBehind(sent.outcome);
-    chosen.reference = sent.reference;
-    chosen.errorCode = sent.error.code;
-    chosen.fault = chosen.state == DeliveryState::Failed && chosen.errorCode < 0 ? sent.fault : QString();
-    if (chosen.state == DeliveryState::Sent)
-        chosen.sent = message.time = QDateTime::currentDateTime();
-    else if (chosen.state == DeliveryState::Failed)
-        failRest(message, chosen.recipient);
-    const auto isOut = [](const MessagePart &each) {
-        return each.state == DeliveryState::Sent || each.state == DeliveryState::Delivered ||
-               each.state == DeliveryState::StillTrying;
-    };
-    if (std::ranges::all_of(message.parts, isOut))
-        (message.box == MessageBox::Deleted ? message.deletedFrom : message.box) = MessageBox::Sent;
-}
 
 } // namespace
 
@@ -236,21 +55,24 @@ void SendQueue::resume()
                     part.state = DeliveryState::Unsure;
             }
         });
-        enqueue(id);
+        m_left += id;
     }
     pump();
 }
 
 void SendQueue::begin(const QString &subscriber)
 {
-    const bool isAnother =
-        !m_subscriber.isEmpty() && !subscriber.isEmpty() && subscriber != m_subscriber && !m_waiting.empty();
-    if (isAnother) { // it may cost somebody else, and name another sender
+    m_isSubscriberThere = !subscriber.isEmpty();
+    const bool isOther = m_isSubscriberThere && subscriber != m_subscriber;
+    // With another SIM it may cost somebody else, and name another sender.
+    const bool hasGivenUp = isOther && !m_subscriber.isEmpty() && !m_waiting.empty();
+    if (hasGivenUp)
         giveUpWaiting();
-        Q_EMIT sigRefused(tr("There is another SIM in the card. What waited was not sent."));
-    }
-    if (!subscriber.isEmpty())
+    if (m_isSubscriberThere)
         m_subscriber = subscriber;
+    takeUpLeft();
+    if (hasGivenUp || (isOther && !m_left.isEmpty()))
+        Q_EMIT sigRefused(tr("There is another SIM in the card. What waited was not sent."));
     m_isReady = true;
     pump();
 }
@@ -267,6 +89,7 @@ bool SendQueue::add(const OutgoingSms &sms)
     message.isRead = true;
     message.total = int(split.parts.size());
     message.asksReport = sms.asksReport;
+    message.subscriber = m_subscriber;
     for (int recipient = 0; recipient < int(sms.recipients.size()); ++recipient)
         std::ranges::copy(partsFor(recipient, split, sms.asksReport), std::back_inserter(message.parts));
     if (message.total > 1)
@@ -305,7 +128,11 @@ void SendQueue::retry(const QStringList &ids)
         if (!message || !maySendAgain(*message))
             continue;
         const int before = countOf(*message, DeliveryState::Queued);
-        m_store->change(id, queueAgain);
+        m_store->change(id, [this](Message &changed) {
+            queueAgain(changed);
+            changed.subscriber = m_subscriber;
+        });
+        m_left.removeOne(id);
         if (std::ranges::find(m_waiting, id) != m_waiting.end()) { // more of what is counted already
             const auto now = m_store->find(id);
             m_progress.totalParts += now ? countOf(*now, DeliveryState::Queued) - before : 0;
@@ -326,16 +153,45 @@ void SendQueue::enqueue(const QString &id)
     m_progress.totalParts += parts;
 }
 
+bool SendQueue::mayGoOut(const Message &message) const
+{
+    return message.subscriber.isEmpty() || (m_isSubscriberThere && message.subscriber == m_subscriber);
+}
+
+void SendQueue::leaveWaiting(const Message &message)
+{
+    if (!m_left.contains(message.id))
+        m_left += message.id;
+    m_progress.totalParts -= countOf(message, DeliveryState::Queued);
+}
+
+/// What was left and may go out now; nothing as long as it is not known whose SIM it is.
+void SendQueue::takeUpLeft()
+{
+    if (!m_isSubscriberThere)
+        return;
+    for (const QString &id : std::exchange(m_left, {})) {
+        const auto message = m_store->find(id);
+        if (message && !mayGoOut(*message) && countOf(*message, DeliveryState::Queued) > 0)
+            m_left += id;
+        else
+            enqueue(id);
+    }
+}
+
 SendQueue::Target SendQueue::next()
 {
     while (!m_waiting.empty()) {
         const QString id = m_waiting.front();
         if (const auto message = m_store->find(id); message && message->box == MessageBox::Outbox) {
             const auto part = std::ranges::find(message->parts, DeliveryState::Queued, &MessagePart::state);
-            if (part != message->parts.end())
+            if (part != message->parts.end() && mayGoOut(*message))
                 return {id, int(part - message->parts.begin())};
+            if (part != message->parts.end())
+                leaveWaiting(*message);
+        } else {
+            m_store->change(id, failQueued); // deleted while it waited: put back, it waits for the person
         }
-        m_store->change(id, failQueued); // deleted while it waited: put back, it waits for the person
         m_waiting.pop_front();
     }
     return {};
@@ -360,15 +216,17 @@ void SendQueue::sendOne(const Target &target)
     m_progress.isActive = true;
     m_progress.recipient = message->recipients.value(recipient);
     tell();
-    const auto marked = m_store->change(target.id, [part = target.part](Message &changed) {
+    const auto marked = m_store->change(target.id, [this, part = target.part](Message &changed) {
         changed.parts[std::size_t(part)].state = DeliveryState::Sending;
+        if (m_isSubscriberThere) // the rest of it goes out with the same SIM
+            changed.subscriber = m_subscriber;
     });
     whenDone(marked, this, [this, target](std::optional<bool> isMarked) {
-        if (!m_isReady) { // the card went, or the program ends
+        const auto current = m_store->find(target.id);
+        if (!m_isReady || (current && !mayGoOut(*current))) { // the card or its SIM went, or the program ends
             putBack(target);
             return;
         }
-        const auto current = m_store->find(target.id);
         if (!isMarked.value_or(false) || !current) {
             refuse(target, tr("The message could not be written to disk."));
             return;

@@ -21,7 +21,9 @@ std::vector<smsjobs::OutgoingPart> draftParts(const Message &message, const QStr
 /// Sends what waits in the outbox, part by part. Every part is on disk as "being sent" before it goes out and
 /// with its outcome before the next. A part in that state after a crash, or one that the card took and never
 /// answered for, may have gone out: it is never sent again unasked, and does not hold up those behind it.
-/// What waits while the card goes is sent when it is back with the same SIM.
+/// What waits while the card goes is sent when it is back with the same SIM. What an earlier run left goes
+/// out with the SIM that it was queued for, and waits for as long as another one, or none that is known, is
+/// there.
 class SendQueue final : public QObject
 {
     Q_OBJECT
@@ -31,8 +33,8 @@ public:
 
     /// After the store was read: takes up what an earlier run left.
     void resume();
-    /// The card takes messages from now on, for the SIM of this subscriber, empty when not known. Nothing
-    /// goes out before.
+    /// The card takes messages from now on, with the SIM of this subscriber, the IMSI, empty when not known.
+    /// Nothing goes out before.
     void begin(const QString &subscriber);
     void pause() { m_isReady = false; }
     void setServiceCentre(const QString &number) { m_serviceCentre = number; }
@@ -59,6 +61,9 @@ private:
     };
 
     void enqueue(const QString &id);
+    bool mayGoOut(const Message &message) const;
+    void leaveWaiting(const Message &message);
+    void takeUpLeft();
     void pump();
     Target next();
     void sendOne(const Target &target);
@@ -75,7 +80,9 @@ private:
     MessageStore *m_store;
     QString m_serviceCentre;
     QString m_subscriber;                       ///< for whose SIM the waiting ones were begun
+    bool m_isSubscriberThere = false;           ///< the card has that SIM, as far as it told
     std::deque<QString> m_waiting;              ///< ids, the oldest first
+    QStringList m_left;                         ///< the same of what waits for its SIM
     std::set<std::pair<QString, int>> m_sent;   ///< message and recipient of this run
     std::set<std::pair<QString, int>> m_failed; ///< the same
     SendProgress m_progress;

@@ -8,6 +8,7 @@
 #include "sms/messagestore.h"
 #include "sms/smsfiling.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QTimer>
 
@@ -191,7 +192,9 @@ void SmsReception::takeImmediate(const QByteArray &text)
 
 void SmsReception::displayClass0Sms(const Message &message)
 {
-    Q_EMIT sigClass0(message.recipients.value(0), message.error.isEmpty() ? message.text() : message.error,
+    const QString sender = message.recipients.value(
+        0, QCoreApplication::translate("Messages", "Unknown sender")); // its PDU cannot be read
+    Q_EMIT sigClass0(sender, message.error.isEmpty() ? message.text() : message.error,
                      message.parts.front().pdu, message);
 }
 

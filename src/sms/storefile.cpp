@@ -3,7 +3,6 @@
 
 #include "shell/logging.h"
 #include "shell/safefile.h"
-#include "sms/messagexml.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -35,15 +34,16 @@ QString keepCopy(const QString &path, const QByteArray &bytes, QString *error)
     return writeFileSafely(name, bytes, error) ? name : QString();
 }
 
-QByteArray storeBytes(const std::vector<RecordPtr> &records)
+QByteArray storeBytes(const PlaceOwners &owners, const std::vector<RecordPtr> &records)
 {
     StoreFile::prepare(records);
-    qsizetype size = storeXmlHead().size() + storeXmlTail().size();
+    const QByteArray head = storeXmlHead(owners);
+    qsizetype size = head.size() + storeXmlTail().size();
     for (const RecordPtr &record : records)
         size += record->xml.size();
     QByteArray bytes;
     bytes.reserve(size);
-    bytes += storeXmlHead();
+    bytes += head;
     for (const RecordPtr &record : records)
         bytes += record->xml;
     return bytes += storeXmlTail();
@@ -84,6 +84,7 @@ std::vector<Message> StoreFile::read()
     ParsedMessages parsed;
     if (!bytes.isNull())
         parsed = parseStoreXml(bytes);
+    setOwners(parsed.owners);
     if (!bytes.isNull() && parsed.problem.isEmpty())
         return parsed.messages;
     qCWarning(lcShell).noquote() << logTime() + m_path << parsed.problem;
@@ -120,6 +121,18 @@ bool StoreFile::keepDamaged(QString *error)
     return m_isKept;
 }
 
+void StoreFile::setOwners(const PlaceOwners &owners)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_owners = owners;
+}
+
+PlaceOwners StoreFile::owners() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_owners;
+}
+
 void StoreFile::write(const QList<RecordPtr> &records, const TicketPtr &ticket)
 {
     const std::scoped_lock lock(m_mutex);
@@ -137,6 +150,7 @@ void StoreFile::enqueue(const QList<RecordPtr> &records, const TicketPtr &ticket
 {
     if (!m_order)
         m_order.emplace();
+    m_order->owners = m_owners;
     m_order->records.assign(records.begin(), records.end());
     ticket->hold();
     m_order->waiting.push_back(ticket);
@@ -157,7 +171,7 @@ std::optional<StoreFile::Order> StoreFile::next()
 void StoreFile::run()
 {
     while (std::optional<Order> order = next()) {
-        const bool isWritten = carryOut(order->records);
+        const bool isWritten = carryOut(*order);
         {
             const std::scoped_lock lock(m_mutex);
             m_isWritten = isWritten;
@@ -167,11 +181,11 @@ void StoreFile::run()
     }
 }
 
-bool StoreFile::carryOut(const std::vector<RecordPtr> &records)
+bool StoreFile::carryOut(const Order &order)
 {
     QString error;
-    const bool isWritten =
-        (m_isKept || keepDamaged(&error)) && writeFileSafely(m_path, storeBytes(records), &error);
+    const bool isWritten = (m_isKept || keepDamaged(&error)) &&
+                           writeFileSafely(m_path, storeBytes(order.owners, order.records), &error);
     // Said once, not with every message that comes while the disk is full.
     if (!isWritten && error != m_lastError) {
         qCWarning(lcShell).noquote() << logTime() + error;
@@ -180,6 +194,9 @@ bool StoreFile::carryOut(const std::vector<RecordPtr> &records)
     m_lastError = error;
     if (!isWritten)
         m_listener.notWritten();
+    else if (std::exchange(m_hasFailed, false))
+        m_listener.writtenAgain();
+    m_hasFailed = !isWritten;
     return isWritten;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sms/messagetable.h"
+#include "sms/messagexml.h"
 
 #include <QFuture>
 #include <QPromise>
@@ -39,7 +40,8 @@ public:
     /// Called on the pool's thread.
     struct Listener {
         std::function<void(const QString &sentence)> sayError;
-        std::function<void()> notWritten; ///< each time that the file could not be written
+        std::function<void()> notWritten;   ///< each time that the file could not be written
+        std::function<void()> writtenAgain; ///< the first time after that
     };
 
     /// `pool` has one thread.
@@ -50,6 +52,10 @@ public:
     std::vector<Message> read();
     /// Whether what was read has to be written again, the file being damaged.
     bool isDamaged() const { return m_isDamaged; }
+
+    /// Any thread. What stands beside the messages, from the next write on.
+    void setOwners(const PlaceOwners &owners);
+    PlaceOwners owners() const;
 
     /// On the pool's thread. Makes the first write as fast as the others.
     static void prepare(const std::vector<RecordPtr> &records);
@@ -62,6 +68,7 @@ public:
 
 private:
     struct Order {
+        PlaceOwners owners;
         std::vector<RecordPtr> records; ///< not the table's own list: that one changes meanwhile
         std::vector<TicketPtr> waiting;
     };
@@ -69,7 +76,7 @@ private:
     void enqueue(const QList<RecordPtr> &records, const TicketPtr &ticket);
     std::optional<Order> next();
     void run();
-    bool carryOut(const std::vector<RecordPtr> &records);
+    bool carryOut(const Order &order);
     bool keepDamaged(QString *error);
 
     const QString m_path;
@@ -81,8 +88,10 @@ private:
     bool m_isKept = true;
     QByteArray m_damagedBytes; ///< null when the file could not be read at all
     QString m_lastError;
+    bool m_hasFailed = false; ///< the last time
 
-    std::mutex m_mutex; ///< guards what follows
+    mutable std::mutex m_mutex; ///< guards what follows
+    PlaceOwners m_owners;
     std::optional<Order> m_order;
     bool m_isRunning = false;
     bool m_isWritten = true;

@@ -109,9 +109,9 @@ private Q_SLOTS:
         const ParsedMessages stored = parseStoreXml(storeXml(messages));
         QCOMPARE(stored.problem, QString());
         QVERIFY(stored.messages == messages);
-        const ExportedMessages json = parseExport(messagesJson(messages));
+        const ExportedMessages json = parseMessagesJson(messagesJson(messages));
         QVERIFY(json.messages == messages);
-        const ExportedMessages csv = parseExport(messagesCsv(messages));
+        const ExportedMessages csv = parseMessagesCsv(messagesCsv(messages));
         QCOMPARE(json.unreadable + csv.unreadable, 0);
         QCOMPARE(csv.messages.size(), messages.size());
         QVERIFY(csv.messages == messages);
@@ -222,6 +222,14 @@ private Q_SLOTS:
         row("a number that is none",
             "number,time,text\n\"+492\n" + QByteArray(2000, 'x') +
                 "\",,no\n+491,2024-05-03T10:00:00,one; two\n",
+            {both}, 1);
+        row("control characters",
+            "number,time,text\n+49\x07\x1b"
+            "1,2024-05-03T10:00:00,one\x7f;\x01 two",
+            {both}, 0);
+        row("neither number nor text", R"({"format": "messages", "version": 1, "messages": [
+            {"numbers": ["\u0000"], "parts": [{"text": "\u0007"}]},
+            {"numbers": ["+491"], "time": "2024-05-03T10:00:00", "parts": [{"text": "one; two"}]}]})",
             {both}, 1);
         row("empty rows", "number,time,text\n,,\n+491,2024-05-03T10:00:00,one; two\n", {both}, 1);
     }

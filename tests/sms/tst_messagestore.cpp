@@ -305,26 +305,6 @@ private Q_SLOTS:
         QCOMPARE(store->find(reported.reportId)->about, id);
     }
 
-    void takesRemovalsBack()
-    {
-        LoadedStore store(m_folder->path());
-        Message draft = received(alice, u"draft"_s, 3);
-        draft.box = MessageBox::Drafts;
-        const QStringList ids =
-            store->insert({received(alice, u"a"_s), received(alice, u"b"_s, 1), draft}).ids;
-        store->remove({ids[0], ids[2]});
-        store->remove({ids[1], ids[0], u"nobody"_s});
-        QCOMPARE(store->ids(MessageBox::Deleted).size(), 3);
-        QCOMPARE(store->undo(), QStringList{ids[1]});
-        store->purge({ids[0]});
-        QVERIFY(store->canUndo());
-        QCOMPARE(store->undo(), QStringList{ids[2]});
-        QCOMPARE(store.texts(MessageBox::Drafts), QStringList{u"draft"_s});
-        QVERIFY(!store->canUndo());
-        QCOMPARE(store->undo(), QStringList());
-        QVERIFY(!store->find(ids[0]));
-    }
-
     void mirrorsWhatIsListed()
     {
         LoadedStore store(m_folder->path());

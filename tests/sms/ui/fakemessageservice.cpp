@@ -21,6 +21,7 @@ public:
     std::array<PlaceState, 3> places = {};
     QList<int> channels = {50};
     QString centre = u"+4917"_s;
+    QList<QStringList> removals = {};
 };
 
 } // namespace corva
@@ -166,12 +167,16 @@ void MessageService::moveTo(const QStringList &ids, MessagePlace place)
 int MessageService::removeMessages(const QStringList &ids)
 {
     d->store->remove(ids);
+    d->removals += ids;
     return int(ids.size());
 }
 
 bool MessageService::undoRemoval()
 {
-    return !d->store->undo().isEmpty();
+    if (d->removals.isEmpty())
+        return false;
+    d->store->restore(d->removals.takeLast());
+    return true;
 }
 
 void MessageService::setRead(const QStringList &ids, bool isRead)
