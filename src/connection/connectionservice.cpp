@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/connectionservice.h"
 
+#include "connection/datacall.h"
 #include "connection/dialleroptions.h"
 #include "connection/endsentence.h"
 #include "connection/idlemonitor.h"
@@ -10,6 +11,7 @@
 #include "connection/redial.h"
 #include "connection/simprofile.h"
 #include "device/cardmonitor.h"
+#include "link/cardworker.h"
 #include "shell/logging.h"
 
 #include <utility>
@@ -67,6 +69,7 @@ public:
     void endRow();
     void autoConnect(const CardState &card);
     void takeCard(const CardState &card);
+    void endLeftDataCall(const CardState &card);
     void becameIdle();
     void refresh();
     void takeFacts(ConnectionStatus &status) const;
@@ -87,6 +90,7 @@ public:
     DialPermission given;
     bool isCallUp = false;
     bool wasReady = false;
+    bool wasKnown = false;      ///< the card, by its identity
     bool hasToldOfCard = false; ///< in this row of redials
     bool isShutDown = false;
 };
@@ -341,7 +345,19 @@ void ConnectionService::Private::takeCard(const CardState &card)
     if (isGone && link)
         link->end(
             {ConnectionEnd::CardGone, -1, tr("The device has been disconnected or is unavailable."), {}});
+    endLeftDataCall(card);
     autoConnect(card);
+}
+
+/// A killed run, or a card that was gone, leaves a data call up that nobody uses.
+void ConnectionService::Private::endLeftDataCall(const CardState &card)
+{
+    const bool isKnown = card.modemReady && !card.identity.model.isEmpty();
+    const bool becameKnown = isKnown && !wasKnown;
+    wasKnown = isKnown;
+    if (becameKnown && !link && DataCall::isNoted())
+        monitor->worker().submit(
+            [imei = card.identity.imei](SerialThread &port) { DataCall::endNoted(port, imei); });
 }
 
 /// Dials once for each time that a card becomes ready.

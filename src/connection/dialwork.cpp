@@ -5,8 +5,10 @@
 #include "connection/processsession.h"
 #include "connection/rootowned.h"
 #include "shell/logging.h"
+#include "shell/safefile.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 
@@ -22,6 +24,7 @@ namespace
 constexpr auto longestRouteHelper = 10s;
 constexpr auto longestScripts = 5s;
 constexpr auto scriptsLook = 100ms;
+constexpr qint64 longestInterfaceName = 15;
 
 bool endsALink(DialVerb verb)
 {
@@ -128,6 +131,8 @@ void DialWork::carryOut(DialRequest request)
             break;
         }
         m_leased = request.interfaceName;
+        if (QString why; !writeFileSafely(leaseNote(), m_leased.toUtf8(), &why))
+            qCWarning(lcConnection).noquote() << logTime() + why;
         m_dhcp.lease(request.interfaceName);
         break;
     case DialVerb::Release:
@@ -146,14 +151,27 @@ void DialWork::dial()
         answer(false, error);
 }
 
-/// A dialler that outlived the program which started it still uses the files.
-/// `slotWaitWvdialCloseReconnect` follows.
+/// Which interface has its address from here, for the next start should this program be killed. The next boot
+/// knows nothing of it, and need not.
+QString DialWork::leaseNote() const
+{
+    return QFileInfo(m_files.files().lock).path() + u"/corva-dialler.lease"_s;
+}
+
+/// A dialler that outlived the program which started it still uses the files, and a DHCP client renews its
+/// lease. `slotWaitWvdialCloseReconnect` follows.
 void DialWork::killWvdialReconnect()
 {
     m_isWritten = false;
-    if (m_files.hasLeftovers()) // nobody who lives has them in hand
+    QString leftLease;
+    if (m_files.hasLeftovers()) { // nobody who lives has them in hand
         m_wvdial.adoptLeftover();
-    m_wvdial.slotKillWvdial();
+        leftLease = QString::fromUtf8(readAtMost(leaseNote(), longestInterfaceName));
+    }
+    if (leftLease.isEmpty())
+        m_wvdial.slotKillWvdial();
+    else
+        m_dhcp.release(leftLease);
 }
 
 void DialWork::slotWaitWvdialCloseReconnect()
@@ -175,7 +193,13 @@ void DialWork::leaseDone(const QString &error)
     if (!m_isBusy)
         return;
     const bool isLease = isAskingForLease();
-    const bool isCancelled = isLease && isEndWaiting();
+    const bool isCancelled = isLease && isEndWaiting(); // and given back at once
+    if (!isLease || isCancelled)
+        QFile::remove(leaseNote());
+    if (!isLease && m_requests.front().verb != DialVerb::Release) { // an earlier run's
+        m_wvdial.slotKillWvdial();
+        return;
+    }
     // The resolver file that stands there now is this link's, and goes with it.
     if (isLease && error.isEmpty() && m_hasSaved)
         m_files.noteResolver();

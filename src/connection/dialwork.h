@@ -51,6 +51,7 @@ private:
     bool isEndWaiting() const; ///< what ends a link waits to be carried out
     void dial();
     void killWvdialReconnect();
+    QString leaseNote() const;
     void slotWaitWvdialCloseReconnect();
     void leaseDone(const QString &error);
     void saveFiles();
