@@ -158,7 +158,10 @@ void DataLink::setUp()
     m_watch.start(upPeriod);
     if (m_plan.profile.isOn(ProfileField::UsesDns))
         useOwnNameServers();
-    m_backend.ask({.verb = DialVerb::RouteHelper}, [](const DialResult &) {});
+    m_backend.ask({.verb = DialVerb::RouteHelper}, [this, guard = QPointer(this)](const DialResult &result) {
+        if (guard && isUp() && !result.isDone())
+            Q_EMIT sigMessage(result.error);
+    });
     Q_EMIT sigUp();
 }
 

@@ -113,6 +113,7 @@ void DialWork::carryOut(DialRequest request)
             killWvdialReconnect();
         break;
     case DialVerb::Write:
+        m_hasDialled = false;
         m_isWritten =
             m_files.readDeafaultConfigData(request.profile, request.modemPort, request.options, &error);
         answer(m_isWritten, error);
@@ -147,8 +148,10 @@ void DialWork::carryOut(DialRequest request)
 void DialWork::dial()
 {
     QString error = QCoreApplication::translate("DiallerFiles", "Read default wvdial config data failed!");
-    if (!m_isWritten || !m_wvdial.slotStartWvdial(&error))
+    if (!m_isWritten || !m_wvdial.slotStartWvdial(m_hasDialled, &error))
         answer(false, error);
+    else
+        m_hasDialled = true;
 }
 
 /// Which interface has its address from here, for the next start should this program be killed. The next boot
@@ -245,7 +248,7 @@ void DialWork::runRouteHelper()
 {
     const QString &program = m_files.files().routeHelper;
     if (!QFileInfo(program).isExecutable() || !isAdministratorsOwn(program)) {
-        answer(!QFileInfo::exists(program), tr("The route helper is not run: others may write it."));
+        answer(!QFileInfo(program).isExecutable(), tr("The route helper is not run: others may write it."));
         return;
     }
     auto *helper = new QProcess(this);

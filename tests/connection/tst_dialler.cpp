@@ -161,6 +161,24 @@ private Q_SLOTS:
         other.waitForFinished();
     }
 
+    /// wvdial crashes, and is started once more: what it said stays to be read.
+    void crashedDiallersWordsStay()
+    {
+        tell(R"({"command": "dial-result", "result": "silence"})");
+        QVERIFY(m_service->connectNow());
+        for (const int run : {1, 2}) {
+            const auto said = [] {
+                QFile info(u"/tmp/connect_info"_s);
+                return info.open(QIODevice::ReadOnly) ? info.readAll() : QByteArray();
+            };
+            QTRY_COMPARE_WITH_TIMEOUT(said().count("Waiting for carrier"), run, patience);
+            if (run == 1)
+                kill(dialler().at(0), SIGKILL);
+        }
+        m_service->disconnectNow();
+        QTRY_COMPARE_WITH_TIMEOUT(m_service->status().state, ConnectionState::NotConnected, patience);
+    }
+
     /// Killed at a moment at which it cannot put anything back: the next start finds dialler and files.
     void killedWhileDialling()
     {
