@@ -68,7 +68,9 @@ void DataCall::endNoted(SerialThread &link, const QString &imei)
 {
     if (!isNoted())
         return; // a connection has come and gone meanwhile
-    if (readAtMost(notePath(), longestImei) == imei.toUtf8())
+    const QByteArray noted = readAtMost(notePath(), longestImei);
+    if (noted.isEmpty() ||
+        noted == imei.toUtf8()) // it may have been asked for before the card said who it is
         end(link, Activation::None);
     else
         QFile::remove(notePath());
