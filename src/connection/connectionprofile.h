@@ -64,6 +64,8 @@ public:
     bool isEditable() const;
     /// Whether the list shows it: anything but "0".
     bool isShown() const { return text(ProfileField::SectionShow) != u'0'; }
+    /// With which the IMSI of its SIMs begins; empty: of any.
+    QString imsiPrefix() const { return text(ProfileField::Imsi).trimmed(); }
     LinkKind linkKind() const;
     /// Whether the user name is asked for at each connection. A data call over the network card takes none.
     bool asksForUser() const;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/connectionservice.h"
 
+#include "connection/datacall.h"
 #include "connection/dialleroptions.h"
 #include "connection/endsentence.h"
 #include "connection/idlemonitor.h"
@@ -10,8 +11,13 @@
 #include "connection/redial.h"
 #include "connection/simprofile.h"
 #include "device/cardmonitor.h"
+#include "link/cardworker.h"
+#include "shell/globals.h"
 #include "shell/logging.h"
+#include "shell/safefile.h"
 
+#include <QCoreApplication>
+#include <QFileInfo>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -34,13 +40,30 @@ QUrl pageOf(const ConnectionProfile &profile)
     return isWebAddress(text) && !url.host().isEmpty() ? url : QUrl();
 }
 
+/// Which loss of the system's files the person has been told of.
+QString toldLossFile()
+{
+    return basePath + u"/Data/told-loss"_s;
+}
+
+/// A CDMA card may say nothing of a registration, and even nothing at all.
+bool hasNetwork(const CardState &card)
+{
+    const bool saysNothing = card.family == CardFamily::Cdma && card.registration == Registration::Unknown;
+    return card.registration == Registration::Home || card.registration == Registration::Roaming ||
+           (saysNothing && card.service != ServiceState::None);
+}
+
 } // namespace
 
 ConnectionParts::ConnectionParts()
     : backend(makeDiallerBackend()), facts([](const QString &interfaceName) {
           return linkFacts(interfaceName, DiallerOptions::fromConfiguration().resolverFile);
       }),
-      hasLeftovers([] { return DiallerFiles().hasLeftovers(); })
+      hasLeftovers([] { return DiallerFiles().hasLeftovers(); }), latestLoss([] {
+          const QFileInfo record(SystemFiles().lost);
+          return record.exists() ? record.lastModified().toString(Qt::ISODateWithMs) : QString();
+      })
 {
 }
 ConnectionParts::ConnectionParts(ConnectionParts &&) noexcept = default;
@@ -61,12 +84,17 @@ public:
     void tellOrRedial(const LinkOutcome &outcome, bool wasUp);
     void autoReConnWhenAbnormalDisconn();
     void slotAutoRedial();
+    void tellUntold();
+    void tellNotPutBack(const QString &sentence);
+    void tellOfLoss();
+    void endUndialled();
     void missCard();
     bool dialUnasked();
     void beginRow(const Redial::Row &row);
     void endRow();
     void autoConnect(const CardState &card);
     void takeCard(const CardState &card);
+    void endLeftDataCall(const CardState &card);
     void becameIdle();
     void refresh();
     void takeFacts(ConnectionStatus &status) const;
@@ -87,6 +115,9 @@ public:
     DialPermission given;
     bool isCallUp = false;
     bool wasReady = false;
+    bool wasKnown = false;      ///< the card, by its identity
+    bool wasAbroad = false;     ///< and ready otherwise
+    QString untold;             ///< why a link broke, while a row of redials may mend it
     bool hasToldOfCard = false; ///< in this row of redials
     bool isShutDown = false;
 };
@@ -202,6 +233,7 @@ void ConnectionService::Private::wentUp(const ConnectionProfile &profile)
 {
     const DiallerOptions options = DiallerOptions::fromConfiguration();
     redial.stop();
+    untold.clear();
     update([this](ConnectionStatus &status) {
         status.state = ConnectionState::Connected;
         status.since = QDateTime::currentDateTime();
@@ -264,10 +296,35 @@ void ConnectionService::Private::tellOrRedial(const LinkOutcome &outcome, bool w
         status.endSentence = sentence;
     });
     const QString message = outcome.message.isEmpty() && wasUp && isWorthIt ? sentence : outcome.message;
-    if (!message.isEmpty() && !dialsAgain)
+    untold = message;
+    if (!dialsAgain)
+        tellUntold();
+    // A file of the system's own: told whatever follows. Nobody sees it when the program ends; the next start
+    // finds it on record.
+    if (!outcome.notPutBack.isEmpty() && outcome.end != ConnectionEnd::ByProgram)
+        tellNotPutBack(outcome.notPutBack);
+}
+
+void ConnectionService::Private::tellUntold()
+{
+    if (const QString message = std::exchange(untold, {}); !message.isEmpty())
         Q_EMIT q->sigMessage(message);
-    if (!outcome.notPutBack.isEmpty()) // a file of the system's own: told whatever follows
-        Q_EMIT q->sigMessage(outcome.notPutBack);
+}
+
+void ConnectionService::Private::tellNotPutBack(const QString &sentence)
+{
+    if (const QString loss = parts.latestLoss(); !loss.isEmpty())
+        writeFileSafely(toldLossFile(), loss.toUtf8());
+    Q_EMIT q->sigMessage(sentence);
+}
+
+/// What a run lost that could not say so any more: it ended just then, or was killed.
+void ConnectionService::Private::tellOfLoss()
+{
+    constexpr qint64 longest = 64;
+    const QString loss = parts.latestLoss();
+    if (!loss.isEmpty() && readAtMost(toldLossFile(), longest) != loss.toUtf8())
+        tellNotPutBack(QCoreApplication::translate("DiallerFiles", "Recover wvdial config data failed!"));
 }
 
 /// What stays known of a link that is over.
@@ -296,17 +353,32 @@ void ConnectionService::Private::slotAutoRedial()
     if (q->obstacle() == ConnectObstacle::CardGone)
         missCard();
     else if (!dialUnasked())
-        endRow();
+        endUndialled();
     update([](ConnectionStatus &) {});
+}
+
+/// The row is over before its links have said all: what broke the last one is told now.
+void ConnectionService::Private::endUndialled()
+{
+    const bool asks = isRoaming(monitor->state()) && !given.mayRoam;
+    endRow();
+    tellUntold();
+    if (asks)
+        Q_EMIT q->sigRoamingAsked();
 }
 
 /// A dial of the row that has no card to go by: one box for the row, and the next dial.
 void ConnectionService::Private::missCard()
 {
+    const QString message = tr("The device has been disconnected or is unavailable.");
+    if (untold == message)
+        untold.clear();
     if (!std::exchange(hasToldOfCard, true))
-        Q_EMIT q->sigMessage(tr("The device has been disconnected or is unavailable."));
-    if (!redial.next())
-        given = {};
+        Q_EMIT q->sigMessage(message);
+    if (redial.next())
+        return;
+    given = {};
+    tellUntold();
 }
 
 /// Roaming costs, and a password has to be entered: there a person decides.
@@ -341,19 +413,40 @@ void ConnectionService::Private::takeCard(const CardState &card)
     if (isGone && link)
         link->end(
             {ConnectionEnd::CardGone, -1, tr("The device has been disconnected or is unavailable."), {}});
+    endLeftDataCall(card);
     autoConnect(card);
 }
 
-/// Dials once for each time that a card becomes ready.
+/// A killed run, or a card that was gone, leaves a data call up that nobody uses.
+void ConnectionService::Private::endLeftDataCall(const CardState &card)
+{
+    const bool isKnown = card.modemReady && !card.identity.model.isEmpty();
+    const bool becameKnown = isKnown && !wasKnown;
+    wasKnown = isKnown;
+    if (becameKnown && !link && DataCall::isNoted())
+        monitor->worker().submit(
+            [imei = card.identity.imei](SerialThread &port) { DataCall::endNoted(port, imei); });
+}
+
+/// Dials once for each time that a card becomes ready. Abroad it would cost: there the person is asked, once
+/// for that card as well.
 void ConnectionService::Private::autoConnect(const CardState &card)
 {
-    const bool isReady = card.presence == CardPresence::Ready && card.modemReady &&
-                         card.registration == Registration::Home && isSimKnown(*profiles, card.identity.imsi);
-    const bool becameReady = isReady && !wasReady;
-    wasReady = isReady || (wasReady && card.presence == CardPresence::Ready);
+    const bool isReady = card.presence == CardPresence::Ready && card.modemReady && hasNetwork(card) &&
+                         isSimKnown(*profiles, card.identity.imsi);
+    const bool isAbroad = isReady && isRoaming(card);
+    const bool isHome = isReady && !isAbroad;
+    const bool becameHome = isHome && !wasReady;
+    const bool becameAbroad = isAbroad && !wasAbroad && !wasReady;
+    wasReady = isHome || (wasReady && card.presence == CardPresence::Ready);
+    wasAbroad = isAbroad || (wasAbroad && card.presence == CardPresence::Ready);
     const DiallerOptions options = DiallerOptions::fromConfiguration();
-    if (!becameReady || !options.connectsByItself || link || redial.isActive())
+    if (!(becameHome || becameAbroad) || !options.connectsByItself || link || redial.isActive())
         return;
+    if (isAbroad) {
+        Q_EMIT q->sigRoamingAsked();
+        return;
+    }
     given = {};
     beginRow(options.automatic);
     update([](ConnectionStatus &) {});
@@ -412,15 +505,19 @@ void ConnectionService::shutDown()
 
 void ConnectionService::recoverLeftovers()
 {
-    if (!d->parts.hasLeftovers())
+    if (!d->parts.hasLeftovers()) {
+        d->tellOfLoss();
         return;
+    }
     d->parts.backend->ask({.verb = DialVerb::Recover}, [this](const DialResult &result) {
         if (result.kind == DialResult::Kind::NoRights)
             Q_EMIT sigMessage(
                 tr("An earlier connection was cut off and has left its own settings in files of "
                    "the system. Start Corva again and enter the password: it puts them back."));
         else if (!result.isDone())
-            Q_EMIT sigMessage(result.error);
+            d->tellNotPutBack(result.error);
+        else
+            d->tellOfLoss();
     });
 }
 
@@ -436,6 +533,7 @@ bool ConnectionService::connectNow(const std::optional<DialCredentials> &credent
         return false;
     }
     d->redial.stop();
+    d->untold.clear();
     d->given = {credentials, isRoaming(d->monitor->state())};
     const bool isDialling = d->mayDial() && d->dialDefault();
     d->update([](ConnectionStatus &) {}); // a row of redials may have ended
@@ -444,6 +542,7 @@ bool ConnectionService::connectNow(const std::optional<DialCredentials> &credent
 
 void ConnectionService::disconnectNow(ConnectionEnd why)
 {
+    d->untold.clear();
     d->endRow();
     if (d->link)
         d->link->end({why, -1, {}, {}});

@@ -31,6 +31,8 @@ struct ConnectionParts {
     std::function<LinkFacts(const QString &interfaceName)> facts;
     /// Whether an earlier run of the program left the system's files changed.
     std::function<bool()> hasLeftovers;
+    /// Which loss of the system's own files is on record; empty: none.
+    std::function<QString()> latestLoss;
 };
 
 /// The data connection: dials by the profile, watches, ends, dials again. Lives on the GUI thread and never
@@ -53,7 +55,8 @@ public:
     const ConnectionStatus &status() const { return m_status; }
     ProfileStore &profiles();
 
-    /// Puts back what an earlier run of the program left. Called once, at the start.
+    /// Puts back what an earlier run of the program left, and tells what it could not. Called once, at the
+    /// start.
     void recoverLeftovers();
 
     ConnectObstacle obstacle() const;
@@ -83,6 +86,9 @@ Q_SIGNALS:
     void sigPDPSetCommand(const QString &type, const QString &apn);
     /// A box for the person: why a connection failed, or why it was ended.
     void sigMessage(const QString &text);
+    /// It would connect by itself, but for roaming: whether to is the person's to say, as at a press on
+    /// Connect. Once for a card, or for a row of redials.
+    void sigRoamingAsked();
     /// The profile's page, to be opened in the browser: http or https.
     void sigOpenUrl(const QUrl &url);
 

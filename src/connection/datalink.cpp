@@ -37,6 +37,11 @@ DataLink::DataLink(CardMonitor &monitor, DiallerBackend &backend, Facts facts, c
     });
 }
 
+DataLink::~DataLink()
+{
+    *m_isContextWanted = false;
+}
+
 LinkFacts DataLink::facts() const
 {
     return m_facts(m_interface);
@@ -45,7 +50,7 @@ LinkFacts DataLink::facts() const
 void DataLink::start()
 {
     m_stage = Stage::Context;
-    armLimit();
+    m_limit.start(m_plan.contextLimit);
     if (const QString refused = refusal(); !refused.isEmpty())
         explain(ConnectionEnd::ProfileRefused, refused);
     else if (m_plan.hasContexts)
@@ -61,6 +66,11 @@ void DataLink::armLimit()
 
 void DataLink::timeIsUp()
 {
+    if (m_stage == Stage::Context) {
+        fail(ConnectionEnd::TimeOut,
+             QCoreApplication::translate("corva::DialUpLink", "Connection is failed!"));
+        return;
+    }
     if (m_stage != Stage::Ending) {
         slotDelayMessageBox();
         return;
@@ -91,10 +101,10 @@ void DataLink::setContext()
     const QString type = text(ProfileField::IpMode).isEmpty() ? u"IP"_s : text(ProfileField::IpMode);
     const QString address = m_plan.profile.isOn(ProfileField::UsesPdp) ? text(ProfileField::Pdp) : QString();
     Q_EMIT sigPDPSetCommand(type, apn());
-    const auto future =
-        m_monitor.worker().submit([type, address, apn = apn(), cid = m_plan.contextId](SerialThread &link) {
-            return link.setPdpContext(cid, type, apn, address);
-        });
+    const auto future = m_monitor.worker().submit([type, address, apn = apn(), cid = m_plan.contextId,
+                                                   isWanted = m_isContextWanted](SerialThread &link) {
+        return *isWanted ? link.setPdpContext(cid, type, apn, address) : -1;
+    });
     whenDone(future, this, [this](const std::optional<int> &result) { contextSet(result); });
 }
 
@@ -148,7 +158,10 @@ void DataLink::setUp()
     m_watch.start(upPeriod);
     if (m_plan.profile.isOn(ProfileField::UsesDns))
         useOwnNameServers();
-    m_backend.ask({.verb = DialVerb::RouteHelper}, [](const DialResult &) {});
+    m_backend.ask({.verb = DialVerb::RouteHelper}, [this, guard = QPointer(this)](const DialResult &result) {
+        if (guard && isUp() && !result.isDone())
+            Q_EMIT sigMessage(result.error);
+    });
     Q_EMIT sigUp();
 }
 
@@ -191,6 +204,7 @@ void DataLink::end(const LinkOutcome &why)
     const Stage before = m_stage;
     m_outcome = why;
     m_stage = Stage::Ending;
+    *m_isContextWanted = false;
     m_limit.start(m_plan.endLimit);
     m_watch.stop();
     Q_EMIT sigEnding();

@@ -9,8 +9,10 @@
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
+#include <atomic>
 #include <chrono>
 #include <functional>
+#include <memory>
 
 namespace corva
 {
@@ -26,6 +28,8 @@ struct LinkPlan {
     bool hasContexts = true;
     PppOptions options;
     std::chrono::milliseconds limit{30000}; ///< the latest moment at which the outcome is judged
+    /// The longest that the card is waited for to take its context: it may be busy with something else.
+    std::chrono::milliseconds contextLimit{60000};
     /// The longest that taking it down may take, hanging up and putting the files back included.
     std::chrono::milliseconds endLimit = DiallerBackend::longestShutDown + std::chrono::seconds(3);
     bool showsExitCode = true;
@@ -51,6 +55,8 @@ public:
 
     DataLink(CardMonitor &monitor, DiallerBackend &backend, Facts facts, const LinkPlan &plan,
              QObject *parent = nullptr);
+
+    ~DataLink() override;
 
     /// `sigUp` or `sigEnding` follows, in the end `sigOver`.
     void start();
@@ -121,6 +127,8 @@ private:
     LinkOutcome m_outcome;
     QTimer m_limit;
     QTimer m_watch;
+    /// Whether the context is still to be set when the card comes to it; shared with the card worker.
+    std::shared_ptr<std::atomic<bool>> m_isContextWanted = std::make_shared<std::atomic<bool>>(true);
     bool m_isSaved = false;
     bool m_isSavePending = false;
 };

@@ -157,7 +157,7 @@ bool DiallerFiles::Private::save()
 Result DiallerFiles::Private::putOneBack(const KeptFile &file, Phase before)
 {
     switch (before) {
-    case Phase::None: return file.putBackUnknown(&detail);
+    case Phase::None: return file.putBackUnknown(journal.files.value(file.name()).written, &detail);
     case Phase::Saving: return file.tidy() ? Result::Done : Result::Failed;
     default: break;
     }
@@ -370,6 +370,18 @@ bool DiallerFiles::saveManualDNS(const QString &preferred, const QString &altern
     const bool isWritten =
         d->note(Phase::Saved) && writeFileSafely(resolver.path(), content, rights, &d->detail);
     return isWritten || d->fail(openFailed, {}, error, resolver.path());
+}
+
+bool DiallerFiles::keepsConnectInfo() const
+{
+    const int descriptor = ::open(QFile::encodeName(d->files.connectInfo).constData(),
+                                  O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    struct stat status = {};
+    const bool isOwn = descriptor >= 0 && ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
+                       status.st_uid == ::geteuid() && status.st_nlink == 1;
+    if (descriptor >= 0)
+        ::close(descriptor);
+    return isOwn;
 }
 
 bool DiallerFiles::makeConnectInfo(QString *error)

@@ -65,6 +65,8 @@ public:
 
     /// Makes "/tmp/connect_info" anew, empty, with mode 0600, never through a link or into another's file.
     bool makeConnectInfo(QString *error = nullptr);
+    /// Whether it stands as it was made, for a second dialler to write behind the first one's words.
+    bool keepsConnectInfo() const;
 
     /// Whether "/etc/issue" names the distribution, in any letter case.
     bool isOSDistro(const QString &name) const;

@@ -169,6 +169,9 @@ void DialUpLink::endedByItself()
     if (isCrash && !m_isRestarted) { // wvdial crashes now and then; it deserves another go
         m_isRestarted = true;
         m_output = {};
+        m_said = {};
+        m_wasRefused = false;
+        m_interface.clear();
         slotStartWvdial();
         return;
     }

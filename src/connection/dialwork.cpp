@@ -5,8 +5,10 @@
 #include "connection/processsession.h"
 #include "connection/rootowned.h"
 #include "shell/logging.h"
+#include "shell/safefile.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 
@@ -22,6 +24,7 @@ namespace
 constexpr auto longestRouteHelper = 10s;
 constexpr auto longestScripts = 5s;
 constexpr auto scriptsLook = 100ms;
+constexpr qint64 longestInterfaceName = 15;
 
 bool endsALink(DialVerb verb)
 {
@@ -110,6 +113,7 @@ void DialWork::carryOut(DialRequest request)
             killWvdialReconnect();
         break;
     case DialVerb::Write:
+        m_hasDialled = false;
         m_isWritten =
             m_files.readDeafaultConfigData(request.profile, request.modemPort, request.options, &error);
         answer(m_isWritten, error);
@@ -128,6 +132,8 @@ void DialWork::carryOut(DialRequest request)
             break;
         }
         m_leased = request.interfaceName;
+        if (QString why; !writeFileSafely(leaseNote(), m_leased.toUtf8(), &why))
+            qCWarning(lcConnection).noquote() << logTime() + why;
         m_dhcp.lease(request.interfaceName);
         break;
     case DialVerb::Release:
@@ -142,18 +148,33 @@ void DialWork::carryOut(DialRequest request)
 void DialWork::dial()
 {
     QString error = QCoreApplication::translate("DiallerFiles", "Read default wvdial config data failed!");
-    if (!m_isWritten || !m_wvdial.slotStartWvdial(&error))
+    if (!m_isWritten || !m_wvdial.slotStartWvdial(m_hasDialled, &error))
         answer(false, error);
+    else
+        m_hasDialled = true;
 }
 
-/// A dialler that outlived the program which started it still uses the files.
-/// `slotWaitWvdialCloseReconnect` follows.
+/// Which interface has its address from here, for the next start should this program be killed. The next boot
+/// knows nothing of it, and need not.
+QString DialWork::leaseNote() const
+{
+    return QFileInfo(m_files.files().lock).path() + u"/corva-dialler.lease"_s;
+}
+
+/// A dialler that outlived the program which started it still uses the files, and a DHCP client renews its
+/// lease. `slotWaitWvdialCloseReconnect` follows.
 void DialWork::killWvdialReconnect()
 {
     m_isWritten = false;
-    if (m_files.hasLeftovers()) // nobody who lives has them in hand
+    QString leftLease;
+    if (m_files.hasLeftovers()) { // nobody who lives has them in hand
         m_wvdial.adoptLeftover();
-    m_wvdial.slotKillWvdial();
+        leftLease = QString::fromUtf8(readAtMost(leaseNote(), longestInterfaceName));
+    }
+    if (leftLease.isEmpty())
+        m_wvdial.slotKillWvdial();
+    else
+        m_dhcp.release(leftLease);
 }
 
 void DialWork::slotWaitWvdialCloseReconnect()
@@ -175,7 +196,13 @@ void DialWork::leaseDone(const QString &error)
     if (!m_isBusy)
         return;
     const bool isLease = isAskingForLease();
-    const bool isCancelled = isLease && isEndWaiting();
+    const bool isCancelled = isLease && isEndWaiting(); // and given back at once
+    if (!isLease || isCancelled)
+        QFile::remove(leaseNote());
+    if (!isLease && m_requests.front().verb != DialVerb::Release) { // an earlier run's
+        m_wvdial.slotKillWvdial();
+        return;
+    }
     // The resolver file that stands there now is this link's, and goes with it.
     if (isLease && error.isEmpty() && m_hasSaved)
         m_files.noteResolver();
@@ -221,7 +248,7 @@ void DialWork::runRouteHelper()
 {
     const QString &program = m_files.files().routeHelper;
     if (!QFileInfo(program).isExecutable() || !isAdministratorsOwn(program)) {
-        answer(!QFileInfo::exists(program), tr("The route helper is not run: others may write it."));
+        answer(!QFileInfo(program).isExecutable(), tr("The route helper is not run: others may write it."));
         return;
     }
     auto *helper = new QProcess(this);

@@ -51,6 +51,7 @@ private:
     bool isEndWaiting() const; ///< what ends a link waits to be carried out
     void dial();
     void killWvdialReconnect();
+    QString leaseNote() const;
     void slotWaitWvdialCloseReconnect();
     void leaseDone(const QString &error);
     void saveFiles();
@@ -70,7 +71,8 @@ private:
     bool m_isBusy = false;
     bool m_hasSaved = false;
     bool m_isWritten = false;
-    bool m_isLinked = false; ///< the dialler runs, or an interface has its address from here
+    bool m_hasDialled = false; ///< since it was written
+    bool m_isLinked = false;   ///< the dialler runs, or an interface has its address from here
     bool m_isShuttingDown = false;
 };
 

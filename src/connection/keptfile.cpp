@@ -186,7 +186,7 @@ KeptFile::Result KeptFile::putBack(const DiallerJournal::File &state, bool isRes
     return isBack ? Result::Done : Result::Failed;
 }
 
-KeptFile::Result KeptFile::putBackUnknown(QString *detail) const
+KeptFile::Result KeptFile::putBackUnknown(const QSet<QByteArray> &written, QString *detail) const
 {
     if (setUnreadableCopyAside(detail))
         return Result::SetAside;
@@ -196,7 +196,9 @@ KeptFile::Result KeptFile::putBackUnknown(QString *detail) const
         *detail = m_copy + u" is missing"_s;
         return Result::Lost;
     }
-    if (m_putBack == PutBack::Secrets && read(m_path).content != read(m_copy).content)
+    const Reading now = read(m_path);
+    const bool isOurs = now.content && written.contains(DiallerJournal::hashOf(*now.content));
+    if (!isOurs && now.content != read(m_copy).content)
         keepFileBeside(m_path, u"changed"_s); // others may have written there since
     return replace(detail) ? Result::Done : Result::Failed;
 }

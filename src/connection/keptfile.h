@@ -45,8 +45,9 @@ public:
     /// Makes the file what `state` and the copy say; then the copy is gone. May be done again when it was cut
     /// off (`isResumed`). What somebody else wrote in the meantime is kept beside.
     Result putBack(const DiallerJournal::File &state, bool isResumed, QString *detail) const;
-    /// The same for a copy of which nothing is known.
-    Result putBackUnknown(QString *detail) const;
+    /// The same for a copy of which nothing is known; `written` are hashes of the program's own of earlier
+    /// times. Anything else that stands in the place is kept beside.
+    Result putBackUnknown(const QSet<QByteArray> &written, QString *detail) const;
 
 private:
     bool setUnreadableCopyAside(QString *detail) const;

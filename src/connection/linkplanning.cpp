@@ -42,7 +42,7 @@ PlannedLink planLink(const ConnectionProfile &profile, const CardState &card, co
 
     planned.kind = kindOf(profile, plan.interfaceName);
     const bool isNetworkCard = planned.kind == LinkKind::NetworkCard;
-    plan.contextId = isNetworkCard ? NetworkCardLink::contextId : options.contextId;
+    plan.contextId = isNetworkCard ? DataCall::contextId : options.contextId;
     if (isNetworkCard && plan.interfaceName.isEmpty())
         planned.refusal = ConnectionService::tr(
             "This card has no network interface. Please choose dial-up in the profile.");

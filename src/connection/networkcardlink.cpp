@@ -23,43 +23,36 @@ namespace
 enum DataCallState { Down, Up, BeingMade, Refused };
 
 constexpr int accepted = 1;
-constexpr int refusedPlainly = 0;
-
-/// By the command that made the call. Of a call that is still being made that is not known: then by the one
-/// that would have come first, and by the other where the card does not know that.
-void endDataCall(SerialThread &link, bool isByContext, int cid)
-{
-    if (isByContext || link.setDataCall(cid, false) == refusedPlainly)
-        link.activatePdpContext(cid, false);
-}
 
 } // namespace
 
-/// The maker's command where the card knows it, the standard's otherwise.
+NetworkCardLink::~NetworkCardLink()
+{
+    if (m_isActivating && !m_call->abandon())
+        m_monitor.worker().submit([](SerialThread &link) { DataCall::end(link, Activation::None); });
+}
+
 void NetworkCardLink::make()
 {
     m_interface = m_plan.interfaceName;
-    const auto future = m_monitor.worker().submit([cid = m_plan.contextId](SerialThread &link) {
-        const int result = link.setDataCall(cid, true);
-        if (result != refusedPlainly)
-            return std::pair(Activation::DataCall, result);
-        return std::pair(Activation::Context, link.activatePdpContext(cid, true));
-    });
+    m_call = std::make_shared<DataCall>(m_monitor.state().identity.imei);
+    const auto future =
+        m_monitor.worker().submit([call = m_call](SerialThread &link) { return call->make(link); });
     m_isActivating = true;
-    whenDone(future, this, [this](const std::optional<std::pair<Activation, int>> &done) {
-        activated(done ? done->first : Activation::None, done ? done->second : -1);
+    whenDone(future, this, [this](const std::optional<DataCall::Answer> &answer) {
+        activated(answer.value_or(DataCall::Answer()));
     });
 }
 
-void NetworkCardLink::activated(Activation by, int result)
+void NetworkCardLink::activated(const DataCall::Answer &answer)
 {
     m_isActivating = false;
-    m_activation = by;
+    m_activation = answer.by;
     if (!isMaking()) {
         deactivate(); // it was cancelled meanwhile
         return;
     }
-    if (result != accepted) {
+    if (answer.result != accepted) {
         refused();
         return;
     }
@@ -78,7 +71,7 @@ void NetworkCardLink::refused()
 
 void NetworkCardLink::look()
 {
-    const int state = m_activation == Activation::DataCall ? m_monitor.link().latestDataCallState() : Up;
+    const int state = m_activation == Activation::Maker ? m_monitor.link().latestDataCallState() : Up;
     if (isMaking() && !m_isActivating && m_activation != Activation::None && !m_isLeased) {
         if (state == Up)
             lease();
@@ -112,8 +105,10 @@ void NetworkCardLink::lease()
 void NetworkCardLink::takeDown()
 {
     if (!m_isLeased) {
-        if (!m_isActivating) // its answer goes on from here
+        if (!m_isActivating)
             deactivate();
+        else
+            m_call->abandon(); // its answer goes on from here
         return;
     }
     DialRequest request{.verb = DialVerb::Release};
@@ -131,9 +126,9 @@ void NetworkCardLink::deactivate()
         takenDown();
         return;
     }
-    const auto future = m_monitor.worker().submit(
-        [by = std::exchange(m_activation, Activation::None), cid = m_plan.contextId](SerialThread &link) {
-            endDataCall(link, by == Activation::Context, cid);
+    const auto future =
+        m_monitor.worker().submit([by = std::exchange(m_activation, Activation::None)](SerialThread &link) {
+            DataCall::end(link, by);
             return true;
         });
     whenDone(future, this, [this](std::optional<bool>) { takenDown(); });
@@ -145,13 +140,15 @@ void NetworkCardLink::abandon()
     if (m_activation == Activation::None && !m_isActivating)
         return;
     const auto patience = m_isActivating ? 5s : 2s; // first the card has to be done with making the call
+    const bool endsItself = std::exchange(m_isActivating, false) && m_call->abandon();
     auto ended = std::make_shared<std::promise<void>>();
     std::future<void> end = ended->get_future();
-    m_monitor.worker().submit([by = std::exchange(m_activation, Activation::None), cid = m_plan.contextId,
-                               ended](SerialThread &link) {
-        endDataCall(link, by == Activation::Context, cid);
-        ended->set_value();
-    });
+    m_monitor.worker().submit(
+        [by = std::exchange(m_activation, Activation::None), endsItself, ended](SerialThread &link) {
+            if (!endsItself)
+                DataCall::end(link, by);
+            ended->set_value();
+        });
     end.wait_for(patience);
 }
 

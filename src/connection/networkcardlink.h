@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "connection/datacall.h"
 #include "connection/datalink.h"
+
+#include <memory>
 
 namespace corva
 {
@@ -14,9 +17,8 @@ class NetworkCardLink : public DataLink
 
 public:
     using DataLink::DataLink;
-
-    /// The card's reports tell of this context alone, whatever dial-up uses.
-    static constexpr int contextId = 1;
+    /// A call that comes about after this is ended again.
+    ~NetworkCardLink() override;
 
     void abandon() override;
 
@@ -27,14 +29,14 @@ protected:
     void look() override;
 
 private:
-    /// How the card was told to make the data call.
-    enum class Activation { None, DataCall, Context };
+    using Activation = DataCall::Activation;
 
-    void activated(Activation by, int result);
+    void activated(const DataCall::Answer &answer);
     void lease();
     void deactivate();
     void refused();
 
+    std::shared_ptr<DataCall> m_call; ///< shared with the card worker
     Activation m_activation = Activation::None;
     bool m_isActivating = false;
     bool m_isLeased = false;

@@ -229,7 +229,7 @@ std::optional<ConnectionProfile> ProfileStore::profileFor(const QString &imsi) c
     std::optional<ConnectionProfile> best;
     qsizetype bestLength = 0;
     for (const ConnectionProfile &profile : d->profiles) {
-        const QString &prefix = profile.text(F::Imsi);
+        const QString prefix = profile.imsiPrefix();
         if (prefix.size() > bestLength && imsi.startsWith(prefix)) {
             best = profile;
             bestLength = prefix.size();

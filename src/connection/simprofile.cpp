@@ -8,7 +8,7 @@ namespace corva
 
 bool isForSim(const ConnectionProfile &profile, const QString &imsi)
 {
-    return imsi.isEmpty() || imsi.startsWith(profile.text(ProfileField::Imsi).trimmed());
+    return imsi.isEmpty() || imsi.startsWith(profile.imsiPrefix());
 }
 
 std::optional<ConnectionProfile> profileForSim(const ProfileStore &profiles, const QString &imsi)
@@ -22,7 +22,7 @@ std::optional<ConnectionProfile> profileForSim(const ProfileStore &profiles, con
 bool isSimKnown(const ProfileStore &profiles, const QString &imsi)
 {
     const auto chosen = profiles.defaultProfile();
-    return !imsi.isEmpty() || (chosen && chosen->text(ProfileField::Imsi).trimmed().isEmpty());
+    return !imsi.isEmpty() || (chosen && chosen->imsiPrefix().isEmpty());
 }
 
 } // namespace corva

@@ -63,7 +63,7 @@ WvdialProcess::WvdialProcess(DiallerFiles &files, std::function<void()> onRun, Q
 
 WvdialProcess::~WvdialProcess() = default;
 
-bool WvdialProcess::slotStartWvdial(QString *error)
+bool WvdialProcess::slotStartWvdial(bool isAgain, QString *error)
 {
     if (isPresent()) {
         log(u"======= exit startwvdial false ======"_s);
@@ -76,19 +76,20 @@ bool WvdialProcess::slotStartWvdial(QString *error)
             QCoreApplication::translate("WvdialProcess", "The program wvdial is missing. Please install it.");
         return false;
     }
-    if (!m_files.makeConnectInfo(error))
+    const bool isAppended = isAgain && m_files.keepsConnectInfo();
+    if (!isAppended && !m_files.makeConnectInfo(error))
         return false;
 
     log(u"****** call /usr/bin/wvdial:"_s);
-    m_thread =
-        std::make_unique<WvdiaConfigThread>("wvdial 2>&1 | tee " + QFile::encodeName(files.connectInfo),
-                                            [path = sessionFile(files), onRun = m_onRun](pid_t pid) {
-                                                if (!noteSession(path, pid))
-                                                    return false;
-                                                if (onRun)
-                                                    onRun();
-                                                return true;
-                                            });
+    m_thread = std::make_unique<WvdiaConfigThread>(
+        (isAppended ? "wvdial 2>&1 | tee -a " : "wvdial 2>&1 | tee ") + QFile::encodeName(files.connectInfo),
+        [path = sessionFile(files), onRun = m_onRun](pid_t pid) {
+            if (!noteSession(path, pid))
+                return false;
+            if (onRun)
+                onRun();
+            return true;
+        });
     // What an earlier thread said may still be on its way.
     const int run = ++m_run;
     connect(m_thread.get(), &WvdiaConfigThread::sigOutput, this, [this, run](const QByteArray &chunk) {

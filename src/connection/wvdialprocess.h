@@ -31,8 +31,9 @@ public:
 
     /// Whether a dialler's child, or what it started, is there.
     bool isPresent() const { return m_child > 0; }
-    /// False with a sentence when a child is there already or none can be made; then `sigStarted` follows.
-    bool slotStartWvdial(QString *error);
+    /// False with a sentence when a child is there already or none can be made; otherwise `sigStarted`
+    /// follows. `isAgain`: its output comes behind that of the one before.
+    bool slotStartWvdial(bool isAgain, QString *error);
     /// Ends the dialler, gently first. `sigGone` follows, at once when there is none, and
     /// after 17 s for one that cannot be killed.
     void slotKillWvdial();

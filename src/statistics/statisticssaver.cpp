@@ -14,9 +14,22 @@ namespace corva
 StatisticsSaver::StatisticsSaver(StatisticsStore &store, TrafficLedger &ledger, Running running)
     : m_store(store), m_ledger(ledger), m_running(std::move(running))
 {
-    m_timer.setInterval(15s);
-    connect(&m_timer, &QTimer::timeout, this, &StatisticsSaver::save);
+    m_timer.setInterval(5s);
+    connect(&m_timer, &QTimer::timeout, this, [this] {
+        if (isWorthSaving())
+            save();
+    });
     connect(&m_store, &StatisticsStore::sigSaved, this, &StatisticsSaver::saved);
+}
+
+/// A link that carries nothing has a new duration alone, each second.
+bool StatisticsSaver::isWorthSaving() const
+{
+    constexpr auto restOfIdleLink = 60s;
+    const std::optional<RunningSession> &now = m_running();
+    const std::optional<RunningSession> &saved = m_inFlight.running;
+    return m_ledger.isDirty() || !now || !saved || now->id != saved->id || now->carried != saved->carried ||
+           now->isRoaming != saved->isRoaming || now->duration - saved->duration >= restOfIdleLink;
 }
 
 StatisticsChange StatisticsSaver::takeChange()
@@ -40,8 +53,10 @@ void StatisticsSaver::save()
 void StatisticsSaver::saved(const QString &error)
 {
     m_isSaving = false;
-    if (!error.isEmpty())
+    if (!error.isEmpty()) {
         m_ledger.takeBack(m_inFlight);
+        m_inFlight = {};
+    }
     if (std::exchange(m_problem, error) != error)
         Q_EMIT sigProblemChanged(error);
     if (m_isSaveWanted && error.isEmpty())

@@ -12,8 +12,8 @@ namespace corva
 
 class TrafficLedger;
 
-/// Brings the statistics to disk, one writing at a time: when told, every 15 s while a session runs, and
-/// again what could not be written.
+/// Brings the statistics to disk, one writing at a time: when told, every 5 s while a session carries
+/// something, and again what could not be written.
 class StatisticsSaver final : public QObject
 {
     Q_OBJECT
@@ -35,6 +35,7 @@ Q_SIGNALS:
     void sigProblemChanged(const QString &problem);
 
 private:
+    bool isWorthSaving() const;
     StatisticsChange takeChange();
     void saved(const QString &error);
 
@@ -42,7 +43,7 @@ private:
     TrafficLedger &m_ledger;
     Running m_running;
     QTimer m_timer;
-    StatisticsChange m_inFlight;
+    StatisticsChange m_inFlight; ///< stays as what is on disk
     bool m_isSaving = false;
     bool m_isSaveWanted = false;
     QString m_problem;

@@ -28,7 +28,7 @@ struct PeriodUse {
 
 /// Counts what the link carries: rates, the session, days and months, the quota, the history. Lives on the
 /// GUI thread; the files are written on a thread of its own. While a link is up its state goes to disk every
-/// 15 s: a program that is killed loses the counting of that time at most, and nothing when the link still
+/// 5 s: a program that is killed loses the counting of that time at most, and nothing when the link still
 /// stands at the next start, since the counters are then read on.
 class TrafficService : public QObject
 {

@@ -49,6 +49,7 @@ namespace
 constexpr QSize smallestSize(800, 520);
 constexpr auto longestHangUp = 12s; // pppd has been seen to take seven
 const QString windowSection = u"window"_s;
+const QString questionKey = u"question"_s; ///< of the notification that a question waits
 
 /// A report without what it says, which is the person's own: "+CUSD".
 QString reportName(const QString &text)
@@ -200,6 +201,10 @@ void WTMainWindow::connectServices()
 {
     connect(m_mender, &Mender::sigConnectionWanted, this, &WTMainWindow::mendConnection);
     connect(m_connector, &Connector::sigProfileWanted, this, [this] { showPage(u"connection"_s); });
+    connect(m_connector, &Connector::sigQuestionWaits, this, [this](const QString &question) {
+        if (m_desktop)
+            m_desktop->notify(questionKey, comcfg.softwareName, question, tr("Show"));
+    });
     connect(m_services, &Services::sigVolume, this, [this](const QString &sentence) {
         m_strip->say(sentence);
         if (m_desktop)
@@ -395,6 +400,10 @@ void WTMainWindow::finishShowing()
 {
     m_desktop = new DesktopPresence(this);
     connect(m_desktop, &DesktopPresence::sigActivated, m_desk, &MessageDesk::open);
+    connect(m_desktop, &DesktopPresence::sigActivated, this, [this](const QString &key) {
+        if (key == questionKey)
+            showInFront();
+    });
     TrayIcon &tray = m_desktop->tray();
     tray.setState(m_monitor->state());
     tray.setConnection(m_services->connection()->status());

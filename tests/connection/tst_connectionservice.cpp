@@ -7,6 +7,7 @@
 #include "fakebackend.h"
 #include "fakecardmonitor.h"
 #include "shell/commoncfg.h"
+#include "shell/globals.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY(QDir::setCurrent(m_folder.path()));
+        basePath = m_folder.path();
         QVERIFY(QDir().mkpath(u"Data"_s));
         QFile port(m_folder.filePath(u"modem"_s));
         QVERIFY(port.open(QIODevice::WriteOnly));
@@ -44,6 +46,7 @@ private Q_SLOTS:
         cmcfg.setValue(u"function"_s, u"ppp_errcode_show"_s, u"1"_s);
         m_facts = {};
         m_messages.clear();
+        m_loss.clear();
 
         ConnectionProfile profile = ProfileStore::newProfile();
         profile.setText(ProfileField::Name, u"Home"_s);
@@ -63,7 +66,8 @@ private Q_SLOTS:
         m_backend = backend.get();
         parts.backend = std::move(backend);
         parts.facts = [this](const QString &) { return m_facts; };
-        parts.hasLeftovers = [] { return true; };
+        parts.hasLeftovers = [] { return false; };
+        parts.latestLoss = [this] { return m_loss; };
         m_service = std::make_unique<ConnectionService>(m_monitor.get(), m_store.get(), std::move(parts));
         connect(m_service.get(), &ConnectionService::sigMessage, this,
                 [this](const QString &text) { m_messages += text; });
@@ -189,6 +193,21 @@ private Q_SLOTS:
         QTRY_COMPARE(m_messages, (QStringList{u"Connection is failed!"_s, u"Not restored."_s}));
     }
 
+    /// Nobody sees a box of a program that ends.
+    void lossAtTheEndIsToldAtTheNextStart()
+    {
+        beginDial();
+        goUp();
+        m_loss = u"2031-05-04T03:02:01.000"_s;
+        m_backend->results[DialVerb::Recover] = {DialResult::Kind::Failed, u"Not restored."_s};
+        m_service->disconnectNow(ConnectionEnd::ByProgram);
+        QTRY_COMPARE(m_service->status().state, ConnectionState::NotConnected);
+        QCOMPARE(m_messages, QStringList());
+        for (int start = 1; start <= 2; ++start)
+            m_service->recoverLeftovers();
+        QCOMPARE(m_messages, QStringList{u"Recover wvdial config data failed!"_s});
+    }
+
     void cancelledAtAnyStep_data()
     {
         QTest::addColumn<DialVerb>("step");
@@ -288,21 +307,65 @@ private Q_SLOTS:
         QCOMPARE(m_service->status().redial, 0);
     }
 
+    /// Meanwhile the network is a foreign one, and nobody has agreed to that.
+    void redialThatRoamingStops()
+    {
+        set("autoRedial_enabled", "1");
+        beginDial();
+        goUp();
+        QSignalSpy asked(m_service.get(), &ConnectionService::sigRoamingAsked);
+        CardState abroad = card();
+        abroad.roaming = true;
+        put(abroad);
+        m_backend->say("--> The PPP daemon has died. (exit code = 16)\n");
+        QTRY_COMPARE(m_messages.size(), 1);
+        QCOMPARE(m_messages.first(), m_service->status().endSentence);
+        QCOMPARE(asked.size(), 1);
+        QCOMPARE(m_service->status().redial, 0);
+    }
+
+    void connectsByItself_data()
+    {
+        QTest::addColumn<Registration>("registration");
+        QTest::addColumn<ServiceState>("service");
+        QTest::addColumn<bool>("dials");
+        QTest::newRow("at home") << Registration::Home << ServiceState::Full << true;
+        QTest::newRow("a card that says nothing of it")
+            << Registration::Unknown << ServiceState::Unknown << true;
+        QTest::newRow("no network") << Registration::Searching << ServiceState::None << false;
+    }
     void connectsByItself()
     {
+        QFETCH(Registration, registration);
+        QFETCH(ServiceState, service);
         set("AutoConnectFlag", "1");
-        for (const bool isRoaming : {true, false}) { // abroad it would cost
-            CardState away = card();
-            away.presence = CardPresence::Absent;
-            put(away);
-            CardState back = card();
-            back.roaming = isRoaming;
-            put(back);
-            QTRY_COMPARE(m_service->status().redial, isRoaming ? 0 : 1);
-            QTRY_COMPARE(m_backend->asked.count(DialVerb::Dial), isRoaming ? 0 : 1);
-        }
+        CardState back = card();
+        back.registration = registration;
+        back.service = service;
+        put(back);
+        QTEST(m_service->status().redial == 1, "dials");
+        if (m_service->status().redial == 0)
+            return;
+        QTRY_COMPARE(m_backend->asked.count(DialVerb::Dial), 1);
         goUp();
         QCOMPARE(m_service->status().redial, 0);
+    }
+
+    /// Abroad it would cost: there the person is asked, and once is enough.
+    void connectsByItselfAbroad()
+    {
+        set("AutoConnectFlag", "1");
+        QSignalSpy asked(m_service.get(), &ConnectionService::sigRoamingAsked);
+        CardState state = card();
+        for (const bool isRoaming : {true, true, false, true}) {
+            state.roaming = isRoaming;
+            state.signalCode++;
+            put(state);
+            QCOMPARE(asked.size(), 1);
+            QCOMPARE(m_service->status().redial, isRoaming && m_backend->asked.isEmpty() ? 0 : 1);
+            if (!isRoaming)
+                QTRY_COMPARE(m_backend->asked.count(DialVerb::Dial), 1);
+        }
     }
 
     void obstacles_data()
@@ -476,6 +539,7 @@ private:
     QTemporaryDir m_folder;
     LinkFacts m_facts;
     QStringList m_messages;
+    QString m_loss;
     std::unique_ptr<CardMonitor> m_monitor;
     std::unique_ptr<ProfileStore> m_store;
     std::unique_ptr<ConnectionService> m_service;

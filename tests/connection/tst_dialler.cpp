@@ -32,6 +32,7 @@ using namespace Qt::StringLiterals;
 using namespace corva;
 
 constexpr int patience = 30000; // ms: wvdial takes its time to give up
+constexpr auto dhclient = "/usr/sbin/dhclient";
 
 static QString whyNot;
 static const QString helperProgram = QStringLiteral(CORVA_DIALHELPER);
@@ -158,6 +159,24 @@ private Q_SLOTS:
         QCOMPARE(other.state(), QProcess::Running);
         other.kill();
         other.waitForFinished();
+    }
+
+    /// wvdial crashes, and is started once more: what it said stays to be read.
+    void crashedDiallersWordsStay()
+    {
+        tell(R"({"command": "dial-result", "result": "silence"})");
+        QVERIFY(m_service->connectNow());
+        for (const int run : {1, 2}) {
+            const auto said = [] {
+                QFile info(u"/tmp/connect_info"_s);
+                return info.open(QIODevice::ReadOnly) ? info.readAll() : QByteArray();
+            };
+            QTRY_COMPARE_WITH_TIMEOUT(said().count("Waiting for carrier"), run, patience);
+            if (run == 1)
+                kill(dialler().at(0), SIGKILL);
+        }
+        m_service->disconnectNow();
+        QTRY_COMPARE_WITH_TIMEOUT(m_service->status().state, ConnectionState::NotConnected, patience);
     }
 
     /// Killed at a moment at which it cannot put anything back: the next start finds dialler and files.
@@ -368,26 +387,44 @@ private Q_SLOTS:
         QVERIFY(helper.waitForFinished(patience));
     }
 
+    /// Killed outright, it leaves a DHCP client behind that goes on renewing.
+    void leaseOfAKilledRun()
+    {
+        if (!takeDhclientsPlace("echo $@ >> /tmp/asked\n"))
+            QSKIP("no dhclient to take the place of");
+        {
+            DialWork killed{SystemFiles(), {}};
+            QSignalSpy done(&killed, &DialWork::sigDone);
+            killed.ask({.verb = DialVerb::Save});
+            killed.ask({.verb = DialVerb::Lease, .interfaceName = u"none0"_s});
+            QTRY_COMPARE_WITH_TIMEOUT(done.size(), 2, patience);
+        }
+        for (const bool isFirst : {true, false}) {
+            DialWork next{SystemFiles(), {}};
+            QSignalSpy done(&next, &DialWork::sigDone);
+            next.ask({.verb = DialVerb::Save});
+            next.ask({.verb = DialVerb::Recover});
+            QTRY_COMPARE_WITH_TIMEOUT(done.size(), 2, patience);
+            QFile asked(u"/tmp/asked"_s);
+            QVERIFY(asked.open(QIODevice::ReadOnly));
+            const QByteArray said = asked.readAll();
+            QVERIFY2(said.count("-4 -r ") == 1 && said.endsWith("none0\n"), isFirst ? said : "again");
+        }
+        QCOMPARE(umount(dhclient), 0);
+    }
+
     /// The program ends while a DHCP client hangs, which then hangs again over giving the address back.
     void hangingDhcpClient()
     {
-        const char *client = "/usr/sbin/dhclient";
-        if (!QFile::exists(QString::fromLatin1(client)))
+        if (!takeDhclientsPlace("trap '' TERM\necho $$ >> /tmp/hangs\nexec sleep 600\n"))
             QSKIP("no dhclient to take the place of");
-        QFile stubborn(m_folder->filePath(u"dhclient"_s));
-        QVERIFY(stubborn.open(QIODevice::WriteOnly));
-        stubborn.write("#!/bin/sh\ntrap '' TERM\necho $$ >> /tmp/hangs\nexec sleep 600\n");
-        stubborn.close();
-        QVERIFY(stubborn.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
-        const QByteArray place = QFile::encodeName(stubborn.fileName());
-        QCOMPARE(mount(place.constData(), client, nullptr, MS_BIND, nullptr), 0);
         DialWork work{SystemFiles(), {}};
         QSignalSpy over(&work, &DialWork::sigShutDown);
         work.ask({.verb = DialVerb::Lease, .interfaceName = u"none0"_s});
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(u"/tmp/hangs"_s), patience);
         work.shutDown();
         QTRY_COMPARE_WITH_TIMEOUT(over.size(), 1, int(DiallerBackend::longestShutDown.count()));
-        QCOMPARE(umount(client), 0);
+        QCOMPARE(umount(dhclient), 0);
         QFile hangs(u"/tmp/hangs"_s);
         QVERIFY(hangs.open(QIODevice::ReadOnly));
         const QList<QByteArray> pids = hangs.readAll().simplified().split(' ');
@@ -395,12 +432,24 @@ private Q_SLOTS:
         for (const QByteArray &pid : pids)
             QVERIFY(!processStat(pid.toInt()));
         QVERIFY(hangs.remove());
+        QVERIFY(!QFile::exists(u"/run/corva-dialler.lease"_s));
     }
 
 private:
     void set(const QString &key, const QString &value)
     {
         cmcfg.setValue(u"network_dialer_setting"_s, key, value);
+    }
+    /// False where there is none. Its place is given back by `umount`.
+    bool takeDhclientsPlace(const QByteArray &script)
+    {
+        QFile stub(m_folder->filePath(u"dhclient"_s));
+        const bool isMade = QFile::exists(QString::fromLatin1(dhclient)) && stub.open(QIODevice::WriteOnly) &&
+                            stub.write("#!/bin/sh\n" + script) > 0 &&
+                            stub.setPermissions(QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
+        stub.close();
+        const QByteArray place = QFile::encodeName(stub.fileName());
+        return isMade && mount(place.constData(), dhclient, nullptr, MS_BIND, nullptr) == 0;
     }
     void tell(const QByteArray &command) { QVERIFY(m_card->control(command).value(u"ok"_s).toBool()); }
 

@@ -331,6 +331,10 @@ void TestDiallerFiles::foreignCopiesGoBack()
     QCOMPARE(contentOf(m_files.savedWvdialConf), QByteArray("older\n"));
     QVERIFY(files.recoverConfigData());
     QCOMPARE(contentOf(m_files.wvdialConf), QByteArray("older\n"));
+    const QStringList kept = QDir(path(u"/etc"_s)).entryList({u"wvdial.conf.changed-*"_s});
+    QCOMPARE(kept.size(), 1); // who knows whose it was
+    QCOMPARE(contentOf(path(u"/etc/"_s) + kept.first()),
+             QByteArray("[Dialer Defaults]\nPassword = mine\r\n"));
 }
 
 void TestDiallerFiles::editedMeanwhile()

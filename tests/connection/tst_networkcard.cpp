@@ -2,17 +2,22 @@
 // The data call over the card's own network interface, on the emulated card. Who gets the address is a fake.
 #include "cardthread.h"
 #include "connection/connectionservice.h"
+#include "connection/datacall.h"
 #include "connection/linkfacts.h"
+#include "connection/networkcardlink.h"
 #include "connection/profilestore.h"
 #include "device/cardmonitor.h"
 #include "fakebackend.h"
+#include "link/cardworker.h"
 #include "linktest.h"
 #include "shell/commoncfg.h"
 #include "shell/globals.h"
 
 #include <QDir>
 #include <QJsonDocument>
+#include <QSignalSpy>
 #include <QTest>
+#include <future>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -63,13 +68,72 @@ private Q_SLOTS:
         QCOMPARE(status().kind, LinkKind::NetworkCard);
         QCOMPARE(status().interfaceName, u"wwan0"_s);
         QCOMPARE(m_backend->asked.mid(0, 2), (QList{DialVerb::Save, DialVerb::Lease}));
-        QVERIFY(heard().contains(up) && !heard().contains(down));
+        QVERIFY(heard().contains(up) && !heard().contains(down) && DataCall::isNoted());
 
         m_service->disconnectNow();
         QTRY_COMPARE_WITH_TIMEOUT(status().state, ConnectionState::NotConnected, patience);
         QCOMPARE(m_backend->asked.mid(3), (QList{DialVerb::Release, DialVerb::Recover}));
-        QVERIFY(heard().contains(down));
+        QVERIFY(heard().contains(down) && !DataCall::isNoted());
         QCOMPARE(m_messages, QStringList());
+    }
+
+    void callOfAKilledRun_data()
+    {
+        QTest::addColumn<bool>("isOther");
+        QTest::newRow("of this card") << false;
+        QTest::newRow("of another card") << true;
+    }
+    void callOfAKilledRun()
+    {
+        QFETCH(bool, isOther);
+        begin(u"wcdma"_s);
+        m_service.reset();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_monitor->state().identity.imei.isEmpty(), patience);
+        auto call =
+            std::make_shared<DataCall>(isOther ? u"351234567890123"_s : m_monitor->state().identity.imei);
+        m_monitor->worker().submit([call](SerialThread &link) { call->make(link); });
+        QTRY_VERIFY_WITH_TIMEOUT(heard().contains("AT+JPDPACT=1,1"), patience);
+        m_monitor.reset();
+        begin(u"wcdma"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!DataCall::isNoted(), patience);
+        QCOMPARE(heard().contains("AT+JPDPACT=1,0"), !isOther);
+    }
+
+    /// The card is slower than the person: what it does too late is undone, or not even begun.
+    void givenUp_data()
+    {
+        QTest::addColumn<bool>("isMaking"); ///< the card is at the data call; otherwise at something else
+        QTest::newRow("while the call is made") << true;
+        QTest::newRow("before its context is set") << false;
+    }
+    void givenUp()
+    {
+        QFETCH(bool, isMaking);
+        begin(u"wcdma"_s);
+        LinkPlan plan;
+        plan.profile = *m_store->defaultProfile();
+        plan.contextLimit = std::chrono::milliseconds(isMaking ? patience : 20);
+        plan.endLimit = std::chrono::milliseconds(20);
+        NetworkCardLink link(
+            *m_monitor, *m_backend, [](const QString &) { return LinkFacts(); }, plan);
+        QSignalSpy over(&link, &DataLink::sigOver);
+        std::promise<void> busy;
+        if (isMaking)
+            tell(R"({"command": "fault", "kind": "late", "ms": 1000, "match": "+JPDPACT"})");
+        else
+            m_monitor->worker().submit([&](SerialThread &) { busy.get_future().wait(); });
+        link.start();
+        if (isMaking) {
+            QTRY_VERIFY_WITH_TIMEOUT(heard().contains("AT+JPDPACT=1,1"), patience);
+            link.end({ConnectionEnd::ByPerson, -1, {}, {}});
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(over.size(), 1, patience);
+        busy.set_value();
+        QFuture<bool> later = m_monitor->worker().submit([](SerialThread &) { return true; });
+        QTRY_VERIFY_WITH_TIMEOUT(later.isFinished(), patience);
+        QCOMPARE(heard().contains("AT+JPDPACT=1,0"), isMaking);
+        QCOMPARE(heard().contains("AT+CGDCONT"), isMaking);
+        QVERIFY(!DataCall::isNoted());
     }
 
     void refusedByTheNetwork_data()
@@ -140,9 +204,6 @@ private:
             std::get<cardemu::Profile>(cardemu::Profile::builtIn(card)));
         QCOMPARE(m_card->start(basePath + u"/card"_s), QString());
         m_monitor = std::make_unique<CardMonitor>(&m_owner);
-        m_monitor->start();
-        QTRY_VERIFY_WITH_TIMEOUT(m_monitor->state().modemReady, patience);
-
         m_store = std::make_unique<ProfileStore>(basePath + u"/Data"_s);
         ConnectionProfile profile = ProfileStore::newProfile();
         profile.setText(ProfileField::Name, u"Stick"_s);
@@ -165,6 +226,8 @@ private:
         m_service = std::make_unique<ConnectionService>(m_monitor.get(), m_store.get(), std::move(parts));
         connect(m_service.get(), &ConnectionService::sigMessage, this,
                 [this](const QString &text) { m_messages += text; });
+        m_monitor->start();
+        QTRY_VERIFY_WITH_TIMEOUT(m_monitor->state().modemReady, patience);
     }
     void tell(const QByteArray &json)
     {

@@ -112,6 +112,11 @@ void say(const QString &text)
     Q_EMIT strings().service->sigMessage(text);
 }
 
+void askAboutRoaming()
+{
+    Q_EMIT strings().service->sigRoamingAsked();
+}
+
 std::optional<quint64> countedBytes()
 {
     return strings().counter();

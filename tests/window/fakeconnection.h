@@ -19,6 +19,8 @@ void put(const corva::ConnectionStatus &status);
 void setObstacle(corva::ConnectObstacle obstacle);
 /// The service has a box for the person.
 void say(const QString &text);
+/// It would connect by itself, but for roaming.
+void askAboutRoaming();
 /// Bytes, as the service is told of them.
 std::optional<quint64> countedBytes();
 

@@ -3,6 +3,7 @@
 
 #include "connection/profilestore.h"
 #include "connection/ui/config.h"
+#include "connection/ui/connector.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -210,6 +211,28 @@ private Q_SLOTS:
         box->button(QMessageBox::Yes)->click();
         QCOMPARE(fakeconnection::takeCalls(), QStringList{u"connect /"_s});
         cmcfg.setValue(u"network_dialer_setting"_s, u"roaming_question"_s, {});
+    }
+
+    void byItselfAbroad_data()
+    {
+        QTest::addColumn<bool>("isHidden");
+        QTest::newRow("with the window") << false;
+        QTest::newRow("in the tray, where no box comes out of nothing") << true;
+    }
+    void byItselfAbroad()
+    {
+        QFETCH(const bool, isHidden);
+        open({profile(u"Mine"_s)});
+        fakeconnection::setObstacle(ConnectObstacle::Roaming);
+        QSignalSpy waits(m_window->findChild<Connector *>(), &Connector::sigQuestionWaits);
+        m_window->setVisible(!isHidden);
+        fakeconnection::askAboutRoaming();
+        QCOMPARE(waits.size(), isHidden ? 1 : 0);
+        QCOMPARE(m_window->findChild<QMessageBox *>() == nullptr, isHidden);
+        m_window->show();
+        QTRY_VERIFY(m_window->findChild<QMessageBox *>());
+        shown<QMessageBox>(m_window.get(), u"messageBox"_s)->button(QMessageBox::Yes)->click();
+        QCOMPARE(fakeconnection::takeCalls(), QStringList{u"connect"_s});
     }
 
     void aBrokenDefaultIsNotReplacedSilently()

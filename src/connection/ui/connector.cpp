@@ -10,8 +10,10 @@
 #include "shell/whendone.h"
 #include "widgets/messagequeue.h"
 
+#include <QEvent>
 #include <QPromise>
 #include <QThreadPool>
+#include <QWidget>
 #include <algorithm>
 #include <memory>
 #include <utility>
@@ -30,6 +32,14 @@ ChoiceDialog::Choice choiceOf(const ApnProposal &proposal)
     return {proposal.operatorName, plan.isEmpty() || plan == proposal.operatorName ? proposal.apn : plan};
 }
 
+QString roamingQuestion()
+{
+    const QString own = DiallerOptions::fromConfiguration().roamingQuestion;
+    return own.isEmpty()
+               ? Connector::tr("You are connecting to a roaming network. Would you like to continue?")
+               : own;
+}
+
 } // namespace
 
 Connector::Connector(CardMonitor *monitor, ConnectionService *connection, ProfileStore *profiles,
@@ -38,6 +48,8 @@ Connector::Connector(CardMonitor *monitor, ConnectionService *connection, Profil
       m_messages(messages), m_window(window)
 {
     connect(m_connection, &ConnectionService::sigMessage, m_messages, &MessageQueue::tell);
+    connect(m_connection, &ConnectionService::sigRoamingAsked, this, &Connector::connectAbroad);
+    m_window->installEventFilter(this);
     connect(m_monitor, &CardMonitor::sigStateChanged, this, &Connector::searchProposals);
     searchProposals();
 }
@@ -226,15 +238,29 @@ void Connector::askForCredentials()
     open(dialog);
 }
 
+/// No box comes out of a window that is hidden in the tray.
+void Connector::connectAbroad()
+{
+    m_asksWhenShown = !m_window->isVisible();
+    if (m_asksWhenShown)
+        Q_EMIT sigQuestionWaits(roamingQuestion());
+    else if (m_connection->obstacle() == ConnectObstacle::Roaming)
+        connectNow();
+}
+
+bool Connector::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Show && m_asksWhenShown) // once it is there
+        QMetaObject::invokeMethod(this, &Connector::connectAbroad, Qt::QueuedConnection);
+    return QObject::eventFilter(watched, event);
+}
+
 void Connector::askAboutRoaming(const std::function<void()> &goOn)
 {
-    const QString own = DiallerOptions::fromConfiguration().roamingQuestion;
-    m_messages->ask(own.isEmpty() ? tr("You are connecting to a roaming network. Would you like to continue?")
-                                  : own,
-                    [this, goOn] {
-                        m_mayRoam = true;
-                        goOn();
-                    });
+    m_messages->ask(roamingQuestion(), [this, goOn] {
+        m_mayRoam = true;
+        goOn();
+    });
 }
 
 /// Roaming may have begun while the person was at another step.

@@ -51,6 +51,11 @@ Q_SIGNALS:
     void sigProfileWanted();
     /// Of the profile that is dialled.
     void sigEditWanted();
+    /// A question that waits until the window is shown.
+    void sigQuestionWaits(const QString &question);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void searchProposals();
@@ -60,6 +65,7 @@ private:
     void chooseProfile(const QStringList &names);
     void useProfile(const QString &name);
     void askForCredentials();
+    void connectAbroad();
     void askAboutRoaming(const std::function<void()> &goOn);
     void dial(const std::optional<DialCredentials> &credentials = std::nullopt);
     void open(QDialog *dialog);
@@ -73,8 +79,9 @@ private:
     QPointer<QDialog> m_dialog; ///< the step that the person is at
     QString m_imsi;             ///< whose proposals they are
     bool m_isSearching = false;
-    bool m_mayRoam = false;      ///< the person was asked for this dial
-    bool m_connectsThen = false; ///< Connect was pressed and waits for the search
+    bool m_mayRoam = false;       ///< the person was asked for this dial
+    bool m_asksWhenShown = false; ///< about roaming, for a connection that nobody pressed a button for
+    bool m_connectsThen = false;  ///< Connect was pressed and waits for the search
     std::vector<ApnProposal> m_proposals;
 };
 
