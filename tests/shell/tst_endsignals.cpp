@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "../rows.h"
+#include "child.h"
 #include "shell/endsignals.h"
 
 #include <QSignalSpy>
 #include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <optional>
 
 using corva::EndSignals;
 
@@ -40,17 +40,12 @@ private Q_SLOTS:
 
     void endsAtOnceAgainWhenNobodyListensAnyMore()
     {
-        const pid_t child = ::fork();
-        if (child == 0) {
-            {
-                const EndSignals over;
-            }
-            ::raise(SIGTERM);
-            ::_exit(0);
-        }
-        int status = 0;
-        QCOMPARE(::waitpid(child, &status, 0), child);
-        QVERIFY(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM);
+        const int status = inChild([] {
+            std::optional<EndSignals> over(std::in_place);
+            over.reset();
+            return ::raise(SIGTERM);
+        });
+        QVERIFY(endedBy(status, SIGTERM));
     }
 };
 
