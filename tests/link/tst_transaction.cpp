@@ -29,9 +29,6 @@ const Rows<bool, QString, const char *, bool> gatesRows{
 const Rows<QString> secretsAreMaskedRows{
     {"AT+CPIN=\"4711\"", u"AT+CPIN=\"****\""_s},
     {"AT+CPIN=\"47114711\",\"4711\"", u"\"********\",\"****\""_s},
-    {"AT+CLCK=\"SC\",1,\"4711\"", u"\"SC\",1,\"****\""_s},
-    {"at+cpwd=\"SC\",\"4711\",\"4711\"", u"\"SC\",\"****\",\"****\""_s},
-    {"AT^CPIN=\"4711\"", u"AT^CPIN=\"****\""_s},
     {"AT+APWIFIW=1,2,a4711z", u"=1,2,******"_s},
 };
 
