@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The real wvdial and pppd on an emulated card, through the whole service. Where the kernel has no PPP pppd
 // says so after the card's CONNECT, which is one more way for a dial to fail.
+#include "../rows.h"
 #include "cardthread.h"
 #include "connection/connectionservice.h"
 #include "connection/dialwork.h"
@@ -54,6 +55,21 @@ static DialRequest request(DialVerb verb, const QString &port)
     return request;
 }
 
+static const Rows<QByteArray, ConnectionEnd, int, QString> failedDialsRows{
+    {"NO CARRIER", "no-carrier", ConnectionEnd::NoCarrier, -1, u"Connection is failed!"_s},
+    {"BUSY, which wvdial would redial for ever", "busy", ConnectionEnd::Busy, -1, u"Connection is failed!"_s},
+    {"the dial command refused", "error", ConnectionEnd::NoCarrier, -1, u"Connection is failed!"_s},
+    {"no PPP in the kernel", "connect", ConnectionEnd::DiallerFailed, 4,
+     u"Fail to connect! exit code is 4\nThe kernel does not support PPP, for example, the PPP kernel driver "
+     u"is "
+     "not included or cannot be loaded."_s},
+};
+
+static const Rows<QString> withoutRightsRows{
+    {"refused", u"echo x >> asked; exit 126"_s},
+    {"cancelled", u"echo x >> asked; exec sleep 600"_s},
+};
+
 class TestDialler : public QObject
 {
     Q_OBJECT
@@ -92,38 +108,22 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(u"/tmp/connect_info"_s));
     }
 
-    void failedDials_data()
-    {
-        QTest::addColumn<QByteArray>("dial");
-        QTest::addColumn<ConnectionEnd>("end");
-        QTest::addColumn<int>("exitCode");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("NO CARRIER") << QByteArray(R"("result": "no-carrier")") << ConnectionEnd::NoCarrier
-                                    << -1 << u"Connection is failed!"_s;
-        QTest::newRow("BUSY, which wvdial would redial for ever")
-            << QByteArray(R"("result": "busy")") << ConnectionEnd::Busy << -1 << u"Connection is failed!"_s;
-        QTest::newRow("the dial command refused")
-            << QByteArray(R"("result": "error")") << ConnectionEnd::NoCarrier << -1
-            << u"Connection is failed!"_s;
-        if (!QFile::exists(u"/dev/ppp"_s))
-            QTest::newRow("no PPP in the kernel")
-                << QByteArray(R"("result": "connect")") << ConnectionEnd::DiallerFailed << 4
-                << u"Fail to connect! exit code is 4\nThe kernel does not support PPP, for example, the "
-                   u"PPP kernel driver is not included or cannot be loaded."_s;
-    }
+    void failedDials_data() { addRows(failedDialsRows); }
     void failedDials()
     {
-        QFETCH(QByteArray, dial);
-        tell(R"({"command": "dial-result", )" + dial + '}');
+        const auto &[name, dial, end, exitCode, message] = currentRow(failedDialsRows);
+        if (exitCode == 4 && QFile::exists(u"/dev/ppp"_s))
+            QSKIP("the kernel has PPP");
+        tell(R"({"command": "dial-result", "result": "%1"})", dial);
         const LogCapture log;
         QVERIFY(m_service->connectNow());
         QVERIFY(!m_service->connectNow()); // a second press changes nothing
         QTRY_VERIFY_WITH_TIMEOUT(!m_messages.isEmpty(), patience);
         QCOMPARE(m_service->status().state, ConnectionState::NotConnected);
-        QTEST(m_service->status().end, "end");
-        QTEST(m_service->status().exitCode, "exitCode");
+        QCOMPARE(m_service->status().end, end);
+        QCOMPARE(m_service->status().exitCode, exitCode);
         QVERIFY(!m_service->status().endSentence.isEmpty());
-        QTEST(m_messages.join(u'|'), "message");
+        QCOMPARE(m_messages.join(u'|'), message);
         QCOMPARE(UpdateCfg::value(UpdateKey::Wvdial), u"1"_s);
         QVERIFY(log.lines().contains(u"*****sigPDPSetCommand_result is 1*****"_s));
         const QByteArray heard = QJsonDocument(m_card->control(R"({"command": "log"})")).toJson();
@@ -197,15 +197,10 @@ private Q_SLOTS:
     }
 
     /// The question for the password is open, or was answered with "no".
-    void withoutRights_data()
-    {
-        QTest::addColumn<QString>("question");
-        QTest::newRow("refused") << u"echo x >> asked; exit 126"_s;
-        QTest::newRow("cancelled") << u"echo x >> asked; exec sleep 600"_s;
-    }
+    void withoutRights_data() { addRows(withoutRightsRows); }
     void withoutRights()
     {
-        QFETCH(QString, question);
+        const auto &[name, question] = currentRow(withoutRightsRows);
         QFile asked(m_folder->filePath(u"asked"_s));
         HelperBackend backend({u"sh"_s, u"-c"_s, question});
         int refused = 0;
@@ -402,7 +397,10 @@ private:
     {
         cmcfg.setValue(u"network_dialer_setting"_s, key, value);
     }
-    void tell(const QByteArray &command) { QVERIFY(m_card->control(command).value(u"ok"_s).toBool()); }
+    void tell(QByteArray command, const QByteArray &value = {})
+    {
+        QVERIFY(m_card->control(command.replace("%1", value)).value(u"ok"_s).toBool());
+    }
 
     void begin()
     {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The data call over the card's own network interface, on the emulated card. Who gets the address is a fake.
+#include "../rows.h"
 #include "cardthread.h"
 #include "connection/connectionservice.h"
 #include "connection/linkfacts.h"
@@ -18,6 +19,21 @@ using namespace Qt::StringLiterals;
 using namespace corva;
 
 constexpr int patience = 20000; // ms, for what takes a moment on a busy machine
+
+namespace
+{
+
+const Rows<QString, QByteArray, QByteArray> upAndDownRows{
+    {"the maker's command", u"wcdma"_s, "AT+JPDPACT=1,1", "AT+JPDPACT=1,0"},
+    {"the standard's", u"standard"_s, "AT+CGACT=1,1", "AT+CGACT=0,1"},
+};
+
+const Rows<QString> refusedByTheNetworkRows{
+    {"by a report", u"wcdma"_s},
+    {"by an error", u"standard"_s},
+};
+
+} // namespace
 
 class TestNetworkCard : public QObject
 {
@@ -42,21 +58,10 @@ private Q_SLOTS:
         m_card.reset();
     }
 
-    void upAndDown_data()
-    {
-        QTest::addColumn<QString>("card");
-        QTest::addColumn<QByteArray>("up");
-        QTest::addColumn<QByteArray>("down");
-        QTest::newRow("the maker's command")
-            << u"wcdma"_s << QByteArray("AT+JPDPACT=1,1") << QByteArray("AT+JPDPACT=1,0");
-        QTest::newRow("the standard's")
-            << u"standard"_s << QByteArray("AT+CGACT=1,1") << QByteArray("AT+CGACT=0,1");
-    }
+    void upAndDown_data() { addRows(upAndDownRows); }
     void upAndDown()
     {
-        QFETCH(QString, card);
-        QFETCH(QByteArray, up);
-        QFETCH(QByteArray, down);
+        const auto &[name, card, up, down] = currentRow(upAndDownRows);
         begin(card);
         QVERIFY(m_service->connectNow());
         QTRY_COMPARE_WITH_TIMEOUT(status().state, ConnectionState::Connected, patience);
@@ -72,15 +77,10 @@ private Q_SLOTS:
         QCOMPARE(m_messages, QStringList());
     }
 
-    void refusedByTheNetwork_data()
-    {
-        QTest::addColumn<QString>("card");
-        QTest::newRow("by a report") << u"wcdma"_s;
-        QTest::newRow("by an error") << u"standard"_s;
-    }
+    void refusedByTheNetwork_data() { addRows(refusedByTheNetworkRows); }
     void refusedByTheNetwork()
     {
-        QFETCH(QString, card);
+        const auto &[name, card] = currentRow(refusedByTheNetworkRows);
         begin(card);
         tell(R"({"command": "set", "key": "data.accessPoint", "value": "elsewhere"})");
         QVERIFY(m_service->connectNow());
