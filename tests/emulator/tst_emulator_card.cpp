@@ -52,18 +52,6 @@ private Q_SLOTS:
         QCOMPARE(talk.ask("AT+CPIN?"), "+CME ERROR: SIM failure");
     }
 
-    void pinLockAndChange()
-    {
-        Talk talk;
-        QCOMPARE(talk.ask("AT+CLCK=\"SC\",2;+CPWD=\"SC\",\"1234\",\"5678\""),
-                 "+CLCK: 0|+CME ERROR: operation not allowed");
-        QCOMPARE(talk.ask("AT+CLCK=\"SC\",1,\"9999\""), "+CME ERROR: incorrect password");
-        QCOMPARE(talk.ask("AT+CLCK=\"SC\",1,\"1234\";+CLCK=\"SC\",2;+CPWD=\"SC\",\"1234\",\"567\""),
-                 "+CLCK: 1|+CME ERROR: Incorrect parameters");
-        QCOMPARE(talk.ask("AT+CPWD=\"SC\",\"1234\",\"5678\";+CLCK=\"SC\",0,\"5678\""), "OK");
-        QCOMPARE(talk.ask("AT+CLCK=\"XX\",2"), "+CME ERROR: Incorrect parameters");
-    }
-
     void unusableSim_data() { addRows(unusableSimRows); }
     void unusableSim()
     {
