@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../files.h"
 #include "../rows.h"
 #include "connection/connectionservice.h"
 #include "connection/dialuplink.h"
@@ -9,11 +10,8 @@
 #include "fakecardmonitor.h"
 #include "shell/commoncfg.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -84,13 +82,7 @@ class TestConnectionService : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(QDir::setCurrent(m_folder.path()));
-        QVERIFY(QDir().mkpath(u"Data"_s));
-        QFile port(m_folder.filePath(u"modem"_s));
-        QVERIFY(port.open(QIODevice::WriteOnly));
-    }
+    void initTestCase() { putFile(m_folder.path(u"modem"_s), {}); }
     void init()
     {
         for (const char *key : {"autoRedial_enabled", "AutoConnectFlag", "Show_open_URL"})
@@ -111,7 +103,7 @@ private Q_SLOTS:
         profile.setLinkKind(LinkKind::DialUp);
         profile.setText(ProfileField::DefaultOpenUrl, u"https://example.org/start"_s);
         QDir(u"Data"_s).removeRecursively();
-        m_store = std::make_unique<ProfileStore>(m_folder.filePath(u"Data"_s));
+        m_store = std::make_unique<ProfileStore>(m_folder.path(u"Data"_s));
         QString error;
         QVERIFY2(m_store->add(profile, &error) && m_store->setDefault(u"Home"_s, &error), qPrintable(error));
 
@@ -351,13 +343,8 @@ private Q_SLOTS:
     {
         const auto &[name, url, opens] = currentRow(opensOnlyPagesRows);
         set("Show_open_URL", "1");
-        ConnectionProfile profile = *m_store->defaultProfile();
-        profile.setText(ProfileField::DefaultOpenUrl, url);
-        QFile record(m_folder.filePath(u"Data/defaultRecord.conf"_s));
-        QVERIFY(record.open(QIODevice::ReadWrite));
-        QByteArray text = record.readAll().replace("https://example.org/start", url.toUtf8());
-        QVERIFY(record.resize(0) && record.seek(0) && record.write(text) > 0);
-        record.close();
+        const QString record = m_folder.path(u"Data/defaultRecord.conf"_s);
+        putFile(record, contentOf(record).replace("https://example.org/start", url.toUtf8()));
         m_store->reload();
         QSignalSpy opened(m_service.get(), &ConnectionService::sigOpenUrl);
         beginDial();
@@ -432,7 +419,7 @@ private:
     {
         CardState state = fakecard::registeredCard();
         state.family = CardFamily::Cdma;
-        state.modemPortName = m_folder.filePath(u"modem"_s);
+        state.modemPortName = m_folder.path(u"modem"_s);
         return state;
     }
     static void put(const CardState &state) { fakecard::put(state); }
@@ -450,7 +437,7 @@ private:
         QTRY_COMPARE(m_service->status().state, ConnectionState::Connected);
     }
 
-    QTemporaryDir m_folder;
+    ScratchFolder m_folder;
     LinkFacts m_facts;
     QStringList m_messages;
     std::unique_ptr<CardMonitor> m_monitor;

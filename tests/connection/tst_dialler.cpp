@@ -175,16 +175,6 @@ private Q_SLOTS:
         QVERIFY(dialler().empty());
     }
 
-    void endOfTheProgramHangsUp()
-    {
-        tell(R"({"command": "dial-result", "result": "silence"})");
-        QVERIFY(m_service->connectNow());
-        QTRY_VERIFY_WITH_TIMEOUT(!dialler().empty(), patience);
-        m_service.reset();
-        QVERIFY(dialler().empty());
-        QCOMPARE(etcAsText(), m_before);
-    }
-
     void throughTheHelper()
     {
         makeService(std::make_unique<HelperBackend>(QStringList{helperProgram}));
@@ -369,12 +359,10 @@ private Q_SLOTS:
         const char *client = "/usr/sbin/dhclient";
         if (!QFile::exists(QString::fromLatin1(client)))
             QSKIP("no dhclient to take the place of");
-        QFile stubborn(m_folder->filePath(u"dhclient"_s));
-        QVERIFY(stubborn.open(QIODevice::WriteOnly));
-        stubborn.write("#!/bin/sh\ntrap '' TERM\necho $$ >> /tmp/hangs\nexec sleep 600\n");
-        stubborn.close();
-        QVERIFY(stubborn.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
-        const QByteArray place = QFile::encodeName(stubborn.fileName());
+        const QString stubborn = m_folder->filePath(u"dhclient"_s);
+        putFile(stubborn, "#!/bin/sh\ntrap '' TERM\necho $$ >> /tmp/hangs\nexec sleep 600\n");
+        QVERIFY(QFile::setPermissions(stubborn, QFile::ReadOwner | QFile::ExeOwner));
+        const QByteArray place = QFile::encodeName(stubborn);
         QCOMPARE(mount(place.constData(), client, nullptr, MS_BIND, nullptr), 0);
         DialWork work{SystemFiles(), {}};
         QSignalSpy over(&work, &DialWork::sigShutDown);
@@ -383,13 +371,11 @@ private Q_SLOTS:
         work.shutDown();
         QTRY_COMPARE_WITH_TIMEOUT(over.size(), 1, int(DiallerBackend::longestShutDown.count()));
         QCOMPARE(umount(client), 0);
-        QFile hangs(u"/tmp/hangs"_s);
-        QVERIFY(hangs.open(QIODevice::ReadOnly));
-        const QList<QByteArray> pids = hangs.readAll().simplified().split(' ');
+        const QList<QByteArray> pids = contentOf(u"/tmp/hangs"_s).simplified().split(' ');
         QCOMPARE(pids.size(), 2);
         for (const QByteArray &pid : pids)
             QVERIFY(!processStat(pid.toInt()));
-        QVERIFY(hangs.remove());
+        QVERIFY(QFile::remove(u"/tmp/hangs"_s));
     }
 
 private:
