@@ -1,16 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What belongs to the process as a whole: the instance lock, the version file, the debug log.
+// What belongs to the process as a whole: the instance lock, the version file, the debug log, the signals
+// that end it.
 #include "../files.h"
 #include "../rows.h"
 #include "child.h"
 #include "device/modemtypes.h"
 #include "shell/commonconfig.h"
 #include "shell/debuglog.h"
+#include "shell/endsignals.h"
 #include "shell/globals.h"
 #include "shell/instance.h"
 #include "shell/logging.h"
 #include "shell/updatecfg.h"
 
+#include <QSignalSpy>
 #include <csignal>
 #include <optional>
 #include <sys/stat.h>
@@ -25,6 +28,12 @@ const Rows<QByteArray, QString> versionRows{
     {"UTF-8", "1.2 \xc3\xa4\n", u"1.2 ä"_s},
     {"first line empty", "\n1.2.3\n", {}},
     {"empty", {}, {}},
+};
+
+const Rows<int> eachSignalBecomesAnEventRows{
+    {"asked to end", SIGTERM},
+    {"Ctrl+C", SIGINT},
+    {"the terminal closed", SIGHUP},
 };
 
 } // namespace
@@ -113,9 +122,32 @@ private Q_SLOTS:
         QVERIFY(endedBy(status, SIGABRT));
     }
 
+    void eachSignalBecomesAnEvent_data() { addRows(eachSignalBecomesAnEventRows); }
+    void eachSignalBecomesAnEvent()
+    {
+        const auto &[name, number] = currentRow(eachSignalBecomesAnEventRows);
+        const corva::EndSignals signals_;
+        QSignalSpy ends(&signals_, &corva::EndSignals::sigEnd);
+        ::raise(number);
+        QCOMPARE(ends.size(), 0); // never from within the handler
+        QTRY_COMPARE(ends.size(), 1);
+        ::raise(number);
+        QTRY_COMPARE(ends.size(), 2);
+    }
+
+    void endsAtOnceAgainWhenNobodyListensAnyMore()
+    {
+        const int status = inChild([] {
+            std::optional<corva::EndSignals> over(std::in_place);
+            over.reset();
+            return ::raise(SIGTERM);
+        });
+        QVERIFY(endedBy(status, SIGTERM));
+    }
+
 private:
     std::optional<ScratchFolder> m_folder;
 };
 
-QTEST_APPLESS_MAIN(TestProcess)
+QTEST_GUILESS_MAIN(TestProcess)
 #include "tst_process.moc"
