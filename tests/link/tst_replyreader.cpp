@@ -10,6 +10,7 @@ namespace
 const Rows<QByteArray, QByteArray, QByteArray> endsRows{
     {"USSD answer comes later", "AT+CUSD=1\r\r\nOK\r\n\r\n+CUSD: 0\r\n", "AT+CUSD=1\r\r\nOK\r\n", {}},
     {"CMS error", "\r\n+CMS ERROR\r\n", "\r\n+CMS ERROR\r\n", {}},
+    {"NUL bytes are noise", QByteArray("A\0T\r\r\nO\0K\r\n", 11), "AT\r\r\nOK\r\n", {}},
     {"unsupported", "COMMAND not support\r\nOK\r\n", "COMMAND not support\r\n",
      "****** Cmd of JCPBR is not support!"},
     {"video call", "CONNECT\r\n", "CONNECT\r\n", "****** Video Call CONNECT!"},
