@@ -81,9 +81,7 @@ private Q_SLOTS:
             QSKIP(qPrintable(whyNot));
         if (!QFile::exists(u"/usr/bin/wvdial"_s))
             QSKIP("wvdial is not installed");
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir::setCurrent(m_folder->path()));
-        QVERIFY(QDir().mkpath(u"Data"_s));
+        m_folder.emplace();
         basePath = m_folder->path();
         cmcfg.setValue(u"device"_s, u"at_port"_s, basePath + u"/card/at"_s);
         cmcfg.setValue(u"device"_s, u"modem_port"_s, basePath + u"/card/modem"_s);
@@ -191,7 +189,7 @@ private Q_SLOTS:
     void withoutRights()
     {
         const auto &[name, question] = currentRow(withoutRightsRows);
-        QFile asked(m_folder->filePath(u"asked"_s));
+        QFile asked(m_folder->path(u"asked"_s));
         HelperBackend backend({u"sh"_s, u"-c"_s, question});
         int refused = 0;
         const auto count = [&refused](const DialResult &result) {
@@ -359,7 +357,7 @@ private Q_SLOTS:
         const char *client = "/usr/sbin/dhclient";
         if (!QFile::exists(QString::fromLatin1(client)))
             QSKIP("no dhclient to take the place of");
-        const QString stubborn = m_folder->filePath(u"dhclient"_s);
+        const QString stubborn = m_folder->path(u"dhclient"_s);
         putFile(stubborn, "#!/bin/sh\ntrap '' TERM\necho $$ >> /tmp/hangs\nexec sleep 600\n");
         QVERIFY(QFile::setPermissions(stubborn, QFile::ReadOwner | QFile::ExeOwner));
         const QByteArray place = QFile::encodeName(stubborn);
@@ -440,7 +438,7 @@ private:
         return pids;
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<ScratchFolder> m_folder;
     FakeOwner m_owner;
     QString m_before;
     QStringList m_messages;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../child.h"
 #include "../files.h"
 #include "../rows.h"
 #include "connection/diallerfiles.h"
@@ -12,8 +13,6 @@
 #include <fcntl.h>
 #include <sys/ptrace.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -376,13 +375,10 @@ private Q_SLOTS:
         for (const QString &path : {m_files.lock, m_files.journal})
             QCOMPARE(::chmod(QFile::encodeName(path).constData(), 0), 0);
         QCOMPARE(::chmod(QFile::encodeName(m_root->path()).constData(), 0755), 0);
-        const pid_t child = ::fork();
-        if (child == 0) {
+        const int status = inChild([this] {
             const bool isOther = ::geteuid() != 0 || ::setuid(65534) == 0;
-            ::_exit(isOther && !DiallerFiles(m_files).hasLeftovers() ? 0 : 1);
-        }
-        int status = 0;
-        ::waitpid(child, &status, 0);
+            return isOther && !DiallerFiles(m_files).hasLeftovers() ? 0 : 1;
+        });
         QCOMPARE(status, 0);
         for (const QString &path : {m_files.lock, m_files.journal})
             QCOMPARE(::chmod(QFile::encodeName(path).constData(), 0600), 0);

@@ -11,7 +11,6 @@
 #include "shell/commoncfg.h"
 #include "shell/globals.h"
 
-#include <QDir>
 #include <QJsonDocument>
 #include <QTest>
 
@@ -43,7 +42,6 @@ private Q_SLOTS:
     void initTestCase()
     {
         basePath = m_folder.path();
-        QVERIFY(QDir().mkpath(basePath + u"/Data"_s));
         cmcfg.setValue(u"device"_s, u"at_port"_s, basePath + u"/card/at"_s);
         cmcfg.setValue(u"device"_s, u"modem_port"_s, basePath + u"/card/modem"_s);
         cmcfg.setValue(u"device"_s, u"network_interface"_s, u"wwan0"_s);

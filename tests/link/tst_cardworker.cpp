@@ -85,6 +85,7 @@ private Q_SLOTS:
         QCOMPARE(m_pty->readUntil("\n"), "AT\r\n");
         m_worker->stop(); // returns though the card is silent for a minute
         QCOMPARE(running.result(), 102);
+        QVERIFY(!m_link->isPortLost());
         QVERIFY(waiting.isCanceled() && waiting.isFinished());
         QVERIFY(m_worker->submit([](SerialThread &) { return 1; }).isCanceled());
         m_worker->stop();

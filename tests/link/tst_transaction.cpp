@@ -271,15 +271,6 @@ private Q_SLOTS:
         QCOMPARE(m_link->sendCmdAndRec("AT+CSQ\r\n", 60, 0), 103);
     }
 
-    void stopEndsEveryWait()
-    {
-        auto result = sent(60s);
-        m_link->requestStop();
-        QCOMPARE(result.wait_for(5s), std::future_status::ready);
-        QCOMPARE(result.get(), 102);
-        QVERIFY(!m_link->isPortLost());
-    }
-
     void readersSeeWhatWasReadAhead()
     {
         QCOMPARE(exchange([this] { return m_link->sendCmdAndRec("AT+CSQ\r\n", 5, 0); },

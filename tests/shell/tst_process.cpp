@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What belongs to the process as a whole: the instance lock, the version file, the debug log, the signals
 // that end it.
+#include "../child.h"
 #include "../files.h"
 #include "../rows.h"
-#include "child.h"
 #include "device/modemtypes.h"
 #include "shell/commonconfig.h"
 #include "shell/debuglog.h"

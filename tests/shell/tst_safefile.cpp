@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../child.h"
 #include "../files.h"
 #include "../rows.h"
-#include "child.h"
 #include "shell/safefile.h"
 
 #include <QElapsedTimer>
