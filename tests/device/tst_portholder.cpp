@@ -134,12 +134,12 @@ Q_DECLARE_METATYPE(ModemPort)
 namespace
 {
 
-const qint32 other = getppid();
+const qint32 parent = getppid();
 
 const Rows<QByteArray, bool> lockFileRows{
-    {"ten characters and a line end", QByteArray::number(other).rightJustified(10) + '\n', true},
-    {"with the program's name", QByteArray::number(other).rightJustified(10) + " minicom root\n", true},
-    {"four bytes", QByteArray(reinterpret_cast<const char *>(&other), sizeof other), true},
+    {"ten characters and a line end", QByteArray::number(parent).rightJustified(10) + '\n', true},
+    {"with the program's name", QByteArray::number(parent).rightJustified(10) + " minicom root\n", true},
+    {"four bytes", QByteArray(reinterpret_cast<const char *>(&parent), sizeof parent), true},
     {"this process", QByteArray::number(getpid()), false},
     {"a process that has ended", "4194304\n", false}, // above any process id
     {"every process, to kill()", "-1\n", false},

@@ -69,7 +69,6 @@ constexpr Parser creg = parsedLine<&parseRegistration>;
 constexpr Parser sysinfo = parsed<&parseSysInfo>;
 constexpr Parser jpas = parsed<&parseJpas>;
 constexpr Parser jtime = parsedLine<&parseNetworkTime>;
-constexpr Parser cfun = parsed<&parseFunctionality>;
 constexpr Parser jant = parsed<&parseAntenna>;
 constexpr Parser attempts = parsed<&parseAttempts>;
 constexpr Parser cpin = parsed<&parseSimState>;

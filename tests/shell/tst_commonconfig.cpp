@@ -95,8 +95,8 @@ private Q_SLOTS:
         for (const QString &name : {u"light"_s, u"dark"_s}) {
             CommonConfig c;
             QVERIFY(readConfigFile(c, data + u"skins/"_s + name));
-            const auto check = [&name = name](const QList<QColor> &fronts, const QList<QColor> &backs,
-                                              double least) {
+            const auto check = [&name](const QList<QColor> &fronts, const QList<QColor> &backs,
+                                       double least) {
                 for (const QColor &front : fronts) {
                     for (const QColor &back : backs)
                         QVERIFY2(contrast(front, back) >= least,

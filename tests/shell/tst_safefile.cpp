@@ -136,8 +136,8 @@ private Q_SLOTS:
     {
         const auto &[name, locked] = currentRow(leavesTheOldFileWhereRightsForbidRows);
         QVERIFY(writeFileSafely(at("folder/file"), "old"));
-        const int status = asOrdinaryUser([&] {
-            ::chmod(QFile::encodeName(at(locked)).constData(), 0500);
+        const int status = asOrdinaryUser([&, &place = locked] {
+            ::chmod(QFile::encodeName(at(place)).constData(), 0500);
             return writeFileSafely(at("folder/file"), "new") ? 1 : 0;
         });
         ::chmod(QFile::encodeName(at(locked)).constData(), 0700);

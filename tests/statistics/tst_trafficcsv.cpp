@@ -84,7 +84,7 @@ private Q_SLOTS:
     {
         const auto &[name, bytes, english, german] = currentRow(writesVolumesAsOperatorsBillRows);
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
-        const auto text = [&] { return volumeText(bytes).replace(QChar::Nbsp, u' '); };
+        const auto text = [&bytes = bytes] { return volumeText(bytes).replace(QChar::Nbsp, u' '); };
         QCOMPARE(text(), english);
         QLocale::setDefault(QLocale(QLocale::German));
         QCOMPARE(text(), german);
