@@ -77,8 +77,8 @@ private:
 
     void addText()
     {
-        // Text that strays between sections and keys must not grow with each indenting. The reader's isWhitespace()
-        // denies blanks that were written as references, hence the look at what is left.
+        // Text that strays between sections and keys must not grow with each indenting. The reader's
+        // isWhitespace() denies blanks that were written as references, hence the look at what is left.
         const QString text =
             xmlText((m_depth < keyDepth ? m_reader.text().trimmed() : m_reader.text()).toString());
         if (m_depth == 0 || text.isEmpty())

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../files.h"
+#include "../rows.h"
 #include "connection/connectionservice.h"
 #include "connection/dialuplink.h"
 #include "connection/idlemonitor.h"
@@ -9,17 +11,78 @@
 #include "shell/commoncfg.h"
 #include "shell/globals.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
 
 constexpr auto linkComesUp = "--> Using interface ppp0\n--> local  IP address 10.1.2.3\n"
                              "--> remote IP address 10.64.64.64\n--> primary   DNS address 10.64.64.65\n";
+
+namespace
+{
+
+const Rows<QByteArray, ConnectionEnd, int, QString> failedDialsRows{
+    {"wrong password",
+     "--> The PPP daemon has died: Authentication error.\n--> Maybe bad account or "
+     "password? (exit code = 19)\n",
+     ConnectionEnd::Refused, 19,
+     u"Fail to connect! exit code is 19\nWe failed to authenticate ourselves to the peer."_s},
+    {"a status without a text", "--> The PPP daemon has died. (exit code = 20)\n",
+     ConnectionEnd::DiallerFailed, 20, u"Fail to connect! exit code is 20"_s},
+};
+
+const Rows<DialVerb, DialResult::Kind, ConnectionEnd, bool> failedStepsRows{
+    {"files not saved", DialVerb::Save, DialResult::Kind::Failed, ConnectionEnd::FilesFailed, false},
+    {"password not given", DialVerb::Save, DialResult::Kind::NoRights, ConnectionEnd::NoRights, false},
+    {"files not written", DialVerb::Write, DialResult::Kind::Failed, ConnectionEnd::FilesFailed, true},
+    {"wvdial missing", DialVerb::Dial, DialResult::Kind::Failed, ConnectionEnd::DiallerFailed, true},
+};
+
+const Rows<DialVerb, bool> cancelledAtAnyStepRows{
+    {"while a password is asked for", DialVerb::Save, false},
+    {"while the files are written", DialVerb::Write, false},
+    {"while wvdial starts", DialVerb::Dial, true},
+};
+
+const Rows<QByteArray, ConnectionEnd> brokenLinksRows{
+    {"the network hung up", "--> The PPP daemon has died: A modem hung up the phone (exit code = 16)\n",
+     ConnectionEnd::ByPeer},
+    {"no answer to echoes", "--> The PPP daemon has died. (exit code = 15)\n", ConnectionEnd::LinkLost},
+    {"wvdial crashed", {}, ConnectionEnd::DiallerFailed},
+    {"the card was pulled out", "gone", ConnectionEnd::CardGone},
+};
+
+const Rows<QByteArray> redialIsNoSecondTryRows{
+    {"the password is wrong", "--> The PPP daemon has died. (exit code = 19)\n"},
+    {"the person ends it", {}},
+};
+
+const Rows<QString, bool, NetworkType, ConnectObstacle, QString> obstaclesRows{
+    {"none", u"registered"_s, false, NetworkType::Edge, ConnectObstacle::None, {}},
+    {"a call on GSM", u"registered"_s, true, NetworkType::Edge, ConnectObstacle::CallOnOtherNetwork,
+     u"Only UMTS network can connect while calling!"_s},
+    {"a call on UMTS", u"registered"_s, true, NetworkType::Hspa, ConnectObstacle::None, {}},
+    {"roaming, to be asked about", u"roaming"_s, false, NetworkType::Umts, ConnectObstacle::Roaming, {}},
+    {"no card", u"absent"_s, false, NetworkType::Unknown, ConnectObstacle::CardGone,
+     u"The device has been disconnected or is unavailable."_s},
+};
+
+const Rows<Registration, ServiceState, bool> connectsByItselfRows{
+    {"at home", Registration::Home, ServiceState::Full, true},
+    {"a card that says nothing of it", Registration::Unknown, ServiceState::Unknown, true},
+    {"no network", Registration::Searching, ServiceState::None, false},
+};
+
+const Rows<QString, bool> opensOnlyPagesRows{
+    {"a page", u"https://example.org/start"_s, true},
+    {"a file", u"file:///etc/passwd"_s, false},
+    {"a script", u"javascript:alert(1)"_s, false},
+    {"no host", u"http:///"_s, false},
+};
+
+} // namespace
 
 class TestConnectionService : public QObject
 {
@@ -28,11 +91,8 @@ class TestConnectionService : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QVERIFY(QDir::setCurrent(m_folder.path()));
         basePath = m_folder.path();
-        QVERIFY(QDir().mkpath(u"Data"_s));
-        QFile port(m_folder.filePath(u"modem"_s));
-        QVERIFY(port.open(QIODevice::WriteOnly));
+        putFile(m_folder.path(u"modem"_s), {});
     }
     void init()
     {
@@ -55,7 +115,7 @@ private Q_SLOTS:
         profile.setLinkKind(LinkKind::DialUp);
         profile.setText(ProfileField::DefaultOpenUrl, u"https://example.org/start"_s);
         QDir(u"Data"_s).removeRecursively();
-        m_store = std::make_unique<ProfileStore>(m_folder.filePath(u"Data"_s));
+        m_store = std::make_unique<ProfileStore>(m_folder.path(u"Data"_s));
         QString error;
         QVERIFY2(m_store->add(profile, &error) && m_store->setDefault(u"Home"_s, &error), qPrintable(error));
 
@@ -109,57 +169,28 @@ private Q_SLOTS:
             QVERIFY(changes.at(i) != changes.at(i - 1));
     }
 
-    void failedDials_data()
-    {
-        QTest::addColumn<QByteArray>("output");
-        QTest::addColumn<ConnectionEnd>("end");
-        QTest::addColumn<int>("exitCode");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("wrong password")
-            << QByteArray("--> The PPP daemon has died: Authentication error.\n--> Maybe bad account or "
-                          "password? (exit code = 19)\n")
-            << ConnectionEnd::Refused << 19
-            << u"Fail to connect! exit code is 19\nWe failed to authenticate ourselves to the peer."_s;
-        QTest::newRow("a status without a text")
-            << QByteArray("--> The PPP daemon has died. (exit code = 20)\n") << ConnectionEnd::DiallerFailed
-            << 20 << u"Fail to connect! exit code is 20"_s;
-    }
+    void failedDials_data() { addRows(failedDialsRows); }
     void failedDials()
     {
-        QFETCH(QByteArray, output);
+        const auto &[name, output, end, exitCode, message] = currentRow(failedDialsRows);
         beginDial();
         m_backend->say(output);
         QTRY_COMPARE(m_service->status().state, ConnectionState::NotConnected);
-        QTEST(m_service->status().end, "end");
-        QTEST(m_service->status().exitCode, "exitCode");
-        QTEST(m_messages.join(u'|'), "message");
+        QCOMPARE(m_service->status().end, end);
+        QCOMPARE(m_service->status().exitCode, exitCode);
+        QCOMPARE(m_messages.join(u'|'), message);
         QCOMPARE(m_backend->asked.mid(3), (QList{DialVerb::HangUp, DialVerb::Recover}));
     }
 
-    void failedSteps_data()
-    {
-        QTest::addColumn<DialVerb>("verb");
-        QTest::addColumn<DialResult::Kind>("kind");
-        QTest::addColumn<ConnectionEnd>("end");
-        QTest::addColumn<bool>("recovers");
-        QTest::newRow("files not saved")
-            << DialVerb::Save << DialResult::Kind::Failed << ConnectionEnd::FilesFailed << false;
-        QTest::newRow("password not given")
-            << DialVerb::Save << DialResult::Kind::NoRights << ConnectionEnd::NoRights << false;
-        QTest::newRow("files not written")
-            << DialVerb::Write << DialResult::Kind::Failed << ConnectionEnd::FilesFailed << true;
-        QTest::newRow("wvdial missing")
-            << DialVerb::Dial << DialResult::Kind::Failed << ConnectionEnd::DiallerFailed << true;
-    }
+    void failedSteps_data() { addRows(failedStepsRows); }
     void failedSteps()
     {
-        QFETCH(DialVerb, verb);
-        QFETCH(DialResult::Kind, kind);
+        const auto &[name, verb, kind, end, recovers] = currentRow(failedStepsRows);
         m_backend->results[verb] = {kind, u"This went wrong."_s};
         QVERIFY(m_service->connectNow());
         QTRY_COMPARE(m_messages, QStringList{u"This went wrong."_s});
-        QTEST(m_service->status().end, "end");
-        QTEST(m_backend->asked.contains(DialVerb::Recover), "recovers");
+        QCOMPARE(m_service->status().end, end);
+        QCOMPARE(m_backend->asked.contains(DialVerb::Recover), recovers);
         QCOMPARE(m_service->status().endSentence, u"This went wrong."_s);
     }
 
@@ -208,17 +239,10 @@ private Q_SLOTS:
         QCOMPARE(m_messages, QStringList{u"Recover wvdial config data failed!"_s});
     }
 
-    void cancelledAtAnyStep_data()
-    {
-        QTest::addColumn<DialVerb>("step");
-        QTest::addColumn<bool>("hangsUp");
-        QTest::newRow("while a password is asked for") << DialVerb::Save << false;
-        QTest::newRow("while the files are written") << DialVerb::Write << false;
-        QTest::newRow("while wvdial starts") << DialVerb::Dial << true;
-    }
+    void cancelledAtAnyStep_data() { addRows(cancelledAtAnyStepRows); }
     void cancelledAtAnyStep()
     {
-        QFETCH(DialVerb, step);
+        const auto &[name, step, hangsUp] = currentRow(cancelledAtAnyStepRows);
         m_backend->holds = step;
         QVERIFY(m_service->connectNow());
         QTRY_VERIFY(m_backend->held);
@@ -227,26 +251,15 @@ private Q_SLOTS:
         m_backend->held({});
         QTRY_COMPARE(m_service->status().state, ConnectionState::NotConnected);
         QCOMPARE(m_service->status().end, ConnectionEnd::ByPerson);
-        QTEST(m_backend->asked.contains(DialVerb::HangUp), "hangsUp");
+        QCOMPARE(m_backend->asked.contains(DialVerb::HangUp), hangsUp);
         QCOMPARE(m_backend->asked.count(DialVerb::Recover), 1);
         QCOMPARE(m_messages, QStringList());
     }
 
-    void brokenLinks_data()
-    {
-        QTest::addColumn<QByteArray>("output");
-        QTest::addColumn<ConnectionEnd>("end");
-        QTest::newRow("the network hung up")
-            << QByteArray("--> The PPP daemon has died: A modem hung up the phone (exit code = 16)\n")
-            << ConnectionEnd::ByPeer;
-        QTest::newRow("no answer to echoes")
-            << QByteArray("--> The PPP daemon has died. (exit code = 15)\n") << ConnectionEnd::LinkLost;
-        QTest::newRow("wvdial crashed") << QByteArray() << ConnectionEnd::DiallerFailed;
-        QTest::newRow("the card was pulled out") << QByteArray("gone") << ConnectionEnd::CardGone;
-    }
+    void brokenLinks_data() { addRows(brokenLinksRows); }
     void brokenLinks()
     {
-        QFETCH(QByteArray, output);
+        const auto &[name, output, end] = currentRow(brokenLinksRows);
         beginDial();
         goUp();
         if (output == "gone") {
@@ -258,7 +271,7 @@ private Q_SLOTS:
             m_backend->beGone();
         }
         QTRY_COMPARE(m_service->status().state, ConnectionState::NotConnected);
-        QTEST(m_service->status().end, "end");
+        QCOMPARE(m_service->status().end, end);
         QCOMPARE(m_backend->asked.last(), DialVerb::Recover);
         QCOMPARE(m_messages.size(), 1);
         QVERIFY(!m_messages.first().isEmpty() && !m_service->status().endSentence.isEmpty());
@@ -283,16 +296,10 @@ private Q_SLOTS:
         QCOMPARE(m_service->status().redial, 0);
     }
 
-    void redialIsNoSecondTry_data()
-    {
-        QTest::addColumn<QByteArray>("output");
-        QTest::newRow("the password is wrong")
-            << QByteArray("--> The PPP daemon has died. (exit code = 19)\n");
-        QTest::newRow("the person ends it") << QByteArray();
-    }
+    void redialIsNoSecondTry_data() { addRows(redialIsNoSecondTryRows); }
     void redialIsNoSecondTry()
     {
-        QFETCH(QByteArray, output);
+        const auto &[name, output] = currentRow(redialIsNoSecondTryRows);
         set("autoRedial_enabled", "1");
         beginDial();
         goUp();
@@ -324,27 +331,17 @@ private Q_SLOTS:
         QCOMPARE(m_service->status().redial, 0);
     }
 
-    void connectsByItself_data()
-    {
-        QTest::addColumn<Registration>("registration");
-        QTest::addColumn<ServiceState>("service");
-        QTest::addColumn<bool>("dials");
-        QTest::newRow("at home") << Registration::Home << ServiceState::Full << true;
-        QTest::newRow("a card that says nothing of it")
-            << Registration::Unknown << ServiceState::Unknown << true;
-        QTest::newRow("no network") << Registration::Searching << ServiceState::None << false;
-    }
+    void connectsByItself_data() { addRows(connectsByItselfRows); }
     void connectsByItself()
     {
-        QFETCH(Registration, registration);
-        QFETCH(ServiceState, service);
+        const auto &[name, registration, service, dials] = currentRow(connectsByItselfRows);
         set("AutoConnectFlag", "1");
         CardState back = card();
         back.registration = registration;
         back.service = service;
         put(back);
-        QTEST(m_service->status().redial == 1, "dials");
-        if (m_service->status().redial == 0)
+        QCOMPARE(m_service->status().redial, dials ? 1 : 0);
+        if (!dials)
             return;
         QTRY_COMPARE(m_backend->asked.count(DialVerb::Dial), 1);
         goUp();
@@ -368,38 +365,17 @@ private Q_SLOTS:
         }
     }
 
-    void obstacles_data()
-    {
-        QTest::addColumn<QString>("state");
-        QTest::addColumn<bool>("isCallUp");
-        QTest::addColumn<NetworkType>("network");
-        QTest::addColumn<ConnectObstacle>("obstacle");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("none") << u"registered"_s << false << NetworkType::Edge << ConnectObstacle::None
-                              << QString();
-        QTest::newRow("a call on GSM")
-            << u"registered"_s << true << NetworkType::Edge << ConnectObstacle::CallOnOtherNetwork
-            << u"Only UMTS network can connect while calling!"_s;
-        QTest::newRow("a call on UMTS")
-            << u"registered"_s << true << NetworkType::Hspa << ConnectObstacle::None << QString();
-        QTest::newRow("roaming, to be asked about")
-            << u"roaming"_s << false << NetworkType::Umts << ConnectObstacle::Roaming << QString();
-        QTest::newRow("no card") << u"absent"_s << false << NetworkType::Unknown << ConnectObstacle::CardGone
-                                 << u"The device has been disconnected or is unavailable."_s;
-    }
+    void obstacles_data() { addRows(obstaclesRows); }
     void obstacles()
     {
-        QFETCH(QString, state);
-        QFETCH(bool, isCallUp);
-        QFETCH(NetworkType, network);
-        QFETCH(QString, message);
+        const auto &[name, state, isCallUp, network, obstacle, message] = currentRow(obstaclesRows);
         CardState now = fakecard::namedState(state);
         now.networkType = network;
         now.family = CardFamily::Cdma;
         now.modemPortName = card().modemPortName;
         put(now);
         m_service->setCallUp(isCallUp);
-        QTEST(m_service->obstacle(), "obstacle");
+        QCOMPARE(m_service->obstacle(), obstacle);
         QCOMPARE(m_service->connectNow(), message.isEmpty());
         QCOMPARE(m_messages.join(u'|'), message);
     }
@@ -424,31 +400,18 @@ private Q_SLOTS:
         QCOMPARE(m_service->status().state, ConnectionState::Connected);
     }
 
-    void opensOnlyPages_data()
-    {
-        QTest::addColumn<QString>("url");
-        QTest::addColumn<bool>("opens");
-        QTest::newRow("a page") << u"https://example.org/start"_s << true;
-        QTest::newRow("a file") << u"file:///etc/passwd"_s << false;
-        QTest::newRow("a script") << u"javascript:alert(1)"_s << false;
-        QTest::newRow("no host") << u"http:///"_s << false;
-    }
+    void opensOnlyPages_data() { addRows(opensOnlyPagesRows); }
     void opensOnlyPages()
     {
-        QFETCH(QString, url);
+        const auto &[name, url, opens] = currentRow(opensOnlyPagesRows);
         set("Show_open_URL", "1");
-        ConnectionProfile profile = *m_store->defaultProfile();
-        profile.setText(ProfileField::DefaultOpenUrl, url);
-        QFile record(m_folder.filePath(u"Data/defaultRecord.conf"_s));
-        QVERIFY(record.open(QIODevice::ReadWrite));
-        QByteArray text = record.readAll().replace("https://example.org/start", url.toUtf8());
-        QVERIFY(record.resize(0) && record.seek(0) && record.write(text) > 0);
-        record.close();
+        const QString record = m_folder.path(u"Data/defaultRecord.conf"_s);
+        putFile(record, contentOf(record).replace("https://example.org/start", url.toUtf8()));
         m_store->reload();
         QSignalSpy opened(m_service.get(), &ConnectionService::sigOpenUrl);
         beginDial();
         goUp();
-        QTEST(!opened.isEmpty(), "opens");
+        QCOMPARE(!opened.isEmpty(), opens);
     }
 
     /// The limit counts from the last byte on, not from a reading that found none.
@@ -518,7 +481,7 @@ private:
     {
         CardState state = fakecard::registeredCard();
         state.family = CardFamily::Cdma;
-        state.modemPortName = m_folder.filePath(u"modem"_s);
+        state.modemPortName = m_folder.path(u"modem"_s);
         return state;
     }
     static void put(const CardState &state) { fakecard::put(state); }
@@ -536,7 +499,7 @@ private:
         QTRY_COMPARE(m_service->status().state, ConnectionState::Connected);
     }
 
-    QTemporaryDir m_folder;
+    ScratchFolder m_folder;
     LinkFacts m_facts;
     QStringList m_messages;
     QString m_loss;

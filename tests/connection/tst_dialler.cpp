@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The real wvdial and pppd on an emulated card, through the whole service. Where the kernel has no PPP pppd
 // says so after the card's CONNECT, which is one more way for a dial to fail.
+#include "../rows.h"
 #include "cardthread.h"
 #include "connection/connectionservice.h"
 #include "connection/dialwork.h"
@@ -55,6 +56,21 @@ static DialRequest request(DialVerb verb, const QString &port)
     return request;
 }
 
+static const Rows<QByteArray, ConnectionEnd, int, QString> failedDialsRows{
+    {"NO CARRIER", "no-carrier", ConnectionEnd::NoCarrier, -1, u"Connection is failed!"_s},
+    {"BUSY, which wvdial would redial for ever", "busy", ConnectionEnd::Busy, -1, u"Connection is failed!"_s},
+    {"the dial command refused", "error", ConnectionEnd::NoCarrier, -1, u"Connection is failed!"_s},
+    {"no PPP in the kernel", "connect", ConnectionEnd::DiallerFailed, 4,
+     u"Fail to connect! exit code is 4\nThe kernel does not support PPP, for example, the PPP kernel driver "
+     u"is "
+     "not included or cannot be loaded."_s},
+};
+
+static const Rows<QString> withoutRightsRows{
+    {"refused", u"echo x >> asked; exit 126"_s},
+    {"cancelled", u"echo x >> asked; exec sleep 600"_s},
+};
+
 class TestDialler : public QObject
 {
     Q_OBJECT
@@ -66,9 +82,7 @@ private Q_SLOTS:
             QSKIP(qPrintable(whyNot));
         if (!QFile::exists(u"/usr/bin/wvdial"_s))
             QSKIP("wvdial is not installed");
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir::setCurrent(m_folder->path()));
-        QVERIFY(QDir().mkpath(u"Data"_s));
+        m_folder.emplace();
         basePath = m_folder->path();
         cmcfg.setValue(u"device"_s, u"at_port"_s, basePath + u"/card/at"_s);
         cmcfg.setValue(u"device"_s, u"modem_port"_s, basePath + u"/card/modem"_s);
@@ -93,38 +107,22 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(u"/tmp/connect_info"_s));
     }
 
-    void failedDials_data()
-    {
-        QTest::addColumn<QByteArray>("dial");
-        QTest::addColumn<ConnectionEnd>("end");
-        QTest::addColumn<int>("exitCode");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("NO CARRIER") << QByteArray(R"("result": "no-carrier")") << ConnectionEnd::NoCarrier
-                                    << -1 << u"Connection is failed!"_s;
-        QTest::newRow("BUSY, which wvdial would redial for ever")
-            << QByteArray(R"("result": "busy")") << ConnectionEnd::Busy << -1 << u"Connection is failed!"_s;
-        QTest::newRow("the dial command refused")
-            << QByteArray(R"("result": "error")") << ConnectionEnd::NoCarrier << -1
-            << u"Connection is failed!"_s;
-        if (!QFile::exists(u"/dev/ppp"_s))
-            QTest::newRow("no PPP in the kernel")
-                << QByteArray(R"("result": "connect")") << ConnectionEnd::DiallerFailed << 4
-                << u"Fail to connect! exit code is 4\nThe kernel does not support PPP, for example, the "
-                   u"PPP kernel driver is not included or cannot be loaded."_s;
-    }
+    void failedDials_data() { addRows(failedDialsRows); }
     void failedDials()
     {
-        QFETCH(QByteArray, dial);
-        tell(R"({"command": "dial-result", )" + dial + '}');
+        const auto &[name, dial, end, exitCode, message] = currentRow(failedDialsRows);
+        if (exitCode == 4 && QFile::exists(u"/dev/ppp"_s))
+            QSKIP("the kernel has PPP");
+        tell(R"({"command": "dial-result", "result": "%1"})", dial);
         const LogCapture log;
         QVERIFY(m_service->connectNow());
         QVERIFY(!m_service->connectNow()); // a second press changes nothing
         QTRY_VERIFY_WITH_TIMEOUT(!m_messages.isEmpty(), patience);
         QCOMPARE(m_service->status().state, ConnectionState::NotConnected);
-        QTEST(m_service->status().end, "end");
-        QTEST(m_service->status().exitCode, "exitCode");
+        QCOMPARE(m_service->status().end, end);
+        QCOMPARE(m_service->status().exitCode, exitCode);
         QVERIFY(!m_service->status().endSentence.isEmpty());
-        QTEST(m_messages.join(u'|'), "message");
+        QCOMPARE(m_messages.join(u'|'), message);
         QCOMPARE(UpdateCfg::value(UpdateKey::Wvdial), u"1"_s);
         QVERIFY(log.lines().contains(u"*****sigPDPSetCommand_result is 1*****"_s));
         const QByteArray heard = QJsonDocument(m_card->control(R"({"command": "log"})")).toJson();
@@ -194,16 +192,6 @@ private Q_SLOTS:
         QVERIFY(dialler().empty());
     }
 
-    void endOfTheProgramHangsUp()
-    {
-        tell(R"({"command": "dial-result", "result": "silence"})");
-        QVERIFY(m_service->connectNow());
-        QTRY_VERIFY_WITH_TIMEOUT(!dialler().empty(), patience);
-        m_service.reset();
-        QVERIFY(dialler().empty());
-        QCOMPARE(etcAsText(), m_before);
-    }
-
     void throughTheHelper()
     {
         makeService(std::make_unique<HelperBackend>(QStringList{helperProgram}));
@@ -216,16 +204,11 @@ private Q_SLOTS:
     }
 
     /// The question for the password is open, or was answered with "no".
-    void withoutRights_data()
-    {
-        QTest::addColumn<QString>("question");
-        QTest::newRow("refused") << u"echo x >> asked; exit 126"_s;
-        QTest::newRow("cancelled") << u"echo x >> asked; exec sleep 600"_s;
-    }
+    void withoutRights_data() { addRows(withoutRightsRows); }
     void withoutRights()
     {
-        QFETCH(QString, question);
-        QFile asked(m_folder->filePath(u"asked"_s));
+        const auto &[name, question] = currentRow(withoutRightsRows);
+        QFile asked(m_folder->path(u"asked"_s));
         HelperBackend backend({u"sh"_s, u"-c"_s, question});
         int refused = 0;
         const auto count = [&refused](const DialResult &result) {
@@ -405,9 +388,7 @@ private Q_SLOTS:
             next.ask({.verb = DialVerb::Save});
             next.ask({.verb = DialVerb::Recover});
             QTRY_COMPARE_WITH_TIMEOUT(done.size(), 2, patience);
-            QFile asked(u"/tmp/asked"_s);
-            QVERIFY(asked.open(QIODevice::ReadOnly));
-            const QByteArray said = asked.readAll();
+            const QByteArray said = contentOf(u"/tmp/asked"_s);
             QVERIFY2(said.count("-4 -r ") == 1 && said.endsWith("none0\n"), isFirst ? said : "again");
         }
         QCOMPARE(umount(dhclient), 0);
@@ -425,13 +406,11 @@ private Q_SLOTS:
         work.shutDown();
         QTRY_COMPARE_WITH_TIMEOUT(over.size(), 1, int(DiallerBackend::longestShutDown.count()));
         QCOMPARE(umount(dhclient), 0);
-        QFile hangs(u"/tmp/hangs"_s);
-        QVERIFY(hangs.open(QIODevice::ReadOnly));
-        const QList<QByteArray> pids = hangs.readAll().simplified().split(' ');
+        const QList<QByteArray> pids = contentOf(u"/tmp/hangs"_s).simplified().split(' ');
         QCOMPARE(pids.size(), 2);
         for (const QByteArray &pid : pids)
             QVERIFY(!processStat(pid.toInt()));
-        QVERIFY(hangs.remove());
+        QVERIFY(QFile::remove(u"/tmp/hangs"_s));
         QVERIFY(!QFile::exists(u"/run/corva-dialler.lease"_s));
     }
 
@@ -443,15 +422,17 @@ private:
     /// False where there is none. Its place is given back by `umount`.
     bool takeDhclientsPlace(const QByteArray &script)
     {
-        QFile stub(m_folder->filePath(u"dhclient"_s));
-        const bool isMade = QFile::exists(QString::fromLatin1(dhclient)) && stub.open(QIODevice::WriteOnly) &&
-                            stub.write("#!/bin/sh\n" + script) > 0 &&
-                            stub.setPermissions(QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
-        stub.close();
-        const QByteArray place = QFile::encodeName(stub.fileName());
-        return isMade && mount(place.constData(), dhclient, nullptr, MS_BIND, nullptr) == 0;
+        if (!QFile::exists(QString::fromLatin1(dhclient)))
+            return false;
+        const QString stub = m_folder->path(u"dhclient"_s);
+        putFile(stub, "#!/bin/sh\n" + script);
+        return QFile::setPermissions(stub, QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner) &&
+               mount(QFile::encodeName(stub).constData(), dhclient, nullptr, MS_BIND, nullptr) == 0;
     }
-    void tell(const QByteArray &command) { QVERIFY(m_card->control(command).value(u"ok"_s).toBool()); }
+    void tell(QByteArray command, const QByteArray &value = {})
+    {
+        QVERIFY(m_card->control(command.replace("%1", value)).value(u"ok"_s).toBool());
+    }
 
     void begin()
     {
@@ -505,7 +486,7 @@ private:
         return pids;
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<ScratchFolder> m_folder;
     FakeOwner m_owner;
     QString m_before;
     QStringList m_messages;

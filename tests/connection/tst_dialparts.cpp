@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The pure parts of dialling: what is spoken with the helper, what the system's files say.
+#include "../rows.h"
 #include "connection/dhcpclient.h"
 #include "connection/dialwire.h"
 #include "connection/linkfacts.h"
@@ -11,6 +12,37 @@
 
 using namespace Qt::StringLiterals;
 using namespace corva;
+
+namespace
+{
+
+const Rows<QByteArray, bool> optionsInTheirRangeRows{
+    {"below it", R"({"mtu":127})", false},       {"the most", R"({"mtu":16384})", true},
+    {"above it", R"({"mtu":16385})", false},     {"a text", R"({"mtu":"1500\nplugin evil.so"})", false},
+    {"half a byte", R"({"mtu":1500.5})", false}, {"another option of pppd", R"({"connect":1})", false},
+};
+
+const QByteArray head =
+    "Iface\tDestination\tGateway \tFlags\tRefCnt\tUse\tMetric\tMask\t\tMTU\tWindow\tIRTT\n";
+const QByteArray ppp = "ppp0\t00000000\t00000000\t0001\t0\t0\t0\t00000000\t0\t0\t0\n";
+const QByteArray lan = "eth0\t00000000\t0101A8C0\t0003\t0\t0\t100\t00000000\t0\t0\t0\n";
+const QByteArray host = "ppp0\t4040400A\t00000000\t0005\t0\t0\t0\tFFFFFFFF\t0\t0\t0\n";
+const Rows<QByteArray, QString, QString> routesRows{
+    {"none", head + host, {}, {}},
+    {"over the link", head + host + ppp, u"ppp0"_s, {}},
+    {"two, the cheaper one", head + lan + ppp, u"ppp0"_s, {}},
+    {"over a gateway", head + lan, u"eth0"_s, u"192.168.1.1"_s},
+    {"cut off", head + lan.left(20), {}, {}},
+};
+
+const QByteArray rest = " S 10 20 30 0 -1 4194304 1 2 3 4 5 6 7 8 9 10 11 12 777 13 14\n";
+const Rows<QByteArray, QByteArray, int> processLinesRows{
+    {"a name that plays fields", "40 (a) Z 1 1 1)" + rest, "a) Z 1 1 1", 30},
+    {"cut off", "40 (wvdial) S 10 20", {}, -1},
+    {"nothing", {}, {}, -1},
+};
+
+} // namespace
 
 class TestDialParts : public QObject
 {
@@ -34,42 +66,24 @@ private Q_SLOTS:
         QCOMPARE(there->modemPort, request.modemPort);
     }
 
-    void noRequests_data()
-    {
-        QTest::addColumn<QByteArray>("line");
-        const auto row = [](const char *name, const char *line) { QTest::newRow(name) << QByteArray(line); };
-        row("nothing", "");
-        row("an unknown verb", R"({"verb":"Save"})");
-        row("a member too many", R"({"verb":"dial","port":"/dev/ttyUSB0"})");
-        row("a member too few", R"({"verb":"lease","port":"/dev/ttyUSB0"})");
-        row("a port that is no text", R"({"verb":"lease","port":["/dev/ttyUSB0"],"interface":"wwan0"})");
-        row("half a profile", R"({"verb":"write","profile":["Home"],"port":"/dev/ttyUSB0","options":{}})");
-        row("three servers", R"({"verb":"nameServers","servers":["1.1.1.1","1.1.1.2","1.1.1.3"]})");
-        row("a line that goes on", R"({"verb":"save"}{"verb":"dial"})");
-    }
     void noRequests()
     {
-        QFETCH(QByteArray, line);
-        QVERIFY(!requestFromLine(line));
+        for (const char *line : {"", R"({"verb":"Save"})", R"({"verb":"dial","port":"/dev/ttyUSB0"})",
+                                 R"({"verb":"lease","port":"/dev/ttyUSB0"})",
+                                 R"({"verb":"lease","port":["/dev/ttyUSB0"],"interface":"wwan0"})",
+                                 R"({"verb":"write","profile":["Home"],"port":"/dev/ttyUSB0","options":{}})",
+                                 R"({"verb":"nameServers","servers":["1.1.1.1","1.1.1.2","1.1.1.3"]})",
+                                 R"({"verb":"save"}{"verb":"dial"})"})
+            QVERIFY2(!requestFromLine(line), line);
     }
 
-    void optionsInTheirRange_data()
-    {
-        QTest::addColumn<QByteArray>("options");
-        QTest::addColumn<bool>("isTaken");
-        QTest::newRow("below it") << QByteArray(R"({"mtu":127})") << false;
-        QTest::newRow("the most") << QByteArray(R"({"mtu":16384})") << true;
-        QTest::newRow("above it") << QByteArray(R"({"mtu":16385})") << false;
-        QTest::newRow("a text") << QByteArray(R"({"mtu":"1500\nplugin evil.so"})") << false;
-        QTest::newRow("half a byte") << QByteArray(R"({"mtu":1500.5})") << false;
-        QTest::newRow("another option of pppd") << QByteArray(R"({"connect":1})") << false;
-    }
+    void optionsInTheirRange_data() { addRows(optionsInTheirRangeRows); }
     void optionsInTheirRange()
     {
-        QFETCH(QByteArray, options);
+        const auto &[name, options, isTaken] = currentRow(optionsInTheirRangeRows);
         QByteArray line = toLine(DialRequest{.verb = DialVerb::Write});
         line.replace("\"options\":{}", "\"options\":" + options);
-        QTEST(requestFromLine(line).has_value(), "isTaken");
+        QCOMPARE(requestFromLine(line).has_value(), isTaken);
     }
 
     void eventsArriveAsTheyWere()
@@ -100,29 +114,13 @@ private Q_SLOTS:
         QVERIFY(cutter.feed("\nsave\n").empty());
     }
 
-    void routes_data()
-    {
-        QTest::addColumn<QByteArray>("table");
-        QTest::addColumn<QString>("interfaceName");
-        QTest::addColumn<QString>("gateway");
-        const QByteArray head =
-            "Iface\tDestination\tGateway \tFlags\tRefCnt\tUse\tMetric\tMask\t\tMTU\tWindow\t"
-            "IRTT\n";
-        const QByteArray ppp = "ppp0\t00000000\t00000000\t0001\t0\t0\t0\t00000000\t0\t0\t0\n";
-        const QByteArray lan = "eth0\t00000000\t0101A8C0\t0003\t0\t0\t100\t00000000\t0\t0\t0\n";
-        const QByteArray host = "ppp0\t4040400A\t00000000\t0005\t0\t0\t0\tFFFFFFFF\t0\t0\t0\n";
-        QTest::newRow("none") << head + host << QString() << QString();
-        QTest::newRow("over the link") << head + host + ppp << u"ppp0"_s << QString();
-        QTest::newRow("two, the cheaper one") << head + lan + ppp << u"ppp0"_s << QString();
-        QTest::newRow("over a gateway") << head + lan << u"eth0"_s << u"192.168.1.1"_s;
-        QTest::newRow("cut off") << head + lan.left(20) << QString() << QString();
-    }
+    void routes_data() { addRows(routesRows); }
     void routes()
     {
-        QFETCH(QByteArray, table);
+        const auto &[name, table, interfaceName, gateway] = currentRow(routesRows);
         const DefaultRoute route = defaultRouteIn(table).value_or(DefaultRoute());
-        QTEST(route.interfaceName, "interfaceName");
-        QTEST(route.gateway, "gateway");
+        QCOMPARE(route.interfaceName, interfaceName);
+        QCOMPARE(route.gateway, gateway);
     }
 
     void nameServers()
@@ -143,23 +141,13 @@ private Q_SLOTS:
         QVERIFY(!hasLinkFile({file.fileName()}));
     }
 
-    void processLines_data()
-    {
-        QTest::addColumn<QByteArray>("line");
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<int>("session");
-        const QByteArray rest = " S 10 20 30 0 -1 4194304 1 2 3 4 5 6 7 8 9 10 11 12 777 13 14\n";
-        QTest::newRow("a name that plays fields")
-            << "40 (a) Z 1 1 1)" + rest << QByteArray("a) Z 1 1 1") << 30;
-        QTest::newRow("cut off") << QByteArray("40 (wvdial) S 10 20") << QByteArray() << -1;
-        QTest::newRow("nothing") << QByteArray() << QByteArray() << -1;
-    }
+    void processLines_data() { addRows(processLinesRows); }
     void processLines()
     {
-        QFETCH(QByteArray, line);
+        const auto &[title, line, name, session] = currentRow(processLinesRows);
         const auto stat = parseProcessStat(line);
-        QTEST(stat ? stat->name : QByteArray(), "name");
-        QTEST(stat ? int(stat->session) : -1, "session");
+        QCOMPARE(stat ? stat->name : QByteArray(), name);
+        QCOMPARE(stat ? int(stat->session) : -1, session);
         QVERIFY(!stat || (stat->startTime == 777 && stat->pid == 40 && !stat->isZombie()));
     }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The data call over the card's own network interface, on the emulated card. Who gets the address is a fake.
+#include "../rows.h"
 #include "cardthread.h"
 #include "connection/connectionservice.h"
 #include "connection/datacall.h"
@@ -13,7 +14,6 @@
 #include "shell/commoncfg.h"
 #include "shell/globals.h"
 
-#include <QDir>
 #include <QJsonDocument>
 #include <QSignalSpy>
 #include <QTest>
@@ -24,6 +24,32 @@ using namespace corva;
 
 constexpr int patience = 20000; // ms, for what takes a moment on a busy machine
 
+namespace
+{
+
+const Rows<QString, QByteArray, QByteArray> upAndDownRows{
+    {"the maker's command", u"wcdma"_s, "AT+JPDPACT=1,1", "AT+JPDPACT=1,0"},
+    {"the standard's", u"standard"_s, "AT+CGACT=1,1", "AT+CGACT=0,1"},
+};
+
+const Rows<bool> callOfAKilledRunRows{
+    {"of this card", false},
+    {"of another card", true},
+};
+
+// Whether the card is at the data call, or still at something else.
+const Rows<bool> givenUpRows{
+    {"while the call is made", true},
+    {"before its context is set", false},
+};
+
+const Rows<QString> refusedByTheNetworkRows{
+    {"by a report", u"wcdma"_s},
+    {"by an error", u"standard"_s},
+};
+
+} // namespace
+
 class TestNetworkCard : public QObject
 {
     Q_OBJECT
@@ -32,7 +58,6 @@ private Q_SLOTS:
     void initTestCase()
     {
         basePath = m_folder.path();
-        QVERIFY(QDir().mkpath(basePath + u"/Data"_s));
         cmcfg.setValue(u"device"_s, u"at_port"_s, basePath + u"/card/at"_s);
         cmcfg.setValue(u"device"_s, u"modem_port"_s, basePath + u"/card/modem"_s);
         cmcfg.setValue(u"device"_s, u"network_interface"_s, u"wwan0"_s);
@@ -47,21 +72,10 @@ private Q_SLOTS:
         m_card.reset();
     }
 
-    void upAndDown_data()
-    {
-        QTest::addColumn<QString>("card");
-        QTest::addColumn<QByteArray>("up");
-        QTest::addColumn<QByteArray>("down");
-        QTest::newRow("the maker's command")
-            << u"wcdma"_s << QByteArray("AT+JPDPACT=1,1") << QByteArray("AT+JPDPACT=1,0");
-        QTest::newRow("the standard's")
-            << u"standard"_s << QByteArray("AT+CGACT=1,1") << QByteArray("AT+CGACT=0,1");
-    }
+    void upAndDown_data() { addRows(upAndDownRows); }
     void upAndDown()
     {
-        QFETCH(QString, card);
-        QFETCH(QByteArray, up);
-        QFETCH(QByteArray, down);
+        const auto &[name, card, up, down] = currentRow(upAndDownRows);
         begin(card);
         QVERIFY(m_service->connectNow());
         QTRY_COMPARE_WITH_TIMEOUT(status().state, ConnectionState::Connected, patience);
@@ -77,15 +91,10 @@ private Q_SLOTS:
         QCOMPARE(m_messages, QStringList());
     }
 
-    void callOfAKilledRun_data()
-    {
-        QTest::addColumn<bool>("isOther");
-        QTest::newRow("of this card") << false;
-        QTest::newRow("of another card") << true;
-    }
+    void callOfAKilledRun_data() { addRows(callOfAKilledRunRows); }
     void callOfAKilledRun()
     {
-        QFETCH(bool, isOther);
+        const auto &[name, isOther] = currentRow(callOfAKilledRunRows);
         begin(u"wcdma"_s);
         m_service.reset();
         QTRY_VERIFY_WITH_TIMEOUT(!m_monitor->state().identity.imei.isEmpty(), patience);
@@ -100,15 +109,10 @@ private Q_SLOTS:
     }
 
     /// The card is slower than the person: what it does too late is undone, or not even begun.
-    void givenUp_data()
-    {
-        QTest::addColumn<bool>("isMaking"); ///< the card is at the data call; otherwise at something else
-        QTest::newRow("while the call is made") << true;
-        QTest::newRow("before its context is set") << false;
-    }
+    void givenUp_data() { addRows(givenUpRows); }
     void givenUp()
     {
-        QFETCH(bool, isMaking);
+        const auto &[name, isMaking] = currentRow(givenUpRows);
         begin(u"wcdma"_s);
         LinkPlan plan;
         plan.profile = *m_store->defaultProfile();
@@ -136,15 +140,10 @@ private Q_SLOTS:
         QVERIFY(!DataCall::isNoted());
     }
 
-    void refusedByTheNetwork_data()
-    {
-        QTest::addColumn<QString>("card");
-        QTest::newRow("by a report") << u"wcdma"_s;
-        QTest::newRow("by an error") << u"standard"_s;
-    }
+    void refusedByTheNetwork_data() { addRows(refusedByTheNetworkRows); }
     void refusedByTheNetwork()
     {
-        QFETCH(QString, card);
+        const auto &[name, card] = currentRow(refusedByTheNetworkRows);
         begin(card);
         tell(R"({"command": "set", "key": "data.accessPoint", "value": "elsewhere"})");
         QVERIFY(m_service->connectNow());

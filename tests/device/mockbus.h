@@ -40,8 +40,6 @@ public:
     /// The path of a port's node outside the mocked world.
     QString nodePath(const QString &port) const;
 
-    UMockdevTestbed *testbed() const { return m_testbed.get(); }
-
 private:
     struct Unref {
         void operator()(UMockdevTestbed *p) const { g_object_unref(p); }

@@ -2,6 +2,7 @@
 #include "../files.h"
 #include "../rows.h"
 #include "device/cardfinder.h"
+#include "device/portaccess.h"
 #include "device/portclaim.h"
 #include "device/portholder.h"
 
@@ -133,12 +134,12 @@ Q_DECLARE_METATYPE(ModemPort)
 namespace
 {
 
-const qint32 other = getppid();
+const qint32 parent = getppid();
 
 const Rows<QByteArray, bool> lockFileRows{
-    {"ten characters and a line end", QByteArray::number(other).rightJustified(10) + '\n', true},
-    {"with the program's name", QByteArray::number(other).rightJustified(10) + " minicom root\n", true},
-    {"four bytes", QByteArray(reinterpret_cast<const char *>(&other), sizeof other), true},
+    {"ten characters and a line end", QByteArray::number(parent).rightJustified(10) + '\n', true},
+    {"with the program's name", QByteArray::number(parent).rightJustified(10) + " minicom root\n", true},
+    {"four bytes", QByteArray(reinterpret_cast<const char *>(&parent), sizeof parent), true},
     {"this process", QByteArray::number(getpid()), false},
     {"a process that has ended", "4194304\n", false}, // above any process id
     {"every process, to kill()", "-1\n", false},
@@ -157,6 +158,21 @@ const Rows<PortHolder, HolderAdvice, QString> adviceRows{
     {"name like a place holder", PortHolder{u"%2"_s, 7}, HolderAdvice::CloseProgram,
      u"%2 is using the card on /dev/ttyUSB2"_s},
     {"nobody knows", PortHolder(), HolderAdvice::FindProgram, u"fuser -v /dev/ttyUSB2"_s},
+};
+
+const Rows<QString, QString> rightsAtAPortRows{
+    {"none", u"/nowhere"_s, {}},
+    {"administrator's own", u"/dev/null"_s, u"root"_s},
+};
+
+constexpr gid_t without = 54321; // nobody is in it
+
+const Rows<gid_t, mode_t, RightsAdvice> rightsOfAGroupRows{
+    {"may do both", without, mode_t(0660), RightsAdvice::JoinGroup},
+    {"may only read", without, mode_t(0640), RightsAdvice::AskAdministrator},
+    {"may only write", without, mode_t(0620), RightsAdvice::AskAdministrator},
+    {"administrator's own", gid_t(0), mode_t(0660), RightsAdvice::AskAdministrator},
+    {"had already", getegid(), mode_t(0660), RightsAdvice::AskAdministrator},
 };
 
 } // namespace
@@ -260,6 +276,22 @@ private Q_SLOTS:
         QCOMPARE(adviceFor(holder), advice);
         const QString text = holderAdviceText(holder, u"/dev/ttyUSB2"_s);
         QVERIFY2(text.contains(step), qPrintable(text));
+    }
+
+    void rightsAtAPort_data() { addRows(rightsAtAPortRows); }
+    void rightsAtAPort()
+    {
+        const auto &[name, port, group] = currentRow(rightsAtAPortRows);
+        QCOMPARE(portGroup(port), group);
+        QCOMPARE(rightsAdvice(port), RightsAdvice::AskAdministrator);
+        QVERIFY(!rightsAdviceText(port).contains(u"usermod"_s));
+    }
+
+    void rightsOfAGroup_data() { addRows(rightsOfAGroupRows); }
+    void rightsOfAGroup()
+    {
+        const auto &[name, group, mode, advice] = currentRow(rightsOfAGroupRows);
+        QCOMPARE(rightsAdvice(group, mode), advice);
     }
 
 private:

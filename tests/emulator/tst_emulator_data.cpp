@@ -3,7 +3,6 @@
 #include "testcard.h"
 
 #include <QFileInfo>
-#include <QProcess>
 #include <csignal>
 #include <termios.h>
 
@@ -45,14 +44,6 @@ const Rows<QByteArray, QByteArray> contextComesUpAndGoesDownRows{
     {"up", "\r\n+JPDPACT: 1,1\r\n", "1"},
     {"refused", "\r\n+JPDPACT: 1,3\r\n", "3"},
     {"silence", {}, "2"}, // never ready
-};
-
-const Rows<QByteArray> wvdialDialsRows{
-    {"connect-then-silence", "Carrier detected"},
-    {"busy", "The line is busy"},
-    {"no-carrier", "No Carrier!"},
-    {"no-answer", "No Answer."},
-    {"no-dialtone", "No dial tone."},
 };
 
 } // namespace
@@ -217,29 +208,6 @@ private Q_SLOTS:
         QVERIFY(peer > 0);
         ::close(cable);
         QVERIFY(isGone(peer));
-    }
-
-    void wvdialDials_data() { addRows(wvdialDialsRows); }
-    // The real dialler, with a configuration of its own. It talks on its standard error.
-    void wvdialDials()
-    {
-        const auto &[result, said] = currentRow(wvdialDialsRows);
-        QVERIFY(m_card->tell(R"({"command": "dial-result", "result": "%1"})", result));
-        const QString configuration = m_card->path(u"wvdial.conf"_s);
-        putFile(configuration,
-                "[Dialer Defaults]\nPhone = *99#\nUsername = null\nPassword = null\nStupid Mode = 1\n"
-                "Dial Command = ATDT\nBaud = 115200\nDial Attempts = 1\nAuto Reconnect = off\nModem = " +
-                    m_card->path(u"modem"_s).toUtf8() + '\n');
-        QProcess wvdial;
-        wvdial.setProcessChannelMode(QProcess::MergedChannels);
-        wvdial.start(u"wvdial"_s, {u"-C"_s, configuration});
-        QVERIFY2(wvdial.waitForStarted(), "wvdial is missing");
-        QByteArray output;
-        while (!output.contains(said) && wvdial.waitForReadyRead(20000))
-            output += wvdial.readAll();
-        wvdial.terminate();
-        wvdial.waitForFinished(20000);
-        QVERIFY2(output.contains(said), output.constData());
     }
 
 private:

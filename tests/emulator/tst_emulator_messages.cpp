@@ -184,15 +184,9 @@ private Q_SLOTS:
         QVERIFY(talk.card.tell(R"({"command": "sms-report", "reference": 9, "to": "+4912345678"})"));
     }
 
-    void networkRefusesTheNth()
+    void unregisteredCardRefuses()
     {
         Talk talk;
-        talk.card.tell(R"({"command": "sms-network", "refuse": 42, "nth": 2, "count": 1})");
-        QCOMPARE(talk.submit("AT+CMGS=18", toItself), "+CMGS: 1|OK");
-        talk.card.pending(talk.port);
-        QCOMPARE(talk.submit("AT+CMGS=18", toItself), "+CMS ERROR: Congestion");
-        QCOMPARE(talk.submit("AT+CMGS=18", toItself), "+CMGS: 2|OK");
-        talk.card.pending(talk.port);
         talk.card.tell(R"({"command": "register", "service": "none"})");
         QCOMPARE(talk.submit("AT+CMGS=18", toItself), "+CMS ERROR: no network service");
         talk.card.tell(R"({"command": "fault", "kind": "refuse", "match": "+CMGS", "code": 500})");
@@ -309,17 +303,6 @@ private Q_SLOTS:
         QCOMPARE(talk.told(R"({"command": "drop-data"})"), "\r\nNO CARRIER\r\n");
     }
 
-    void waitsForThePlug()
-    {
-        TestCard card;
-        QVERIFY(card.tell(R"({"command": "unplug"})"));
-        QCOMPARE(card.control(receivedSms)[u"waiting"_s], QJsonValue(1));
-        QVERIFY(card.tell(R"({"command": "plug"})"));
-        TestPort port(card.path(u"at"_s));
-        QCOMPARE(port.exchange("ATE0+CMGL=0\r", "OK\r\n"),
-                 "ATE0+CMGL=0\r\r\n+CMGL: 1,0,,23\r\n" + received + "\r\n\r\nOK\r\n");
-    }
-
     void pagesAreShownOnWantedChannels()
     {
         Talk talk;
@@ -341,16 +324,6 @@ private Q_SLOTS:
         QCOMPARE(shown(R"("channel": 50)"), "");
         QCOMPARE(shown(R"("pdu": "0000003301")"), "\r\n+CBM: 5\r\n0000003301\r\n");
         QCOMPARE(talk.ask("AT+CSCB=0,\"x\""), "+CMS ERROR: operation not allowed");
-    }
-
-    void malformedOnesAreHandedOn()
-    {
-        Talk talk;
-        for (const QByteArray &pdu : QByteArrayList{"FF", "0791", "xyz", "07912120550501F0"}) {
-            talk.told(sms("\"unchecked\": true, \"pdu\": \"" + pdu + '"'));
-        }
-        QCOMPARE(talk.ask("AT+CMGL=4"), "+CMGL: 1,0,,0|FF|+CMGL: 2,0,,0|0791|+CMGL: 3,0,,0|xyz|"
-                                        "+CMGL: 4,0,,0|07912120550501F0|OK");
     }
 
     // It takes the time of one command, however long its answer is.

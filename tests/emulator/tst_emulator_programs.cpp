@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// cardemu and cardctl as a person runs them.
-#include "testcard.h"
+// cardemu and cardctl as a person runs them, and the card as a program of others sees it.
+#include "otherprograms.h"
 
 #include <QJsonDocument>
-#include <QProcess>
 
 namespace
 {
@@ -19,6 +18,24 @@ const Rows<QString, QString, int, QString> complainsRows{
      u"cardctl: unknown command \"explode\"; see --help\n"_s},
     {"value that does not fit", control, u"/tmp roaming 7 8"_s, 2,
      u"cardctl: nothing takes \"8\"\nusage: cardctl DIR roaming ON\n"_s},
+};
+
+const Rows<QString, QStringList, QStringList> gammuFindsRows{
+    {"everything about a card",
+     u"wcdma"_s,
+     {u"identify"_s, u"networkinfo"_s, u"monitor 1"_s},
+     {u"Manufacturer         : Example Devices"_s, u"Model                : unknown (EM7-W)"_s,
+      u"Firmware             : 11.002.03.01.00"_s, u"IMEI                 : 001012345678902"_s,
+      u"SIM IMSI             : 001010123456789"_s, u"Network state        : home network"_s,
+      u"LAC 1234, CID 0000ABCD"_s, u"Name in phone        : \"Test Network\""_s,
+      u"Packet network state : home network"_s, u"GPRS                 : attached"_s,
+      u"SIM phonebook        :   1 used, 249 free"_s, u"Battery level        : 100 percent"_s,
+      u"Signal strength      : -73 dBm"_s, u"SIM SMS status       : 0 used, 0 unread, 20 locations"_s}},
+    {"identity of a standard card",
+     u"standard"_s,
+     {u"identify"_s},
+     {u"Model                : unknown (Standard card)"_s, u"Firmware             : 1.0"_s}},
+    {"locked SIM", u"locked"_s, {u"getsecuritystatus"_s}, {u"Waiting for PIN."_s}},
 };
 
 } // namespace
@@ -66,6 +83,17 @@ private Q_SLOTS:
         const Result result = run(program, arguments.split(u' ', Qt::SkipEmptyParts));
         QCOMPARE(result.code, code);
         QCOMPARE(result.err, text);
+    }
+
+    // A client that knows nothing of this emulator must take it for a card.
+    void gammuFinds_data() { addRows(gammuFindsRows); }
+    void gammuFinds()
+    {
+        const auto &[name, profile, commands, lines] = currentRow(gammuFindsRows);
+        const TestCard card(profile);
+        const QString output = gammu(card, commands);
+        for (const QString &line : lines)
+            QVERIFY2(output.contains(line), qPrintable(line + u" is not in:\n"_s + output));
     }
 
 private:

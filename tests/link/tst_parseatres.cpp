@@ -76,29 +76,18 @@ class TestParseAtRes : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void codes_data()
-    {
-        QTest::addColumn<QByteArray>("command");
-        QTest::addColumn<QByteArray>("reply");
-        QTest::addColumn<int>("code");
-        QTest::addColumn<int>("bare");
-        for (const auto &[command, reply, code, bare] : cases)
-            QTest::addRow("%s: %s", command, QByteArray(reply).simplified().constData())
-                << QByteArray(command) << QByteArray(reply) << code << bare;
-    }
     void codes()
     {
-        QFETCH(QByteArray, command);
-        QFETCH(QByteArray, reply);
-        QFETCH(int, code);
-        QFETCH(int, bare);
-        const QByteArray line = command + "\r\n";
-        QCOMPARE(corva::classifyReply(reply, line), code);
-        QByteArray echoed = reply.isEmpty() ? reply : command + "\r" + reply;
-        QCOMPARE(corva::classifyReply(echoed, line), code);
-        QCOMPARE(Parse_At_Res(echoed.data()), unsigned(code));
-        if (bare != any)
-            QCOMPARE(Parse_At_Res(reply.data()), unsigned(bare));
+        for (const auto &[command, reply, code, bare] : cases) {
+            const QByteArray name = QByteArray(command) + ": " + QByteArray(reply).simplified();
+            const QByteArray line = QByteArray(command) + "\r\n";
+            QByteArray alone = reply;
+            QByteArray echoed = alone.isEmpty() ? alone : QByteArray(command) + "\r" + reply;
+            QVERIFY2(corva::classifyReply(alone, line) == code, name.constData());
+            QVERIFY2(corva::classifyReply(echoed, line) == code, name.constData());
+            QVERIFY2(Parse_At_Res(echoed.data()) == unsigned(code), name.constData());
+            QVERIFY2(bare == any || Parse_At_Res(alone.data()) == unsigned(bare), name.constData());
+        }
     }
 
     void signalLevels()

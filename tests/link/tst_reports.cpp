@@ -12,17 +12,14 @@ namespace
 // "*" stands for the text.
 const Rows<QString, QString> tableRows{
     {"stored message", u"+CMTI: \"SM\",3\r\n"_s, u"getSmsAndVoice(*)"_s},
-    {"delivered message", u"+CMT: ,23\r\n0791\r\n"_s, u"getSmsAndVoice(*)"_s},
-    {"delivery report", u"+CDSI: \"SR\",1\r\n"_s, u"smsStatusReported(*)"_s},
-    {"flash message", u"+JCLAS: 0\r\n"_s, u"class0SmsReceived(*)"_s},
-    {"SIM menu", u"+JPSTM: 1\r\n"_s, u"stkReportBuildMainMenu(*)"_s},
-    {"SIM session over", u"+JEND\r\n"_s, u"stkRebuildMainMenu"_s},
-    {"SIM submenu", u"+JSTI: 1\r\n"_s, u"stkEnterSubMenu(*)"_s},
-    {"SIM asks", u"+JGINP: 1\r\n"_s, u"stkQueryInputText(*)"_s},
-    {"SIM shows", u"+JDIST: 1\r\n"_s, u"stkShowText(*)"_s},
-    {"SIM sent", u"+JSMSR: 1\r\n"_s, u"stkReportSmsState(*)"_s},
-    {"USSD", u"+CUSD: 0,\"12\",15\r\n"_s, u"ussdReportService(*)"_s},
-    {"cell broadcast", u"+CBM: 88\r\n"_s, u"cellBroadcastReceived(*)"_s},
+    {"whatever brings a message, or is about one",
+     u"+CMTI: \"SM\",3\r\n+CMT: ,23\r\n+CDSI: \"SR\",1\r\n+JCLAS: 0\r\n+CBM: 88\r\n"_s,
+     u"getSmsAndVoice(*) getSmsAndVoice(*) smsStatusReported(*) class0SmsReceived(*) "
+     "cellBroadcastReceived(*)"_s},
+    {"whatever the SIM's programs say",
+     u"+JPSTM: 1\r\n+JEND\r\n+JSTI: 1\r\n+JGINP: 1\r\n+JDIST: 1\r\n+JSMSR: 1\r\n"_s,
+     u"stkReportBuildMainMenu(*) stkRebuildMainMenu stkEnterSubMenu(*) stkQueryInputText(*) stkShowText(*) "
+     "stkReportSmsState(*)"_s},
     {"it rings here for there", u"RINGBACKLOCAL\r\n"_s, u"peerStartRingLocal"_s},
     {"picked up", u"ANSWER\r\n"_s, u"peerPickupPhone"_s},
     {"hung up", u"HANGUP: 1\r\n"_s, u"getSmsAndVoice"_s},
@@ -39,7 +36,6 @@ const Rows<QString, QString> tableRows{
      u"getSmsAndVoice(*) ussdReportService(*) peerPickupPhone getSmsAndVoice(*)"_s},
     {"in the middle of a reply", u"AT+CSQ\r\r\n+CMTI: \"SM\",3\r\n+CSQ: 1,1\r\nOK\r\n"_s,
      u"getSmsAndVoice(*)"_s},
-    {"nothing", u""_s, u""_s},
 };
 
 // The condition that is not met.

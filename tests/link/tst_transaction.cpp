@@ -29,9 +29,6 @@ const Rows<bool, QString, const char *, bool> gatesRows{
 const Rows<QString> secretsAreMaskedRows{
     {"AT+CPIN=\"4711\"", u"AT+CPIN=\"****\""_s},
     {"AT+CPIN=\"47114711\",\"4711\"", u"\"********\",\"****\""_s},
-    {"AT+CLCK=\"SC\",1,\"4711\"", u"\"SC\",1,\"****\""_s},
-    {"at+cpwd=\"SC\",\"4711\",\"4711\"", u"\"SC\",\"****\",\"****\""_s},
-    {"AT^CPIN=\"4711\"", u"AT^CPIN=\"****\""_s},
     {"AT+APWIFIW=1,2,a4711z", u"=1,2,******"_s},
 };
 
@@ -286,15 +283,6 @@ private Q_SLOTS:
         QVERIFY(m_link->isPortLost());
         QCOMPARE(log.lines().last(), u"SerialThread::resAtStr() ===> no data to read!"_s);
         QCOMPARE(m_link->sendCmdAndRec("AT+CSQ\r\n", 60, 0), 103);
-    }
-
-    void stopEndsEveryWait()
-    {
-        auto result = sent(60s);
-        m_link->requestStop();
-        QCOMPARE(result.wait_for(5s), std::future_status::ready);
-        QCOMPARE(result.get(), 102);
-        QVERIFY(!m_link->isPortLost());
     }
 
     void readersSeeWhatWasReadAhead()

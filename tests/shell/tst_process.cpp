@@ -1,91 +1,39 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What belongs to the process as a whole: the instance lock, the version file, the debug log.
+// What belongs to the process as a whole: the instance lock, the version file, the debug log, the signals
+// that end it.
+#include "../child.h"
 #include "../files.h"
 #include "../rows.h"
 #include "device/modemtypes.h"
 #include "shell/commonconfig.h"
 #include "shell/debuglog.h"
+#include "shell/endsignals.h"
 #include "shell/globals.h"
 #include "shell/instance.h"
 #include "shell/logging.h"
 #include "shell/updatecfg.h"
 
+#include <QSignalSpy>
 #include <csignal>
-#include <functional>
 #include <optional>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
 
-/// A child process that reports what `work` returned and then lives until it is killed.
-class Child
-{
-public:
-    explicit Child(const std::function<int()> &work)
-    {
-        int ends[2] = {-1, -1};
-        if (::pipe(ends) != 0)
-            return;
-        m_pid = ::fork();
-        if (m_pid == 0) {
-            const int result = work();
-            if (::write(ends[1], &result, sizeof result) != sizeof result)
-                ::_exit(98);
-            for (;;)
-                ::pause();
-        }
-        ::close(ends[1]);
-        m_reportEnd = ends[0];
-    }
-    Q_DISABLE_COPY_MOVE(Child)
-    ~Child()
-    {
-        kill();
-        ::close(m_reportEnd);
-    }
-
-    int pid() const { return int(m_pid); }
-
-    /// What the work returned, or 1000 + the exit status when it ended the process.
-    int result()
-    {
-        int value = 0;
-        if (::read(m_reportEnd, &value, sizeof value) == sizeof value)
-            return value;
-        return 1000 + WEXITSTATUS(wait());
-    }
-
-    void kill()
-    {
-        if (m_pid > 0)
-            ::kill(m_pid, SIGKILL);
-        wait();
-    }
-
-private:
-    int wait()
-    {
-        int status = 0;
-        if (m_pid > 0)
-            ::waitpid(m_pid, &status, 0);
-        m_pid = -1;
-        return status;
-    }
-
-    pid_t m_pid = -1;
-    int m_reportEnd = -1;
-};
-
 const Rows<QByteArray, QString> versionRows{
     {"other line end", "1.2.3\r\nmore\r\n", u"1.2.3"_s},
     {"UTF-8", "1.2 \xc3\xa4\n", u"1.2 ä"_s},
     {"first line empty", "\n1.2.3\n", {}},
     {"empty", {}, {}},
+};
+
+const Rows<int> eachSignalBecomesAnEventRows{
+    {"asked to end", SIGTERM},
+    {"Ctrl+C", SIGINT},
+    {"the terminal closed", SIGHUP},
 };
 
 } // namespace
@@ -103,33 +51,27 @@ private Q_SLOTS:
 
     void oneInstanceHoldsTheLock()
     {
-        const QByteArray path = QFile::encodeName(basePath + u"/pid"_s);
-        const auto take = [&] { return corva::takeInstanceLock(path.constData()); };
-        putFile(basePath + u"/pid"_s, "a longer text than any number");
+        const QString path = basePath + u"/pid"_s;
+        const QByteArray name = QFile::encodeName(path);
+        const auto take = [&] { return corva::takeInstanceLock(name.constData()); };
+        putFile(path, "a longer text than any number");
+        QCOMPARE(inChild([&] { return take() == 0 && contentOf(path) == QByteArray::number(getpid()); }),
+                 1 << 8);
+        QCOMPARE(corva::instanceLockHolder(name.constData()), 0); // its end has freed the lock
 
-        Child first(take);
-        QCOMPARE(first.result(), 0);
-        const QByteArray number = QByteArray::number(first.pid());
-        QCOMPARE(corva::instanceLockHolder(path.constData()), first.pid());
-        QCOMPARE(contentOf(basePath + u"/pid"_s), number);
-
-        Child second(take);
-        QCOMPARE(second.result(), 1);
-        QCOMPARE(contentOf(basePath + u"/pid"_s), number);
-
-        first.kill();
-        QCOMPARE(corva::instanceLockHolder(path.constData()), 0);
-        Child third(take);
-        QCOMPARE(third.result(), 0);
-        QCOMPARE(contentOf(basePath + u"/pid"_s), QByteArray::number(third.pid()));
+        // From here on only children look: a process that closes the file gives its lock on it back.
+        QCOMPARE(take(), 0);
+        QCOMPARE(inChild(take), 1 << 8);
+        const pid_t self = ::getpid();
+        QCOMPARE(inChild([&] { return corva::instanceLockHolder(name.constData()) == self; }), 1 << 8);
+        QCOMPARE(inChild([&] { return contentOf(path) == QByteArray::number(self); }), 1 << 8);
     }
 
     void lockFileThatCannotBeUsed()
     {
         for (const char *name : {"/no/pid", "/Data"}) { // no such folder; a folder itself
             const QByteArray path = QFile::encodeName(basePath) + name;
-            Child child([&] { return corva::takeInstanceLock(path.constData()); });
-            QCOMPARE(child.result(), 1001);
+            QCOMPARE(inChild([&] { return 9 + corva::takeInstanceLock(path.constData()); }), 1 << 8);
         }
     }
 
@@ -173,19 +115,39 @@ private Q_SLOTS:
 
     void fatalMessageAborts()
     {
-        const pid_t child = ::fork();
-        if (child == 0) {
+        const int status = inChild([] {
             myMessageOutput(QtFatalMsg, {}, u"fatal, on purpose"_s);
-            ::_exit(0);
-        }
-        int status = 0;
-        ::waitpid(child, &status, 0);
-        QVERIFY(WIFSIGNALED(status) && WTERMSIG(status) == SIGABRT);
+            return 0;
+        });
+        QVERIFY(endedBy(status, SIGABRT));
+    }
+
+    void eachSignalBecomesAnEvent_data() { addRows(eachSignalBecomesAnEventRows); }
+    void eachSignalBecomesAnEvent()
+    {
+        const auto &[name, number] = currentRow(eachSignalBecomesAnEventRows);
+        const corva::EndSignals signals_;
+        QSignalSpy ends(&signals_, &corva::EndSignals::sigEnd);
+        ::raise(number);
+        QCOMPARE(ends.size(), 0); // never from within the handler
+        QTRY_COMPARE(ends.size(), 1);
+        ::raise(number);
+        QTRY_COMPARE(ends.size(), 2);
+    }
+
+    void endsAtOnceAgainWhenNobodyListensAnyMore()
+    {
+        const int status = inChild([] {
+            std::optional<corva::EndSignals> over(std::in_place);
+            over.reset();
+            return ::raise(SIGTERM);
+        });
+        QVERIFY(endedBy(status, SIGTERM));
     }
 
 private:
     std::optional<ScratchFolder> m_folder;
 };
 
-QTEST_APPLESS_MAIN(TestProcess)
+QTEST_GUILESS_MAIN(TestProcess)
 #include "tst_process.moc"

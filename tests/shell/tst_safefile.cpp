@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../child.h"
 #include "../files.h"
 #include "../rows.h"
 #include "shell/safefile.h"
@@ -12,8 +13,6 @@
 #include <memory>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -137,8 +136,8 @@ private Q_SLOTS:
     {
         const auto &[name, locked] = currentRow(leavesTheOldFileWhereRightsForbidRows);
         QVERIFY(writeFileSafely(at("folder/file"), "old"));
-        const int status = asOrdinaryUser([&] {
-            ::chmod(QFile::encodeName(at(locked)).constData(), 0500);
+        const int status = asOrdinaryUser([&, &place = locked] {
+            ::chmod(QFile::encodeName(at(place)).constData(), 0500);
             return writeFileSafely(at("folder/file"), "new") ? 1 : 0;
         });
         ::chmod(QFile::encodeName(at(locked)).constData(), 0700);
@@ -169,7 +168,7 @@ private Q_SLOTS:
         int leftovers = 0;
         for (int i = 0; i < rounds; ++i) {
             const int status = writeAndKill(path, QRandomGenerator::global()->bounded(3000));
-            QVERIFY(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+            QVERIFY(endedBy(status, SIGKILL));
             const QByteArray content = contentOf(path);
             QVERIFY2(isWhole(content), qPrintable(u"a part of %1 bytes"_s.arg(content.size())));
             leftovers += int(filesIn("").size()) - 1;
@@ -258,11 +257,7 @@ private:
             for (const QString &name : {m_folder->path(), at("folder"), at("folder/file"), at("file")})
                 (void)!::chown(QFile::encodeName(name).constData(), nobody, nobody);
         }
-        const pid_t child = ::fork();
-        if (child == 0)
-            ::_exit(isRoot && ::setuid(nobody) != 0 ? 99 : work());
-        int status = 0;
-        ::waitpid(child, &status, 0);
+        const int status = inChild([&] { return isRoot && ::setuid(nobody) != 0 ? 99 : work(); });
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
 

@@ -11,7 +11,6 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QLocale>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTimer>
 #include <QTranslator>
@@ -81,11 +80,6 @@ const Rows<bool, int, int, int, QString> splashWaitsRows{
     {"ready in the third", false, 20, 3, 3, u"Initializing."_s},
     {"firmware known in the third", true, 20, 3, 3, u"Initializing..."_s},
     {"firmware never known", true, 2, 99, 3, u"Initializing..."_s},
-};
-
-const Rows<Qt::Key, int> disclaimerByKeyboardRows{
-    {"Enter accepts", Qt::Key_Return, 1},
-    {"Escape declines", Qt::Key_Escape, 0},
 };
 
 } // namespace
@@ -163,9 +157,10 @@ private Q_SLOTS:
         const auto &[name, showFirmware, limit, ready, wanted, activity] = currentRow(splashWaitsRows);
         int rounds = 0;
         int wrongQuestions = 0;
-        SplashWait wait;
-        wait.showFirmware = showFirmware;
-        wait.limit = limit;
+        cmcfg.setValue(u"function"_s, u"splash_firmversion_enabled"_s, QString::number(showFirmware ? 1 : 0));
+        cmcfg.setValue(u"network_dialer_setting"_s, u"splash_timer"_s, QString::number(limit));
+        SplashWait wait = configuredSplashWait();
+        QCOMPARE(wait.showFirmware, showFirmware);
         wait.round = [&] { ++rounds; };
         wait.modemReady = [&, readyIn = ready] {
             wrongQuestions += wait.showFirmware ? 1 : 0;
@@ -191,16 +186,6 @@ private Q_SLOTS:
         QTest::keyClick(&dialog, Qt::Key_Escape);
         QVERIFY(dialog.isVisible());
         QVERIFY(!QPixmap(basePath + u"/res/startingWindow.jpg"_s).isNull());
-    }
-
-    void disclaimerByKeyboard_data() { addRows(disclaimerByKeyboardRows); }
-    void disclaimerByKeyboard()
-    {
-        const auto &[name, key, result] = currentRow(disclaimerByKeyboardRows);
-        FrmDisclaimer dialog;
-        QCOMPARE(dialog.objectName(), u"disclaimer"_s);
-        QTimer::singleShot(0, &dialog, [&dialog, pressed = key] { QTest::keyClick(&dialog, pressed); });
-        QCOMPARE(dialog.exec(), result);
     }
 
     void onlyTheMainWindowEndsTheLoop()

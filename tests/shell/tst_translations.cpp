@@ -34,12 +34,12 @@ bool hasMnemonic(QString text)
 QStringList translationsOf(const QDomElement &message)
 {
     const QDomElement translation = message.firstChildElement(u"translation"_s);
-    QDomElement form = translation.firstChildElement(u"numerusform"_s);
-    if (form.isNull())
-        return {translation.text()};
+    const QDomNodeList plurals = translation.elementsByTagName(u"numerusform"_s);
     QStringList forms;
-    for (; !form.isNull(); form = form.nextSiblingElement(u"numerusform"_s))
-        forms += form.text();
+    for (int i = 0; i < plurals.size(); ++i)
+        forms += plurals.at(i).toElement().text();
+    if (forms.isEmpty())
+        forms += translation.text();
     return forms;
 }
 

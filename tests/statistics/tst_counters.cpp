@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../files.h"
+#include "../rows.h"
 #include "statistics/interfacecounters.h"
 #include "statistics/traffictotals.h"
-
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -22,6 +19,40 @@ CounterReading received(Value value, Value index = 7)
     return {value, value ? Value(0) : std::nullopt, index};
 }
 
+const Rows<QByteArray, Value> knowsANumberWhenItSeesOneRows{
+    {"as sysfs writes it", "1234\n", Value(1234)},
+    {"without line feed", "0", Value(0)},
+    {"largest", "18446744073709551615\n", Value(~quint64(0))},
+    {"too large", "18446744073709551616\n", Value()},
+    {"empty", {}, Value()},
+    {"only a line feed", "\n", Value()},
+    {"negative", "-1\n", Value()},
+    {"blank in front", " 12\n", Value()},
+    {"hexadecimal", "0x12\n", Value()},
+    {"NUL inside", QByteArray("1\0002\n", 4), Value()},
+    {"endless", QByteArray(5000, '1'), Value()},
+};
+
+const CounterReading gone;
+
+// What was carried, and whether the interface was made for the link.
+const Rows<QList<CounterReading>, quint64, bool> countsWhatLiesBetweenReadingsRows{
+    {"an interface that was there counts from now", {received(1000), received(1500)}, 500, false},
+    {"one made for the link counts whole", {received(1000), received(1500)}, 1500, true},
+    {"it comes up late", {gone, received(40), received(50)}, 50, true},
+    {"unknown in between", {received(100), gone, received(400)}, 300, false},
+    {"vanishes, and nothing is lost", {received(100), received(900), gone, gone}, 800, false},
+    {"sent is known, received is not", {received(100), {std::nullopt, 5, 7}, received(150)}, 55, false},
+    {"wraps at 32 bits", {received(end32 - 10), received(20)}, 30, false},
+    {"at the last value of 32 bits", {received(end32 - 1), received(0)}, 1, false},
+    {"wraps at 64 bits", {received(~quint64(0) - 9), received(5)}, 15, false},
+    {"begun anew from 0", {received(5000), received(300)}, 300, false},
+    {"begun anew past 4 GB", {received(end32 + 5), received(300)}, 300, false},
+    {"another interface, counters higher", {received(5000, 7), received(9000, 8)}, 9000, false},
+    {"another interface near the end of 32 bits", {received(end32 - 10, 7), received(20, 8)}, 20, false},
+    {"number not known", {received(5000, std::nullopt), received(5100, std::nullopt)}, 100, false},
+};
+
 } // namespace
 
 class TestCounters : public QObject
@@ -29,62 +60,22 @@ class TestCounters : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void countsWhatLiesBetweenReadings_data()
-    {
-        QTest::addColumn<QList<CounterReading>>("readings");
-        QTest::addColumn<bool>("isNew");
-        QTest::addColumn<quint64>("carried");
-        const auto row = [](const char *name, const QList<CounterReading> &readings, quint64 carried,
-                            bool isNew = false) { QTest::newRow(name) << readings << isNew << carried; };
-        const CounterReading gone;
-        row("an interface that was there counts from now", {received(1000), received(1500)}, 500);
-        row("one made for the link counts whole", {received(1000), received(1500)}, 1500, true);
-        row("it comes up late", {gone, received(40), received(50)}, 50, true);
-        row("unknown in between", {received(100), gone, received(400)}, 300);
-        row("vanishes, and nothing is lost", {received(100), received(900), gone, gone}, 800);
-        row("sent is known, received is not", {received(100), {std::nullopt, 5, 7}, received(150)}, 55);
-        row("wraps at 32 bits", {received(end32 - 10), received(20)}, 30);
-        row("at the last value of 32 bits", {received(end32 - 1), received(0)}, 1);
-        row("wraps at 64 bits", {received(~quint64(0) - 9), received(5)}, 15);
-        row("begun anew from 0", {received(5000), received(300)}, 300);
-        row("begun anew past 4 GB", {received(end32 + 5), received(300)}, 300);
-        row("another interface, counters higher", {received(5000, 7), received(9000, 8)}, 9000);
-        row("another interface near the end of 32 bits", {received(end32 - 10, 7), received(20, 8)}, 20);
-        row("number not known", {received(5000, std::nullopt), received(5100, std::nullopt)}, 100);
-    }
-
+    void countsWhatLiesBetweenReadings_data() { addRows(countsWhatLiesBetweenReadingsRows); }
     void countsWhatLiesBetweenReadings()
     {
-        QFETCH(const QList<CounterReading>, readings);
-        QFETCH(const bool, isNew);
+        const auto &[name, readings, carried, isNew] = currentRow(countsWhatLiesBetweenReadingsRows);
         CounterMeter meter(isNew);
-        quint64 carried = 0;
+        quint64 counted = 0;
         for (const CounterReading &reading : readings)
-            carried += meter.advance(reading).total();
-        QTEST(carried, "carried");
+            counted += meter.advance(reading).total();
+        QCOMPARE(counted, carried);
     }
 
-    void knowsANumberWhenItSeesOne_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<Value>("value");
-        QTest::newRow("as sysfs writes it") << QByteArray("1234\n") << Value(1234);
-        QTest::newRow("without line feed") << QByteArray("0") << Value(0);
-        QTest::newRow("largest") << QByteArray("18446744073709551615\n") << Value(~quint64(0));
-        QTest::newRow("too large") << QByteArray("18446744073709551616\n") << Value();
-        QTest::newRow("empty") << QByteArray() << Value();
-        QTest::newRow("only a line feed") << QByteArray("\n") << Value();
-        QTest::newRow("negative") << QByteArray("-1\n") << Value();
-        QTest::newRow("blank in front") << QByteArray(" 12\n") << Value();
-        QTest::newRow("hexadecimal") << QByteArray("0x12\n") << Value();
-        QTest::newRow("NUL inside") << QByteArray("1\0002\n", 4) << Value();
-        QTest::newRow("endless") << QByteArray(5000, '1') << Value();
-    }
-
+    void knowsANumberWhenItSeesOne_data() { addRows(knowsANumberWhenItSeesOneRows); }
     void knowsANumberWhenItSeesOne()
     {
-        QFETCH(const QByteArray, content);
-        QTEST(parseCounter(content), "value");
+        const auto &[name, content, value] = currentRow(knowsANumberWhenItSeesOneRows);
+        QCOMPARE(parseCounter(content), value);
     }
 
     void readsFilesOfAnInterfaceOnly()
@@ -93,8 +84,7 @@ private Q_SLOTS:
         const QDir dir(folder.path());
         const auto put = [&](const QString &path, const QByteArray &content) {
             QVERIFY(dir.mkpath(QFileInfo(path).path()));
-            QFile file(dir.filePath(path));
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+            putFile(dir.filePath(path), content);
         };
         put(u"net/ppp0/ifindex"_s, "9\n");
         put(u"net/ppp0/statistics/rx_bytes"_s, "100\n");

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../files.h"
+#include "../rows.h"
 #include "statistics/statisticsstore.h"
-
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
@@ -53,6 +50,15 @@ RunningSession someSession()
     return session;
 }
 
+// A name, and how it comes back.
+const Rows<QString, QString> takesAnyProfileNameRows{
+    {"markup", u"\"/><record id='x' & ]]> <!--"_s, u"\"/><record id='x' & ]]> <!--"_s},
+    {"line breaks and tabs", u"a\r\nb\tc"_s, u"a\r\nb\tc"_s},
+    {"what XML cannot hold", u"a\0\x1b\uFFFE"_s, u"a\uFFFD\uFFFD\uFFFD"_s},
+    {"half a character", QString(QChar(0xD83C)), u"\uFFFD"_s},
+    {"endless", QString(100'000, u'x'), QString(200, u'x')},
+};
+
 } // namespace
 
 class TestStatisticsFiles : public QObject
@@ -70,27 +76,14 @@ private Q_SLOTS:
         QVERIFY(session.content == someSession());
     }
 
-    void takesAnyProfileName_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("back");
-        const auto row = [](const char *what, const QString &name, const QString &back) {
-            QTest::newRow(what) << name << back;
-        };
-        row("markup", u"\"/><record id='x' & ]]> <!--"_s, u"\"/><record id='x' & ]]> <!--"_s);
-        row("line breaks and tabs", u"a\r\nb\tc"_s, u"a\r\nb\tc"_s);
-        row("what XML cannot hold", u"a\0\x1b\uFFFE"_s, u"a\uFFFD\uFFFD\uFFFD"_s);
-        row("half a character", QString(QChar(0xD83C)), u"\uFFFD"_s);
-        row("endless", QString(100'000, u'x'), QString(200, u'x'));
-    }
-
+    void takesAnyProfileName_data() { addRows(takesAnyProfileNameRows); }
     void takesAnyProfileName()
     {
-        QFETCH(const QString, name);
+        const auto &[title, name, back] = currentRow(takesAnyProfileNameRows);
         const auto parsed = parseHistory(formatHistory({someRecord(u"1"_s, name), someRecord(u"2"_s)}));
         QCOMPARE(parsed.problem, QString());
         QCOMPARE(parsed.content.size(), 2U);
-        QTEST(parsed.content.front().profileName, "back");
+        QCOMPARE(parsed.content.front().profileName, back);
         QVERIFY(parsed.content.back() == someRecord(u"2"_s));
     }
 
@@ -123,9 +116,7 @@ private Q_SLOTS:
         QFETCH(const QByteArray, content);
         QFETCH(const int, records);
         const QTemporaryDir folder;
-        QFile file(folder.filePath(u"historyRecord.xml"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-        file.close();
+        putFile(folder.filePath(u"historyRecord.xml"_s), content);
         const LoadedStatistics loaded = StatisticsStore(folder.path()).load();
         QCOMPARE(int(loaded.history.size()), records);
         QCOMPARE(loaded.problems.size(), 1);
@@ -133,9 +124,7 @@ private Q_SLOTS:
             QDir(folder.path()).entryList({u"historyRecord.xml.broken-*"_s}, QDir::Files);
         QCOMPARE(kept.size(), 1);
         QVERIFY2(loaded.problems.front().contains(kept.front()), qPrintable(loaded.problems.front()));
-        QFile whole(folder.filePath(kept.front()));
-        QVERIFY(whole.open(QIODevice::ReadOnly));
-        QCOMPARE(whole.readAll(), content);
+        QCOMPARE(contentOf(folder.filePath(kept.front())), content);
     }
 
     void saysWhyItCannotWrite()

@@ -1,14 +1,44 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../rows.h"
 #include "shell/csv.h"
 #include "statistics/trafficcsv.h"
 #include "statistics/traffictexts.h"
 
 #include <QLocale>
-#include <QTest>
 #include <QTimeZone>
 
 using namespace Qt::StringLiterals;
 using namespace corva;
+
+namespace
+{
+
+const Rows<quint64, QString, QString> writesVolumesAsOperatorsBillRows{
+    {"below the first unit", 999ULL, u"999 bytes"_s, u"999 Bytes"_s},
+    {"first unit", 1000ULL, u"1.00 kB"_s, u"1,00 kB"_s},
+    {"rounds up to a unit", 999'999ULL, u"1.00 MB"_s, u"1,00 MB"_s},
+    {"tens", 12'345'678ULL, u"12.3 MB"_s, u"12,3 MB"_s},
+    {"gigabytes", 1'234'567'890ULL, u"1.23 GB"_s, u"1,23 GB"_s},
+    {"any number", ~0ULL, u"9.22 EB"_s, u"9,22 EB"_s},
+};
+
+// RFC 4180, and nothing that a spreadsheet would calculate.
+const Rows<QString, QByteArray> fieldsRows{
+    {"every script", u"بيت 家 🏠"_s, "بيت 家 🏠"},
+    {"minus inside", u"A-Net"_s, "A-Net"},
+    {"comma", u"a,b"_s, "\"a,b\""},
+    {"quotes", u"the \"fast\" one"_s, "\"the \"\"fast\"\" one\""},
+    {"line break", u"two\r\nlines"_s, "\"two\r\nlines\""},
+    {"blanks at the edges", u" a "_s, "\" a \""},
+    {"formula", u"=HYPERLINK(x)"_s, "'=HYPERLINK(x)"},
+    {"signs", u"+49 30"_s, "'+49 30"},
+    {"behind blanks", u"  =1"_s, "'  =1"},
+    {"behind a tab", u"\t=1"_s, "\"'\t=1\""},
+    {"wide equals sign", u"\uFF1D1"_s, "'\uFF1D1"},
+    {"NUL", u"a\0b"_s, "ab"},
+};
+
+} // namespace
 
 class TestTrafficCsv : public QObject
 {
@@ -17,32 +47,10 @@ class TestTrafficCsv : public QObject
 private Q_SLOTS:
     void cleanup() { QLocale::setDefault(QLocale::c()); }
 
-    /// RFC 4180, and nothing that a spreadsheet would calculate.
-    void fields_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QByteArray>("written");
-        const auto row = [](const char *name, const QString &text, const char *written) {
-            QTest::newRow(name) << text << QByteArray(written);
-        };
-        row("every script", u"بيت 家 🏠"_s, "بيت 家 🏠");
-        row("minus inside", u"A-Net"_s, "A-Net");
-        row("comma", u"a,b"_s, "\"a,b\"");
-        row("quotes", u"the \"fast\" one"_s, "\"the \"\"fast\"\" one\"");
-        row("line break", u"two\r\nlines"_s, "\"two\r\nlines\"");
-        row("blanks at the edges", u" a "_s, "\" a \"");
-        row("formula", u"=HYPERLINK(x)"_s, "'=HYPERLINK(x)");
-        row("signs", u"+49 30"_s, "'+49 30");
-        row("behind blanks", u"  =1"_s, "'  =1");
-        row("behind a tab", u"\t=1"_s, "\"'\t=1\"");
-        row("wide equals sign", u"\uFF1D1"_s, "'\uFF1D1");
-        QTest::newRow("NUL") << u"a\0b"_s << QByteArray("ab");
-    }
-
+    void fields_data() { addRows(fieldsRows); }
     void fields()
     {
-        QFETCH(const QString, text);
-        QFETCH(const QByteArray, written);
+        const auto &[name, text, written] = currentRow(fieldsRows);
         CsvTable csv({u"first"_s, u"second"_s});
         csv.addRow({text, u"x"_s});
         QCOMPARE(csv.bytes(), "\xEF\xBB\xBF"
@@ -71,27 +79,15 @@ private Q_SLOTS:
         QVERIFY(totalsCsv(totals).endsWith("\r\n2021-05,5,6,0,0\r\n2024-05-03,11,22,1,2\r\n"));
     }
 
-    void writesVolumesAsOperatorsBill_data()
-    {
-        QTest::addColumn<quint64>("bytes");
-        QTest::addColumn<QString>("english");
-        QTest::addColumn<QString>("german");
-        QTest::newRow("below the first unit") << 999ULL << u"999 bytes"_s << u"999 Bytes"_s;
-        QTest::newRow("first unit") << 1000ULL << u"1.00 kB"_s << u"1,00 kB"_s;
-        QTest::newRow("rounds up to a unit") << 999'999ULL << u"1.00 MB"_s << u"1,00 MB"_s;
-        QTest::newRow("tens") << 12'345'678ULL << u"12.3 MB"_s << u"12,3 MB"_s;
-        QTest::newRow("gigabytes") << 1'234'567'890ULL << u"1.23 GB"_s << u"1,23 GB"_s;
-        QTest::newRow("any number") << ~0ULL << u"9.22 EB"_s << u"9,22 EB"_s;
-    }
-
+    void writesVolumesAsOperatorsBill_data() { addRows(writesVolumesAsOperatorsBillRows); }
     void writesVolumesAsOperatorsBill()
     {
-        QFETCH(const quint64, bytes);
+        const auto &[name, bytes, english, german] = currentRow(writesVolumesAsOperatorsBillRows);
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
-        const auto text = [&] { return volumeText(bytes).replace(QChar::Nbsp, u' '); };
-        QTEST(text(), "english");
+        const auto text = [&bytes = bytes] { return volumeText(bytes).replace(QChar::Nbsp, u' '); };
+        QCOMPARE(text(), english);
         QLocale::setDefault(QLocale(QLocale::German));
-        QTEST(text(), "german");
+        QCOMPARE(text(), german);
     }
 
     void saysTimesAsPeopleDo()

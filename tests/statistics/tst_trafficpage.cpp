@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../rows.h"
 #include "sampletraffic.h"
 
 #include "shell/commoncfg.h"
@@ -29,6 +30,19 @@
 
 using namespace Qt::StringLiterals;
 using namespace corva;
+
+namespace
+{
+
+const Rows<quint64, quint64> scalesInRoundStepsRows{
+    {"nothing", 0ULL, 1ULL},
+    {"exactly four", 400ULL, 100ULL},
+    {"a little more", 401ULL, 200ULL},
+    {"to the next power", 2'001ULL, 1000ULL},
+    {"largest", ~0ULL, 5'000'000'000'000'000'000ULL},
+};
+
+} // namespace
 
 class TestTrafficPage : public QObject
 {
@@ -231,21 +245,11 @@ private Q_SLOTS:
         QVERIFY(readTrafficSettings().endsConnection);
     }
 
-    void scalesInRoundSteps_data()
-    {
-        QTest::addColumn<quint64>("most");
-        QTest::addColumn<quint64>("step");
-        QTest::newRow("nothing") << 0ULL << 1ULL;
-        QTest::newRow("exactly four") << 400ULL << 100ULL;
-        QTest::newRow("a little more") << 401ULL << 200ULL;
-        QTest::newRow("to the next power") << 2'001ULL << 1000ULL;
-        QTest::newRow("largest") << ~0ULL << 5'000'000'000'000'000'000ULL;
-    }
-
+    void scalesInRoundSteps_data() { addRows(scalesInRoundStepsRows); }
     void scalesInRoundSteps()
     {
-        QFETCH(const quint64, most);
-        QTEST(niceStep(most), "step");
+        const auto &[name, most, step] = currentRow(scalesInRoundStepsRows);
+        QCOMPARE(niceStep(most), step);
     }
 
 private:

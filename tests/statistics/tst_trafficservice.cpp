@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../files.h"
+#include "../rows.h"
 #include "statistics/trafficservice.h"
 
 #include "statistics/statisticsstore.h"
 
-#include <QDir>
-#include <QFile>
 #include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTimeZone>
 
 using namespace Qt::StringLiterals;
@@ -23,6 +21,21 @@ void copyFiles(const QString &from, const QString &to)
     for (const QString &name : names)
         QVERIFY(QFile::copy(from + u'/' + name, to + u'/' + name));
 }
+
+// What the clock shows after ten seconds, in seconds.
+const Rows<qint64> survivesAClockThatIsSetRows{
+    {"runs on", 10},
+    {"back by an hour", -3600},
+    {"on by fifty years", 50 * 365 * 86400LL},
+};
+
+// What the next start finds of machine and interface; what was carried.
+const Rows<QByteArray, QByteArray, quint64> foldsAKilledSessionInRows{
+    {"the link is gone with it", "this-boot", {}, 1000ULL},
+    {"the link stands", "this-boot", "9", 1234ULL},
+    {"another link stands", "this-boot", "10", 1000ULL},
+    {"the machine was started anew", "next-boot", "9", 1000ULL},
+};
 
 } // namespace
 
@@ -103,27 +116,19 @@ private Q_SLOTS:
         QCOMPARE(m_service->carriedBetween({2024, 5, 4}, {2024, 5, 4}).total(), 7ULL);
     }
 
-    void survivesAClockThatIsSet_data()
-    {
-        QTest::addColumn<QDateTime>("later"); ///< what the clock shows after ten seconds
-        QTest::addColumn<QDateTime>("start"); ///< what the history says
-        const QDateTime noon({2024, 5, 3}, {12, 0});
-        QTest::newRow("runs on") << noon.addSecs(10) << noon;
-        QTest::newRow("back by an hour") << noon.addSecs(-3600) << noon.addSecs(-3610);
-        QTest::newRow("on by fifty years") << noon.addYears(50) << noon.addYears(50).addSecs(-10);
-    }
-
+    void survivesAClockThatIsSet_data() { addRows(survivesAClockThatIsSetRows); }
     void survivesAClockThatIsSet()
     {
-        QFETCH(const QDateTime, later);
+        const auto &[name, seconds] = currentRow(survivesAClockThatIsSetRows);
         m_service->sessionStarted({u"Home"_s, u"ppp0"_s, false});
         carry(100, 0);
         m_uptime += 10s;
+        const QDateTime later = m_now.addSecs(seconds);
         m_now = later;
         m_service->sessionEnded(historyend::Person);
         const HistoryRecord record = m_service->history().front();
         QCOMPARE(record.duration, 10s);
-        QTEST(record.start, "start");
+        QCOMPARE(record.start, later.addSecs(-10));
         QCOMPARE(record.end, later);
         QCOMPARE(m_service->carriedBetween(later.date(), later.date()).total(), 100ULL);
     }
@@ -155,22 +160,10 @@ private Q_SLOTS:
         QCOMPARE(m_service->history().front().duration, std::chrono::hours(21) + 4s);
     }
 
-    void foldsAKilledSessionIn_data()
-    {
-        QTest::addColumn<QByteArray>("boot");
-        QTest::addColumn<QByteArray>("index");
-        QTest::addColumn<quint64>("carried");
-        QTest::newRow("the link is gone with it") << QByteArray("this-boot") << QByteArray() << 1000ULL;
-        QTest::newRow("the link stands") << QByteArray("this-boot") << QByteArray("9") << 1234ULL;
-        QTest::newRow("another link stands") << QByteArray("this-boot") << QByteArray("10") << 1000ULL;
-        QTest::newRow("the machine was started anew")
-            << QByteArray("next-boot") << QByteArray("9") << 1000ULL;
-    }
-
+    void foldsAKilledSessionIn_data() { addRows(foldsAKilledSessionInRows); }
     void foldsAKilledSessionIn()
     {
-        QFETCH(const QByteArray, boot);
-        QFETCH(const QByteArray, index);
+        const auto &[name, boot, index, carried] = currentRow(foldsAKilledSessionInRows);
         m_service->sessionStarted({u"Home"_s, u"ppp0"_s, true});
         carry(1000, 0);
         tick(20s);
@@ -188,9 +181,9 @@ private Q_SLOTS:
             QCOMPARE(next->history().size(), 1U);
             const HistoryRecord record = next->history().front();
             QCOMPARE(record.ended, QString(historyend::Unexpected));
-            QTEST(record.volumes.roaming.received, "carried");
+            QCOMPARE(record.volumes.roaming.received, carried);
             QCOMPARE(record.duration, 20s);
-            QTEST(next->carriedBetween({2024, 5, 3}, {2024, 5, 3}).total(), "carried");
+            QCOMPARE(next->carriedBetween({2024, 5, 3}, {2024, 5, 3}).total(), carried);
         }
     }
 
@@ -356,11 +349,7 @@ private Q_SLOTS:
 private:
     QString path(const QString &name) const { return m_root->filePath(name); }
 
-    void writeFile(const QString &name, const QByteArray &content)
-    {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    }
+    void writeFile(const QString &name, const QByteArray &content) { putFile(path(name), content); }
 
     std::unique_ptr<TrafficService> makeService(const QString &folder)
     {
