@@ -50,6 +50,11 @@ constexpr QSize smallestSize(800, 520);
 constexpr auto longestHangUp = 12s; // pppd has been seen to take seven
 const QString windowSection = u"window"_s;
 
+QString quitQuestion()
+{
+    return WTMainWindow::tr("Disconnect and quit?");
+}
+
 /// A report without what it says, which is the person's own: "+CUSD".
 QString reportName(const QString &text)
 {
@@ -306,7 +311,10 @@ void WTMainWindow::slotConnectionChanged(const ConnectionStatus &status)
                        : m_connector->isActive() ? tr("&Cancel connecting")
                                                  : tr("&Connect"));
     m_connect->setEnabled(status.state != ConnectionState::Disconnecting);
-    if (m_isQuitting && !m_connector->isActive())
+    if (m_connector->isActive())
+        return;
+    m_messages->withdraw(quitQuestion());
+    if (m_isQuitting)
         finishQuitting();
 }
 
@@ -507,7 +515,7 @@ void WTMainWindow::askToQuit()
         return;
     }
     showInFront();
-    m_messages->ask(tr("Disconnect and quit?"), tr("Disconnect and &quit"), [this] { quit(); });
+    m_messages->ask(quitQuestion(), tr("Disconnect and &quit"), [this] { quit(); });
 }
 
 void WTMainWindow::quit()

@@ -386,6 +386,14 @@ private Q_SLOTS:
         auto *box = shown<QMessageBox>(m_window.get(), u"messageBox"_s);
         QCOMPARE(box->text(), u"Disconnect and quit?"_s);
         QVERIFY(m_window->isVisible());
+        fakeconnection::put(fakeconnection::namedStatus(u"redial"_s));
+        QVERIFY(box->isVisible());
+        fakeconnection::put(fakeconnection::ended(ConnectionEnd::LinkLost, {}));
+        QVERIFY2(!box->isVisible(), "there is nothing left to disconnect");
+        QVERIFY(m_window->isVisible());
+        fakeconnection::put(fakeconnection::connected());
+        m_window->close();
+        box = shown<QMessageBox>(m_window.get(), u"messageBox"_s);
         fakecard::takeCalls();
         for (QAbstractButton *choice : box->buttons())
             if (choice->text().contains(u"quit"_s))
