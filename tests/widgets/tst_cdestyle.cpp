@@ -206,7 +206,7 @@ private Q_SLOTS:
         label.resize(80, 20);
         label.show();
         QVERIFY(label.text().endsWith(u'…'));
-        QCOMPARE(label.toolTip(), name);
+        QCOMPARE(label.toolTip(), plainToolTip(name));
         QCOMPARE(label.accessibleName(), name);
         label.resize(label.sizeHint());
         QCOMPARE(label.text(), name);

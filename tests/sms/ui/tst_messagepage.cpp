@@ -249,6 +249,8 @@ void TestMessagePage::markupStaysText()
     choose(0);
     QCOMPARE(part<PlainTextView>(u"messageBody"_s)->toPlainText(), text);
     QCOMPARE(part<QLabel>(u"messagePeople"_s)->textFormat(), Qt::PlainText);
+    QVERIFY(rows(Qt::ToolTipRole).front().contains(u"&lt;i&gt;name&lt;/i&gt;<br"_s));
+    QVERIFY(rows(Qt::AccessibleTextRole).front().contains(u"<i>name</i>"_s));
     QVERIFY(!part<QPushButton>(u"reply"_s)->isEnabled()); // a name cannot be answered
 }
 
