@@ -5,6 +5,7 @@
 #include "sms/markqueue.h"
 #include "sms/recipients.h"
 #include "sms/ui/channels.h"
+#include "sms/ui/draftkeeper.h"
 #include "sms/ui/messagecounter.h"
 #include "sms/ui/messagesettings.h"
 #include "sms/ui/messagetexts.h"
@@ -43,6 +44,7 @@ private Q_SLOTS:
     void brokenTemplatesAreKept();
     void theValidityThatIsSent();
     void thousandsAreMarkedInTheOrderAskedFor();
+    void aDraftThatIsLeftWhileTheStoreIsReadStays();
 
 private:
     QTemporaryDir m_folder;
@@ -211,6 +213,20 @@ void TestMessageParts::thousandsAreMarkedInTheOrderAskedFor()
         marks.mark(ids, false);
     }
     QCOMPARE(store.unreadCount(MessageBox::Inbox), 1200); // what waited at the end is not forgotten
+}
+
+void TestMessageParts::aDraftThatIsLeftWhileTheStoreIsReadStays()
+{
+    const QTemporaryDir folder;
+    MessageStore store(folder.path(), 7);
+    store.load();
+    QVERIFY(!store.isLoaded());
+    DraftKeeper keeper(&store, nullptr);
+    keeper.begin({}, {});
+    keeper.setContent({{u"0151"_s}, u"early"_s});
+    keeper.flush();
+    keeper.release();
+    QCOMPARE(store.messages(store.ids(MessageBox::Drafts)).at(0).text(), u"early"_s);
 }
 
 QTEST_MAIN(TestMessageParts)
