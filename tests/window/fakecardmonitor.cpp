@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fakecardmonitor.h"
 
+#include "link/cardworker.h"
+#include "link/serialthread.h"
+
 #include <QPromise>
 #include <functional>
 #include <map>
@@ -46,12 +49,17 @@ template <typename Result> void answer(std::optional<QPromise<Result>> &place, c
 namespace corva
 {
 
+/// A worker that has ended: it drops what it is given.
 class CardMonitor::Private
 {
+public:
+    SerialThread link{nullptr};
+    CardWorker worker{link};
 };
 
-CardMonitor::CardMonitor(LinkOwner *, QObject *parent) : QObject(parent)
+CardMonitor::CardMonitor(LinkOwner *, QObject *parent) : QObject(parent), d(new Private)
 {
+    d->worker.stop();
     strings() = {};
     strings().monitor = this;
     strings().put = [this](const CardState &state) {
@@ -74,12 +82,12 @@ void CardMonitor::stop()
 
 SerialThread &CardMonitor::link()
 {
-    qFatal("the fake has no link");
+    return d->link;
 }
 
 CardWorker &CardMonitor::worker()
 {
-    qFatal("the fake has no worker");
+    return d->worker;
 }
 
 void CardMonitor::findPorts(bool newWay)

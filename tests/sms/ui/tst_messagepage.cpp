@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "../storetest.h"
-#include "fakemessageservice.h"
+#include "fakecardmonitor.h"
 
 #include "shell/commoncfg.h"
 #include "shell/globals.h"
+#include "sms/messageservice.h"
 #include "sms/ui/class0dialog.h"
 #include "sms/ui/composer.h"
 #include "sms/ui/cshortmsg.h"
@@ -29,7 +30,7 @@
 using namespace Qt::StringLiterals;
 using namespace corva;
 
-/// The page over the real store and a service that is only told.
+/// The page over the real service and store; the card takes nothing.
 class TestMessagePage : public QObject
 {
     Q_OBJECT
@@ -49,10 +50,8 @@ private Q_SLOTS:
     void replyLeavesNoDraft();
     void draftIsWrittenOn();
     void wrongRecipientIsToldAtTheField();
-    void refusedMessageStaysADraft();
+    void whatCannotBeSentStaysADraft();
     void sendingGoesToEverybody();
-    void cancellingAsks();
-    void nearlyFullPlaceIsTold();
     void exportedMessagesComeBack();
     void immediateMessagesQueueUp();
     void badgeFollowsWithoutThePage();
@@ -73,6 +72,7 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<MessageStore> m_store;
+    std::unique_ptr<CardMonitor> m_monitor;
     std::unique_ptr<MessageService> m_service;
     std::unique_ptr<QWidget> m_window;
     MessageQueue *m_messages = nullptr;
@@ -90,10 +90,11 @@ void TestMessagePage::initTestCase()
 void TestMessagePage::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
+    m_monitor = std::make_unique<CardMonitor>(nullptr);
     m_store = std::make_unique<MessageStore>(m_folder->path(), 7);
     m_store->load();
     QTRY_VERIFY(m_store->isLoaded());
-    m_service = std::make_unique<MessageService>(nullptr, m_store.get());
+    m_service = std::make_unique<MessageService>(m_monitor.get(), m_store.get());
     m_window = std::make_unique<QWidget>();
     m_messages = new MessageQueue(m_window.get());
     m_page = new CShortMsg({u"messages"_s, u"Messages"_s, u"message"_s, 0, false}, m_service.get(),
@@ -315,8 +316,8 @@ void TestMessagePage::draftIsWrittenOn()
     write(u"0151"_s, u"sent off"_s);
     QTRY_COMPARE(texts(MessageBox::Drafts).size(), 1);
     press(u"send"_s);
-    QCOMPARE(fakesms::takeCalls(), QStringList{u"send 0151 - | sent off"_s});
-    QCOMPARE(texts(MessageBox::Drafts), QStringList());
+    QCOMPARE(texts(MessageBox::Outbox), QStringList{u"sent off"_s});
+    QTRY_COMPARE(texts(MessageBox::Drafts), QStringList());
     write(u"0152"_s, u"thrown away"_s);
     press(u"discard"_s);
     QTRY_COMPARE(texts(MessageBox::Deleted), QStringList{u"thrown away"_s});
@@ -331,16 +332,16 @@ void TestMessagePage::wrongRecipientIsToldAtTheField()
     part<QLineEdit>(u"recipients"_s)->setText(QString());
     press(u"send"_s);
     QVERIFY(!part<QLabel>(u"recipientsError"_s)->text().isEmpty());
-    QCOMPARE(fakesms::takeCalls(), QStringList());
+    QCOMPARE(texts(MessageBox::Outbox), QStringList());
 }
 
-void TestMessagePage::refusedMessageStaysADraft()
+void TestMessagePage::whatCannotBeSentStaysADraft()
 {
-    fakesms::setTaking(false);
-    write(u"0151"_s, u"refused"_s);
-    press(u"send"_s);
+    const QString tooLong = u"ten words. "_s.repeated(4000);
+    write(u"0151"_s, tooLong);
+    QTest::keyClick(part<MyTextEdit>(u"messageText"_s), Qt::Key_Return, Qt::ControlModifier);
     QVERIFY(part<Composer>(u"composer"_s)->isVisible());
-    QCOMPARE(texts(MessageBox::Drafts), QStringList{u"refused"_s});
+    QTRY_COMPARE(texts(MessageBox::Drafts), QStringList{tooLong});
 }
 
 void TestMessagePage::sendingGoesToEverybody()
@@ -348,42 +349,11 @@ void TestMessagePage::sendingGoesToEverybody()
     write(u"0151-1; +49 152"_s, u"to both"_s);
     part<QAbstractButton>(u"deliveryReport"_s)->setChecked(true);
     QTest::keyClick(part<MyTextEdit>(u"messageText"_s), Qt::Key_Return, Qt::ControlModifier);
-    QCOMPARE(fakesms::takeCalls(), QStringList{u"send 01511,+49152 report | to both"_s});
-}
-
-void TestMessagePage::cancellingAsks()
-{
-    auto *bar = part<QWidget>(u"sendBar"_s);
-    QVERIFY(!bar->isVisible());
-    fakesms::put(SendProgress{true, u"0151"_s, 2, 5});
-    QVERIFY(bar->isVisible());
-    QCOMPARE(part<QLabel>(u"sending"_s)->text(), u"Sending ... 2 of 5"_s);
-    press(u"cancelSending"_s);
-    auto *box = m_window->findChild<QMessageBox *>(u"messageBox"_s);
-    QVERIFY(box);
-    QCOMPARE(box->text(), u"Do you want to cancel sending the rest SMS?"_s);
-    QCOMPARE(fakesms::takeCalls(), QStringList());
-    box->button(QMessageBox::Yes)->click();
-    QCOMPARE(fakesms::takeCalls(), QStringList{u"cancel"_s});
-}
-
-void TestMessagePage::nearlyFullPlaceIsTold()
-{
-    const auto told = [this] {
-        const QList<QLabel *> notices = m_page->findChildren<QLabel *>(u"notice"_s);
-        QStringList texts;
-        for (const QLabel *notice : notices)
-            if (notice->isVisible())
-                texts += notice->text();
-        return texts.join(u'|');
-    };
-    fakesms::put(MessagePlace::Sim, {.isRead = true, .error = {}, .capacity = StoreCapacity{17, 20}});
-    QCOMPARE(told(), QString());
-    fakesms::put(MessagePlace::Sim, {.isRead = true, .error = {}, .capacity = StoreCapacity{18, 20}});
-    QVERIFY2(told().contains(u"18 of 20"_s), qPrintable(told()));
-    open({.filter = {.kind = MessageFilter::Kind::Place, .place = MessagePlace::Sim}});
-    fakesms::put(MessagePlace::Sim, {.error = u"The SIM is busy."_s, .capacity = {}});
-    QCOMPARE(told(), u"The SIM is busy."_s);
+    const auto queued = m_store->messages(m_store->ids(MessageBox::Outbox));
+    QCOMPARE(queued.size(), 1U);
+    QCOMPARE(queued.front().recipients, QStringList({u"01511"_s, u"+49152"_s}));
+    QCOMPARE(queued.front().text(), u"to both"_s);
+    QVERIFY(queued.front().asksReport);
 }
 
 void TestMessagePage::exportedMessagesComeBack()
@@ -493,23 +463,24 @@ void TestMessagePage::onlyWhatCanGoOutIsSentAgain()
          failed(u"half way"_s, MessageBox::Outbox, DeliveryState::Unsure),
          failed(u"gone"_s, MessageBox::Deleted, DeliveryState::Failed)});
     const auto idOf = [this](const QString &text) { return m_store->search(text).front(); };
+    const auto stateOf = [&](const QString &text) { return m_store->find(idOf(text))->state(); };
     auto *boxes = m_page->findChild<BoxChooser *>();
     QTRY_VERIFY(boxes->itemText(2).contains(u"(2)"_s));
     m_page->showEntry(idOf(u"gone"_s));
     QVERIFY(!part<QPushButton>(u"retry"_s)->isVisible());
     m_page->showEntry(idOf(u"refused"_s));
     press(u"retry"_s);
-    QCOMPARE(fakesms::takeCalls(), QStringList{u"retry "_s + idOf(u"refused"_s)});
+    QCOMPARE(stateOf(u"refused"_s), DeliveryState::Queued);
     m_page->showEntry(idOf(u"half way"_s));
     press(u"retry"_s);
-    QCOMPARE(fakesms::takeCalls(), QStringList());
+    QCOMPARE(stateOf(u"half way"_s), DeliveryState::Unsure);
     auto *box = m_window->findChild<QMessageBox *>(u"messageBox"_s);
     QVERIFY(box);
     QCOMPARE(box->text(), u"The message may have gone out already. Send it again?"_s);
     for (QAbstractButton *button : box->buttons())
         if (box->buttonRole(button) == QMessageBox::YesRole)
             button->click();
-    QCOMPARE(fakesms::takeCalls(), QStringList{u"retry "_s + idOf(u"half way"_s)});
+    QCOMPARE(stateOf(u"half way"_s), DeliveryState::Queued);
 }
 
 QTEST_MAIN(TestMessagePage)
