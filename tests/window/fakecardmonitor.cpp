@@ -16,7 +16,6 @@ namespace
 
 /// What a test sees and moves of the monitor that lives now.
 struct Strings {
-    corva::CardMonitor *monitor = nullptr;
     std::function<void(const corva::CardState &)> put;
     QStringList calls;
     std::optional<QPromise<corva::PinOutcome>> pin;
@@ -61,7 +60,6 @@ CardMonitor::CardMonitor(LinkOwner *, QObject *parent) : QObject(parent), d(new 
 {
     d->worker.stop();
     strings() = {};
-    strings().monitor = this;
     strings().put = [this](const CardState &state) {
         m_state = state;
         Q_EMIT sigStateChanged(state);
@@ -141,8 +139,9 @@ namespace
 
 using Change = void (*)(CardState &);
 
-void loseNetwork(CardState &state)
+void loseNetwork(CardState &state, Registration registration)
 {
+    state.registration = registration;
     state.operatorName.clear();
     state.operatorCode.clear();
     state.networkType = NetworkType::None;
@@ -152,13 +151,22 @@ void loseNetwork(CardState &state)
     state.cellId.reset();
 }
 
-void lock(CardState &state, SimState sim)
+void lock(CardState &state, SimState sim, std::optional<int> pinAttempts = std::nullopt)
 {
-    loseNetwork(state);
+    loseNetwork(state, Registration::NotSearching);
     state.sim = sim;
-    state.registration = Registration::NotSearching;
+    if (pinAttempts)
+        state.pinAttempts = *pinAttempts;
     state.identity.imsi.clear();
     state.identity.ownNumber.clear();
+}
+
+CardState withoutAnswer(CardPresence presence, const QString &port = u"/dev/ttyUSB2"_s)
+{
+    CardState state;
+    state.presence = presence;
+    state.portName = port;
+    return state;
 }
 
 const std::map<QString, Change> &changes()
@@ -168,8 +176,7 @@ const std::map<QString, Change> &changes()
         {u"absent"_s, [](CardState &state) { state = {}; }},
         {u"storage"_s,
          [](CardState &state) {
-             state = {};
-             state.presence = CardPresence::StorageMode;
+             state = withoutAnswer(CardPresence::StorageMode, {});
              state.deviceName = u"Data Stick"_s;
          }},
         {u"noport"_s,
@@ -179,59 +186,35 @@ const std::map<QString, Change> &changes()
          }},
         {u"wrongport"_s,
          [](CardState &state) {
-             state = {};
-             state.portName = u"/dev/null"_s;
+             state = withoutAnswer(CardPresence::Absent, u"/dev/null"_s);
              state.portFault = PortFault::NotSerial;
          }},
         {u"norights"_s,
          [](CardState &state) {
-             state = {};
-             state.presence = CardPresence::NoRights;
-             state.portName = u"/dev/ttyUSB2"_s;
+             state = withoutAnswer(CardPresence::NoRights);
              state.portGroup = u"dialout"_s;
          }},
         {u"busy"_s,
          [](CardState &state) {
-             state = {};
-             state.presence = CardPresence::PortBusy;
-             state.portName = u"/dev/ttyUSB2"_s;
+             state = withoutAnswer(CardPresence::PortBusy);
              state.portHolder = u"ModemManager"_s;
              state.portHolderPid = 812;
          }},
-        {u"silent"_s,
-         [](CardState &state) {
-             state = {};
-             state.presence = CardPresence::Silent;
-             state.portName = u"/dev/ttyUSB2"_s;
-         }},
+        {u"silent"_s, [](CardState &state) { state = withoutAnswer(CardPresence::Silent); }},
         {u"nosim"_s, [](CardState &state) { lock(state, SimState::Absent); }},
-        {u"pin"_s,
-         [](CardState &state) {
-             lock(state, SimState::PinNeeded);
-             state.pinAttempts = 3;
-         }},
+        {u"pin"_s, [](CardState &state) { lock(state, SimState::PinNeeded, 3); }},
         {u"puk"_s,
          [](CardState &state) {
-             lock(state, SimState::PukNeeded);
-             state.pinAttempts = 0;
+             lock(state, SimState::PukNeeded, 0);
              state.pukAttempts = 10;
          }},
         {u"radiooff"_s,
          [](CardState &state) {
-             loseNetwork(state);
+             loseNetwork(state, Registration::NotSearching);
              state.functionality = 0;
-             state.registration = Registration::NotSearching;
          }},
-        {u"searching"_s,
-         [](CardState &state) {
-             loseNetwork(state);
-             state.registration = Registration::Searching;
-         }},
-        {u"denied"_s,
-         [](CardState &state) {
-             loseNetwork(state);
-             state.registration = Registration::Denied;
-         }},
+        {u"searching"_s, [](CardState &state) { loseNetwork(state, Registration::Searching); }},
+        {u"denied"_s, [](CardState &state) { loseNetwork(state, Registration::Denied); }},
         {u"roaming"_s,
          [](CardState &state) {
              state.registration = Registration::Roaming;
@@ -254,11 +237,6 @@ QStringList takeCalls()
 void put(const CardState &state)
 {
     strings().put(state);
-}
-
-void say(const QString &sentence)
-{
-    Q_EMIT strings().monitor->sigActivity(sentence);
 }
 
 void answerPin(PinOutcome outcome)

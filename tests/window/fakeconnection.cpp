@@ -11,11 +11,9 @@ namespace
 
 /// What a test sees and moves of the service that lives now.
 struct Strings {
-    ConnectionService *service = nullptr;
     std::function<void(const ConnectionStatus &)> put;
     QStringList calls;
     ConnectObstacle obstacle = ConnectObstacle::None;
-    std::function<std::optional<quint64>()> counter;
 };
 
 Strings &strings()
@@ -39,7 +37,6 @@ ConnectionService::ConnectionService(CardMonitor *, ProfileStore *profiles, QObj
     : QObject(parent), d(new Private{profiles})
 {
     strings() = {};
-    strings().service = this;
     strings().put = [this](const ConnectionStatus &status) {
         m_status = status;
         Q_EMIT sigStatusChanged(m_status);
@@ -80,10 +77,7 @@ void ConnectionService::disconnectNow(ConnectionEnd why)
     strings().calls += why == ConnectionEnd::ByPerson ? u"disconnect"_s : u"disconnect %1"_s.arg(int(why));
 }
 
-void ConnectionService::setByteCounter(std::function<std::optional<quint64>()> counter)
-{
-    strings().counter = std::move(counter);
-}
+void ConnectionService::setByteCounter(std::function<std::optional<quint64>()>) {}
 
 void ConnectionService::setCallUp(bool) {}
 
@@ -105,16 +99,6 @@ void put(const ConnectionStatus &status)
 void setObstacle(ConnectObstacle obstacle)
 {
     strings().obstacle = obstacle;
-}
-
-void say(const QString &text)
-{
-    Q_EMIT strings().service->sigMessage(text);
-}
-
-std::optional<quint64> countedBytes()
-{
-    return strings().counter();
 }
 
 ConnectionStatus connected()
