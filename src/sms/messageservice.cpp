@@ -333,12 +333,12 @@ void MessageService::shutDown()
         return;
     d->again.stop();
     d->queue.pause();
-    const auto isStored = std::make_shared<QSemaphore>();
-    d->monitor->worker().submit([isStored](SerialThread &link) {
-        smsjobs::storeNewMessages(link);
-        isStored->release();
-    });
-    if (!isStored->tryAcquire(1, int(longestFarewell.count())))
+    const auto isOver = std::make_shared<QSemaphore>();
+    // Freed with the job: also when the worker runs none any more.
+    std::shared_ptr<void> job(nullptr, [isOver](void *) { isOver->release(); });
+    const auto isStored = d->monitor->worker().submit(
+        [job = std::move(job)](SerialThread &link) { smsjobs::storeNewMessages(link); });
+    if (!isOver->tryAcquire(1, int(longestFarewell.count())) || isStored.isCanceled())
         qCWarning(lcSms).noquote() << logTime() + u"the card was not told to keep new messages"_s;
     // What the jobs ahead of it did, a part that went out above all: no event loop may come to bring it.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::FutureCallOut);

@@ -20,6 +20,7 @@ namespace
 
 constexpr QLatin1StringView formatVersion = "1"_L1;
 constexpr qsizetype longestText = 200; ///< of a name; longer ones were not written by this program
+constexpr quint64 largestVolume = 10'000'000'000'000'000; ///< bytes: 30 Gbit/s through a month
 constexpr milliseconds longestDuration = hours(24 * 366 * 10);
 
 /// The attributes of one element, each known or not.
@@ -60,10 +61,10 @@ public:
 
     std::optional<TrafficVolumes> volumes() const
     {
-        const auto received = number("received"_L1);
-        const auto sent = number("sent"_L1);
-        const auto roamingReceived = number("roaming-received"_L1);
-        const auto roamingSent = number("roaming-sent"_L1);
+        const auto received = volume("received"_L1);
+        const auto sent = volume("sent"_L1);
+        const auto roamingReceived = volume("roaming-received"_L1);
+        const auto roamingSent = volume("roaming-sent"_L1);
         if (!received || !sent || !roamingReceived || !roamingSent)
             return std::nullopt;
         return TrafficVolumes{{*received, *sent}, {*roamingReceived, *roamingSent}};
@@ -72,6 +73,13 @@ public:
     const QString name;
 
 private:
+    /// Unknown for what no link can have carried.
+    std::optional<quint64> volume(QLatin1StringView key) const
+    {
+        const auto bytes = number(key);
+        return bytes && *bytes <= largestVolume ? bytes : std::nullopt;
+    }
+
     const QXmlStreamAttributes m_attributes;
 };
 

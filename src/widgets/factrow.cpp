@@ -43,7 +43,7 @@ FactRow::FactRow(const QString &id, const QString &caption, Copy copy, QWidget *
     } else if (copy == Copy::Room) {
         layout->addSpacing(metrics::ControlHeight);
     }
-    setMinimumHeight(metrics::RowHeight);
+    layout->addStrut(metrics::RowHeight);
     setValue({});
 }
 

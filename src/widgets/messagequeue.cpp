@@ -36,6 +36,13 @@ void MessageQueue::ask(const QString &text, const QString &verb, std::function<v
     enqueue({text, verb, std::move(yes)});
 }
 
+void MessageQueue::withdraw(const QString &text)
+{
+    std::erase_if(m_waiting, [&](const Message &message) { return message.text == text; });
+    if (m_shown && m_shown->text() == text)
+        m_shown->reject();
+}
+
 void MessageQueue::enqueue(Message message)
 {
     const auto isSame = [&](const Message &other) { return other.text == message.text; };

@@ -30,6 +30,8 @@ public:
     void ask(const QString &text, std::function<void()> yes);
     /// The same with a button that names what it does instead of Yes, and Cancel instead of No.
     void ask(const QString &text, const QString &verb, std::function<void()> yes);
+    /// What the text is about is over: it goes unanswered, whether it waits or is shown.
+    void withdraw(const QString &text);
 
 private:
     struct Message {

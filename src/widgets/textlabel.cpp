@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QStyle>
+#include <QTextDocument>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -41,6 +42,13 @@ void TextLabel::changeEvent(QEvent *event)
         align();
     if (event->type() == QEvent::StyleChange && font() != skinFont(m_role))
         setFont(skinFont(m_role));
+}
+
+QString plainToolTip(const QString &text)
+{
+    constexpr qsizetype longest = 1000;
+    const bool isLonger = text.size() > longest;
+    return text.isEmpty() ? text : Qt::convertFromPlainText(isLonger ? text.left(longest) + u'…' : text);
 }
 
 QString inLayoutDirection(const QString &text)
@@ -93,7 +101,7 @@ void ElidedLabel::elide()
 {
     const QString shown = fontMetrics().elidedText(m_fullText, Qt::ElideRight, width());
     setText(inLayoutDirection(shown));
-    setToolTip(shown == m_fullText ? QString() : m_fullText);
+    setToolTip(shown == m_fullText ? QString() : plainToolTip(m_fullText));
     setAccessibleName(m_fullText);
 }
 

@@ -38,6 +38,10 @@ private:
 /// Other texts stay as they are.
 QString inLayoutDirection(const QString &text);
 
+/// A tool tip that shows a text of unknown origin: as it stands, whatever markup is in it, over several lines
+/// where it is long, and not without end.
+QString plainToolTip(const QString &text);
+
 /// A label for one line of unknown length: it gives way to its neighbours and ends in "…", with the whole
 /// text in the tool tip and for the screen reader.
 class ElidedLabel final : public TextLabel

@@ -2,6 +2,7 @@
 #include "window/cardpage.h"
 
 #include "device/cardmonitor.h"
+#include "widgets/contentscroll.h"
 #include "widgets/factrow.h"
 #include "widgets/line.h"
 #include "widgets/skin.h"
@@ -132,15 +133,8 @@ QWidget *CardPage::buildFacts()
     layout->addLayout(m_columns);
     layout->addStretch(1);
 
-    auto *scroll = new QScrollArea(this);
+    QScrollArea *scroll = scrollAreaFor(facts, this);
     scroll->setObjectName(u"facts"_s);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(facts);
-    facts->setAutoFillBackground(false);
-    scroll->viewport()->setAutoFillBackground(false);
     return scroll;
 }
 

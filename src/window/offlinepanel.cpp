@@ -8,6 +8,7 @@
 #include "device/cardmonitor.h"
 #include "widgets/buttonkind.h"
 #include "widgets/cdepaint.h"
+#include "widgets/contentscroll.h"
 #include "widgets/skinicon.h"
 #include "widgets/textlabel.h"
 #include "window/mender.h"
@@ -131,8 +132,8 @@ void DiagnosisRow::paintEvent(QPaintEvent *)
 
 OfflinePanel::OfflinePanel(const PageContext &context, QWidget *parent)
     : QWidget(parent), m_monitor(context.monitor), m_connection(context.connection),
-      m_profiles(context.profiles), m_scroll(new QScrollArea(this)),
-      m_conclusion(new TextLabel(TextRole::Text, this)), m_back(new QPushButton(tr("&Back"), this))
+      m_profiles(context.profiles), m_conclusion(new TextLabel(TextRole::Text, this)),
+      m_back(new QPushButton(tr("&Back"), this))
 {
     setObjectName(u"offlinePanel"_s);
     m_back->setObjectName(u"back"_s);
@@ -156,13 +157,7 @@ OfflinePanel::OfflinePanel(const PageContext &context, QWidget *parent)
         connect(m_rows.back(), &DiagnosisRow::sigMend, context.mender, &Mender::mend);
     }
     rows->addStretch(1);
-    m_scroll->setFrameShape(QFrame::NoFrame);
-    m_scroll->setWidgetResizable(true);
-    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scroll->setFocusPolicy(Qt::NoFocus);
-    m_scroll->setWidget(list);
-    m_scroll->viewport()->setAutoFillBackground(false);
-    list->setAutoFillBackground(false);
+    m_scroll = scrollAreaFor(list, this);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(metrics::PageMargin, metrics::PageMargin - metrics::Grid, metrics::PageMargin,

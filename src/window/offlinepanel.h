@@ -70,7 +70,7 @@ private:
     CardMonitor *m_monitor;
     ConnectionService *m_connection;
     ProfileStore *m_profiles;
-    QScrollArea *m_scroll;
+    QScrollArea *m_scroll = nullptr;
     TextLabel *m_conclusion;
     QPushButton *m_back;
     std::vector<DiagnosisRow *> m_rows;

@@ -26,6 +26,7 @@ Page::Page(const PageInfo &info, QWidget *parent)
     m_titleRow->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, 0);
     m_about->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, 0);
     m_titleRow->addWidget(title, 1);
+    m_titleRow->addStrut(metrics::ControlHeight);
     m_body->setContentsMargins(0, 0, 0, 0);
     m_body->setSpacing(metrics::RowGap);
 
@@ -38,7 +39,6 @@ Page::Page(const PageInfo &info, QWidget *parent)
     layout->addWidget(m_about);
     layout->addSpacing(2 * metrics::Grid);
     layout->addLayout(m_body, 1);
-    title->setMinimumHeight(metrics::ControlHeight);
 }
 
 void Page::setAbout(const QString &sentence)

@@ -11,7 +11,7 @@ namespace corva
 {
 
 StatusChip::StatusChip(QWidget *parent)
-    : QWidget(parent), m_icon(new QLabel(this)), m_words(new TextLabel(TextRole::Text, this))
+    : QWidget(parent), m_icon(new QLabel(this)), m_words(new ElidedLabel(TextRole::Text, this))
 {
     m_words->setMuted(true);
     auto *layout = new QHBoxLayout(this);
@@ -19,13 +19,13 @@ StatusChip::StatusChip(QWidget *parent)
     layout->setSpacing(metrics::HalfGrid + 2);
     layout->addWidget(m_icon);
     layout->addWidget(m_words);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 }
 
 void StatusChip::setChip(const QString &icon, const QString &words, const QString &name)
 {
     m_iconName = icon;
-    m_words->setText(words);
+    m_words->setFullText(words);
     m_words->setVisible(!words.isEmpty());
     m_icon->setAccessibleName(name);
     setAccessibleName(name);

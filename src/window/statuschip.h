@@ -10,7 +10,7 @@ class QLabel;
 namespace corva
 {
 
-class TextLabel;
+class ElidedLabel;
 
 /// An icon with a few words: one state in the top bar. Without words the icon stands alone, and its name says
 /// it.
@@ -31,7 +31,7 @@ private:
 
     QString m_iconName;
     QLabel *m_icon;
-    TextLabel *m_words;
+    ElidedLabel *m_words;
 };
 
 } // namespace corva

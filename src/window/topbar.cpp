@@ -149,6 +149,7 @@ void TopBar::setState(const CardState &state)
     m_service->setFullText(service);
     m_service->setVisible(!service.isEmpty());
     showSim(state);
+    fitName();
 }
 
 void TopBar::showSim(const CardState &state)
@@ -172,6 +173,21 @@ void TopBar::setConnection(ConnectionState connection)
     const bool isUp = connection == ConnectionState::Connected;
     m_connection->setChip(isUp ? u"globe"_s : u"globe-off"_s, connectionText(connection),
                           tr("Data connection: %1").arg(connectionText(connection)));
+    fitName();
+}
+
+/// The program's name makes way for what stands to be read.
+void TopBar::fitName()
+{
+    m_menuButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    if (layout()->minimumSize().width() > width())
+        m_menuButton->setToolButtonStyle(Qt::ToolButtonIconOnly);
+}
+
+void TopBar::resizeEvent(QResizeEvent *event)
+{
+    SkinAreaWidget::resizeEvent(event);
+    fitName();
 }
 
 void TopBar::openMenu()

@@ -47,11 +47,13 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void build();
     void showSim(const CardState &state);
     void showTime();
+    void fitName();
 
     QMenu *m_menu;
     QToolButton *m_menuButton;

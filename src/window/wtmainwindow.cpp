@@ -51,6 +51,11 @@ constexpr auto longestHangUp = 12s; // pppd has been seen to take seven
 const QString windowSection = u"window"_s;
 const QString questionKey = u"question"_s; ///< of the notification that a question waits
 
+QString quitQuestion()
+{
+    return WTMainWindow::tr("Disconnect and quit?");
+}
+
 /// A report without what it says, which is the person's own: "+CUSD".
 QString reportName(const QString &text)
 {
@@ -311,7 +316,10 @@ void WTMainWindow::slotConnectionChanged(const ConnectionStatus &status)
                        : m_connector->isActive() ? tr("&Cancel connecting")
                                                  : tr("&Connect"));
     m_connect->setEnabled(status.state != ConnectionState::Disconnecting);
-    if (m_isQuitting && !m_connector->isActive())
+    if (m_connector->isActive())
+        return;
+    m_messages->withdraw(quitQuestion());
+    if (m_isQuitting)
         finishQuitting();
 }
 
@@ -516,7 +524,7 @@ void WTMainWindow::askToQuit()
         return;
     }
     showInFront();
-    m_messages->ask(tr("Disconnect and quit?"), tr("Disconnect and &quit"), [this] { quit(); });
+    m_messages->ask(quitQuestion(), tr("Disconnect and &quit"), [this] { quit(); });
 }
 
 void WTMainWindow::quit()

@@ -199,6 +199,27 @@ class Messages(unittest.TestCase):
             taken = json.loads(card.say("sent"))
             self.assertIn("+12025550123", json.dumps(taken))
 
+    def test_a_sending_is_cancelled_and_a_nearly_full_sim_told(self):
+        with desk(sms__newsmsLocation="1", sms__deliveryReportMsgDlgShow="0") as (card, program):
+            card.say("delay", "AT+CMGS", "3000")
+            card.say("store", "SM", "capacity=10")
+            program.start_on_network()
+            open_messages(program, "ctrl+n")
+            program.wait_text("Symbol: 0 /1")
+            program.type("+12025550123, +12025550124\tOn my way")
+            program.keys("ctrl+Return")
+            program.wait_text("Sending ... 0 of 2")
+            program.press("Cancel sending")
+            program.wait_text("Do you want to cancel sending the rest SMS?")
+            program.keys("alt+y")
+            program.wait_text("Sent successfully 1,failed 1")
+            program.wait_no_text("Cancel sending")
+            self.assertNotIn("+12025550124", card.say("sent"))
+            self.assertFalse(program.shows("places are used"))
+            for number in range(8):  # beside the one that is there
+                card.say("sms", "from=+12025550123", f"text=Message {number}")
+            program.wait_text("9 of 10 places are used")
+
     def test_what_is_written_outlives_a_killed_program(self):
         with desk() as (_, program):
             program.start_on_network()

@@ -17,7 +17,7 @@ HistoryRecord someRecord(const QString &id, const QString &profile = u"Home"_s)
     record.end = record.start.addSecs(61);
     record.duration = std::chrono::seconds(61);
     record.profileName = profile;
-    record.volumes = {{~quint64(0), 2}, {3, 4}};
+    record.volumes = {{10'000'000'000'000'000, 2}, {3, 4}};
     record.isRoaming = true;
     record.ended = historyend::Idle;
     return record;
@@ -102,6 +102,8 @@ private Q_SLOTS:
         QTest::newRow("one id twice") << changed("id=\"2\"", "id=\"1\"") << 1;
         QTest::newRow("an end that is no time") << changed("end=\"2024-05-03T12", "end=\"2024-15-03T12") << 0;
         QTest::newRow("negative volume") << changed("sent=\"2\"", "sent=\"-2\"") << 0;
+        QTest::newRow("more than any link carries")
+            << changed("sent=\"2\"", "sent=\"18446744073709551615\"") << 0;
         QTest::newRow("endless duration") << changed("\"61000\"", "\"9223372036854775807\"") << 0;
         QTest::newRow("grows by itself")
             << QByteArray("<!DOCTYPE h [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;\">"

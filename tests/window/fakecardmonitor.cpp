@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fakecardmonitor.h"
 
+#include "link/cardworker.h"
+#include "link/serialthread.h"
+
 #include <QPromise>
 #include <functional>
 #include <map>
@@ -13,7 +16,6 @@ namespace
 
 /// What a test sees and moves of the monitor that lives now.
 struct Strings {
-    corva::CardMonitor *monitor = nullptr;
     std::function<void(const corva::CardState &)> put;
     QStringList calls;
     std::optional<QPromise<corva::PinOutcome>> pin;
@@ -46,14 +48,18 @@ template <typename Result> void answer(std::optional<QPromise<Result>> &place, c
 namespace corva
 {
 
+/// A worker that has ended: it drops what it is given.
 class CardMonitor::Private
 {
+public:
+    SerialThread link{nullptr};
+    CardWorker worker{link};
 };
 
-CardMonitor::CardMonitor(LinkOwner *, QObject *parent) : QObject(parent)
+CardMonitor::CardMonitor(LinkOwner *, QObject *parent) : QObject(parent), d(new Private)
 {
+    d->worker.stop();
     strings() = {};
-    strings().monitor = this;
     strings().put = [this](const CardState &state) {
         m_state = state;
         Q_EMIT sigStateChanged(state);
@@ -74,12 +80,12 @@ void CardMonitor::stop()
 
 SerialThread &CardMonitor::link()
 {
-    qFatal("the fake has no link");
+    return d->link;
 }
 
 CardWorker &CardMonitor::worker()
 {
-    qFatal("the fake has no worker");
+    return d->worker;
 }
 
 void CardMonitor::findPorts(bool newWay)
@@ -133,8 +139,9 @@ namespace
 
 using Change = void (*)(CardState &);
 
-void loseNetwork(CardState &state)
+void loseNetwork(CardState &state, Registration registration)
 {
+    state.registration = registration;
     state.operatorName.clear();
     state.operatorCode.clear();
     state.networkType = NetworkType::None;
@@ -144,13 +151,22 @@ void loseNetwork(CardState &state)
     state.cellId.reset();
 }
 
-void lock(CardState &state, SimState sim)
+void lock(CardState &state, SimState sim, std::optional<int> pinAttempts = std::nullopt)
 {
-    loseNetwork(state);
+    loseNetwork(state, Registration::NotSearching);
     state.sim = sim;
-    state.registration = Registration::NotSearching;
+    if (pinAttempts)
+        state.pinAttempts = *pinAttempts;
     state.identity.imsi.clear();
     state.identity.ownNumber.clear();
+}
+
+CardState withoutAnswer(CardPresence presence, const QString &port = u"/dev/ttyUSB2"_s)
+{
+    CardState state;
+    state.presence = presence;
+    state.portName = port;
+    return state;
 }
 
 const std::map<QString, Change> &changes()
@@ -160,8 +176,7 @@ const std::map<QString, Change> &changes()
         {u"absent"_s, [](CardState &state) { state = {}; }},
         {u"storage"_s,
          [](CardState &state) {
-             state = {};
-             state.presence = CardPresence::StorageMode;
+             state = withoutAnswer(CardPresence::StorageMode, {});
              state.deviceName = u"Data Stick"_s;
          }},
         {u"noport"_s,
@@ -171,59 +186,35 @@ const std::map<QString, Change> &changes()
          }},
         {u"wrongport"_s,
          [](CardState &state) {
-             state = {};
-             state.portName = u"/dev/null"_s;
+             state = withoutAnswer(CardPresence::Absent, u"/dev/null"_s);
              state.portFault = PortFault::NotSerial;
          }},
         {u"norights"_s,
          [](CardState &state) {
-             state = {};
-             state.presence = CardPresence::NoRights;
-             state.portName = u"/dev/ttyUSB2"_s;
+             state = withoutAnswer(CardPresence::NoRights);
              state.portGroup = u"dialout"_s;
          }},
         {u"busy"_s,
          [](CardState &state) {
-             state = {};
-             state.presence = CardPresence::PortBusy;
-             state.portName = u"/dev/ttyUSB2"_s;
+             state = withoutAnswer(CardPresence::PortBusy);
              state.portHolder = u"ModemManager"_s;
              state.portHolderPid = 812;
          }},
-        {u"silent"_s,
-         [](CardState &state) {
-             state = {};
-             state.presence = CardPresence::Silent;
-             state.portName = u"/dev/ttyUSB2"_s;
-         }},
+        {u"silent"_s, [](CardState &state) { state = withoutAnswer(CardPresence::Silent); }},
         {u"nosim"_s, [](CardState &state) { lock(state, SimState::Absent); }},
-        {u"pin"_s,
-         [](CardState &state) {
-             lock(state, SimState::PinNeeded);
-             state.pinAttempts = 3;
-         }},
+        {u"pin"_s, [](CardState &state) { lock(state, SimState::PinNeeded, 3); }},
         {u"puk"_s,
          [](CardState &state) {
-             lock(state, SimState::PukNeeded);
-             state.pinAttempts = 0;
+             lock(state, SimState::PukNeeded, 0);
              state.pukAttempts = 10;
          }},
         {u"radiooff"_s,
          [](CardState &state) {
-             loseNetwork(state);
+             loseNetwork(state, Registration::NotSearching);
              state.functionality = 0;
-             state.registration = Registration::NotSearching;
          }},
-        {u"searching"_s,
-         [](CardState &state) {
-             loseNetwork(state);
-             state.registration = Registration::Searching;
-         }},
-        {u"denied"_s,
-         [](CardState &state) {
-             loseNetwork(state);
-             state.registration = Registration::Denied;
-         }},
+        {u"searching"_s, [](CardState &state) { loseNetwork(state, Registration::Searching); }},
+        {u"denied"_s, [](CardState &state) { loseNetwork(state, Registration::Denied); }},
         {u"roaming"_s,
          [](CardState &state) {
              state.registration = Registration::Roaming;
@@ -246,11 +237,6 @@ QStringList takeCalls()
 void put(const CardState &state)
 {
     strings().put(state);
-}
-
-void say(const QString &sentence)
-{
-    Q_EMIT strings().monitor->sigActivity(sentence);
 }
 
 void answerPin(PinOutcome outcome)

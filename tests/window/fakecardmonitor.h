@@ -14,8 +14,6 @@ namespace fakecard
 QStringList takeCalls();
 /// The card is now in this state.
 void put(const corva::CardState &state);
-/// The worker says what it does.
-void say(const QString &sentence);
 /// Answers the PIN or PUK that was entered last.
 void answerPin(corva::PinOutcome outcome);
 /// Answers the last switching of the USB mode.

@@ -11,11 +11,10 @@ namespace
 
 /// What a test sees and moves of the service that lives now.
 struct Strings {
-    ConnectionService *service = nullptr;
     std::function<void(const ConnectionStatus &)> put;
+    std::function<void()> askAboutRoaming;
     QStringList calls;
     ConnectObstacle obstacle = ConnectObstacle::None;
-    std::function<std::optional<quint64>()> counter;
 };
 
 Strings &strings()
@@ -39,11 +38,11 @@ ConnectionService::ConnectionService(CardMonitor *, ProfileStore *profiles, QObj
     : QObject(parent), d(new Private{profiles})
 {
     strings() = {};
-    strings().service = this;
     strings().put = [this](const ConnectionStatus &status) {
         m_status = status;
         Q_EMIT sigStatusChanged(m_status);
     };
+    strings().askAboutRoaming = [this] { Q_EMIT sigRoamingAsked(); };
 }
 
 ConnectionService::~ConnectionService() = default;
@@ -80,10 +79,7 @@ void ConnectionService::disconnectNow(ConnectionEnd why)
     strings().calls += why == ConnectionEnd::ByPerson ? u"disconnect"_s : u"disconnect %1"_s.arg(int(why));
 }
 
-void ConnectionService::setByteCounter(std::function<std::optional<quint64>()> counter)
-{
-    strings().counter = std::move(counter);
-}
+void ConnectionService::setByteCounter(std::function<std::optional<quint64>()>) {}
 
 void ConnectionService::setCallUp(bool) {}
 
@@ -107,19 +103,9 @@ void setObstacle(ConnectObstacle obstacle)
     strings().obstacle = obstacle;
 }
 
-void say(const QString &text)
-{
-    Q_EMIT strings().service->sigMessage(text);
-}
-
 void askAboutRoaming()
 {
-    Q_EMIT strings().service->sigRoamingAsked();
-}
-
-std::optional<quint64> countedBytes()
-{
-    return strings().counter();
+    strings().askAboutRoaming();
 }
 
 ConnectionStatus connected()

@@ -17,12 +17,8 @@ QStringList takeCalls();
 void put(const corva::ConnectionStatus &status);
 /// What stands in the way of the next dial.
 void setObstacle(corva::ConnectObstacle obstacle);
-/// The service has a box for the person.
-void say(const QString &text);
 /// It would connect by itself, but for roaming.
 void askAboutRoaming();
-/// Bytes, as the service is told of them.
-std::optional<quint64> countedBytes();
 
 /// A link that is up, with everything known.
 corva::ConnectionStatus connected();

@@ -51,6 +51,17 @@ private Q_SLOTS:
         QCOMPARE(boxes().first()->text(), u"later"_s);
     }
 
+    void whatIsOverIsNotAskedAnyMore()
+    {
+        m_queue->ask(u"Go on?"_s, [] { QFAIL("nobody said so"); });
+        m_queue->ask(u"Really?"_s, [] { QFAIL("nobody said so"); });
+        m_queue->tell(u"after"_s);
+        m_queue->withdraw(u"Really?"_s);
+        m_queue->withdraw(u"Go on?"_s);
+        QTRY_COMPARE(boxes().size(), 1);
+        QCOMPARE(boxes().first()->text(), u"after"_s);
+    }
+
     void aDialogThatGoesWithoutAWordHoldsNothingUp()
     {
         auto other = std::make_unique<QDialog>(m_window.get());

@@ -65,23 +65,6 @@ private Q_SLOTS:
                 QCOMPARE(other.status, other.id < step ? StepStatus::Ok : StepStatus::NotReached);
     }
 
-    void everythingInOrder_data()
-    {
-        QTest::addColumn<QString>("state");
-        QTest::newRow("at home") << u"registered"_s;
-        QTest::newRow("roaming") << u"roaming"_s;
-    }
-
-    void everythingInOrder()
-    {
-        QFETCH(const QString, state);
-        const auto steps = diagnose(fakecard::namedState(state));
-        QCOMPARE(steps.size(), std::size_t(10));
-        QVERIFY(!firstProblem(steps));
-        for (const DiagnosisStep &step : steps)
-            QVERIFY(!step.title.isEmpty() && !step.headline.isEmpty() && step.sentence.isEmpty());
-    }
-
     void findsTheFailingStepOfTheConnection_data()
     {
         QTest::addColumn<ConnectionStatus>("status");
@@ -148,7 +131,7 @@ private Q_SLOTS:
         const auto steps = diagnose(fakecard::namedState(u"searching"_s), {}, {});
         QCOMPARE(firstProblem(steps)->id, DiagnosisStepId::Registration);
         QCOMPARE(steps.back().status, StepStatus::NotReached);
-        QVERIFY(!firstProblem(diagnose(fakecard::registeredCard(), fakeconnection::connected(), {})));
+        QVERIFY(!firstProblem(diagnose(fakecard::namedState(u"roaming"_s), fakeconnection::connected(), {})));
     }
 
     void aHolderThatCannotBeToldIsStillSaid()

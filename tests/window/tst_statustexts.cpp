@@ -5,7 +5,6 @@
 #include "window/statustexts.h"
 #include "window/windowplace.h"
 
-#include <QSignalSpy>
 #include <QTest>
 #include <thread>
 
@@ -23,14 +22,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("asThreeG");
         QTest::addColumn<QString>("asH");
         QTest::newRow("not known") << NetworkType::Unknown << QString() << QString();
-        QTest::newRow("none") << NetworkType::None << QString() << QString();
         QTest::newRow("EDGE is its own name") << NetworkType::Edge << u"EDGE"_s << u"EDGE"_s;
         QTest::newRow("plain 3G stays 3G") << NetworkType::Umts << u"3G"_s << u"3G"_s;
-        QTest::newRow("HSDPA") << NetworkType::Hsdpa << u"3G"_s << u"H"_s;
-        QTest::newRow("HSUPA") << NetworkType::Hsupa << u"3G"_s << u"H"_s;
         QTest::newRow("HSPA") << NetworkType::Hspa << u"3G"_s << u"H"_s;
         QTest::newRow("HSPA+") << NetworkType::HspaPlus << u"3G"_s << u"H+"_s;
-        QTest::newRow("TD-HSPA") << NetworkType::TdHspa << u"3G"_s << u"H"_s;
         QTest::newRow("EV-DO is no H") << NetworkType::Evdo << u"3G"_s << u"3G"_s;
         QTest::newRow("LTE") << NetworkType::Lte << u"4G"_s << u"4G"_s;
     }
@@ -41,13 +36,6 @@ private Q_SLOTS:
         QTEST(networkTypeShort(type, naming3GFromNumber(0)), "asThreeG");
         QTEST(networkTypeShort(type, naming3GFromNumber(1)), "asH");
         QTEST(networkTypeShort(type, naming3GFromNumber(2)), "asThreeG");
-    }
-
-    void aNamelessNetworkIsCalledByItsCode()
-    {
-        CardState state = fakecard::registeredCard();
-        state.operatorName.clear();
-        QCOMPARE(summaryText(state), u"26201, HSPA"_s);
     }
 
     void operatorNames_data()
@@ -111,8 +99,6 @@ private Q_SLOTS:
         QTest::newRow("the caller gave up") << LinkReport::RingStopped << QString() << QString() << u"call"_s;
         QTest::newRow("a waiting call") << LinkReport::CallWaiting << u"+CCWA: \"0170\",129,1"_s
                                         << u"Another call is waiting."_s << QString();
-        QTest::newRow("a USSD text is the page's")
-            << LinkReport::Ussd << u"+CUSD: 0,\"41\",15"_s << QString() << QString();
         QTest::newRow("a SIM menu is the page's")
             << LinkReport::StkMainMenu << u"+JPSTM: 1"_s << QString() << QString();
     }

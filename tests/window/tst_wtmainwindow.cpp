@@ -14,8 +14,7 @@
 #include <QDialog>
 #include <QMenu>
 #include <QMessageBox>
-#include <QSignalSpy>
-#include <QTimer>
+#include <QRegularExpression>
 #include <QToolButton>
 #include <QTranslator>
 
@@ -59,6 +58,7 @@ class TestWindow : public QObject
 private Q_SLOTS:
     void init()
     {
+        QTest::failOnWarning(QRegularExpression(u"cannot read the icon"_s));
         m_surroundings = std::make_unique<Surroundings>();
         applySkin();
         m_window.reset(makeWindow());
@@ -100,46 +100,35 @@ private Q_SLOTS:
 
     void showsTheCard_data()
     {
-        QTest::addColumn<QString>("state");
         QTest::addColumn<QString>("operatorName");
-        QTest::addColumn<QString>("type");
         QTest::addColumn<QString>("roaming");
         QTest::addColumn<QString>("headline");
         QTest::addColumn<QString>("action");
-        QTest::addColumn<QString>("strip");
-        const auto row = [](const char *state, const QString &name, const QString &type,
-                            const QString &roaming, const QString &headline, const QString &action,
-                            const QString &strip) {
-            QTest::newRow(state) << QString::fromLatin1(state) << name << type << roaming << headline
-                                 << action << strip;
-        };
-        row("registered", u"Testnetz"_s, u"3G"_s, {}, u"Testnetz"_s, {}, u"Testnetz, HSPA"_s);
-        row("roaming", u"Küstennetz & Söhne Funk"_s, u"3G"_s, u"R"_s, u"Küstennetz & Söhne Funk"_s, {},
-            u"Küstennetz & Söhne Funk, HSPA+"_s);
-        row("absent", {}, {}, {}, u"No card found"_s, u"&Search again"_s, u"Offline: No card found"_s);
-        row("storage", {}, {}, {}, u"The card shows itself as a disk"_s, u"&Switch to modem"_s,
-            u"Offline: The card shows itself as a disk"_s);
-        row("norights", {}, {}, {}, u"No right to use the port"_s, u"&Copy command"_s,
-            u"Offline: No right to use the port"_s);
-        row("nosim", {}, {}, {}, u"No SIM card"_s, u"&Ask again"_s, u"Offline: No SIM card"_s);
-        row("searching", {}, {}, {}, u"Looking for a network"_s, {}, u"Offline: Looking for a network"_s);
+        const QString name = u"Küstennetz & Söhne Funk"_s;
+        QTest::newRow("registered") << u"Testnetz"_s << QString() << u"Testnetz"_s << QString();
+        QTest::newRow("roaming") << name << u"R"_s << name << QString();
+        QTest::newRow("storage") << QString() << QString() << u"The card shows itself as a disk"_s
+                                 << u"&Switch to modem"_s;
+        QTest::newRow("nosim") << QString() << QString() << u"No SIM card"_s << u"&Ask again"_s;
+        QTest::newRow("searching") << QString() << QString() << u"Looking for a network"_s << QString();
     }
 
     void showsTheCard()
     {
-        QFETCH(const QString, state);
-        QFETCH(const QString, type);
-        QFETCH(const QString, roaming);
-        QFETCH(const QString, action);
         QFETCH(const QString, operatorName);
+        QFETCH(const QString, roaming);
+        QFETCH(const QString, headline);
+        QFETCH(const QString, action);
         m_window->show();
-        fakecard::put(fakecard::namedState(state));
+        fakecard::put(fakecard::namedState(QString::fromLatin1(QTest::currentDataTag())));
 
         QCOMPARE(said(m_window.get(), u"operator"_s), operatorName);
-        QCOMPARE(m_window->findChild<QLabel *>(u"networkType"_s)->text(), type);
+        QCOMPARE(m_window->findChild<QLabel *>(u"networkType"_s)->text().isEmpty(), operatorName.isEmpty());
         QCOMPARE(m_window->findChild<QLabel *>(u"roaming"_s)->text(), roaming);
-        QTEST(said(m_window.get(), u"headline"_s), "headline");
-        QTEST(said(m_window.get(), u"statusText"_s), "strip");
+        QCOMPARE(said(m_window.get(), u"headline"_s), headline);
+        const QString strip = said(m_window.get(), u"statusText"_s);
+        QVERIFY(strip.startsWith(operatorName.isEmpty() ? u"Offline: "_s + headline
+                                                        : operatorName + u", HSPA"_s));
         QCOMPARE(m_window->findChild<QPushButton *>(u"why"_s)->isVisible(), operatorName.isEmpty());
         const auto *hero = shown<QLabel>(m_window.get(), u"headline"_s)->parentWidget();
         const auto *mend = hero->findChild<QPushButton *>(u"mend"_s);
@@ -158,16 +147,19 @@ private Q_SLOTS:
         QTest::addColumn<QString>("state");
         QTest::addColumn<QString>("page");
         QTest::addColumn<QString>("language");
+        QTest::addColumn<int>("points");
         for (const Language &language : languages()) {
             const QString file = QString::fromLatin1(language.file);
-            QTest::addRow("%s, settings", language.file) << u"registered"_s << u"settings"_s << file;
+            QTest::addRow("%s, settings", language.file) << u"registered"_s << u"settings"_s << file << 0;
             for (const auto &connection : {u"connected"_s, u"connecting"_s, u"redial"_s, u"refused"_s})
                 QTest::addRow("%s, %s", language.file, qPrintable(connection))
-                    << connection << u"connection"_s << file;
+                    << connection << u"connection"_s << file << 0;
+            QTest::addRow("%s, 24 points", language.file) << u"refused"_s << u"connection"_s << file << 24;
             for (const QString &state : fakecard::stateNames()) {
-                QTest::addRow("%s, %s, card", language.file, qPrintable(state)) << state << u"card"_s << file;
+                QTest::addRow("%s, %s, card", language.file, qPrintable(state))
+                    << state << u"card"_s << file << 0;
                 QTest::addRow("%s, %s, diagnosis", language.file, qPrintable(state))
-                    << state << QString() << file;
+                    << state << QString() << file << 0;
             }
         }
     }
@@ -177,6 +169,8 @@ private Q_SLOTS:
         QFETCH(const QString, state);
         QFETCH(const QString, page);
         QFETCH(const QString, language);
+        QFETCH(const int, points);
+        cmcfg.setValue(u"fontsetting"_s, u"mainwindow_fontsize"_s, QString::number(points));
         QTranslator translator;
         QVERIFY(translator.load(QStringLiteral(CORVA_APP_DIR) + u"/Language/%1.qm"_s.arg(language)));
         QCoreApplication::installTranslator(&translator);
@@ -191,7 +185,9 @@ private Q_SLOTS:
         else
             m_window->showPage(page);
         QCoreApplication::processEvents();
-        QTRY_COMPARE(cutTexts(m_window.get()).join(u'\n'), QString());
+        // At the largest size the top bar shortens its words.
+        auto *root = points > 0 ? static_cast<QWidget *>(m_window->findChild<Page *>(page)) : m_window.get();
+        QTRY_COMPARE(cutTexts(root).join(u'\n'), QString());
         QCOMPARE(m_window->size(), QSize(800, 520));
     }
 
@@ -297,23 +293,6 @@ private Q_SLOTS:
         }
     }
 
-    void pagesAreInTheOrderOfTheRegistry()
-    {
-        PageRegistry registry;
-        const auto entry = [](const QString &id, int order, bool isAtFoot = false) {
-            return PageEntry{{id, id, u"card"_s, order, isAtFoot}, {}};
-        };
-        QVERIFY(registry.add(entry(u"settings"_s, 1, true)));
-        QVERIFY(registry.add(entry(u"second"_s, 20)));
-        QVERIFY(registry.add(entry(u"first"_s, 10)));
-        QVERIFY(registry.add(entry(u"third"_s, 20)));
-        QVERIFY(!registry.add(entry(u"second"_s, 5)));
-        QStringList ids;
-        for (const PageEntry &page : registry.entries())
-            ids += page.info.id;
-        QCOMPARE(ids, QStringList({u"first"_s, u"second"_s, u"third"_s, u"settings"_s}));
-    }
-
     void theNavigationFoldsInANarrowWindow()
     {
         m_window->show();
@@ -359,16 +338,6 @@ private Q_SLOTS:
         box->close();
     }
 
-    void activitiesStandInTheStripWhileTheyRun()
-    {
-        m_window->show();
-        fakecard::put(fakecard::registeredCard());
-        fakecard::say(u"Identifying the card"_s);
-        QCOMPARE(said(m_window.get(), u"statusText"_s), u"Identifying the card"_s);
-        fakecard::say({});
-        QCOMPARE(said(m_window.get(), u"statusText"_s), u"Testnetz, HSPA"_s);
-    }
-
     void remembersPlaceAndPage()
     {
         m_window->show();
@@ -381,15 +350,6 @@ private Q_SLOTS:
         m_window->show();
         QCOMPARE(m_window->geometry(), QRect(0, 10, 800, 540));
         QVERIFY(shown<Page>(m_window.get(), u"settings"_s));
-    }
-
-    void closingEndsTheLoopAndTheLink()
-    {
-        m_window->show();
-        fakecard::takeCalls();
-        QTimer::singleShot(0, m_window.get(), &QWidget::close);
-        QCOMPARE(QApplication::exec(), 0);
-        QVERIFY(fakecard::takeCalls().contains(u"stop"_s));
     }
 
     void settingsAreStoredAtOnce()

@@ -37,6 +37,7 @@ public:
         for (const auto &key : {u"page"_s, u"geometry"_s, u"close_to_tray"_s, u"notifications_enabled"_s})
             cmcfg.setValue(u"window"_s, key, {});
         cmcfg.setValue(u"function"_s, u"naming3GToH"_s, {});
+        cmcfg.setValue(u"fontsetting"_s, u"mainwindow_fontsize"_s, {});
     }
 
 private:

@@ -5,6 +5,7 @@
 #include "connection/profilestore.h"
 #include "connection/ui/flagchoice.h"
 #include "widgets/buttonkind.h"
+#include "widgets/contentscroll.h"
 #include "widgets/factrow.h"
 #include "widgets/textlabel.h"
 
@@ -127,14 +128,7 @@ QScrollArea *Config::buildForm()
     buildPage(form);
     form->addStretch(1);
 
-    auto *scroll = new QScrollArea(this);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(content);
-    content->setAutoFillBackground(false);
-    scroll->viewport()->setAutoFillBackground(false);
+    QScrollArea *scroll = scrollAreaFor(content, this);
     // Tab alone brings a field into view; so do mnemonics and refusals then.
     connect(qApp, &QApplication::focusChanged, content, [scroll, content](QWidget *, QWidget *focused) {
         if (focused && content->isAncestorOf(focused))

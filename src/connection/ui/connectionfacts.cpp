@@ -81,7 +81,8 @@ ConnectionFacts::ConnectionFacts(QWidget *parent) : QWidget(parent)
         m_rows.push_back(new FactRow(QString::fromLatin1(spec.id), tr(spec.caption), spec.copy, this));
         layout->addWidget(m_rows.back());
     }
-    FactRow::alignValues(m_rows);
+    const int address = fontMetrics().horizontalAdvance(u"255.255.255.255"_s);
+    m_neededWidth = FactRow::alignValues(m_rows) + address + metrics::Grid + metrics::ControlHeight;
     layout->addStretch(1);
     connect(&m_second, &QTimer::timeout, this, &ConnectionFacts::update);
     m_second.setInterval(1s);

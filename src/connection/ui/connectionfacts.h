@@ -21,6 +21,9 @@ class ConnectionFacts final : public QWidget
 public:
     explicit ConnectionFacts(QWidget *parent);
 
+    /// What the captions and an address beside them take.
+    int neededWidth() const { return m_neededWidth; }
+
     void setStatus(const ConnectionStatus &status);
     void setTraffic(const LinkTraffic &traffic);
 
@@ -30,6 +33,7 @@ private:
     ConnectionStatus m_status;
     LinkTraffic m_traffic;
     QTimer m_second;
+    int m_neededWidth = 0;
     std::vector<FactRow *> m_rows; ///< in the order of the table of facts
 };
 

@@ -23,6 +23,7 @@ namespace
 constexpr int pictureSize = 64;
 constexpr int buttonWidth = 144;
 constexpr int buttonHeight = 44;
+constexpr int smallestHeight = 96;
 
 bool isOnTheWay(ConnectionState state)
 {
@@ -43,9 +44,9 @@ ConnectionHead::ConnectionHead(QWidget *parent)
     m_why->setObjectName(u"whyOffline"_s);
     m_sentence->setMuted(true);
     m_sentence->setWordWrap(true);
+    m_dataState->setWordWrap(true);
     m_picture->setFixedSize(pictureSize, pictureSize);
     m_picture->setScaledContents(true);
-    m_button->setMinimumSize(buttonWidth, buttonHeight);
     m_button->setFont(skinFont(TextRole::Strong));
     setButtonKind(m_why, ButtonKind::Flat);
     build();
@@ -64,20 +65,35 @@ void ConnectionHead::build()
     words->addWidget(m_dataState);
     words->addWidget(m_sentence);
     words->addStretch(1);
-    auto *actions = new QVBoxLayout;
-    actions->setSpacing(metrics::HalfGrid);
-    actions->addStretch(1);
-    actions->addWidget(m_button);
-    actions->addWidget(m_why);
-    actions->addStretch(1);
-    auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(2 * metrics::Grid);
-    layout->addWidget(m_picture, 0, Qt::AlignVCenter);
-    layout->addLayout(words, 1);
-    layout->addLayout(actions);
-    setMinimumHeight(96);
+    m_actions = new QVBoxLayout;
+    m_actions->setSpacing(metrics::HalfGrid);
+    m_actions->addStretch(1);
+    m_actions->addWidget(m_button);
+    m_actions->addWidget(m_why);
+    m_actions->addStretch(1);
+    auto *state = new QHBoxLayout;
+    state->setSpacing(2 * metrics::Grid);
+    state->addWidget(m_picture, 0, Qt::AlignVCenter);
+    state->addLayout(words, 1);
+    m_layout = new QHBoxLayout(this);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(2 * metrics::Grid);
+    m_layout->addLayout(state, 1);
+    m_layout->addLayout(m_actions);
+    m_layout->addStrut(smallestHeight);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+}
+
+void ConnectionHead::setStacked(bool isStacked)
+{
+    m_layout->setDirection(isStacked ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_actions->setDirection(isStacked ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+}
+
+void ConnectionHead::fitButton()
+{
+    const QSize needed = m_button->sizeHint();
+    m_button->setMinimumSize(needed.expandedTo({buttonWidth, buttonHeight}));
 }
 
 void ConnectionHead::setStatus(const ConnectionStatus &status, const QString &hint)
@@ -92,6 +108,7 @@ void ConnectionHead::setStatus(const ConnectionStatus &status, const QString &hi
     const bool canCancel =
         status.state == ConnectionState::Connecting || (!isUp && !isEnding && status.redial > 0);
     m_button->setText(isUp || isEnding ? tr("&Disconnect") : canCancel ? tr("&Cancel") : tr("&Connect"));
+    fitButton();
     m_button->setEnabled(!isEnding);
     setButtonKind(m_button, isUp || isEnding || canCancel ? ButtonKind::Plain : ButtonKind::Primary);
     m_button->setAccessibleDescription(m_sentence->text());

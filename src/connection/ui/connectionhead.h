@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QWidget>
 
+class QBoxLayout;
 class QLabel;
 class QPushButton;
 
@@ -26,6 +27,8 @@ public:
     /// `hint` is what is said while there is nothing of the connection itself to say.
     void setStatus(const ConnectionStatus &status, const QString &hint);
     void takeFocus();
+    /// With the buttons below the words, where there is no room beside them.
+    void setStacked(bool isStacked);
 
 Q_SIGNALS:
     void sigPressed();
@@ -36,12 +39,15 @@ private:
     void showState(const ConnectionStatus &status);
     void showPicture(bool isUp);
     void growDots();
+    void fitButton();
 
     QLabel *m_picture;
     TextLabel *m_dataState; ///< "dataState"
     TextLabel *m_sentence;
     QPushButton *m_button;
     QPushButton *m_why;
+    QBoxLayout *m_layout = nullptr;
+    QBoxLayout *m_actions = nullptr;
     QTimer m_dotsTimer;
     QString m_words; ///< what the dots stand behind
     int m_round = 0;

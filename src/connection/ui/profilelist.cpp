@@ -29,12 +29,17 @@ QString accessPoint(const ConnectionProfile &profile)
     return profile.isOn(ProfileField::UsesApn) ? apn : ProfileList::tr("access point from the network");
 }
 
+int rowHeight()
+{
+    return qMax(metrics::RowHeight, QFontMetrics(skinFont(TextRole::Strong)).height() + metrics::Grid);
+}
+
 QListWidgetItem *itemFor(const ConnectionProfile &profile, bool isDefault)
 {
     auto *item = new QListWidgetItem(profile.name());
     item->setData(Qt::UserRole, profile.name());
-    item->setSizeHint(
-        {0, metrics::RowHeight}); // as wide as the list: a long name is cut, not the list scrolled
+    // As wide as the list: a long name is cut, not the list scrolled.
+    item->setSizeHint({0, rowHeight()});
     item->setIcon(isDefault ? skinIcon(u"ok"_s, SkinRole::Accent)
                             : skinIcon(u"pending"_s, SkinRole::MutedText));
     item->setToolTip(
@@ -94,6 +99,9 @@ void ProfileList::build()
     buttons->addWidget(m_edit, 0, 1);
     buttons->addWidget(m_default, 1, 0);
     buttons->addWidget(m_remove, 1, 1);
+    constexpr int fewestRows = 3;
+    m_list->setMinimumHeight(fewestRows * rowHeight());
+    m_list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(metrics::Grid);

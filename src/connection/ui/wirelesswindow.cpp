@@ -10,11 +10,13 @@
 #include "connection/ui/linkmeter.h"
 #include "connection/ui/profilelist.h"
 #include "device/cardmonitor.h"
+#include "widgets/contentscroll.h"
 #include "widgets/skin.h"
 #include "widgets/textlabel.h"
 
 #include <QHBoxLayout>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 
 using namespace Qt::StringLiterals;
@@ -55,30 +57,49 @@ void WirelessWindow::build()
     m_said->setWordWrap(true);
     m_said->setMuted(true);
     m_said->hide();
-    m_profiles->setFixedWidth(listWidth);
+    m_said->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, 0);
 
-    auto *scroll = new QScrollArea(this);
-    scroll->setObjectName(u"connectionFacts"_s);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(m_facts);
-    m_facts->setAutoFillBackground(false);
-    scroll->viewport()->setAutoFillBackground(false);
-
-    auto *columns = new QHBoxLayout;
-    columns->setSpacing(metrics::GroupGap);
-    columns->addWidget(m_profiles);
-    columns->addWidget(scroll, 1);
-    auto *content = new QVBoxLayout;
-    content->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, metrics::HalfGrid);
-    content->setSpacing(2 * metrics::Grid);
-    content->addWidget(m_head);
-    content->addLayout(columns, 1);
-    content->addWidget(m_said);
-    body()->addLayout(content, 1);
+    auto *content = new QWidget(this);
+    m_factsScroll = scrollAreaFor(m_facts, content);
+    m_factsScroll->setObjectName(u"connectionFacts"_s);
+    m_factsScroll->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    m_columns = new QHBoxLayout;
+    m_columns->setSpacing(metrics::GroupGap);
+    m_columns->addWidget(m_profiles);
+    m_columns->addWidget(m_factsScroll, 1);
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins(metrics::HalfGrid, 0, metrics::HalfGrid, metrics::HalfGrid);
+    layout->setSpacing(2 * metrics::Grid);
+    layout->addWidget(m_head);
+    layout->addLayout(m_columns, 1);
+    m_scroll = scrollAreaFor(content, this);
+    m_scroll->setObjectName(u"connectionScroll"_s);
+    body()->addWidget(m_scroll, 1);
+    body()->addWidget(m_said);
     m_head->takeFocus();
+}
+
+/// Side by side with the facts scrolling alone, where there is room; else below each other, and the page
+/// scrolls.
+void WirelessWindow::arrange()
+{
+    const int profilesWidth = qMax(listWidth, m_profiles->layout()->minimumSize().width());
+    const QSize room = m_scroll->maximumViewportSize();
+    const bool isStacked = room.width() < profilesWidth + m_columns->spacing() + m_facts->neededWidth() +
+                                              m_scroll->verticalScrollBar()->sizeHint().width();
+    m_columns->setDirection(isStacked ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_head->setStacked(isStacked);
+    m_profiles->setMinimumWidth(isStacked ? 0 : profilesWidth);
+    m_profiles->setMaximumWidth(isStacked ? QWIDGETSIZE_MAX : profilesWidth);
+    const int below = room.height() - m_head->heightForWidth(room.width()) - 2 * metrics::Grid;
+    const bool isTight = isStacked || below < m_profiles->layout()->minimumSize().height();
+    m_factsScroll->setMinimumHeight(isTight ? m_facts->sizeHint().height() : 0);
+}
+
+void WirelessWindow::resizeEvent(QResizeEvent *event)
+{
+    Page::resizeEvent(event);
+    arrange();
 }
 
 void WirelessWindow::isConnectButton_clicked()
@@ -103,6 +124,7 @@ void WirelessWindow::takeStatus()
     const ConnectionStatus &status = m_context.connection->status();
     m_head->setStatus(status, hint());
     m_facts->setStatus(status);
+    arrange();
 }
 
 QString WirelessWindow::hint() const

@@ -4,6 +4,9 @@
 #include "connection/connectionstate.h"
 #include "window/pageregistry.h"
 
+class QBoxLayout;
+class QScrollArea;
+
 namespace corva
 {
 
@@ -23,12 +26,16 @@ public:
 
     void refresh() override;
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 public Q_SLOTS:
     /// Connects, cancels or disconnects.
     void isConnectButton_clicked();
 
 private:
     void build();
+    void arrange();
     void takeStatus();
     void say(const QString &sentence);
     QString hint() const;
@@ -37,6 +44,9 @@ private:
     ConnectionHead *m_head;
     ProfileList *m_profiles;
     ConnectionFacts *m_facts;
+    QScrollArea *m_factsScroll = nullptr;
+    QScrollArea *m_scroll = nullptr; ///< around all of it, for small windows and large fonts
+    QBoxLayout *m_columns = nullptr;
     TextLabel *m_said;
 };
 

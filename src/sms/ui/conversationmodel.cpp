@@ -5,6 +5,7 @@
 #include "sms/messagestore.h"
 #include "sms/ui/messagerowdelegate.h"
 #include "sms/ui/messagetexts.h"
+#include "widgets/textlabel.h"
 
 #include <QLocale>
 #include <algorithm>
@@ -86,7 +87,7 @@ QVariant ConversationModel::data(const QModelIndex &index, int role) const
     const QString name = m_service->nameFor(conversation.numbers.value(0)).simplified();
     switch (role) {
     case Qt::DisplayRole: return name;
-    case Qt::ToolTipRole: return fullWhen(conversation.time);
+    case Qt::ToolTipRole: return plainToolTip(name + u'\n' + fullWhen(conversation.time));
     case Qt::AccessibleTextRole:
         return conversation.unread > 0 ? tr("%1, %n unread", nullptr, conversation.unread).arg(name) : name;
     case IdRole: return conversation.key;

@@ -76,6 +76,8 @@ void DraftKeeper::flush()
 {
     if (!m_store)
         return;
+    if (m_content != m_stored && !m_store->isLoaded())
+        m_store->flush(); // waits until it is read: there may be no later time
     save();
     removeEmpty();
 }

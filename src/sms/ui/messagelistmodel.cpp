@@ -5,6 +5,7 @@
 #include "sms/messagestore.h"
 #include "sms/ui/messagerowdelegate.h"
 #include "sms/ui/messagetexts.h"
+#include "widgets/textlabel.h"
 
 #include <algorithm>
 #include <iterator>
@@ -115,7 +116,7 @@ QVariant MessageListModel::data(const QModelIndex &index, int role) const
     };
     switch (role) {
     case Qt::DisplayRole: return people();
-    case Qt::ToolTipRole: return fullWhen(message->time);
+    case Qt::ToolTipRole: return plainToolTip(people() + u'\n' + fullWhen(message->time));
     case Qt::AccessibleTextRole: return spoken(*message, people());
     case IdRole: return message->id;
     case PreviewRole: return previewOf(*message);

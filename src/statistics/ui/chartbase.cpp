@@ -18,6 +18,7 @@ namespace
 {
 
 constexpr quint64 smallestScale = 10'000; ///< bytes: an idle link shows as a flat line
+constexpr quint64 largestScale = 1'000'000'000'000'000'000;
 
 void clearLabels(QCategoryAxis *axis)
 {
@@ -80,8 +81,9 @@ void ChartBase::addSeries(QAbstractSeries *series)
 
 void ChartBase::setScale(quint64 most, const std::function<QString(quint64)> &text)
 {
-    const quint64 step = niceStep(std::max(most, smallestScale));
-    const quint64 top = (std::max(most, smallestScale) + step - 1) / step * step;
+    most = std::clamp(most, smallestScale, largestScale);
+    const quint64 step = niceStep(most);
+    const quint64 top = (most + step - 1) / step * step;
     if (std::exchange(m_scaleTop, top) == top)
         return;
     clearLabels(m_scale);

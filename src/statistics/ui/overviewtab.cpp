@@ -65,12 +65,27 @@ OverviewTab::OverviewTab(TrafficService *service, QWidget *parent)
 QWidget *OverviewTab::buildFigures()
 {
     auto *row = new QWidget(this);
-    auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(metrics::GroupGap);
+    m_figures = new QHBoxLayout(row);
+    m_figures->setContentsMargins(0, 0, 0, 0);
+    m_figures->setSpacing(metrics::GroupGap);
     for (Figure *figure : {m_session, m_today, m_period})
-        layout->addWidget(figure, 1);
+        m_figures->addWidget(figure, 1);
     return row;
+}
+
+/// Below each other where large letters leave no room side by side.
+void OverviewTab::arrange()
+{
+    int needed = 2 * (m_figures->spacing() + metrics::HalfGrid);
+    for (const Figure *figure : {m_session, m_today, m_period})
+        needed += figure->minimumSizeHint().width();
+    m_figures->setDirection(needed > viewport()->width() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
+void OverviewTab::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    arrange();
 }
 
 OverviewTab::Allowance OverviewTab::buildAllowance(std::size_t number, QWidget *parent)
@@ -165,6 +180,7 @@ void OverviewTab::showNow()
     }
     m_forecast->setText(outlook(use, settings));
     showRates();
+    arrange();
 }
 
 void OverviewTab::showSession()

@@ -4,6 +4,7 @@
 #include <QScrollArea>
 #include <array>
 
+class QBoxLayout;
 class QComboBox;
 
 namespace corva
@@ -28,6 +29,7 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     struct Allowance {
@@ -37,6 +39,7 @@ private:
     };
 
     QWidget *buildFigures();
+    void arrange();
     Allowance buildAllowance(std::size_t number, QWidget *parent);
     QWidget *buildQuota();
     QWidget *buildGraph();
@@ -45,6 +48,7 @@ private:
     QString outlook(const PeriodUse &use, const TrafficSettings &settings) const;
 
     TrafficService *m_service;
+    QBoxLayout *m_figures = nullptr;
     Figure *m_session;
     Figure *m_today;
     Figure *m_period;
