@@ -3987,10 +3987,6 @@ to %2</source>
         <translation>  ·  </translation>
     </message>
     <message>
-        <source>This message cannot be read: %1</source>
-        <translation>تتعذر قراءة هذه الرسالة: %1</translation>
-    </message>
-    <message>
         <source>%1 parts are here. The others are added when they come.</source>
         <translation>الأجزاء الموجودة: %1. تُضاف البقية عند وصولها.</translation>
     </message>

@@ -3927,10 +3927,6 @@ a %2</translation>
         <translation>  ·  </translation>
     </message>
     <message>
-        <source>This message cannot be read: %1</source>
-        <translation>No se puede leer este mensaje: %1</translation>
-    </message>
-    <message>
         <source>%1 parts are here. The others are added when they come.</source>
         <translation>Han llegado %1 partes. Las demás se añadirán cuando lleguen.</translation>
     </message>

@@ -3927,10 +3927,6 @@ au %2</translation>
         <translation>  ·  </translation>
     </message>
     <message>
-        <source>This message cannot be read: %1</source>
-        <translation>Ce message ne peut pas être lu&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>%1 parts are here. The others are added when they come.</source>
         <translation>Parties reçues&#xa0;: %1. Les autres s’ajouteront à leur arrivée.</translation>
     </message>

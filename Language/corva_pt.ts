@@ -3927,10 +3927,6 @@ a %2</translation>
         <translation>  ·  </translation>
     </message>
     <message>
-        <source>This message cannot be read: %1</source>
-        <translation>Não é possível ler esta mensagem: %1</translation>
-    </message>
-    <message>
         <source>%1 parts are here. The others are added when they come.</source>
         <translation>Chegaram %1 partes. As restantes são adicionadas quando chegarem.</translation>
     </message>

@@ -3912,10 +3912,6 @@ Bitiş: %2</translation>
         <translation>  ·  </translation>
     </message>
     <message>
-        <source>This message cannot be read: %1</source>
-        <translation>Bu mesaj okunamıyor: %1</translation>
-    </message>
-    <message>
         <source>%1 parts are here. The others are added when they come.</source>
         <translation>Gelen parçalar: %1. Ötekiler geldikçe eklenir.</translation>
     </message>

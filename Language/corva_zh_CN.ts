@@ -3912,10 +3912,6 @@ to %2</source>
         <translation>  ·  </translation>
     </message>
     <message>
-        <source>This message cannot be read: %1</source>
-        <translation>无法读取此短信：%1</translation>
-    </message>
-    <message>
         <source>%1 parts are here. The others are added when they come.</source>
         <translation>已收到的部分：%1。其余部分到达后会自动添加。</translation>
     </message>
