@@ -130,7 +130,7 @@ Q_SIGNALS:
     /// A message came in. Of a long one: its first part, and no more for the others.
     void sigNewMessage(const QString &id);
     /// Once after the start, when messages wait unread on the computer, the SIM or the card, and are to be
-    /// announced.
+    /// announced; once more when a card that comes later brings others. `count` is of all.
     void sigUnreadAtStart(int count);
     /// An immediate message, whole or what came of it, which is kept nowhere: what is shown of it, the PDU of
     /// its first part, and the message as the store can keep it if the person wants that.
