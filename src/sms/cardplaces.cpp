@@ -5,12 +5,12 @@
 #include "shell/commoncfg.h"
 #include "shell/whendone.h"
 #include "sms/messagestore.h"
+#include "sms/pduidentity.h"
 #include "sms/recipients.h"
 #include "sms/sendqueue.h"
 #include "sms/smsfiling.h"
 
 #include <QCoreApplication>
-#include <QSet>
 
 #include <algorithm>
 
@@ -87,6 +87,14 @@ bool hasSameContent(Message one, Message other)
     return one.parts == other.parts && one.recipients == other.recipients;
 }
 
+/// How the card is to keep it. As unread it would be a new message at the next listing: that mark stays with
+/// us.
+int statusFor(const Message &message)
+{
+    constexpr bool isRead = true;
+    return statusOfBox(message.home(), isRead);
+}
+
 /// What was sent from elsewhere is sent; our own outbox is for what goes out from here.
 MessageBox boxOnComputer(const Message &message)
 {
@@ -109,6 +117,7 @@ void CardPlaces::forget()
     m_hasWarned = {};
     m_listsAgain = {};
     m_owners = {};
+    m_unseen = {};
     for (const MessagePlace place : {MessagePlace::Sim, MessagePlace::Card})
         change(place, {});
 }
@@ -168,15 +177,54 @@ void CardPlaces::refreshAll()
     refresh(MessagePlace::Card);
 }
 
-void CardPlaces::showUnseen(MessagePlace place, std::vector<Message> &messages) const
+void CardPlaces::expect(MessagePlace place, int index)
 {
+    if (index >= 0)
+        m_unseen[slot(place)].announced.insert(index);
+}
+
+CardPlaces::NewParts CardPlaces::lookForNew(MessagePlace place, std::vector<Message> &messages, bool isFirst)
+{
+    Unseen &unseen = m_unseen[slot(place)];
     const QString &owner = m_owners[slot(place)];
-    if (owner.isEmpty() || m_store->mirrorOwner(place) != owner)
-        return; // what was read there before is not known
+    const bool isSameCard = !owner.isEmpty() && m_store->mirrorOwner(place) == owner;
+    const bool areAllUnseen = isFirst ? isSameCard : unseen.wasCut;
+    NewParts found;
     for (Message &message : messages) {
-        if (message.box == MessageBox::Inbox && !hasEmptyEntry(message) && !m_store->knows(message))
-            message.isRead = false;
+        if (message.box != MessageBox::Inbox)
+            continue;
+        const MessagePart &part = message.parts.front();
+        const bool isAnnounced = unseen.announced.contains(part.storageIndex);
+        const QString identity = pduIdentity(part.pdu);
+        if (unseen.written.contains(identity)) {
+            message.isRead = unseen.written.take(identity);
+            continue;
+        }
+        if (m_store->knows(message))
+            continue;
+        const bool isUnseen = areAllUnseen || isAnnounced || unseen.unread.contains(part.pdu);
+        message.isRead = message.isRead && (hasEmptyEntry(message) || !isUnseen);
+        if (!message.isRead)
+            (isFirst && !isAnnounced ? found.met : found.come).insert({part.storageIndex, part.pdu});
     }
+    unseen.announced.clear();
+    unseen.unread.clear();
+    unseen.wasCut = false;
+    return found;
+}
+
+/// The unread ones that hold one of these parts.
+QStringList CardPlaces::holdersOf(MessagePlace place, const std::set<ListedPart> &parts) const
+{
+    QStringList holders;
+    m_store->visit(m_store->ids(MessageBox::Inbox, place), [&](const Message &message) {
+        const auto isOne = [&](const MessagePart &part) {
+            return parts.contains({part.storageIndex, part.pdu});
+        };
+        if (!message.isRead && std::ranges::any_of(message.parts, isOne))
+            holders += message.id;
+    });
+    return holders;
 }
 
 void CardPlaces::took(MessagePlace place, smsjobs::Listing listing)
@@ -189,27 +237,25 @@ void CardPlaces::took(MessagePlace place, smsjobs::Listing listing)
     now.error = listing.isMissing ? QString() : listing.fault;
     now.isRead = now.isRead || listing.isRead;
     change(place, now);
+    Unseen &unseen = m_unseen[slot(place)];
+    unseen.wasCut = unseen.wasCut || listing.wasCut;
+    unseen.unread += listing.cutUnread;
     if (std::exchange(m_listsAgain[slot(place)], false))
         refresh(place);
     if (!listing.isRead)
         return;
-    const QStringList before = m_store->ids(MessageBox::Inbox, place);
-    const QSet<QString> known(before.begin(), before.end());
     for (const smsjobs::KeptReport &report : listing.reports)
         Q_EMIT sigReportListed(report);
-    if (isFirst) // later ones are met as they come, and what is moved there is read
-        showUnseen(place, listing.messages);
+    const NewParts found = lookForNew(place, listing.messages, isFirst);
     m_store->replaceMirror(place, std::move(listing.messages), m_owners[slot(place)]);
     takeFill(place, listing.fill);
-    QStringList unread = m_store->ids(MessageBox::Inbox, place);
-    unread.removeIf([&](const QString &id) {
-        const auto message = m_store->find(id);
-        return !message || message->isRead || (!isFirst && known.contains(id));
-    });
-    if (!unread.isEmpty() && isFirst)
-        Q_EMIT sigUnreadMet(unread);
-    else if (!unread.isEmpty())
-        Q_EMIT sigNewListed(unread);
+    const QStringList come = holdersOf(place, found.come);
+    QStringList met = holdersOf(place, found.met);
+    met.removeIf([&](const QString &id) { return come.contains(id); });
+    if (!met.isEmpty())
+        Q_EMIT sigUnreadMet(met);
+    if (!come.isEmpty())
+        Q_EMIT sigNewListed(come);
 }
 
 void CardPlaces::takeFill(MessagePlace place, const std::optional<StoreFill> &fill)
@@ -327,11 +373,9 @@ void CardPlaces::storedHere(const MessageStore::Added &added, const std::vector<
 std::vector<smsjobs::CardEntry> CardPlaces::entriesOf(const Message &message) const
 {
     std::vector<smsjobs::CardEntry> entries;
-    const int status =
-        statusOfBox(message.box == MessageBox::Deleted ? message.deletedFrom : message.box, message.isRead);
     for (const MessagePart &part : message.parts) {
         if (!part.pdu.isEmpty())
-            entries.push_back({part.pdu, status});
+            entries.push_back({part.pdu, statusFor(message)});
     }
     return entries;
 }
@@ -373,6 +417,10 @@ void CardPlaces::wroteToCard(const Message &message, MessagePlace to, After afte
                              ? tr("The message was not written to the SIM: %1").arg(*fault)
                              : tr("The message was not written to the card: %1").arg(*fault));
         return;
+    }
+    for (const MessagePart &part : message.parts) {
+        if (message.isReceived())
+            m_unseen[slot(to)].written.insert(pduIdentity(part.pdu), message.isRead);
     }
     if (after == After::Keep)
         return;

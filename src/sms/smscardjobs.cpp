@@ -108,6 +108,26 @@ void sortIn(Listing &listing, MessagePlace place, const ListedSms &listed, const
         listing.reports.push_back(keptReport(storageOf(place), listed, now));
 }
 
+bool isComplete(const QByteArray &list)
+{
+    return list.contains("OK\r\n");
+}
+
+/// The list of the place; one without its end, which is no refusal, is noted as such.
+QByteArray askForList(SerialThread &link, MessagePlace place, Listing &listing)
+{
+    QByteArray reply = link.getSmsContent(everyStatus, int(storageOf(place)));
+    const bool hasBegun = reply.contains("+CMGL:") || !cmsErrorIn(link.lastReply());
+    if (isComplete(reply) || !hasBegun)
+        return reply;
+    listing.wasCut = true;
+    for (const ListedSms &each : parseSmsList(reply)) {
+        if (each.status == 0)
+            listing.cutUnread += QString::fromLatin1(each.pdu);
+    }
+    return reply;
+}
+
 /// What "AT+CMGR" said of a place: that nothing is there, or nothing about it.
 bool isEmptyPlace(const QByteArray &reply)
 {
@@ -233,8 +253,10 @@ Listing list(SerialThread &link, MessagePlace place)
         return listing;
     }
     listing.fill = fillOf(link, place, link.lastReply());
-    const QByteArray reply = link.getSmsContent(everyStatus, int(storageOf(place)));
-    if (!reply.contains("OK\r\n")) {
+    QByteArray reply = askForList(link, place, listing);
+    if (listing.wasCut)
+        reply = askForList(link, place, listing);
+    if (!isComplete(reply)) {
         listing.fault = whyFailed(link);
         return listing;
     }
