@@ -380,6 +380,11 @@ void MessageService::retry(const QStringList &ids)
     d->queue.retry(ids);
 }
 
+bool MessageService::waitsForOtherSim(const Message &message) const
+{
+    return d->queue.waitsForOtherSim(message);
+}
+
 const SendProgress &MessageService::sending() const
 {
     return d->queue.progress();

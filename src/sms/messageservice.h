@@ -92,8 +92,11 @@ public:
     bool send(const OutgoingSms &sms);
     /// Ends the run behind the part that is on its way. What was not sent stays in the outbox as failed.
     void cancelSending();
-    /// Sends again what failed of these messages, whole ones and single parts.
+    /// Sends again what failed of these messages, whole ones and single parts, and with the SIM that is there
+    /// what waits for another one.
     void retry(const QStringList &ids);
+    /// Whether it waits for a SIM that is not in the card.
+    bool waitsForOtherSim(const Message &message) const;
     const SendProgress &sending() const;
 
     /// Lists the SIM or the card anew. Does nothing for the computer.

@@ -74,7 +74,8 @@ public:
     QFuture<bool> change(const QString &id, const std::function<void(Message &)> &change);
     QFuture<bool> setRead(const QStringList &ids, bool isRead);
 
-    /// To `Deleted`. Only the computer's; those in `Deleted` already are left alone.
+    /// To `Deleted`. Only the computer's; those in `Deleted` already are left alone. What waited to be sent
+    /// does not any more.
     QFuture<bool> remove(const QStringList &ids);
     /// Back to where they were deleted from.
     QFuture<bool> restore(const QStringList &ids);

@@ -129,6 +129,11 @@ void MessageService::cancelSending()
     strings().calls += u"cancel"_s;
 }
 
+bool MessageService::waitsForOtherSim(const Message &) const
+{
+    return false;
+}
+
 void MessageService::retry(const QStringList &ids)
 {
     strings().calls += u"retry "_s + ids.join(u',');
