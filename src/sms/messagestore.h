@@ -69,6 +69,8 @@ public:
     /// recognised by its PDU and not added again. Ids are given to those without one.
     QFuture<bool> add(std::vector<Message> messages) { return insert(std::move(messages)).stored; }
     Added insert(std::vector<Message> messages, DeletedOnes deleted = DeletedOnes::StayDeleted);
+    /// The same, in the place of others, which go for good: both are on disk, or neither.
+    Added replace(const QStringList &old, std::vector<Message> messages);
 
     /// Changes one message; its id and place stay. Resolved with false when there is none.
     QFuture<bool> change(const QString &id, const std::function<void(Message &)> &change);

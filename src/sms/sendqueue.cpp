@@ -101,16 +101,15 @@ bool SendQueue::add(const OutgoingSms &sms)
         std::ranges::copy(partsFor(recipient, split, sms.asksReport), std::back_inserter(message.parts));
     if (message.total > 1)
         message.concatReference = nextConcatReference();
-    const MessageStore::Added added = m_store->insert({message});
-    whenDone(added.stored, this, [this, ids = added.ids, draft = sms.draftId](std::optional<bool> isStored) {
+    const QStringList draft = sms.draftId.isEmpty() ? QStringList() : QStringList(sms.draftId);
+    const MessageStore::Added added = m_store->replace(draft, {message});
+    whenDone(added.stored, this, [this, ids = added.ids](std::optional<bool> isStored) {
         if (!isStored.value_or(false)) {
             for (const QString &id : ids) // or the next start would send what was said not to be
                 m_store->change(id, failQueued);
             Q_EMIT sigRefused(tr("The message could not be written to disk and is not sent."));
             return;
         }
-        if (!draft.isEmpty())
-            m_store->purge({draft});
         // Before the store was loaded it gave no ids.
         const QStringList waiting = ids.isEmpty() ? m_store->ids(MessageBox::Outbox) : ids;
         for (const QString &id : waiting)
