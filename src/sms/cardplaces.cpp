@@ -87,18 +87,20 @@ bool hasSameContent(Message one, Message other)
     return one.parts == other.parts && one.recipients == other.recipients;
 }
 
-/// How the card is to keep it. As unread it would be a new message at the next listing: that mark stays with
-/// us.
-int statusFor(const Message &message)
-{
-    constexpr bool isRead = true;
-    return statusOfBox(message.home(), isRead);
-}
-
 /// What was sent from elsewhere is sent; our own outbox is for what goes out from here.
 MessageBox boxOnComputer(const Message &message)
 {
-    return message.box == MessageBox::Outbox ? MessageBox::Sent : message.box;
+    return isOnCard(message) && message.box == MessageBox::Outbox ? MessageBox::Sent : message.home();
+}
+
+/// How the card is to keep it. As unread it would be a new message at the next listing: that mark stays with
+/// us.
+int statusFor(const Message &message, const MessagePart &part)
+{
+    using enum DeliveryState;
+    constexpr bool isRead = true;
+    const bool isOut = part.state == Sent || part.state == Delivered || part.state == StillTrying;
+    return statusOfBox(isOut ? MessageBox::Sent : boxOnComputer(message), isRead);
 }
 
 } // namespace
@@ -113,7 +115,7 @@ void CardPlaces::forget()
 {
     ++m_generation;
     m_isCardStoreMissing = false;
-    m_hasMadeRoom = false;
+    m_makesRoom = false;
     m_hasWarned = {};
     m_listsAgain = {};
     m_owners = {};
@@ -274,7 +276,7 @@ void CardPlaces::warnBeforeFull(MessagePlace place, const StoreCapacity &now)
     const bool isNearlyFull =
         left <= std::min(warningPlaces, now.total / 2) || left * warningShare < now.total;
     if (place == MessagePlace::Sim && left > 0)
-        m_hasMadeRoom = false;
+        m_makesRoom = false;
     else if (place == MessagePlace::Sim && cmcfg.getNumber(u"sms"_s, u"deleteSimSmsWhenFull"_s) == 1)
         makeRoom(place);
     if (isNearlyFull && !m_hasWarned[slot(place)]) {
@@ -286,17 +288,21 @@ void CardPlaces::warnBeforeFull(MessagePlace place, const StoreCapacity &now)
     m_hasWarned[slot(place)] = isNearlyFull;
 }
 
-/// The oldest messages that were read go to the computer, and only then from the SIM.
+/// The oldest messages that were read go to the computer, and only then from the SIM. What lists the SIM full
+/// still behind that is no reason to try again, or a SIM that deletes nothing would be asked for ever.
 void CardPlaces::makeRoom(MessagePlace place)
 {
-    if (std::exchange(m_hasMadeRoom, true))
+    if (m_makesRoom) {
+        m_makesRoom = m_removals[slot(place)] > 0;
         return;
+    }
     std::vector<Message> oldest = m_store->messages(m_store->ids(MessageBox::Inbox, place));
     std::erase_if(oldest, [](const Message &message) { return !message.isRead || !message.error.isEmpty(); });
     std::ranges::sort(oldest, {}, &Message::time);
     if (oldest.size() > roomToMake)
         oldest.resize(roomToMake);
-    toComputer(oldest, After::Remove, MessageStore::DeletedOnes::StayDeleted);
+    m_makesRoom = !oldest.empty();
+    toComputer(oldest, After::Remove);
 }
 
 // --- Copying and moving
@@ -308,7 +314,7 @@ void CardPlaces::transfer(const QStringList &ids, MessagePlace to, After after)
     std::erase_if(messages, [&](const Message &message) { return message.place == to; });
     leaveEmptyEntries(messages);
     if (to == MessagePlace::Computer) {
-        toComputer(messages, after, MessageStore::DeletedOnes::ComeBack);
+        toComputer(messages, after);
         return;
     }
     if (!m_isReady) {
@@ -328,8 +334,7 @@ void CardPlaces::leaveEmptyEntries(std::vector<Message> &messages)
         Q_EMIT sigNotice(tr("What the card lists without its content stays where it is."));
 }
 
-void CardPlaces::toComputer(const std::vector<Message> &messages, After after,
-                            MessageStore::DeletedOnes deleted)
+void CardPlaces::toComputer(const std::vector<Message> &messages, After after)
 {
     if (messages.empty())
         return;
@@ -339,7 +344,7 @@ void CardPlaces::toComputer(const std::vector<Message> &messages, After after,
         if (after == After::Keep)
             forgetIndices(copies.back());
     }
-    storedHere(m_store->insert(std::move(copies), deleted), messages, after);
+    storedHere(m_store->insert(std::move(copies), MessageStore::DeletedOnes::ComeBack), messages, after);
 }
 
 CardPlaces::Deleted CardPlaces::moveToDeleted(const std::vector<Message> &chosen)
@@ -375,7 +380,7 @@ std::vector<smsjobs::CardEntry> CardPlaces::entriesOf(const Message &message) co
     std::vector<smsjobs::CardEntry> entries;
     for (const MessagePart &part : message.parts) {
         if (!part.pdu.isEmpty())
-            entries.push_back({part.pdu, statusFor(message)});
+            entries.push_back({part.pdu, statusFor(message, part)});
     }
     return entries;
 }

@@ -97,7 +97,7 @@ private:
 
     void transfer(const QStringList &ids, MessagePlace to, After after);
     void leaveEmptyEntries(std::vector<Message> &messages);
-    void toComputer(const std::vector<Message> &messages, After after, MessageStore::DeletedOnes deleted);
+    void toComputer(const std::vector<Message> &messages, After after);
     void toCard(const Message &message, MessagePlace to, After after);
     std::vector<smsjobs::CardEntry> entriesOf(const Message &message) const;
     void wroteToCard(const Message &message, MessagePlace to, After after,
@@ -122,9 +122,8 @@ private:
     std::array<QString, 2> m_owners;
     std::array<PlaceState, 2> m_states; ///< SIM, card
     std::array<bool, 2> m_hasWarned{};
-    bool m_hasMadeRoom =
-        false;            ///< since the SIM was full; once, or a SIM that deletes nothing is asked for ever
-    int m_generation = 0; ///< of the card: what was asked of a former one is not of interest
+    bool m_makesRoom = false;           ///< on the full SIM, until it is listed behind that
+    int m_generation = 0;               ///< of the card: what was asked of a former one is not of interest
     std::array<bool, 2> m_listsAgain{}; ///< asked for while a listing was under way
     std::array<int, 2> m_removals{};    ///< under way; the place is listed anew behind the last
     std::array<Unseen, 2> m_unseen;
