@@ -75,11 +75,16 @@ std::optional<StoreFill> askedFill(SerialThread &link, MessagePlace place)
     return isCard ? link.getModemSmsMem2() : link.getSimSmsMem2();
 }
 
-/// The fill that the card told when the store was selected, or tells when it is asked.
+/// The fill that the card told when the store was selected, or tells when it is asked. A command is spared
+/// with the setting off, never the figures.
 std::optional<StoreFill> fillOf(SerialThread &link, MessagePlace place, const QByteArray &selected)
 {
     const bool isAsked = cmcfg.getNumber(u"network_dialer_setting"_s, u"send_cpmscommand_enabled"_s) == 1;
-    const auto fill = isAsked ? askedFill(link, place) : parseFill(selected, nameOf(place));
+    auto fill = isAsked ? std::nullopt : parseFill(selected, nameOf(place));
+    if (!fill)
+        fill = askedFill(link, place);
+    if (!fill)
+        fill = parseFill(selected, nameOf(place));
     if (fill)
         qCDebug(lcSms).noquote() << u"%1 = %2, spare = %3"_s
                                         .arg(place == MessagePlace::Card ? "modem_capacity"_L1
