@@ -490,7 +490,7 @@ void CardPlaces::takeRest(const std::vector<Message> &messages)
 void CardPlaces::removePart(MessagePlace place, const MessagePart &part, const QStringList &copies)
 {
     if (part.storageIndex < 0) { // the card listed it in a way that does not say where
-        sayNotDeleted();
+        sayNotDeleted(copies);
         return;
     }
     ++m_removals[slot(place)];
@@ -498,7 +498,7 @@ void CardPlaces::removePart(MessagePlace place, const MessagePart &part, const Q
     const auto job = m_worker.submit([kept](SerialThread &link) { return smsjobs::remove(link, kept); });
     whenDone(job, this, [this, place, part, copies](std::optional<smsjobs::Removal> removal) {
         if (removal == smsjobs::Removal::Failed)
-            sayNotDeleted();
+            sayNotDeleted(copies);
         else if (removal)
             forgetIndex(copies, part);
         if (--m_removals[slot(place)] == 0)
@@ -506,9 +506,12 @@ void CardPlaces::removePart(MessagePlace place, const MessagePart &part, const Q
     });
 }
 
-void CardPlaces::sayNotDeleted()
+void CardPlaces::sayNotDeleted(const QStringList &copies)
 {
-    Q_EMIT sigNotice(tr("A message could not be deleted from the card. It is kept on the computer as well."));
+    Q_EMIT sigNotice(
+        copies.isEmpty()
+            ? tr("A message could not be deleted from the card. It is in both places now.")
+            : tr("A message could not be deleted from the card. It is kept on the computer as well."));
 }
 
 /// The part is only here from now on.

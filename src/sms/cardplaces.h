@@ -103,7 +103,8 @@ private:
     void wroteToCard(const Message &message, MessagePlace to, After after,
                      const std::optional<QString> &fault);
     void removePart(MessagePlace place, const MessagePart &part, const QStringList &copies);
-    void sayNotDeleted();
+    /// `copies`: those on the computer; none of what went from the SIM to the card or back.
+    void sayNotDeleted(const QStringList &copies);
     void forgetIndex(const QStringList &copies, const MessagePart &part);
     void storedHere(const MessageStore::Added &added, const std::vector<Message> &originals, After after);
     void took(MessagePlace place, smsjobs::Listing listing);
