@@ -201,6 +201,20 @@ private Q_SLOTS:
         QCOMPARE(announced.size(), 1);
     }
 
+    void whatWasSentStaysSent()
+    {
+        Message message = hello(u"111"_s);
+        message.box = MessageBox::Sent;
+        message.parts.front().state = DeliveryState::Sent;
+        message.parts.front().pdu = u"000100038111F1000005E8329BFD06"_s;
+        leave({message});
+        begin();
+        m_service->moveTo(m_store->ids(MessageBox::Sent), MessagePlace::Sim);
+        SOON_IS(m_store->ids(MessageBox::Outbox, MessagePlace::Sim).size(), 1);
+        m_service->copyTo(m_store->ids(MessageBox::Outbox, MessagePlace::Sim), MessagePlace::Card);
+        SOON_IS(m_store->ids(MessageBox::Outbox, MessagePlace::Card).size(), 1);
+    }
+
     void noHalfMessageOnTheSim()
     {
         tell(R"({"command": "fill", "name": "ME", "count": 1, "status": 1})");
@@ -286,6 +300,14 @@ private Q_SLOTS:
         SOON_IS(stored(u"SM"_s), 3); // five that were read went, kept here
         QCOMPARE(inbox().size(), 5U);
         QVERIFY(says(u"8 of 8"_s));
+        tell(R"({"command": "fill", "name": "SM", "count": 5, "status": 1, "text": "more"})");
+        tell(R"({"command": "fault", "kind": "refuse", "match": "+CMGD", "count": 5, "code": 500})");
+        m_service->refreshPlace(MessagePlace::Sim);
+        SOON(says(u"could not be deleted"_s));
+        SOON(heard(u"AT+CMGD"_s) == 10 && !m_service->place(MessagePlace::Sim).isLoading);
+        QCOMPARE(stored(u"SM"_s), 8);
+        m_service->refreshPlace(MessagePlace::Sim); // once more, with a card that is willing by now
+        SOON_IS(stored(u"SM"_s), 3);
     }
 
     void immediateMessages()
