@@ -5,12 +5,12 @@
 #include "shell/commoncfg.h"
 #include "shell/whendone.h"
 #include "sms/messagestore.h"
+#include "sms/pduidentity.h"
 #include "sms/recipients.h"
 #include "sms/sendqueue.h"
 #include "sms/smsfiling.h"
 
 #include <QCoreApplication>
-#include <QSet>
 
 #include <algorithm>
 
@@ -90,7 +90,17 @@ bool hasSameContent(Message one, Message other)
 /// What was sent from elsewhere is sent; our own outbox is for what goes out from here.
 MessageBox boxOnComputer(const Message &message)
 {
-    return message.box == MessageBox::Outbox ? MessageBox::Sent : message.box;
+    return isOnCard(message) && message.box == MessageBox::Outbox ? MessageBox::Sent : message.home();
+}
+
+/// How the card is to keep it. As unread it would be a new message at the next listing: that mark stays with
+/// us.
+int statusFor(const Message &message, const MessagePart &part)
+{
+    using enum DeliveryState;
+    constexpr bool isRead = true;
+    const bool isOut = part.state == Sent || part.state == Delivered || part.state == StillTrying;
+    return statusOfBox(isOut ? MessageBox::Sent : boxOnComputer(message), isRead);
 }
 
 } // namespace
@@ -105,10 +115,11 @@ void CardPlaces::forget()
 {
     ++m_generation;
     m_isCardStoreMissing = false;
-    m_hasMadeRoom = false;
+    m_makesRoom = false;
     m_hasWarned = {};
     m_listsAgain = {};
     m_owners = {};
+    m_unseen = {};
     for (const MessagePlace place : {MessagePlace::Sim, MessagePlace::Card})
         change(place, {});
 }
@@ -168,15 +179,54 @@ void CardPlaces::refreshAll()
     refresh(MessagePlace::Card);
 }
 
-void CardPlaces::showUnseen(MessagePlace place, std::vector<Message> &messages) const
+void CardPlaces::expect(MessagePlace place, int index)
 {
+    if (index >= 0)
+        m_unseen[slot(place)].announced.insert(index);
+}
+
+CardPlaces::NewParts CardPlaces::lookForNew(MessagePlace place, std::vector<Message> &messages, bool isFirst)
+{
+    Unseen &unseen = m_unseen[slot(place)];
     const QString &owner = m_owners[slot(place)];
-    if (owner.isEmpty() || m_store->mirrorOwner(place) != owner)
-        return; // what was read there before is not known
+    const bool isSameCard = !owner.isEmpty() && m_store->mirrorOwner(place) == owner;
+    const bool areAllUnseen = isFirst ? isSameCard : unseen.wasCut;
+    NewParts found;
     for (Message &message : messages) {
-        if (message.box == MessageBox::Inbox && !hasEmptyEntry(message) && !m_store->knows(message))
-            message.isRead = false;
+        if (message.box != MessageBox::Inbox)
+            continue;
+        const MessagePart &part = message.parts.front();
+        const bool isAnnounced = unseen.announced.contains(part.storageIndex);
+        const QString identity = pduIdentity(part.pdu);
+        if (unseen.written.contains(identity)) {
+            message.isRead = unseen.written.take(identity);
+            continue;
+        }
+        if (m_store->knows(message))
+            continue;
+        const bool isUnseen = areAllUnseen || isAnnounced || unseen.unread.contains(part.pdu);
+        message.isRead = message.isRead && (hasEmptyEntry(message) || !isUnseen);
+        if (!message.isRead)
+            (isFirst && !isAnnounced ? found.met : found.come).insert({part.storageIndex, part.pdu});
     }
+    unseen.announced.clear();
+    unseen.unread.clear();
+    unseen.wasCut = false;
+    return found;
+}
+
+/// The unread ones that hold one of these parts.
+QStringList CardPlaces::holdersOf(MessagePlace place, const std::set<ListedPart> &parts) const
+{
+    QStringList holders;
+    m_store->visit(m_store->ids(MessageBox::Inbox, place), [&](const Message &message) {
+        const auto isOne = [&](const MessagePart &part) {
+            return parts.contains({part.storageIndex, part.pdu});
+        };
+        if (!message.isRead && std::ranges::any_of(message.parts, isOne))
+            holders += message.id;
+    });
+    return holders;
 }
 
 void CardPlaces::took(MessagePlace place, smsjobs::Listing listing)
@@ -189,27 +239,25 @@ void CardPlaces::took(MessagePlace place, smsjobs::Listing listing)
     now.error = listing.isMissing ? QString() : listing.fault;
     now.isRead = now.isRead || listing.isRead;
     change(place, now);
+    Unseen &unseen = m_unseen[slot(place)];
+    unseen.wasCut = unseen.wasCut || listing.wasCut;
+    unseen.unread += listing.cutUnread;
     if (std::exchange(m_listsAgain[slot(place)], false))
         refresh(place);
     if (!listing.isRead)
         return;
-    const QStringList before = m_store->ids(MessageBox::Inbox, place);
-    const QSet<QString> known(before.begin(), before.end());
     for (const smsjobs::KeptReport &report : listing.reports)
         Q_EMIT sigReportListed(report);
-    if (isFirst) // later ones are met as they come, and what is moved there is read
-        showUnseen(place, listing.messages);
+    const NewParts found = lookForNew(place, listing.messages, isFirst);
     m_store->replaceMirror(place, std::move(listing.messages), m_owners[slot(place)]);
     takeFill(place, listing.fill);
-    QStringList unread = m_store->ids(MessageBox::Inbox, place);
-    unread.removeIf([&](const QString &id) {
-        const auto message = m_store->find(id);
-        return !message || message->isRead || (!isFirst && known.contains(id));
-    });
-    if (!unread.isEmpty() && isFirst)
-        Q_EMIT sigUnreadMet(unread);
-    else if (!unread.isEmpty())
-        Q_EMIT sigNewListed(unread);
+    const QStringList come = holdersOf(place, found.come);
+    QStringList met = holdersOf(place, found.met);
+    met.removeIf([&](const QString &id) { return come.contains(id); });
+    if (!met.isEmpty())
+        Q_EMIT sigUnreadMet(met);
+    if (!come.isEmpty())
+        Q_EMIT sigNewListed(come);
 }
 
 void CardPlaces::takeFill(MessagePlace place, const std::optional<StoreFill> &fill)
@@ -228,7 +276,7 @@ void CardPlaces::warnBeforeFull(MessagePlace place, const StoreCapacity &now)
     const bool isNearlyFull =
         left <= std::min(warningPlaces, now.total / 2) || left * warningShare < now.total;
     if (place == MessagePlace::Sim && left > 0)
-        m_hasMadeRoom = false;
+        m_makesRoom = false;
     else if (place == MessagePlace::Sim && cmcfg.getNumber(u"sms"_s, u"deleteSimSmsWhenFull"_s) == 1)
         makeRoom(place);
     if (isNearlyFull && !m_hasWarned[slot(place)]) {
@@ -240,17 +288,21 @@ void CardPlaces::warnBeforeFull(MessagePlace place, const StoreCapacity &now)
     m_hasWarned[slot(place)] = isNearlyFull;
 }
 
-/// The oldest messages that were read go to the computer, and only then from the SIM.
+/// The oldest messages that were read go to the computer, and only then from the SIM. What lists the SIM full
+/// still behind that is no reason to try again, or a SIM that deletes nothing would be asked for ever.
 void CardPlaces::makeRoom(MessagePlace place)
 {
-    if (std::exchange(m_hasMadeRoom, true))
+    if (m_makesRoom) {
+        m_makesRoom = m_removals[slot(place)] > 0;
         return;
+    }
     std::vector<Message> oldest = m_store->messages(m_store->ids(MessageBox::Inbox, place));
     std::erase_if(oldest, [](const Message &message) { return !message.isRead || !message.error.isEmpty(); });
     std::ranges::sort(oldest, {}, &Message::time);
     if (oldest.size() > roomToMake)
         oldest.resize(roomToMake);
-    toComputer(oldest, After::Remove, MessageStore::DeletedOnes::StayDeleted);
+    m_makesRoom = !oldest.empty();
+    toComputer(oldest, After::Remove);
 }
 
 // --- Copying and moving
@@ -262,7 +314,7 @@ void CardPlaces::transfer(const QStringList &ids, MessagePlace to, After after)
     std::erase_if(messages, [&](const Message &message) { return message.place == to; });
     leaveEmptyEntries(messages);
     if (to == MessagePlace::Computer) {
-        toComputer(messages, after, MessageStore::DeletedOnes::ComeBack);
+        toComputer(messages, after);
         return;
     }
     if (!m_isReady) {
@@ -282,8 +334,7 @@ void CardPlaces::leaveEmptyEntries(std::vector<Message> &messages)
         Q_EMIT sigNotice(tr("What the card lists without its content stays where it is."));
 }
 
-void CardPlaces::toComputer(const std::vector<Message> &messages, After after,
-                            MessageStore::DeletedOnes deleted)
+void CardPlaces::toComputer(const std::vector<Message> &messages, After after)
 {
     if (messages.empty())
         return;
@@ -293,7 +344,7 @@ void CardPlaces::toComputer(const std::vector<Message> &messages, After after,
         if (after == After::Keep)
             forgetIndices(copies.back());
     }
-    storedHere(m_store->insert(std::move(copies), deleted), messages, after);
+    storedHere(m_store->insert(std::move(copies), MessageStore::DeletedOnes::ComeBack), messages, after);
 }
 
 CardPlaces::Deleted CardPlaces::moveToDeleted(const std::vector<Message> &chosen)
@@ -327,11 +378,9 @@ void CardPlaces::storedHere(const MessageStore::Added &added, const std::vector<
 std::vector<smsjobs::CardEntry> CardPlaces::entriesOf(const Message &message) const
 {
     std::vector<smsjobs::CardEntry> entries;
-    const int status =
-        statusOfBox(message.box == MessageBox::Deleted ? message.deletedFrom : message.box, message.isRead);
     for (const MessagePart &part : message.parts) {
         if (!part.pdu.isEmpty())
-            entries.push_back({part.pdu, status});
+            entries.push_back({part.pdu, statusFor(message, part)});
     }
     return entries;
 }
@@ -373,6 +422,10 @@ void CardPlaces::wroteToCard(const Message &message, MessagePlace to, After afte
                              ? tr("The message was not written to the SIM: %1").arg(*fault)
                              : tr("The message was not written to the card: %1").arg(*fault));
         return;
+    }
+    for (const MessagePart &part : message.parts) {
+        if (message.isReceived())
+            m_unseen[slot(to)].written.insert(pduIdentity(part.pdu), message.isRead);
     }
     if (after == After::Keep)
         return;
@@ -437,7 +490,7 @@ void CardPlaces::takeRest(const std::vector<Message> &messages)
 void CardPlaces::removePart(MessagePlace place, const MessagePart &part, const QStringList &copies)
 {
     if (part.storageIndex < 0) { // the card listed it in a way that does not say where
-        sayNotDeleted();
+        sayNotDeleted(copies);
         return;
     }
     ++m_removals[slot(place)];
@@ -445,7 +498,7 @@ void CardPlaces::removePart(MessagePlace place, const MessagePart &part, const Q
     const auto job = m_worker.submit([kept](SerialThread &link) { return smsjobs::remove(link, kept); });
     whenDone(job, this, [this, place, part, copies](std::optional<smsjobs::Removal> removal) {
         if (removal == smsjobs::Removal::Failed)
-            sayNotDeleted();
+            sayNotDeleted(copies);
         else if (removal)
             forgetIndex(copies, part);
         if (--m_removals[slot(place)] == 0)
@@ -453,9 +506,12 @@ void CardPlaces::removePart(MessagePlace place, const MessagePart &part, const Q
     });
 }
 
-void CardPlaces::sayNotDeleted()
+void CardPlaces::sayNotDeleted(const QStringList &copies)
 {
-    Q_EMIT sigNotice(tr("A message could not be deleted from the card. It is kept on the computer as well."));
+    Q_EMIT sigNotice(
+        copies.isEmpty()
+            ? tr("A message could not be deleted from the card. It is in both places now.")
+            : tr("A message could not be deleted from the card. It is kept on the computer as well."));
 }
 
 /// The part is only here from now on.

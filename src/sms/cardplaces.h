@@ -5,8 +5,12 @@
 #include "sms/messagestore.h"
 #include "sms/smscardjobs.h"
 
+#include <QHash>
 #include <QObject>
+#include <QSet>
 #include <array>
+#include <set>
+#include <utility>
 
 namespace corva
 {
@@ -20,7 +24,9 @@ class CardWorker;
 ///
 /// A message is read on the card as soon as it was fetched, whether or not its copy came to the disk. What
 /// the first listing of a SIM or card, which the last listing was of too, meets read and nobody here knows is
-/// therefore as good as unread.
+/// therefore as good as unread; so is what a listing meets behind one that was cut short, and what the card
+/// announced and did not hand out. New is what is unread there and unknown here, never what was written there
+/// from here or what a person marked as unread.
 class CardPlaces final : public QObject
 {
     Q_OBJECT
@@ -36,6 +42,9 @@ public:
     void setOwners(const QString &subscriber, const QString &card) { m_owners = {subscriber, card}; }
 
     void refresh(MessagePlace place);
+    /// The card announced a message under this index, -1 when not known: the next listing meets it unseen,
+    /// however it is marked there by then.
+    void expect(MessagePlace place, int index);
     const PlaceState &state(MessagePlace place) const;
     bool hasCardStore() const;
     /// What the card told of its room beside an answer.
@@ -64,7 +73,7 @@ Q_SIGNALS:
     void sigNearlyFull(const QString &sentence);
     /// A listing ended, also one that failed; what it brought is in the store.
     void sigListed();
-    /// What the first listing of a place met unread, and what a later one met that was not there before.
+    /// What the first listing of a place met unread, and what came since or was announced.
     void sigUnreadMet(const QStringList &ids);
     void sigNewListed(const QStringList &ids);
     /// A delivery report that lies among the messages.
@@ -72,20 +81,35 @@ Q_SIGNALS:
 
 private:
     enum class After { Keep, Remove };
+    using ListedPart = std::pair<int, QString>; ///< its index and its PDU
+    struct NewParts {
+        std::set<ListedPart> met;  ///< in the first listing
+        std::set<ListedPart> come; ///< since, or announced
+    };
+    /// What is known of a place beside its last listing.
+    struct Unseen {
+        QHash<QString, bool>
+            written;             ///< identities of PDUs that were written there, and whether they are read
+        std::set<int> announced; ///< indices of messages, until they are listed
+        QSet<QString> unread;    ///< PDUs that a listing which was cut short showed as unread
+        bool wasCut = false;     ///< such a listing marked what it did not bring as read
+    };
 
     void transfer(const QStringList &ids, MessagePlace to, After after);
     void leaveEmptyEntries(std::vector<Message> &messages);
-    void toComputer(const std::vector<Message> &messages, After after, MessageStore::DeletedOnes deleted);
+    void toComputer(const std::vector<Message> &messages, After after);
     void toCard(const Message &message, MessagePlace to, After after);
     std::vector<smsjobs::CardEntry> entriesOf(const Message &message) const;
     void wroteToCard(const Message &message, MessagePlace to, After after,
                      const std::optional<QString> &fault);
     void removePart(MessagePlace place, const MessagePart &part, const QStringList &copies);
-    void sayNotDeleted();
+    /// `copies`: those on the computer; none of what went from the SIM to the card or back.
+    void sayNotDeleted(const QStringList &copies);
     void forgetIndex(const QStringList &copies, const MessagePart &part);
     void storedHere(const MessageStore::Added &added, const std::vector<Message> &originals, After after);
     void took(MessagePlace place, smsjobs::Listing listing);
-    void showUnseen(MessagePlace place, std::vector<Message> &messages) const;
+    NewParts lookForNew(MessagePlace place, std::vector<Message> &messages, bool isFirst);
+    QStringList holdersOf(MessagePlace place, const std::set<ListedPart> &parts) const;
     void refreshAll();
     void takeRest(const std::vector<Message> &messages);
     void warnBeforeFull(MessagePlace place, const StoreCapacity &now);
@@ -99,11 +123,11 @@ private:
     std::array<QString, 2> m_owners;
     std::array<PlaceState, 2> m_states; ///< SIM, card
     std::array<bool, 2> m_hasWarned{};
-    bool m_hasMadeRoom =
-        false;            ///< since the SIM was full; once, or a SIM that deletes nothing is asked for ever
-    int m_generation = 0; ///< of the card: what was asked of a former one is not of interest
+    bool m_makesRoom = false;           ///< on the full SIM, until it is listed behind that
+    int m_generation = 0;               ///< of the card: what was asked of a former one is not of interest
     std::array<bool, 2> m_listsAgain{}; ///< asked for while a listing was under way
     std::array<int, 2> m_removals{};    ///< under way; the place is listed anew behind the last
+    std::array<Unseen, 2> m_unseen;
     bool m_isCardStoreMissing = false;
     bool m_isReady = false;
 };

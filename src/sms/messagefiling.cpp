@@ -92,6 +92,13 @@ RecordPtr lastListed(const MessageTable &old, const Message &message, const QSet
     return sameText;
 }
 
+bool hasNewPart(const Message &message, const Message &before)
+{
+    return std::ranges::any_of(message.parts, [&](const MessagePart &part) {
+        return std::ranges::find(before.parts, part.pdu, &MessagePart::pdu) == before.parts.end();
+    });
+}
+
 } // namespace
 
 Message tidied(Message message)
@@ -179,7 +186,9 @@ std::vector<Message> mirrored(const MessageTable &old, MessagePlace place, std::
         Message message = record->message;
         if (const RecordPtr known = lastListed(old, message, claimed)) {
             message.id = known->message.id;
-            message.isRead = known->message.isRead;
+            // Nobody has seen a part that came since, and the card tells whether that one was read.
+            message.isRead =
+                known->message.isRead && (message.isRead || !hasNewPart(message, known->message));
             message.arrived = known->message.arrived;
             claimed += message.id;
         }

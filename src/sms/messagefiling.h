@@ -26,7 +26,7 @@ Message joined(Message message, const Message &parts);
 bool isKnown(const MessageTable &table, const Message &message);
 
 /// What a listing of a place gave, put together. What `old` has of that place already keeps its id, whether
-/// it was read, and when it arrived.
+/// it was read, and when it arrived; with a new part that is unread the whole is unread again.
 std::vector<Message> mirrored(const MessageTable &old, MessagePlace place, std::vector<Message> listed,
                               int matchingLength);
 

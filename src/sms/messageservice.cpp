@@ -65,8 +65,8 @@ bool awaitsReport(const Message &message)
            });
 }
 
-/// Unread messages of all places; what lies in two of them once.
-int countUnread(const MessageStore &store)
+/// The unread messages of all places by their PDUs; what lies in two of them once.
+QSet<QString> unreadOnes(const MessageStore &store)
 {
     const QStringList ids =
         store.ids([](const Message &message) { return message.box == MessageBox::Inbox && !message.isRead; });
@@ -75,7 +75,7 @@ int countUnread(const MessageStore &store)
         const QString pdu = message.parts.empty() ? QString() : message.parts.front().pdu;
         unread.insert(pdu.isEmpty() ? message.id : pdu);
     });
-    return int(unread.size());
+    return unread;
 }
 
 /// "50,919": what a person chose.
@@ -122,7 +122,8 @@ public:
     bool isPrepared = false;
     bool isPreparing = false;
     bool preparesAgain = false; ///< what was asked for changed meanwhile
-    bool hasAnnouncedUnread = false;
+    enum class Announced { Nothing, WithoutCard, WithCard } announced = Announced::Nothing;
+    QSet<QString> announcedOnes; ///< what the person was told of, as `unreadOnes` has it
     MarkQueue marks; ///< last: at its end it marks what waits, and whoever shows it asks for names
 };
 
@@ -233,7 +234,8 @@ void MessageService::Private::prepared(const smsjobs::Preparation &made)
     queue.begin(made.subscriber);
 }
 
-/// Of all places together, as soon as all are known: the card's listings have ended, or there is no card.
+/// Of all places together, as soon as all are known: the card's listings have ended, or there is no card. One
+/// that comes later is told of when it was listed.
 void MessageService::Private::announceUnread()
 {
     if (isPreparing || places.state(MessagePlace::Sim).isLoading ||
@@ -242,11 +244,17 @@ void MessageService::Private::announceUnread()
         return;
     }
     patience.stop();
-    if (std::exchange(hasAnnouncedUnread, true) ||
-        cmcfg.getNumber(u"sms"_s, u"newSmsNoticeShowWhenProgramStart"_s) != 1)
+    const bool isOfCard = places.state(MessagePlace::Sim).isRead || places.state(MessagePlace::Card).isRead;
+    const Announced now = isOfCard ? Announced::WithCard : Announced::WithoutCard;
+    if (announced >= now)
         return;
-    if (const int unread = countUnread(*store); unread > 0)
-        Q_EMIT q->sigUnreadAtStart(unread);
+    announced = now;
+    if (cmcfg.getNumber(u"sms"_s, u"newSmsNoticeShowWhenProgramStart"_s) != 1)
+        return;
+    const QSet<QString> unread = unreadOnes(*store);
+    const QSet<QString> before = std::exchange(announcedOnes, unread);
+    if (!before.contains(unread))
+        Q_EMIT q->sigUnreadAtStart(int(unread.size()));
 }
 
 void MessageService::Private::setServiceCentre(const QString &number)
@@ -370,6 +378,11 @@ void MessageService::cancelSending()
 void MessageService::retry(const QStringList &ids)
 {
     d->queue.retry(ids);
+}
+
+bool MessageService::waitsForOtherSim(const Message &message) const
+{
+    return d->queue.waitsForOtherSim(message);
 }
 
 const SendProgress &MessageService::sending() const

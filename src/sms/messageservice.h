@@ -92,8 +92,11 @@ public:
     bool send(const OutgoingSms &sms);
     /// Ends the run behind the part that is on its way. What was not sent stays in the outbox as failed.
     void cancelSending();
-    /// Sends again what failed of these messages, whole ones and single parts.
+    /// Sends again what failed of these messages, whole ones and single parts, and with the SIM that is there
+    /// what waits for another one.
     void retry(const QStringList &ids);
+    /// Whether it waits for a SIM that is not in the card.
+    bool waitsForOtherSim(const Message &message) const;
     const SendProgress &sending() const;
 
     /// Lists the SIM or the card anew. Does nothing for the computer.
@@ -130,7 +133,7 @@ Q_SIGNALS:
     /// A message came in. Of a long one: its first part, and no more for the others.
     void sigNewMessage(const QString &id);
     /// Once after the start, when messages wait unread on the computer, the SIM or the card, and are to be
-    /// announced.
+    /// announced; once more when a card that comes later brings others. `count` is of all.
     void sigUnreadAtStart(int count);
     /// An immediate message, whole or what came of it, which is kept nowhere: what is shown of it, the PDU of
     /// its first part, and the message as the store can keep it if the person wants that.

@@ -105,6 +105,14 @@ MessageStore::Added MessageStore::insert(std::vector<Message> messages, DeletedO
     return added;
 }
 
+MessageStore::Added MessageStore::replace(const QStringList &old, std::vector<Message> messages)
+{
+    if (!isLoaded())
+        return {d->whenLoaded([this, old, messages] { replace(old, messages); }), {}, {}};
+    d->remove(old);
+    return insert(std::move(messages));
+}
+
 QFuture<bool> MessageStore::change(const QString &id, const std::function<void(Message &)> &change)
 {
     const RecordPtr record = d->find(id);

@@ -69,12 +69,15 @@ public:
     /// recognised by its PDU and not added again. Ids are given to those without one.
     QFuture<bool> add(std::vector<Message> messages) { return insert(std::move(messages)).stored; }
     Added insert(std::vector<Message> messages, DeletedOnes deleted = DeletedOnes::StayDeleted);
+    /// The same, in the place of others, which go for good: both are on disk, or neither.
+    Added replace(const QStringList &old, std::vector<Message> messages);
 
     /// Changes one message; its id and place stay. Resolved with false when there is none.
     QFuture<bool> change(const QString &id, const std::function<void(Message &)> &change);
     QFuture<bool> setRead(const QStringList &ids, bool isRead);
 
-    /// To `Deleted`. Only the computer's; those in `Deleted` already are left alone.
+    /// To `Deleted`. Only the computer's; those in `Deleted` already are left alone. What waited to be sent
+    /// does not any more.
     QFuture<bool> remove(const QStringList &ids);
     /// Back to where they were deleted from.
     QFuture<bool> restore(const QStringList &ids);

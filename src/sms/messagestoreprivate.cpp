@@ -223,6 +223,10 @@ void MessageStore::Private::moveToDeleted(const QString &id)
         return;
     Message message = record->message;
     message.deletedFrom = std::exchange(message.box, MessageBox::Deleted);
+    for (MessagePart &part : message.parts) {
+        if (part.state == DeliveryState::Queued) // put back, it waits for the person
+            part.state = DeliveryState::Failed;
+    }
     put(std::move(message));
 }
 

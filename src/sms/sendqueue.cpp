@@ -24,6 +24,15 @@ namespace
 
 constexpr auto pauseWithoutCard = 2s;
 
+/// What was on its way when the program ended may have gone out.
+void leaveUnsure(Message &message)
+{
+    for (MessagePart &part : message.parts) {
+        if (part.state == DeliveryState::Sending)
+            part.state = DeliveryState::Unsure;
+    }
+}
+
 } // namespace
 
 std::vector<smsjobs::OutgoingPart> draftParts(const Message &message, const QString &serviceCentre)
@@ -46,17 +55,15 @@ SendQueue::SendQueue(CardWorker &worker, MessageStore *store, QObject *parent)
 
 void SendQueue::resume()
 {
+    for (const QString &id : m_store->ids(MessageBox::Deleted)) {
+        m_store->change(id, leaveUnsure);
+        m_store->change(id, failQueued);
+    }
     QStringList ids = m_store->ids(MessageBox::Outbox);
     std::ranges::reverse(ids);
-    for (const QString &id : ids) {
-        m_store->change(id, [](Message &message) {
-            for (MessagePart &part : message.parts) {
-                if (part.state == DeliveryState::Sending)
-                    part.state = DeliveryState::Unsure;
-            }
-        });
-        m_left += id;
-    }
+    for (const QString &id : ids)
+        m_store->change(id, leaveUnsure);
+    m_left += ids;
     pump();
 }
 
@@ -94,16 +101,15 @@ bool SendQueue::add(const OutgoingSms &sms)
         std::ranges::copy(partsFor(recipient, split, sms.asksReport), std::back_inserter(message.parts));
     if (message.total > 1)
         message.concatReference = nextConcatReference();
-    const MessageStore::Added added = m_store->insert({message});
-    whenDone(added.stored, this, [this, ids = added.ids, draft = sms.draftId](std::optional<bool> isStored) {
+    const QStringList draft = sms.draftId.isEmpty() ? QStringList() : QStringList(sms.draftId);
+    const MessageStore::Added added = m_store->replace(draft, {message});
+    whenDone(added.stored, this, [this, ids = added.ids](std::optional<bool> isStored) {
         if (!isStored.value_or(false)) {
             for (const QString &id : ids) // or the next start would send what was said not to be
                 m_store->change(id, failQueued);
             Q_EMIT sigRefused(tr("The message could not be written to disk and is not sent."));
             return;
         }
-        if (!draft.isEmpty())
-            m_store->purge({draft});
         // Before the store was loaded it gave no ids.
         const QStringList waiting = ids.isEmpty() ? m_store->ids(MessageBox::Outbox) : ids;
         for (const QString &id : waiting)
@@ -165,6 +171,12 @@ void SendQueue::leaveWaiting(const Message &message)
     m_progress.totalParts -= countOf(message, DeliveryState::Queued);
 }
 
+bool SendQueue::waitsForOtherSim(const Message &message) const
+{
+    return message.box == MessageBox::Outbox && countOf(message, DeliveryState::Queued) > 0 &&
+           m_isSubscriberThere && !mayGoOut(message);
+}
+
 /// What was left and may go out now; nothing as long as it is not known whose SIM it is.
 void SendQueue::takeUpLeft()
 {
@@ -189,8 +201,6 @@ SendQueue::Target SendQueue::next()
                 return {id, int(part - message->parts.begin())};
             if (part != message->parts.end())
                 leaveWaiting(*message);
-        } else {
-            m_store->change(id, failQueued); // deleted while it waited: put back, it waits for the person
         }
         m_waiting.pop_front();
     }
@@ -266,13 +276,14 @@ void SendQueue::took(const Target &target, const smsjobs::SentPart &sent)
 }
 
 /// It has not gone out, and waits for the card to be back; until that is noticed it is tried now and then.
-/// Unless the rest was given up meanwhile.
+/// Unless it was deleted or the rest was given up meanwhile.
 void SendQueue::putBack(const Target &target)
 {
     const bool isWanted = std::ranges::find(m_waiting, target.id) != m_waiting.end();
     m_store->change(target.id, [&](Message &message) {
         MessagePart &part = message.parts[std::size_t(target.part)];
-        part.state = isWanted ? DeliveryState::Queued : DeliveryState::Failed;
+        const bool isDeleted = message.box != MessageBox::Outbox;
+        part.state = isWanted && !isDeleted ? DeliveryState::Queued : DeliveryState::Failed;
         if (!isWanted)
             m_failed.insert({target.id, part.recipient});
     });

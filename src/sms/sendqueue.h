@@ -43,8 +43,12 @@ public:
     bool add(const OutgoingSms &sms);
     /// Nothing more of what waits now goes out; the part that is on its way does.
     void cancel();
-    /// Sends again what was refused, what may have gone out, and what did not arrive by its report.
+    /// Sends again what was refused, what may have gone out, and what did not arrive by its report; with the
+    /// SIM that is there also what waits for another one.
     void retry(const QStringList &ids);
+
+    /// Whether it goes out unasked only once another SIM is in the card.
+    bool waitsForOtherSim(const Message &message) const;
 
     const SendProgress &progress() const { return m_progress; }
 

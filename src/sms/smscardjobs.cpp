@@ -75,11 +75,16 @@ std::optional<StoreFill> askedFill(SerialThread &link, MessagePlace place)
     return isCard ? link.getModemSmsMem2() : link.getSimSmsMem2();
 }
 
-/// The fill that the card told when the store was selected, or tells when it is asked.
+/// The fill that the card told when the store was selected, or tells when it is asked. A command is spared
+/// with the setting off, never the figures.
 std::optional<StoreFill> fillOf(SerialThread &link, MessagePlace place, const QByteArray &selected)
 {
     const bool isAsked = cmcfg.getNumber(u"network_dialer_setting"_s, u"send_cpmscommand_enabled"_s) == 1;
-    const auto fill = isAsked ? askedFill(link, place) : parseFill(selected, nameOf(place));
+    auto fill = isAsked ? std::nullopt : parseFill(selected, nameOf(place));
+    if (!fill)
+        fill = askedFill(link, place);
+    if (!fill)
+        fill = parseFill(selected, nameOf(place));
     if (fill)
         qCDebug(lcSms).noquote() << u"%1 = %2, spare = %3"_s
                                         .arg(place == MessagePlace::Card ? "modem_capacity"_L1
@@ -106,6 +111,26 @@ void sortIn(Listing &listing, MessagePlace place, const ListedSms &listed, const
         listing.messages.push_back(std::move(*message));
     else
         listing.reports.push_back(keptReport(storageOf(place), listed, now));
+}
+
+bool isComplete(const QByteArray &list)
+{
+    return list.contains("OK\r\n");
+}
+
+/// The list of the place; one without its end, which is no refusal, is noted as such.
+QByteArray askForList(SerialThread &link, MessagePlace place, Listing &listing)
+{
+    QByteArray reply = link.getSmsContent(everyStatus, int(storageOf(place)));
+    const bool hasBegun = reply.contains("+CMGL:") || !cmsErrorIn(link.lastReply());
+    if (isComplete(reply) || !hasBegun)
+        return reply;
+    listing.wasCut = true;
+    for (const ListedSms &each : parseSmsList(reply)) {
+        if (each.status == 0)
+            listing.cutUnread += QString::fromLatin1(each.pdu);
+    }
+    return reply;
 }
 
 /// What "AT+CMGR" said of a place: that nothing is there, or nothing about it.
@@ -233,8 +258,10 @@ Listing list(SerialThread &link, MessagePlace place)
         return listing;
     }
     listing.fill = fillOf(link, place, link.lastReply());
-    const QByteArray reply = link.getSmsContent(everyStatus, int(storageOf(place)));
-    if (!reply.contains("OK\r\n")) {
+    QByteArray reply = askForList(link, place, listing);
+    if (listing.wasCut)
+        reply = askForList(link, place, listing);
+    if (!isComplete(reply)) {
         listing.fault = whyFailed(link);
         return listing;
     }

@@ -6,6 +6,7 @@
 #include "sms/smsreplies.h"
 #include "sms/splittext.h"
 
+#include <QSet>
 #include <optional>
 #include <variant>
 #include <vector>
@@ -55,7 +56,10 @@ struct Listing {
     std::vector<Message> messages;
     std::vector<KeptReport> reports;
     std::optional<StoreFill> fill;
+    bool wasCut = false;     ///< an answer came that had no end, or none at all
+    QSet<QString> cutUnread; ///< the PDUs that such an answer showed as unread
 };
+/// A list that was cut short is asked for once more: the card has marked what is in it as read.
 Listing list(SerialThread &link, MessagePlace place);
 
 /// One message that the card announced by its index.

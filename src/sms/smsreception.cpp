@@ -71,10 +71,12 @@ void SmsReception::takeMessages(const QByteArray &text)
         return;
     fileDelivered(parseReportedPdus(text, "+CMT:"));
     for (const StoredReport &report : parseStoredReports(text, "+CMTI:")) {
+        const MessagePlace place = placeOf(report.store);
+        m_places->expect(place, report.index);
         if (goToComputer() && report.index >= 0)
-            fetch(placeOf(report.store), report.index);
+            fetch(place, report.index);
         else
-            m_places->refresh(placeOf(report.store)); // which does not mark it as read before it is known
+            m_places->refresh(place); // which does not mark it as read before it is known
     }
 }
 
@@ -101,8 +103,13 @@ void SmsReception::fetch(MessagePlace place, int index)
         m_worker.submit([place, index](SerialThread &link) { return smsjobs::fetch(link, place, index); });
     whenDone(job, this, [this, place, index](const std::optional<smsjobs::Fetched> &fetched) {
         m_fetched.erase({place, index});
-        if (fetched)
-            took(place, *fetched);
+        if (!fetched)
+            return;
+        took(place, *fetched);
+        if (fetched->message || fetched->report)
+            return;
+        m_places->expect(place, index); // it may be there all the same, marked as read by now
+        m_places->refresh(place);
     });
 }
 
@@ -113,13 +120,8 @@ void SmsReception::took(MessagePlace place, const smsjobs::Fetched &fetched)
         deliveryReportSaveToSmsXml(*fetched.report);
     if (!fetched.fault.isEmpty())
         Q_EMIT sigNotice(tr("A new message could not be read from the card: %1").arg(fetched.fault));
-    if (fetched.report)
-        return;
-    if (!fetched.message) {
-        m_places->refresh(place); // it may be there all the same
-        return;
-    }
-    announce(keep(*fetched.message));
+    if (fetched.message)
+        announce(keep(*fetched.message));
 }
 
 QStringList SmsReception::keep(const Message &message)

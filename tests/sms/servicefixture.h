@@ -65,6 +65,11 @@ protected:
     }
     void begin()
     {
+        start();
+        SOON(m_service->place(MessagePlace::Sim).isRead);
+    }
+    void start()
+    {
         m_monitor = std::make_unique<CardMonitor>(&m_owner);
         m_searcher = m_monitor.get();
         m_store = std::make_unique<MessageStore>(m_folder.path() + u"/Data"_s);
@@ -80,7 +85,6 @@ protected:
                 [this](int count) { m_unreadAtStart += count; });
         m_store->load();
         m_monitor->start();
-        SOON(m_service->place(MessagePlace::Sim).isRead);
     }
     /// What an earlier run left.
     void leave(const std::vector<Message> &messages)
@@ -124,6 +128,12 @@ protected:
         message.recipients = {number};
         message.time = message.arrived = QDateTime::currentDateTime();
         message.parts.emplace_back().text = u"hello"_s;
+        return message;
+    }
+    static Message received(const QString &number)
+    {
+        Message message = hello(number);
+        message.parts.front().pdu = u"0791947106004034040B919471325476F800004250112100000005E8329BFD06"_s;
         return message;
     }
     /// Whom they go to, the newest first.

@@ -100,6 +100,19 @@ private Q_SLOTS:
         set("newSmsNoticeShowWhenProgramStart", 0);
     }
 
+    void unreadOnACardThatComesLate()
+    {
+        set("newSmsNoticeShowWhenProgramStart", 1);
+        leave({hello(u"111"_s)});
+        tell(R"({"command": "fill", "name": "SM", "count": 2, "status": 0})");
+        tell(R"({"command": "unplug"})");
+        start();
+        SOON_IS(m_unreadAtStart, QList<int>{1});
+        tell(R"({"command": "plug"})");
+        SOON_IS(m_unreadAtStart, (QList<int>{1, 3}));
+        set("newSmsNoticeShowWhenProgramStart", 0);
+    }
+
     void aMessageInTheMiddleOfAList()
     {
         tell(R"({"command": "fill", "name": "SM", "count": 20, "status": 1})");
@@ -140,6 +153,66 @@ private Q_SLOTS:
         QVERIFY(m_service->undoRemoval()); // of what is there still
         QVERIFY(!m_service->undoRemoval());
         QCOMPARE(inbox().size(), 1U);
+    }
+
+    void unreadStaysWhereItWasPut()
+    {
+        tell(R"({"command": "fill", "name": "SM", "count": 1, "status": 1})");
+        leave({received(u"111"_s)});
+        begin();
+        m_service->setRead(m_store->ids(MessageBox::Inbox, MessagePlace::Sim), false);
+        QSignalSpy announced(m_service.get(), &MessageService::sigNewMessage);
+        m_service->moveTo({inbox().front().id}, MessagePlace::Sim);
+        SOON_IS(inbox(MessagePlace::Sim).size(), 2U);
+        SOON(inbox().empty());
+        const auto isUnread = [](const Message &message) { return !message.isRead; };
+        QCOMPARE(std::ranges::count_if(inbox(MessagePlace::Sim), isUnread), 2);
+        end();
+        begin();
+        QCOMPARE(std::ranges::count_if(inbox(MessagePlace::Sim), isUnread), 2);
+        QVERIFY(inbox().empty());
+        QCOMPARE(announced.size(), 0);
+        QCOMPARE(stored(u"SM"_s), 2);
+    }
+
+    void aListCutShort()
+    {
+        set("newsmsLocation", 1);
+        begin();
+        QSignalSpy announced(m_service.get(), &MessageService::sigNewMessage);
+        tell(R"({"command": "fill", "name": "SM", "count": 3, "status": 0})");
+        tell(R"({"command": "fault", "kind": "interleave", "match": "+CMGL", "at": 100, "text":
+            "+CMS ERROR: 500"})");
+        m_service->refreshPlace(MessagePlace::Sim);
+        SOON_IS(announced.size(), 3);
+        QCOMPARE(m_store->unreadCount(MessageBox::Inbox, MessagePlace::Sim), 3);
+    }
+
+    void aMessageThatWasNotHandedOut()
+    {
+        cmcfg.setValue(u"function"_s, u"modemSide_enabled"_s, u"0"_s); // announced, and fetched
+        begin();
+        QSignalSpy announced(m_service.get(), &MessageService::sigNewMessage);
+        tell(R"({"command": "fault", "kind": "interleave", "match": "+CMGR", "at": 0, "text":
+            "+CMS ERROR: 500"})");
+        tell(R"({"command": "sms", "from": "123", "text": "hello"})");
+        SOON_IS(inbox().size(), 1U);
+        QVERIFY(!inbox().front().isRead);
+        QCOMPARE(announced.size(), 1);
+    }
+
+    void whatWasSentStaysSent()
+    {
+        Message message = hello(u"111"_s);
+        message.box = MessageBox::Sent;
+        message.parts.front().state = DeliveryState::Sent;
+        message.parts.front().pdu = u"000100038111F1000005E8329BFD06"_s;
+        leave({message});
+        begin();
+        m_service->moveTo(m_store->ids(MessageBox::Sent), MessagePlace::Sim);
+        SOON_IS(m_store->ids(MessageBox::Outbox, MessagePlace::Sim).size(), 1);
+        m_service->copyTo(m_store->ids(MessageBox::Outbox, MessagePlace::Sim), MessagePlace::Card);
+        SOON_IS(m_store->ids(MessageBox::Outbox, MessagePlace::Card).size(), 1);
     }
 
     void noHalfMessageOnTheSim()
@@ -227,6 +300,14 @@ private Q_SLOTS:
         SOON_IS(stored(u"SM"_s), 3); // five that were read went, kept here
         QCOMPARE(inbox().size(), 5U);
         QVERIFY(says(u"8 of 8"_s));
+        tell(R"({"command": "fill", "name": "SM", "count": 5, "status": 1, "text": "more"})");
+        tell(R"({"command": "fault", "kind": "refuse", "match": "+CMGD", "count": 5, "code": 500})");
+        m_service->refreshPlace(MessagePlace::Sim);
+        SOON(says(u"could not be deleted"_s));
+        SOON(heard(u"AT+CMGD"_s) == 10 && !m_service->place(MessagePlace::Sim).isLoading);
+        QCOMPARE(stored(u"SM"_s), 8);
+        m_service->refreshPlace(MessagePlace::Sim); // once more, with a card that is willing by now
+        SOON_IS(stored(u"SM"_s), 3);
     }
 
     void immediateMessages()

@@ -140,6 +140,37 @@ private Q_SLOTS:
             QCOMPARE(message.state() == DeliveryState::Queued, message.recipients == QStringList(u"444"_s));
     }
 
+    void deletedWhileItWaited()
+    {
+        const auto deleted = [](const QString &number, DeliveryState state) {
+            Message message = hello(number);
+            message.box = MessageBox::Deleted;
+            message.deletedFrom = MessageBox::Outbox;
+            message.parts.front().state = state;
+            return message;
+        };
+        Message waiting = hello(u"333"_s);
+        waiting.box = MessageBox::Outbox;
+        waiting.subscriber = u"262019876543210"_s; // another one's
+        waiting.parts.front().state = DeliveryState::Queued;
+        leave({deleted(u"111"_s, DeliveryState::Queued), deleted(u"222"_s, DeliveryState::Sending), waiting});
+        begin();
+        SOON(says(u"There is another SIM in the card."_s));
+        m_store->restore(m_store->ids(MessageBox::Deleted));
+        const auto put = m_store->messages(m_store->ids(MessageBox::Outbox));
+        QCOMPARE(put.size(), 3U);
+        for (const Message &message : put) {
+            const QString number = message.recipients.front();
+            QCOMPARE(m_service->waitsForOtherSim(message), number == u"333"_s);
+            if (number != u"333"_s)
+                QCOMPARE(message.state(), number == u"111"_s ? DeliveryState::Failed : DeliveryState::Unsure);
+        }
+        m_store->remove(m_store->ids(MessageBox::Outbox));
+        m_store->restore(m_store->ids(MessageBox::Deleted));
+        m_service->retry(m_store->ids(MessageBox::Outbox)); // asked for, they go out with this SIM
+        SOON_IS(recipients(MessageBox::Sent).size(), 3);
+    }
+
     void unpluggedWhileSending()
     {
         tell(R"({"command": "sms-network", "delay": 60000})");

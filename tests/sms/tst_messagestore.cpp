@@ -331,6 +331,7 @@ private Q_SLOTS:
         store->replaceMirror(MessagePlace::Sim,
                              {at(parts[0], 4), at(twin, 3), at(parts[1], 2), at(parts[2], 1)});
         QCOMPARE(addedSpy.size(), 0);
+        QCOMPARE(store->unreadCount(MessageBox::Inbox, MessagePlace::Sim), 1); // of which a part came
         QCOMPARE(changedSpy.takeFirst().at(0).toStringList().size(), 1);
         QCOMPARE(removedSpy.takeFirst().at(0).toStringList().size(), 1);
         QCOMPARE(store.texts(MessageBox::Inbox, MessagePlace::Card), QStringList{u"other"_s});

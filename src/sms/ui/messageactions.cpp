@@ -36,11 +36,12 @@ bool hasFailed(const Message &message)
     return state == DeliveryState::Failed || state == DeliveryState::Unsure;
 }
 
-/// Whether what is missing of it can go out from where it lies.
-bool canBeSentAgain(const Message &message)
+/// Whether what is missing of it can go out from where it lies, and does not by itself.
+bool canBeSentAgain(const Message &message, const MessageService &service)
 {
     const bool isOwn = message.box == MessageBox::Outbox || message.box == MessageBox::Sent;
-    return isOwn && message.place == MessagePlace::Computer && hasFailed(message);
+    return isOwn && message.place == MessagePlace::Computer &&
+           (hasFailed(message) || service.waitsForOtherSim(message));
 }
 
 bool mayHaveGoneOut(const Message &message)
@@ -58,13 +59,13 @@ struct Chosen {
     bool hasUnread = false;
 };
 
-Chosen lookAt(const MessageStore &store, const QStringList &ids)
+Chosen lookAt(const MessageService &service, const QStringList &ids)
 {
     Chosen chosen;
-    store.visit(ids, [&](const Message &message) {
+    service.store()->visit(ids, [&](const Message &message) {
         ++chosen.count;
         chosen.deleted += isDeleted(message);
-        chosen.canBeSentAgain |= canBeSentAgain(message);
+        chosen.canBeSentAgain |= canBeSentAgain(message, service);
         const bool mayBeMarked = message.isReceived() && !isDeleted(message);
         chosen.hasRead |= mayBeMarked && message.isRead;
         chosen.hasUnread |= mayBeMarked && !message.isRead;
@@ -123,7 +124,7 @@ std::vector<Message> MessageActions::messages() const
 
 void MessageActions::follow()
 {
-    const Chosen chosen = lookAt(*m_service->store(), m_ids);
+    const Chosen chosen = lookAt(*m_service, m_ids);
     const auto one = chosen.count == 1 ? m_service->store()->find(m_ids.front()) : std::nullopt;
     const bool isDraft = one && one->box == MessageBox::Drafts;
     m_edit->setVisible(isDraft);
@@ -230,7 +231,7 @@ void MessageActions::retryFailed()
     QStringList failed;
     QStringList unsure;
     m_service->store()->visit(m_ids, [&](const Message &message) {
-        if (canBeSentAgain(message))
+        if (canBeSentAgain(message, *m_service))
             (mayHaveGoneOut(message) ? unsure : failed) += message.id;
     });
     if (!failed.isEmpty())
