@@ -2208,6 +2208,10 @@
         <source>What the card lists without its content stays where it is.</source>
         <translation>ما تسرده البطاقة دون محتوى يبقى في مكانه.</translation>
     </message>
+    <message>
+        <source>A message could not be deleted from the card. It is in both places now.</source>
+        <translation>تعذّر حذف رسالة من البطاقة. وهي الآن في المكانين.</translation>
+    </message>
 </context>
 <context>
     <name>corva::CheckPIN</name>

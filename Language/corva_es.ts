@@ -2204,6 +2204,10 @@
         <source>What the card lists without its content stays where it is.</source>
         <translation>Lo que la tarjeta lista sin contenido se queda donde está.</translation>
     </message>
+    <message>
+        <source>A message could not be deleted from the card. It is in both places now.</source>
+        <translation>No se pudo eliminar un mensaje de la tarjeta. Ahora está en ambos sitios.</translation>
+    </message>
 </context>
 <context>
     <name>corva::CheckPIN</name>

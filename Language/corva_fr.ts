@@ -2204,6 +2204,10 @@
         <source>What the card lists without its content stays where it is.</source>
         <translation>Ce que la carte liste sans contenu reste où il est.</translation>
     </message>
+    <message>
+        <source>A message could not be deleted from the card. It is in both places now.</source>
+        <translation>Un message n’a pas pu être supprimé de la carte. Il se trouve maintenant aux deux endroits.</translation>
+    </message>
 </context>
 <context>
     <name>corva::CheckPIN</name>

@@ -2204,6 +2204,10 @@
         <source>What the card lists without its content stays where it is.</source>
         <translation>O que a placa lista sem conteúdo fica onde está.</translation>
     </message>
+    <message>
+        <source>A message could not be deleted from the card. It is in both places now.</source>
+        <translation>Não foi possível eliminar uma mensagem da placa. Agora está nos dois locais.</translation>
+    </message>
 </context>
 <context>
     <name>corva::CheckPIN</name>

@@ -2203,6 +2203,10 @@
         <source>What the card lists without its content stays where it is.</source>
         <translation>Kartın içeriksiz listelediği, olduğu yerde kalır.</translation>
     </message>
+    <message>
+        <source>A message could not be deleted from the card. It is in both places now.</source>
+        <translation>Bir mesaj karttan silinemedi. Şimdi her iki yerde de var.</translation>
+    </message>
 </context>
 <context>
     <name>corva::CheckPIN</name>

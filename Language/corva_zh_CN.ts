@@ -2203,6 +2203,10 @@
         <source>What the card lists without its content stays where it is.</source>
         <translation>上网卡列出但没有内容的短信将留在原处。</translation>
     </message>
+    <message>
+        <source>A message could not be deleted from the card. It is in both places now.</source>
+        <translation>有一条短信无法从上网卡中删除。现在两处都有该短信。</translation>
+    </message>
 </context>
 <context>
     <name>corva::CheckPIN</name>
