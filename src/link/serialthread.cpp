@@ -65,12 +65,34 @@ bool isOn(const QString &section, const QString &key)
     return cmcfg.getNumber(section, key) != 0;
 }
 
-/// Whether the last line says that a message follows: handed over directly, it is nowhere else.
+/// A line that begins so says that a message follows: handed over directly, it is nowhere else.
+constexpr QByteArrayView pduMarks[] = {"+CMT:", "+CBM:", "+JCLAS:"};
+
+/// Where the last line begins that is not blank.
+qsizetype lastLine(const QByteArray &text)
+{
+    const QByteArrayView shown = QByteArrayView(text).trimmed();
+    return shown.isEmpty() ? text.size() : text.lastIndexOf('\n', shown.end() - text.cbegin() - 1) + 1;
+}
+
+/// Whether the last line says that a message follows.
 bool announcesPdu(const QByteArray &text)
 {
-    const QByteArray line = text.trimmed().mid(text.trimmed().lastIndexOf('\n') + 1);
-    constexpr const char *marks[] = {"+CMT:", "+CBM:", "+JCLAS:"};
-    return std::ranges::any_of(marks, [&](const char *mark) { return line.startsWith(mark); });
+    const QByteArrayView line = QByteArrayView(text).sliced(lastLine(text));
+    return std::ranges::any_of(pduMarks, [&](QByteArrayView mark) { return line.startsWith(mark); });
+}
+
+/// Where a message begins that has not come to its end; the text's size when there is none.
+qsizetype tornPdu(const QByteArray &text)
+{
+    const qsizetype begun = text.lastIndexOf('\n') + 1;
+    if (const QByteArray whole = text.first(begun); announcesPdu(whole))
+        return lastLine(whole);
+    const QByteArrayView line = QByteArrayView(text).sliced(begun);
+    const bool mayAnnounce = std::ranges::any_of(pduMarks, [&](QByteArrayView mark) {
+        return line.startsWith(mark) || (!line.isEmpty() && mark.startsWith(line));
+    });
+    return mayAnnounce ? begun : text.size();
 }
 
 void readTimeouts()
@@ -195,7 +217,7 @@ int SerialThread::collectReply(int fd, QByteArray &reply, seconds whole, microse
                   steady_clock::now() +
                       std::max<std::chrono::microseconds>(timeout * ceilingFactor, lowestCeiling)};
     const QString failure = readReply(fd, reader, budget);
-    findUpReportAtCmd(QString::fromLatin1(reader.leftOver())); // a message that is here is not in the card any more
+    dispatchLeftOver(reader.leftOver(), !failure.isEmpty());
     if (!failure.isEmpty()) {
         logLine(failure);
         receive_flag = false;
@@ -209,6 +231,16 @@ int SerialThread::collectReply(int fd, QByteArray &reply, seconds whole, microse
     logLine(u"****** in resAtStr, pResStr = %1"_s.arg(readable(reply)));
     receive_flag = false;
     return 1;
+}
+
+/// The reports in what no reply carries: a message that came is not in the card any more. One that is torn
+/// waits for its rest.
+void SerialThread::dispatchLeftOver(QByteArray text, bool mayGoOn)
+{
+    const qsizetype end = mayGoOn ? tornPdu(text) : text.size();
+    m_ahead.prepend(text.sliced(end));
+    text.truncate(end);
+    findUpReportAtCmd(QString::fromLatin1(text));
 }
 
 /// Feeds the reader until its reply is complete. Returns why it is not; empty when it is.

@@ -370,6 +370,7 @@ private:
                      corva::ReplyReader reader);
     std::optional<QByteArray> writeAndCollect(const QByteArray &cmd, std::chrono::microseconds timeout,
                                               corva::ReplyReader reader);
+    void dispatchLeftOver(QByteArray text, bool mayGoOn);
     QString readReply(int fd, corva::ReplyReader &reader, Budget &budget);
     QString waitForBytes(int fd, Budget &budget);
     std::optional<QByteArray> drain();

@@ -43,6 +43,12 @@ const Rows<QString, QList<int>> timersRows{
     {"no numbers", u"a b c"_s, {0, 1, 3}},
 };
 
+const Rows<QByteArray, QByteArray> tornMessageIsWholeRows{
+    {"before the message", "\r\n+CMT: ,24\r\n", "0791\r\n"},
+    {"in the message", "+CMT: ,24\r\n07", "91\r\n"},
+    {"in the line before it", "OTHER\r\n+CM", "T: ,24\r\n0791\r\n"},
+};
+
 const Rows<int, int> silenceSpendsTheBudgetRows{
     {"none", 0, 5},
     {"less than a round", 99999, 5},
@@ -168,6 +174,22 @@ private Q_SLOTS:
         exchange([this] { return m_link->sendCmdAndRec("AT+CSQ\r\n", 1, 500000); },
                  "+CUSD: 0\r\n+JEND\r\n\r\n+CSQ: 5,9\r\nOK\r\n");
         QVERIFY2(m_owner.takeCalls().join(u'|').contains(u"+CUSD: 0"_s), "thrown away");
+    }
+
+    /// A message that is torn by the end of the wait is put together when its rest comes.
+    void tornMessageIsWhole_data() { addRows(tornMessageIsWholeRows); }
+    void tornMessageIsWhole()
+    {
+        const auto &[name, begun, rest] = currentRow(tornMessageIsWholeRows);
+        std::vector<char> reply(SerialThread::replyBufferSize);
+        m_owner.takeCalls();
+        m_pty->write(begun);
+        QCOMPARE(m_link->resAtStr(m_link->descriptor(), reply.data(), 0, 100000), -1);
+        m_pty->write(rest);
+        m_link->purgeComData();
+        const QStringList delivered = m_owner.takeCalls().filter(u"+CMT:"_s);
+        QCOMPARE(delivered.size(), 1);
+        QVERIFY2(delivered.first().contains(u"+CMT: ,24\r\n0791"_s), qPrintable(delivered.first()));
     }
 
     void arrivingBytesCostNoBudget()
