@@ -22,9 +22,6 @@ namespace corva
 namespace
 {
 
-/// A store is told to be nearly full when less than this share of it is left, or this many places.
-constexpr int warningShare = 10;
-constexpr int warningPlaces = 2;
 /// Read messages that leave a full SIM at once.
 constexpr std::size_t roomToMake = 5;
 
@@ -272,10 +269,8 @@ void CardPlaces::takeFill(MessagePlace place, const std::optional<StoreFill> &fi
 
 void CardPlaces::warnBeforeFull(MessagePlace place, const StoreCapacity &now)
 {
-    const int left = now.total - now.used;
-    const bool isNearlyFull =
-        left <= std::min(warningPlaces, now.total / 2) || left * warningShare < now.total;
-    if (place == MessagePlace::Sim && left > 0)
+    const bool isNearlyFull = now.isNearlyFull();
+    if (place == MessagePlace::Sim && now.used < now.total)
         m_makesRoom = false;
     else if (place == MessagePlace::Sim && cmcfg.getNumber(u"sms"_s, u"deleteSimSmsWhenFull"_s) == 1)
         makeRoom(place);

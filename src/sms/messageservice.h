@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -38,6 +39,12 @@ struct StoreCapacity {
     int used = 0;
     int total = 0;
     bool operator==(const StoreCapacity &) const = default;
+    /// Whether it is time to say so: less than a tenth is left, or two places.
+    bool isNearlyFull() const
+    {
+        const int left = total - used;
+        return left <= std::min(2, total / 2) || left * 10 < total;
+    }
 };
 
 /// What is known of one place on the card.

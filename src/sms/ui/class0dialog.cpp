@@ -55,10 +55,6 @@ Class0Dialog::Class0Dialog(MessageStore *store, QWidget *parent)
 
 void Class0Dialog::build()
 {
-    const int lines = std::clamp(cmcfg.getNumber(u"sms"_s, u"class0SmsDlgSize"_s), fewestLines, mostLines);
-    const QFontMetrics font = m_text->fontMetrics();
-    m_text->setMinimumSize(font.averageCharWidth() * charactersWide,
-                           font.lineSpacing() * lines + 2 * metrics::Grid);
     m_waiting->setMuted(true);
     auto *keeping = new QPushButton(tr("&Keep in the inbox"), this);
     keeping->setObjectName(u"class0Keep"_s);
@@ -80,12 +76,25 @@ void Class0Dialog::build()
     connect(keeping, &QPushButton::clicked, this, &Class0Dialog::keepMessage);
 }
 
+/// As many lines as are configured now.
+void Class0Dialog::makeRoom()
+{
+    const int lines = std::clamp(cmcfg.getNumber(u"sms"_s, u"class0SmsDlgSize"_s), fewestLines, mostLines);
+    const QFontMetrics font = m_text->fontMetrics();
+    m_text->setMinimumSize(font.averageCharWidth() * charactersWide,
+                           font.lineSpacing() * lines + 2 * metrics::Grid);
+}
+
 void Class0Dialog::add(const Entry &entry)
 {
     if (std::ranges::any_of(m_entries, [&](const Entry &each) { return isSame(each, entry); }))
         return;
     m_entries.push_back(entry);
     showFirst();
+    if (!isVisible()) {
+        makeRoom();
+        adjustSize();
+    }
     open();
     raise();
 }

@@ -38,6 +38,7 @@ protected:
 
 private:
     void build();
+    void makeRoom();
     void showFirst();
     void keepMessage();
 

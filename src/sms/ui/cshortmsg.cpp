@@ -40,13 +40,6 @@ namespace
 constexpr int listWidth = 264;
 constexpr int detailWidth = 376;
 constexpr int boxesWidth = 200;
-constexpr int nearlyFull = 90; ///< percent
-
-/// Whether a place has no room for much more, and it is time to say so.
-bool isNearlyFull(const StoreCapacity &capacity)
-{
-    return capacity.total > 0 && capacity.used * 100 >= capacity.total * nearlyFull;
-}
 
 } // namespace
 
@@ -413,7 +406,7 @@ void CShortMsg::showPlace()
             m_problem->say(state.error, tr("&Try again"));
             return;
         }
-        if (state.capacity && isNearlyFull(*state.capacity))
+        if (state.capacity && state.capacity->isNearlyFull())
             m_problem->say(tr("%1: %2 of %3 places are used. When it is full, no message can come in.")
                                .arg(placeTitle(place))
                                .arg(state.capacity->used)

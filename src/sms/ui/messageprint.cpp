@@ -25,7 +25,7 @@ QString block(const Message &message, const NameOf &nameOf)
     const char *source = message.isReceived() ? QT_TRANSLATE_NOOP("MessagePrint", "From %1, %2")
                                               : QT_TRANSLATE_NOOP("MessagePrint", "To %1, %2");
     const QString head = text(source).arg(peopleOf(message, nameOf), fullWhen(message.time));
-    return head + u'\n' + (message.error.isEmpty() ? message.text() : message.error);
+    return head + u'\n' + (message.error.isEmpty() ? contentOf(message) : message.error);
 }
 
 } // namespace

@@ -130,11 +130,18 @@ QString peopleOf(const Message &message, const NameOf &nameOf)
     return names.join(text(QT_TRANSLATE_NOOP("Messages", ", ")));
 }
 
+QString contentOf(const Message &message)
+{
+    if (message.box != MessageBox::Reports || message.parts.empty())
+        return message.text();
+    return deliveryStatusText(message.parts.front().statusOctet);
+}
+
 QString previewOf(const Message &message)
 {
     if (!message.error.isEmpty())
         return text(QT_TRANSLATE_NOOP("Messages", "This message cannot be read"));
-    const QString line = message.text().left(previewLength).simplified();
+    const QString line = contentOf(message).left(previewLength).simplified();
     return line.isEmpty() ? text(QT_TRANSLATE_NOOP("Messages", "No text")) : line;
 }
 

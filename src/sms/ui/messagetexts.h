@@ -16,6 +16,8 @@ QString placeTitle(MessagePlace place);
 
 /// Who is on the other side: the sender, or everybody whom it is for.
 QString peopleOf(const Message &message, const NameOf &nameOf);
+/// What it says. A delivery report has no text of its own: what its status means. 3GPP TS 23.040 9.2.3.15.
+QString contentOf(const Message &message);
 /// One line of what it says; what stands in for the text where there is none.
 QString previewOf(const Message &message);
 /// "2 of 3" while parts of a long message are missing; else empty.

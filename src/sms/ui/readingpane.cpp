@@ -94,7 +94,7 @@ void ReadingPane::show(const Message &message)
     m_shown = message.id;
     showHead(message);
     showNotice(message);
-    m_text->setText(message.text());
+    m_text->setText(contentOf(message));
     const QString delivery = deliveryDetails(message, nameOf());
     m_delivery->setText(delivery);
     m_delivery->setVisible(!delivery.isEmpty());

@@ -124,6 +124,15 @@ private Q_SLOTS:
                  QStringList({u"https://example.org/a?b=1&c="_s, u"www.example.com"_s, u"me@example.net"_s}));
     }
 
+    void aReportSaysWhatItsStatusMeans()
+    {
+        Message report;
+        report.box = MessageBox::Reports;
+        report.parts = {MessagePart()};
+        report.parts.front().statusOctet = 0x46; // the validity is over
+        QCOMPARE(previewOf(report), u"The message could not be delivered in time."_s);
+    }
+
     void directions()
     {
         QCOMPARE(directionOf(u"10:30 مرحبا hello"_s), Qt::RightToLeft);
