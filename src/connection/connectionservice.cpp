@@ -115,10 +115,10 @@ public:
     DialPermission given;
     bool isCallUp = false;
     bool wasReady = false;
-    bool wasKnown = false;      ///< the card, by its identity
-    bool wasAbroad = false;     ///< and ready otherwise
-    QString untold;             ///< why a link broke, while a row of redials may mend it
-    bool hasToldOfCard = false; ///< in this row of redials
+    std::optional<QString> knownImei; ///< of the card; empty while it does not tell it
+    bool wasAbroad = false;           ///< and ready otherwise
+    QString untold;                   ///< why a link broke, while a row of redials may mend it
+    bool hasToldOfCard = false;       ///< in this row of redials
     bool isShutDown = false;
 };
 
@@ -417,15 +417,16 @@ void ConnectionService::Private::takeCard(const CardState &card)
     autoConnect(card);
 }
 
-/// A killed run, or a card that was gone, leaves a data call up that nobody uses.
+/// A killed run, or a card that was gone, leaves a data call up that nobody uses. Whose it is only the IMEI
+/// tells, which may come later than the rest, or never.
 void ConnectionService::Private::endLeftDataCall(const CardState &card)
 {
-    const bool isKnown = card.modemReady && !card.identity.model.isEmpty();
-    const bool becameKnown = isKnown && !wasKnown;
-    wasKnown = isKnown;
-    if (becameKnown && !link && DataCall::isNoted())
-        monitor->worker().submit(
-            [imei = card.identity.imei](SerialThread &port) { DataCall::endNoted(port, imei); });
+    const QString &imei = card.identity.imei;
+    const bool isKnown = card.modemReady && !(imei.isEmpty() && card.identity.model.isEmpty());
+    const auto known = isKnown ? std::optional(imei) : std::nullopt;
+    const bool isNews = known != std::exchange(knownImei, known);
+    if (known && isNews && !link && DataCall::isNoted())
+        monitor->worker().submit([imei](SerialThread &port) { DataCall::endNoted(port, imei); });
 }
 
 /// Dials once for each time that a card becomes ready. Abroad it would cost: there the person is asked, once
