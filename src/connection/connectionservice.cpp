@@ -62,7 +62,7 @@ ConnectionParts::ConnectionParts()
       }),
       hasLeftovers([] { return DiallerFiles().hasLeftovers(); }), latestLoss([] {
           const QFileInfo record(SystemFiles().lost);
-          return record.exists() ? record.lastModified().toString(Qt::ISODateWithMs) : QString();
+          return record.exists() ? record.lastModified().toUTC().toString(Qt::ISODateWithMs) : QString();
       })
 {
 }
@@ -86,6 +86,7 @@ public:
     void slotAutoRedial();
     void tellUntold();
     void tellNotPutBack(const QString &sentence);
+    void noteToldLoss(const QString &loss);
     void tellOfLoss();
     void endUndialled();
     void missCard();
@@ -115,10 +116,11 @@ public:
     DialPermission given;
     bool isCallUp = false;
     bool wasReady = false;
-    bool wasKnown = false;      ///< the card, by its identity
-    bool wasAbroad = false;     ///< and ready otherwise
-    QString untold;             ///< why a link broke, while a row of redials may mend it
-    bool hasToldOfCard = false; ///< in this row of redials
+    std::optional<QString> knownImei; ///< of the card; empty while it does not tell it
+    bool wasAbroad = false;           ///< and ready otherwise
+    QString untold;                   ///< why a link broke, while a row of redials may mend it
+    QString lossBefore;               ///< on record when the system's files were taken in hand
+    bool hasToldOfCard = false;       ///< in this row of redials
     bool isShutDown = false;
 };
 
@@ -194,6 +196,7 @@ bool ConnectionService::Private::dial(ConnectionProfile profile)
         refuse(ConnectionEnd::DiallerFailed, planned.refusal);
         return false;
     }
+    lossBefore = parts.latestLoss();
     link = makeLink(planned, options, *monitor, *parts.backend, parts.facts, q);
     connect(link, &DataLink::sigUp, q, [this, profile] { wentUp(profile); });
     connect(link, &DataLink::sigPDPSetCommand, q, &ConnectionService::sigPDPSetCommand);
@@ -311,11 +314,18 @@ void ConnectionService::Private::tellUntold()
         Q_EMIT q->sigMessage(message);
 }
 
+/// The sentence is about a loss only where there was one: an earlier one is still to be told.
 void ConnectionService::Private::tellNotPutBack(const QString &sentence)
 {
-    if (const QString loss = parts.latestLoss(); !loss.isEmpty())
-        writeFileSafely(toldLossFile(), loss.toUtf8());
+    if (const QString loss = parts.latestLoss(); loss != lossBefore)
+        noteToldLoss(loss);
     Q_EMIT q->sigMessage(sentence);
+}
+
+void ConnectionService::Private::noteToldLoss(const QString &loss)
+{
+    if (!loss.isEmpty())
+        writeFileSafely(toldLossFile(), loss.toUtf8());
 }
 
 /// What a run lost that could not say so any more: it ended just then, or was killed.
@@ -323,8 +333,10 @@ void ConnectionService::Private::tellOfLoss()
 {
     constexpr qint64 longest = 64;
     const QString loss = parts.latestLoss();
-    if (!loss.isEmpty() && readAtMost(toldLossFile(), longest) != loss.toUtf8())
-        tellNotPutBack(QCoreApplication::translate("DiallerFiles", "Recover wvdial config data failed!"));
+    if (loss.isEmpty() || readAtMost(toldLossFile(), longest) == loss.toUtf8())
+        return;
+    noteToldLoss(loss);
+    Q_EMIT q->sigMessage(QCoreApplication::translate("DiallerFiles", "Recover wvdial config data failed!"));
 }
 
 /// What stays known of a link that is over.
@@ -417,15 +429,16 @@ void ConnectionService::Private::takeCard(const CardState &card)
     autoConnect(card);
 }
 
-/// A killed run, or a card that was gone, leaves a data call up that nobody uses.
+/// A killed run, or a card that was gone, leaves a data call up that nobody uses. Whose it is only the IMEI
+/// tells, which may come later than the rest, or never.
 void ConnectionService::Private::endLeftDataCall(const CardState &card)
 {
-    const bool isKnown = card.modemReady && !card.identity.model.isEmpty();
-    const bool becameKnown = isKnown && !wasKnown;
-    wasKnown = isKnown;
-    if (becameKnown && !link && DataCall::isNoted())
-        monitor->worker().submit(
-            [imei = card.identity.imei](SerialThread &port) { DataCall::endNoted(port, imei); });
+    const QString &imei = card.identity.imei;
+    const bool isKnown = card.modemReady && !(imei.isEmpty() && card.identity.model.isEmpty());
+    const auto known = isKnown ? std::optional(imei) : std::nullopt;
+    const bool isNews = known != std::exchange(knownImei, known);
+    if (known && isNews && !link && DataCall::isNoted())
+        monitor->worker().submit([imei](SerialThread &port) { DataCall::endNoted(port, imei); });
 }
 
 /// Dials once for each time that a card becomes ready. Abroad it would cost: there the person is asked, once
@@ -509,6 +522,7 @@ void ConnectionService::recoverLeftovers()
         d->tellOfLoss();
         return;
     }
+    d->lossBefore = d->parts.latestLoss();
     d->parts.backend->ask({.verb = DialVerb::Recover}, [this](const DialResult &result) {
         if (result.kind == DialResult::Kind::NoRights)
             Q_EMIT sigMessage(

@@ -72,7 +72,7 @@ void DataCall::endNoted(SerialThread &link, const QString &imei)
     if (noted.isEmpty() ||
         noted == imei.toUtf8()) // it may have been asked for before the card said who it is
         end(link, Activation::None);
-    else
+    else if (!imei.isEmpty()) // a card that does not say who it is may be the noted one yet
         QFile::remove(notePath());
 }
 

@@ -40,7 +40,8 @@ public:
 
     /// Whether an earlier run noted a call of a card. Any thread.
     static bool isNoted();
-    /// Ends the call that is noted of this card; one of another card went with that card.
+    /// Ends the call that is noted of this card; one of another card went with that card. A card without an
+    /// `imei` is that of a note without one, and leaves the others.
     static void endNoted(SerialThread &link, const QString &imei);
 
 private:

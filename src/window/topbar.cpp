@@ -94,13 +94,13 @@ void TopBar::build()
     m_menuButton->setFont(skinFont(TextRole::Strong));
     m_menuButton->setIcon(skinIcon(u"corva"_s, SkinRole::Accent));
     m_menuButton->setIconSize({metrics::IconSize, metrics::IconSize});
-    m_menuButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_menuButton->setAutoRaise(true);
     m_menuButton->setMinimumHeight(metrics::ControlHeight);
     connect(m_menuButton, &QToolButton::clicked, this, &TopBar::openMenu);
     m_menuButton->setFocusPolicy(Qt::TabFocus);
     m_menuButton->setAccessibleName(tr("Menu of %1").arg(comcfg.softwareName));
     m_menuButton->setToolTip(tr("%1 (%2)").arg(tr("Menu"), u"F10"_s));
+    measureName();
 
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(metrics::Grid, 0, metrics::Grid, 0);
@@ -176,12 +176,21 @@ void TopBar::setConnection(ConnectionState connection)
     fitName();
 }
 
+void TopBar::measureName()
+{
+    m_menuButton->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    const int bare = m_menuButton->sizeHint().width();
+    m_menuButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_nameWidth = m_menuButton->sizeHint().width() - bare;
+}
+
 /// The program's name makes way for what stands to be read.
 void TopBar::fitName()
 {
-    m_menuButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    if (layout()->minimumSize().width() > width())
-        m_menuButton->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    const bool isNamed = m_menuButton->toolButtonStyle() == Qt::ToolButtonTextBesideIcon;
+    const int needed = layout()->minimumSize().width() + (isNamed ? 0 : m_nameWidth);
+    m_menuButton->setToolButtonStyle(needed > width() ? Qt::ToolButtonIconOnly
+                                                      : Qt::ToolButtonTextBesideIcon);
 }
 
 void TopBar::resizeEvent(QResizeEvent *event)
@@ -230,8 +239,11 @@ void TopBar::mouseDoubleClickEvent(QMouseEvent *event)
 void TopBar::changeEvent(QEvent *event)
 {
     SkinAreaWidget::changeEvent(event);
-    if (event->type() == QEvent::StyleChange)
-        m_menuButton->setFont(skinFont(TextRole::Strong));
+    if (event->type() != QEvent::StyleChange)
+        return;
+    m_menuButton->setFont(skinFont(TextRole::Strong));
+    measureName();
+    fitName();
 }
 
 } // namespace corva

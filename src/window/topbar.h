@@ -53,6 +53,7 @@ private:
     void build();
     void showSim(const CardState &state);
     void showTime();
+    void measureName();
     void fitName();
 
     QMenu *m_menu;
@@ -69,6 +70,7 @@ private:
     IconButton *m_close;
     QTimer m_minute;
     QPoint m_pressedAt;
+    int m_nameWidth = 0; ///< what the program's name adds to its button
 };
 
 } // namespace corva

@@ -210,6 +210,10 @@ void WTMainWindow::connectServices()
         if (m_desktop)
             m_desktop->notify(questionKey, comcfg.softwareName, question, tr("Show"));
     });
+    connect(m_connector, &Connector::sigQuestionOver, this, [this] {
+        if (m_desktop)
+            m_desktop->withdraw(questionKey);
+    });
     connect(m_services, &Services::sigVolume, this, [this](const QString &sentence) {
         m_strip->say(sentence);
         if (m_desktop)

@@ -107,6 +107,7 @@ private Q_SLOTS:
         m_facts = {};
         m_messages.clear();
         m_loss.clear();
+        m_hasLeftovers = false;
 
         ConnectionProfile profile = ProfileStore::newProfile();
         profile.setText(ProfileField::Name, u"Home"_s);
@@ -126,7 +127,7 @@ private Q_SLOTS:
         m_backend = backend.get();
         parts.backend = std::move(backend);
         parts.facts = [this](const QString &) { return m_facts; };
-        parts.hasLeftovers = [] { return false; };
+        parts.hasLeftovers = [this] { return m_hasLeftovers; };
         parts.latestLoss = [this] { return m_loss; };
         m_service = std::make_unique<ConnectionService>(m_monitor.get(), m_store.get(), std::move(parts));
         connect(m_service.get(), &ConnectionService::sigMessage, this,
@@ -220,8 +221,12 @@ private Q_SLOTS:
     {
         m_backend->results[DialVerb::Recover] = {DialResult::Kind::Failed, u"Not restored."_s};
         beginDial();
+        m_loss = u"2031-05-04T03:02:00.000Z"_s;
         m_backend->say("BUSY\n--> The line is busy.\n");
-        QTRY_COMPARE(m_messages, (QStringList{u"Connection is failed!"_s, u"Not restored."_s}));
+        const QStringList told{u"Connection is failed!"_s, u"Not restored."_s};
+        QTRY_COMPARE(m_messages, told);
+        m_service->recoverLeftovers();
+        QCOMPARE(m_messages, told);
     }
 
     /// Nobody sees a box of a program that ends.
@@ -229,7 +234,7 @@ private Q_SLOTS:
     {
         beginDial();
         goUp();
-        m_loss = u"2031-05-04T03:02:01.000"_s;
+        m_loss = u"2031-05-04T03:02:01.000Z"_s;
         m_backend->results[DialVerb::Recover] = {DialResult::Kind::Failed, u"Not restored."_s};
         m_service->disconnectNow(ConnectionEnd::ByProgram);
         QTRY_COMPARE(m_service->status().state, ConnectionState::NotConnected);
@@ -237,6 +242,18 @@ private Q_SLOTS:
         for (int start = 1; start <= 2; ++start)
             m_service->recoverLeftovers();
         QCOMPARE(m_messages, QStringList{u"Recover wvdial config data failed!"_s});
+    }
+
+    void anotherFailureHidesNoLoss()
+    {
+        m_loss = u"2031-05-04T03:02:02.000Z"_s;
+        m_hasLeftovers = true;
+        m_backend->results[DialVerb::Recover] = {DialResult::Kind::Failed, u"In other hands."_s};
+        m_service->recoverLeftovers();
+        QTRY_COMPARE(m_messages, QStringList{u"In other hands."_s});
+        m_hasLeftovers = false;
+        m_service->recoverLeftovers();
+        QCOMPARE(m_messages.last(), u"Recover wvdial config data failed!"_s);
     }
 
     void cancelledAtAnyStep_data() { addRows(cancelledAtAnyStepRows); }
@@ -503,6 +520,7 @@ private:
     LinkFacts m_facts;
     QStringList m_messages;
     QString m_loss;
+    bool m_hasLeftovers = false;
     std::unique_ptr<CardMonitor> m_monitor;
     std::unique_ptr<ProfileStore> m_store;
     std::unique_ptr<ConnectionService> m_service;

@@ -177,6 +177,16 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(m_service->status().state, ConnectionState::NotConnected, patience);
     }
 
+    void endOfTheProgramHangsUp()
+    {
+        tell(R"({"command": "dial-result", "result": "silence"})");
+        QVERIFY(m_service->connectNow());
+        QTRY_VERIFY_WITH_TIMEOUT(!dialler().empty(), patience);
+        m_service.reset();
+        QVERIFY(dialler().empty());
+        QCOMPARE(etcAsText(), m_before);
+    }
+
     /// Killed at a moment at which it cannot put anything back: the next start finds dialler and files.
     void killedWhileDialling()
     {

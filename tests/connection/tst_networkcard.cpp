@@ -32,9 +32,11 @@ const Rows<QString, QByteArray, QByteArray> upAndDownRows{
     {"the standard's", u"standard"_s, "AT+CGACT=1,1", "AT+CGACT=0,1"},
 };
 
-const Rows<bool> callOfAKilledRunRows{
-    {"of this card", false},
-    {"of another card", true},
+const Rows<bool, QByteArray> callOfAKilledRunRows{
+    {"of this card", false, {}},
+    {"of this card, which tells its IMEI late", false,
+     R"({"command": "fault", "kind": "refuse", "match": "+CGSN", "count": 1})"},
+    {"of another card", true, {}},
 };
 
 // Whether the card is at the data call, or still at something else.
@@ -94,7 +96,7 @@ private Q_SLOTS:
     void callOfAKilledRun_data() { addRows(callOfAKilledRunRows); }
     void callOfAKilledRun()
     {
-        const auto &[name, isOther] = currentRow(callOfAKilledRunRows);
+        const auto &[name, isOther, fault] = currentRow(callOfAKilledRunRows);
         begin(u"wcdma"_s);
         m_service.reset();
         QTRY_VERIFY_WITH_TIMEOUT(!m_monitor->state().identity.imei.isEmpty(), patience);
@@ -103,7 +105,7 @@ private Q_SLOTS:
         m_monitor->worker().submit([call](SerialThread &link) { call->make(link); });
         QTRY_VERIFY_WITH_TIMEOUT(heard().contains("AT+JPDPACT=1,1"), patience);
         m_monitor.reset();
-        begin(u"wcdma"_s);
+        begin(u"wcdma"_s, fault);
         QTRY_VERIFY_WITH_TIMEOUT(!DataCall::isNoted(), patience);
         QCOMPARE(heard().contains("AT+JPDPACT=1,0"), !isOther);
     }
@@ -195,13 +197,15 @@ private Q_SLOTS:
     }
 
 private:
-    void begin(const QString &card)
+    void begin(const QString &card, const QByteArray &fault = {})
     {
         resetLinkGlobals();
         m_messages.clear();
         m_card = std::make_unique<cardemu::CardThread>(
             std::get<cardemu::Profile>(cardemu::Profile::builtIn(card)));
         QCOMPARE(m_card->start(basePath + u"/card"_s), QString());
+        if (!fault.isEmpty())
+            tell(fault);
         m_monitor = std::make_unique<CardMonitor>(&m_owner);
         m_store = std::make_unique<ProfileStore>(basePath + u"/Data"_s);
         ConnectionProfile profile = ProfileStore::newProfile();

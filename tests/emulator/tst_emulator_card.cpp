@@ -47,6 +47,16 @@ private Q_SLOTS:
         QCOMPARE(talk.ask("AT+CPIN?"), "+CME ERROR: SIM failure");
     }
 
+    void pinLockAndChange()
+    {
+        Talk talk;
+        QCOMPARE(talk.ask("AT+CPWD=\"SC\",\"1234\",\"5678\""), "+CME ERROR: operation not allowed");
+        QCOMPARE(talk.ask("AT+CLCK=\"SC\",1,\"9999\""), "+CME ERROR: incorrect password");
+        QCOMPARE(talk.ask("AT+CLCK=\"SC\",1,\"1234\";+CLCK=\"SC\",2"), "+CLCK: 1|OK");
+        QCOMPARE(talk.ask("AT+CPWD=\"SC\",\"1234\",\"5678\";+CLCK=\"SC\",0,\"5678\";+CLCK=\"SC\",2"),
+                 "+CLCK: 0|OK");
+    }
+
     void unusableSim_data() { addRows(unusableSimRows); }
     void unusableSim()
     {

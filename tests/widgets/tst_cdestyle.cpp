@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/commoncfg.h"
 #include "shell/globals.h"
+#include "widgets/buttonkind.h"
 #include "widgets/cdestyle.h"
 #include "widgets/skin.h"
 #include "widgets/textlabel.h"
@@ -10,7 +11,10 @@
 #include <QFocusFrame>
 #include <QHelpEvent>
 #include <QPushButton>
+#include <QScopeGuard>
+#include <QScrollBar>
 #include <QStyleFactory>
+#include <QStyleOptionSlider>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolTip>
@@ -84,6 +88,43 @@ private Q_SLOTS:
         const QImage image = button.grab().toImage();
         cmcfg.setValue(section, key, {});
         QTEST(image.pixelColor(60, 16), "color");
+    }
+
+    void aChangedSkinIsSeenAtOnce()
+    {
+        QWidget window;
+        QPushButton button(&window);
+        setButtonKind(&button, ButtonKind::Primary);
+        button.resize(80, 32);
+        window.show();
+        const auto restore = qScopeGuard([before = comcfg] {
+            comcfg = before;
+            applySkin();
+        });
+        comcfg.accent = QColor(0x80, 0x00, 0x80);
+        comcfg.window = QColor(0x10, 0x10, 0x10);
+        applySkin();
+        QCOMPARE(button.grab().toImage().pixelColor(6, 16), comcfg.accent);
+        QTRY_COMPARE(window.palette().color(QPalette::Window), comcfg.window);
+    }
+
+    void aScrollBarReachesBothEnds()
+    {
+        QScrollBar bar(Qt::Vertical);
+        bar.resize(12, 200);
+        QStyleOptionSlider option;
+        option.initFrom(&bar);
+        option.orientation = Qt::Vertical;
+        option.maximum = 100;
+        option.pageStep = 10;
+        const auto handle = [&](int position) {
+            option.sliderPosition = position;
+            return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider,
+                                               &bar);
+        };
+        QCOMPARE(handle(0).top(), 0);
+        QCOMPARE(handle(100).bottom(), 199);
+        QVERIFY(handle(50).height() >= 32);
     }
 
     void theFocusRingStandsOutsideOfTheControl()

@@ -227,6 +227,24 @@ private Q_SLOTS:
         QCOMPARE(fakeconnection::takeCalls(), QStringList{u"connect"_s});
     }
 
+    void aWaitingQuestionExpires()
+    {
+        open({profile(u"Mine"_s)});
+        fakeconnection::setObstacle(ConnectObstacle::Roaming);
+        QSignalSpy over(m_window->findChild<Connector *>(), &Connector::sigQuestionOver);
+        m_window->hide();
+        fakeconnection::askAboutRoaming();
+        fakeconnection::setObstacle(ConnectObstacle::None);
+        fakecard::put(fakecard::namedState(u"searching"_s)); // for a moment
+        QCOMPARE(over.size(), 0);
+        fakecard::put(fakecard::registeredCard());
+        QCOMPARE(over.size(), 1);
+        fakeconnection::setObstacle(ConnectObstacle::Roaming); // of a trip that nobody asked about
+        m_window->show();
+        QCoreApplication::processEvents();
+        QVERIFY(!m_window->findChild<QMessageBox *>());
+    }
+
     void aBrokenDefaultIsNotReplacedSilently()
     {
         const QString path = basePath + u"/Data/defaultRecord.conf"_s;

@@ -293,6 +293,31 @@ private Q_SLOTS:
         }
     }
 
+    void activitiesStandInTheStripWhileTheyRun()
+    {
+        m_window->show();
+        fakecard::put(fakecard::registeredCard());
+        auto *monitor = m_window->findChild<CardMonitor *>();
+        Q_EMIT monitor->sigActivity(u"Identifying the card"_s);
+        QCOMPARE(said(m_window.get(), u"statusText"_s), u"Identifying the card"_s);
+        Q_EMIT monitor->sigActivity({});
+        QCOMPARE(said(m_window.get(), u"statusText"_s), u"Testnetz, HSPA"_s);
+    }
+
+    void pagesAreInTheOrderOfTheRegistry()
+    {
+        PageRegistry registry;
+        const auto add = [&](const QString &id, int order, bool isAtFoot = false) {
+            return registry.add({{id, id, u"card"_s, order, isAtFoot}, {}});
+        };
+        QVERIFY(add(u"settings"_s, 1, true) && add(u"second"_s, 20) && add(u"first"_s, 10));
+        QVERIFY(!add(u"second"_s, 5));
+        QStringList ids;
+        for (const PageEntry &page : registry.entries())
+            ids += page.info.id;
+        QCOMPARE(ids, QStringList({u"first"_s, u"second"_s, u"settings"_s}));
+    }
+
     void theNavigationFoldsInANarrowWindow()
     {
         m_window->show();

@@ -51,6 +51,7 @@ Connector::Connector(CardMonitor *monitor, ConnectionService *connection, Profil
     connect(m_connection, &ConnectionService::sigRoamingAsked, this, &Connector::connectAbroad);
     m_window->installEventFilter(this);
     connect(m_monitor, &CardMonitor::sigStateChanged, this, &Connector::searchProposals);
+    connect(m_monitor, &CardMonitor::sigStateChanged, this, &Connector::dropOutdatedQuestion);
     searchProposals();
 }
 
@@ -76,6 +77,7 @@ void Connector::disconnectNow(ConnectionEnd why)
 
 void Connector::connectNow()
 {
+    dropWaitingQuestion();
     if (isActive() || m_dialog)
         return;
     m_mayRoam = false;
@@ -241,11 +243,30 @@ void Connector::askForCredentials()
 /// No box comes out of a window that is hidden in the tray.
 void Connector::connectAbroad()
 {
-    m_asksWhenShown = !m_window->isVisible();
-    if (m_asksWhenShown)
+    if (!m_window->isVisible()) {
+        m_asksWhenShown = true;
         Q_EMIT sigQuestionWaits(roamingQuestion());
-    else if (m_connection->obstacle() == ConnectObstacle::Roaming)
+        return;
+    }
+    dropWaitingQuestion();
+    if (m_connection->obstacle() == ConnectObstacle::Roaming)
         connectNow();
+}
+
+void Connector::dropWaitingQuestion()
+{
+    if (std::exchange(m_asksWhenShown, false))
+        Q_EMIT sigQuestionOver();
+}
+
+/// A card that has no network for a moment is not asked about a second time: its question goes on waiting.
+void Connector::dropOutdatedQuestion()
+{
+    const ConnectObstacle obstacle = m_connection->obstacle();
+    const Registration registration = m_monitor->state().registration;
+    const bool hasNetwork = registration == Registration::Home || registration == Registration::Roaming;
+    if (obstacle == ConnectObstacle::CardGone || (obstacle == ConnectObstacle::None && hasNetwork))
+        dropWaitingQuestion();
 }
 
 bool Connector::eventFilter(QObject *watched, QEvent *event)

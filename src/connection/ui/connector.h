@@ -53,6 +53,8 @@ Q_SIGNALS:
     void sigEditWanted();
     /// A question that waits until the window is shown.
     void sigQuestionWaits(const QString &question);
+    /// It waits no longer: it is asked now, or there is nothing to ask any more.
+    void sigQuestionOver();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -66,6 +68,8 @@ private:
     void useProfile(const QString &name);
     void askForCredentials();
     void connectAbroad();
+    void dropWaitingQuestion();
+    void dropOutdatedQuestion();
     void askAboutRoaming(const std::function<void()> &goOn);
     void dial(const std::optional<DialCredentials> &credentials = std::nullopt);
     void open(QDialog *dialog);
