@@ -15,6 +15,7 @@
 #include "shell/globals.h"
 #include "shell/logging.h"
 #include "shell/safefile.h"
+#include "shell/whendone.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -273,6 +274,8 @@ void ConnectionService::Private::isOver(const LinkOutcome &outcome)
     const bool wasUp = q->m_status.since.isValid();
     link->deleteLater();
     link = nullptr;
+    if (DataCall::isNoted()) // the card has not said that it has ended the call
+        knownImei.reset();
     tellOrRedial(outcome, wasUp);
 }
 
@@ -374,6 +377,7 @@ void ConnectionService::Private::endUndialled()
 {
     const bool asks = isRoaming(monitor->state()) && !given.mayRoam;
     endRow();
+    update([](ConnectionStatus &) {}); // who is asked or told sees that nothing is under way
     tellUntold();
     if (asks)
         Q_EMIT q->sigRoamingAsked();
@@ -437,8 +441,14 @@ void ConnectionService::Private::endLeftDataCall(const CardState &card)
     const bool isKnown = card.modemReady && !(imei.isEmpty() && card.identity.model.isEmpty());
     const auto known = isKnown ? std::optional(imei) : std::nullopt;
     const bool isNews = known != std::exchange(knownImei, known);
-    if (known && isNews && !link && DataCall::isNoted())
-        monitor->worker().submit([imei](SerialThread &port) { DataCall::endNoted(port, imei); });
+    if (!known || !isNews || link || !DataCall::isNoted())
+        return;
+    const auto job =
+        monitor->worker().submit([imei](SerialThread &port) { return DataCall::endNoted(port, imei); });
+    whenDone(job, q, [this](std::optional<bool> wasAnswered) {
+        if (!wasAnswered.value_or(false))
+            knownImei.reset(); // again with the card's next sign of life
+    });
 }
 
 /// Dials once for each time that a card becomes ready. Abroad it would cost: there the person is asked, once

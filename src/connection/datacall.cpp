@@ -7,6 +7,7 @@
 #include "shell/safefile.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -31,6 +32,7 @@ DataCall::Answer DataCall::make(SerialThread &link)
 {
     if (m_stage == Stage::Abandoned)
         return {};
+    QFile::remove(notePath()); // never through a link that somebody left there
     if (QString why; !writeFileSafely(notePath(), m_imei.toUtf8(), &why))
         qCWarning(lcConnection).noquote() << logTime() + why;
     Answer answer{Activation::Maker, link.setDataCall(contextId, true)};
@@ -50,30 +52,33 @@ bool DataCall::abandon()
     return m_stage == Stage::Abandoned;
 }
 
-void DataCall::end(SerialThread &link, Activation by)
+bool DataCall::end(SerialThread &link, Activation by)
 {
     int result = by == Activation::Standard ? refusedPlainly : link.setDataCall(contextId, false);
     if (result == refusedPlainly)
         result = link.activatePdpContext(contextId, false);
-    if (result != noAnswer)
-        QFile::remove(notePath());
+    if (result == noAnswer)
+        return false;
+    QFile::remove(notePath());
+    return true;
 }
 
 bool DataCall::isNoted()
 {
-    return QFile::exists(notePath());
+    return QFileInfo(notePath()).isFile();
 }
 
-void DataCall::endNoted(SerialThread &link, const QString &imei)
+bool DataCall::endNoted(SerialThread &link, const QString &imei)
 {
     if (!isNoted())
-        return; // a connection has come and gone meanwhile
+        return true; // a connection has come and gone meanwhile
     const QByteArray noted = readAtMost(notePath(), longestImei);
     if (noted.isEmpty() ||
         noted == imei.toUtf8()) // it may have been asked for before the card said who it is
-        end(link, Activation::None);
-    else if (!imei.isEmpty()) // a card that does not say who it is may be the noted one yet
+        return end(link, Activation::None);
+    if (!imei.isEmpty()) // a card that does not say who it is may be the noted one yet
         QFile::remove(notePath());
+    return true;
 }
 
 } // namespace corva

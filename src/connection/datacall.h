@@ -35,14 +35,14 @@ public:
     bool abandon();
 
     /// `by`: how it was made. None while that is not known: then the maker's command comes first, as in the
-    /// making.
-    static void end(SerialThread &link, Activation by);
+    /// making. False: the card did not answer.
+    static bool end(SerialThread &link, Activation by);
 
     /// Whether an earlier run noted a call of a card. Any thread.
     static bool isNoted();
     /// Ends the call that is noted of this card; one of another card went with that card. A card without an
-    /// `imei` is that of a note without one, and leaves the others.
-    static void endNoted(SerialThread &link, const QString &imei);
+    /// `imei` is that of a note without one, and leaves the others. False: the card did not answer.
+    static bool endNoted(SerialThread &link, const QString &imei);
 
 private:
     enum class Stage { Waiting, Answered, Abandoned };

@@ -265,6 +265,8 @@ void Connector::dropOutdatedQuestion()
     const ConnectObstacle obstacle = m_connection->obstacle();
     const Registration registration = m_monitor->state().registration;
     const bool hasNetwork = registration == Registration::Home || registration == Registration::Roaming;
+    if (obstacle == ConnectObstacle::CardGone)
+        m_messages->withdraw(roamingQuestion());
     if (obstacle == ConnectObstacle::CardGone || (obstacle == ConnectObstacle::None && hasNetwork))
         dropWaitingQuestion();
 }
