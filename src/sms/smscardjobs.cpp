@@ -184,13 +184,6 @@ bool isCardGone(const SerialThread &link)
     return link.isPortLost() || link.descriptor() < 0;
 }
 
-QString subscriberOf(SerialThread &link)
-{
-    QByteArray text(SerialThread::replyBufferSize, '\0');
-    link.getCIMI(text.data());
-    return parseImsi(text.constData()).valueOr({});
-}
-
 /// What was chosen when the part was written holds, whatever the settings say by now.
 ReportWish wishOf(const OutgoingPart &part)
 {
@@ -225,7 +218,6 @@ Preparation prepare(SerialThread &link)
         made.fault = QCoreApplication::translate("SmsJobs", "New messages will not be announced: %1")
                          .arg(whyFailed(link));
     made.serviceCentre = readServiceCentre(link);
-    made.subscriber = subscriberOf(link);
     return made;
 }
 
