@@ -2,7 +2,6 @@
 #include "sms/smscardjobs.h"
 
 #include "link/serialthread.h"
-#include "link/statusparsers.h"
 #include "shell/commoncfg.h"
 #include "shell/logging.h"
 #include "sms/pduidentity.h"
