@@ -121,6 +121,15 @@ void CardPlaces::forget()
         change(place, {});
 }
 
+void CardPlaces::setOwners(const QString &subscriber, const QString &card)
+{
+    m_owners = {subscriber, card};
+    for (const MessagePlace place : {MessagePlace::Sim, MessagePlace::Card}) {
+        if (const QString &owner = m_owners[slot(place)]; state(place).isRead && !owner.isEmpty())
+            m_store->setMirrorOwner(place, owner);
+    }
+}
+
 const PlaceState &CardPlaces::state(MessagePlace place) const
 {
     static const PlaceState computer{false, true, {}, {}};

@@ -38,8 +38,8 @@ public:
     void forget();
     void setReady(bool isReady) { m_isReady = isReady; }
     void setServiceCentre(const QString &number) { m_serviceCentre = number; }
-    /// Whose SIM it is, and which card, as digits; empty when not known.
-    void setOwners(const QString &subscriber, const QString &card) { m_owners = {subscriber, card}; }
+    /// Whose SIM it is, and which card, as digits; empty when not known. Also of what was listed already.
+    void setOwners(const QString &subscriber, const QString &card);
 
     void refresh(MessagePlace place);
     /// The card announced a message under this index, -1 when not known: the next listing meets it unseen,

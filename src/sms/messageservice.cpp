@@ -98,6 +98,7 @@ public:
     void takeCard(const CardState &card);
     void prepare();
     void prepared(const smsjobs::Preparation &made);
+    void takeIdentity(const CardIdentity &identity);
     void announceUnread();
     void setServiceCentre(const QString &number);
     void sendChannels();
@@ -111,6 +112,7 @@ public:
     SendQueue queue;
     NameLookup lookup;
     QString serviceCentre;
+    QString subscriber;               ///< for whose SIM the queue goes out; empty when not known
     std::deque<QStringList> removals; ///< what went into the deleted box together, the last one last
     QTimer again;                     ///< to the next try of preparing the card
     QTimer looking;                   ///< to the next look at what waits for its report
@@ -178,8 +180,14 @@ void MessageService::Private::connectParts()
 void MessageService::Private::takeCard(const CardState &card)
 {
     const bool isNow = takesMessages(card) && store->isLoaded();
-    if (isNow == isReady || hasEnded)
+    if (hasEnded)
         return;
+    if (isNow == isReady) {
+        // Some SIMs tell whose they are only a while after they are ready.
+        if (isPrepared && !card.identity.imsi.isEmpty() && card.identity.imsi != subscriber)
+            takeIdentity(card.identity);
+        return;
+    }
     isReady = isNow;
     isPrepared = false;
     tries = 0;
@@ -220,18 +228,27 @@ void MessageService::Private::prepared(const smsjobs::Preparation &made)
     if (!made.fault.isEmpty())
         Q_EMIT q->sigNotice(made.fault);
     isPrepared = made.isReady;
-    const bool isUnknown = made.isReady && made.subscriber.isEmpty(); // and what is queued waits for that
-    if ((!made.fault.isEmpty() || isUnknown) && ++tries < mostTries)
+    if (made.fault.isEmpty())
+        tries = 0;
+    else if (++tries < mostTries)
         again.start(pauseBetweenTries);
     if (!made.isReady)
         return;
     setServiceCentre(made.serviceCentre);
-    places.setOwners(made.subscriber, monitor->state().identity.imei);
+    const CardIdentity identity = monitor->state().identity; // read before the card was said to be ready
+    places.setOwners(identity.imsi, identity.imei);
     places.setReady(true);
     Q_EMIT q->sigCardReady();
     if (cmcfg.getNumber(u"function"_s, u"cell_board_enabled"_s) == 1 && !q->broadcastChannels().isEmpty())
         sendChannels();
-    queue.begin(made.subscriber);
+    takeIdentity(identity);
+}
+
+void MessageService::Private::takeIdentity(const CardIdentity &identity)
+{
+    subscriber = identity.imsi;
+    places.setOwners(identity.imsi, identity.imei);
+    queue.begin(subscriber);
 }
 
 /// Of all places together, as soon as all are known: the card's listings have ended, or there is no card. One
@@ -392,8 +409,10 @@ const SendProgress &MessageService::sending() const
 
 void MessageService::refreshPlace(MessagePlace place)
 {
-    if (d->isReady && !d->isPrepared)
+    if (d->isReady && !d->isPrepared) {
+        d->tries = 0;
         d->prepare();
+    }
     d->places.refresh(place);
 }
 

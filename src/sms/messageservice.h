@@ -102,7 +102,7 @@ public:
     /// Sends again what failed of these messages, whole ones and single parts, and with the SIM that is there
     /// what waits for another one.
     void retry(const QStringList &ids);
-    /// Whether it waits for a SIM that is not in the card.
+    /// Whether it waits for a SIM that is not in the card, or not known to be.
     bool waitsForOtherSim(const Message &message) const;
     const SendProgress &sending() const;
 

@@ -201,6 +201,17 @@ QFuture<bool> MessageStore::replaceMirror(MessagePlace place, std::vector<Messag
     return d->commit();
 }
 
+QFuture<bool> MessageStore::setMirrorOwner(MessagePlace place, const QString &owner)
+{
+    if (place == MessagePlace::Computer)
+        return QtFuture::makeReadyFuture(false);
+    if (!isLoaded())
+        return d->whenLoaded([this, place, owner] { setMirrorOwner(place, owner); });
+    if (mirrorOwner(place) != owner)
+        d->setMirrorOwner(place, owner);
+    return d->commit();
+}
+
 QString MessageStore::mirrorOwner(MessagePlace place) const
 {
     const PlaceOwners owners = d->mirrorFile.owners();

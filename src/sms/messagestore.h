@@ -90,6 +90,8 @@ public:
     /// Replaces what is known of the SIM or the card by a new listing. What was there keeps its id. `owner`:
     /// whose SIM, or which card it is, as digits; empty when not known.
     QFuture<bool> replaceMirror(MessagePlace place, std::vector<Message> messages, const QString &owner = {});
+    /// When it is known only behind the listing.
+    QFuture<bool> setMirrorOwner(MessagePlace place, const QString &owner);
     /// That of the last listing, also of an earlier run.
     QString mirrorOwner(MessagePlace place) const;
     /// Whether a received part of it is on the computer or was in the last listing.

@@ -7,8 +7,6 @@
 #include "sms/messagestore.h"
 #include "sms/queuedparts.h"
 
-#include <QTimer>
-
 #include <algorithm>
 #include <chrono>
 #include <iterator>
@@ -23,6 +21,7 @@ namespace
 {
 
 constexpr auto pauseWithoutCard = 2s;
+constexpr auto patienceForSubscriber = 20s; ///< a SIM that has just started tells it only after a while
 
 /// What was on its way when the program ended may have gone out.
 void leaveUnsure(Message &message)
@@ -51,6 +50,9 @@ std::vector<smsjobs::OutgoingPart> draftParts(const Message &message, const QStr
 SendQueue::SendQueue(CardWorker &worker, MessageStore *store, QObject *parent)
     : QObject(parent), m_worker(worker), m_store(store)
 {
+    m_heldBack.setSingleShot(true);
+    m_heldBack.setInterval(patienceForSubscriber);
+    connect(&m_heldBack, &QTimer::timeout, this, &SendQueue::tellOfHeldBack);
 }
 
 void SendQueue::resume()
@@ -71,17 +73,26 @@ void SendQueue::begin(const QString &subscriber)
 {
     m_isSubscriberThere = !subscriber.isEmpty();
     const bool isOther = m_isSubscriberThere && subscriber != m_subscriber;
-    // With another SIM it may cost somebody else, and name another sender.
-    const bool hasGivenUp = isOther && !m_subscriber.isEmpty() && !m_waiting.empty();
-    if (hasGivenUp)
-        giveUpWaiting();
     if (m_isSubscriberThere)
         m_subscriber = subscriber;
-    takeUpLeft();
-    if (hasGivenUp || (isOther && !m_left.isEmpty()))
-        Q_EMIT sigRefused(tr("There is another SIM in the card. What waited was not sent."));
     m_isReady = true;
+    const bool hasGivenUp = m_isSubscriberThere && giveUpOthers();
+    for (const std::deque<QString> waiting = m_waiting; const QString &id : waiting)
+        bind(id);
+    takeUpLeft();
+    if (hasGivenUp)
+        sayOtherSim();
+    else if (isOther)
+        tellOfHeldBack();
+    else if (!m_isSubscriberThere)
+        m_heldBack.start();
     pump();
+}
+
+void SendQueue::pause()
+{
+    m_isReady = false;
+    m_heldBack.stop();
 }
 
 bool SendQueue::add(const OutgoingSms &sms)
@@ -96,7 +107,7 @@ bool SendQueue::add(const OutgoingSms &sms)
     message.isRead = true;
     message.total = int(split.parts.size());
     message.asksReport = sms.asksReport;
-    message.subscriber = m_subscriber;
+    message.subscriber = subscriberThere();
     for (int recipient = 0; recipient < int(sms.recipients.size()); ++recipient)
         std::ranges::copy(partsFor(recipient, split, sms.asksReport), std::back_inserter(message.parts));
     if (message.total > 1)
@@ -112,8 +123,10 @@ bool SendQueue::add(const OutgoingSms &sms)
         }
         // Before the store was loaded it gave no ids.
         const QStringList waiting = ids.isEmpty() ? m_store->ids(MessageBox::Outbox) : ids;
-        for (const QString &id : waiting)
-            enqueue(id);
+        for (const QString &id : waiting) {
+            if (!m_left.contains(id))
+                enqueue(id);
+        }
         pump();
     });
     return true;
@@ -136,7 +149,7 @@ void SendQueue::retry(const QStringList &ids)
         const int before = countOf(*message, DeliveryState::Queued);
         m_store->change(id, [this](Message &changed) {
             queueAgain(changed);
-            changed.subscriber = m_subscriber;
+            changed.subscriber = subscriberThere();
         });
         m_left.removeOne(id);
         if (std::ranges::find(m_waiting, id) != m_waiting.end()) { // more of what is counted already
@@ -157,6 +170,16 @@ void SendQueue::enqueue(const QString &id)
         return;
     m_waiting.push_back(id);
     m_progress.totalParts += parts;
+    bind(id);
+}
+
+/// What was to go out with any SIM stays with the one that is there.
+void SendQueue::bind(const QString &id)
+{
+    const auto message = m_store->find(id);
+    if (m_isReady && m_isSubscriberThere && message && message->subscriber.isEmpty() &&
+        countOf(*message, DeliveryState::Queued) > 0)
+        m_store->change(id, [this](Message &changed) { changed.subscriber = m_subscriber; });
 }
 
 bool SendQueue::mayGoOut(const Message &message) const
@@ -169,19 +192,51 @@ void SendQueue::leaveWaiting(const Message &message)
     if (!m_left.contains(message.id))
         m_left += message.id;
     m_progress.totalParts -= countOf(message, DeliveryState::Queued);
+    if (!m_heldBack.isActive())
+        m_heldBack.start();
 }
 
 bool SendQueue::waitsForOtherSim(const Message &message) const
 {
-    return message.box == MessageBox::Outbox && countOf(message, DeliveryState::Queued) > 0 &&
-           m_isSubscriberThere && !mayGoOut(message);
+    return message.box == MessageBox::Outbox && countOf(message, DeliveryState::Queued) > 0 && m_isReady &&
+           !mayGoOut(message);
 }
 
-/// What was left and may go out now; nothing as long as it is not known whose SIM it is.
+/// What this run queued for another SIM: with this one it may cost somebody else, and name another sender.
+bool SendQueue::giveUpOthers()
+{
+    std::deque<QString> kept;
+    QStringList others;
+    for (const QString &id : std::exchange(m_waiting, {})) {
+        const auto message = m_store->find(id);
+        if (message && !mayGoOut(*message))
+            others += id;
+        else
+            kept.push_back(id);
+    }
+    m_waiting = std::move(kept);
+    for (const QString &id : std::as_const(others))
+        giveUp(id);
+    return !others.isEmpty();
+}
+
+void SendQueue::sayOtherSim()
+{
+    m_heldBack.stop();
+    Q_EMIT sigRefused(tr("There is another SIM in the card. What waited was not sent."));
+}
+
+/// Says so when something waits that does not go out with the SIM that is there.
+void SendQueue::tellOfHeldBack()
+{
+    const std::vector<Message> left = m_store->messages(m_left);
+    if (std::ranges::any_of(left, [this](const Message &each) { return waitsForOtherSim(each); }))
+        sayOtherSim();
+}
+
+/// What was left and may go out now.
 void SendQueue::takeUpLeft()
 {
-    if (!m_isSubscriberThere)
-        return;
     for (const QString &id : std::exchange(m_left, {})) {
         const auto message = m_store->find(id);
         if (message && !mayGoOut(*message) && countOf(*message, DeliveryState::Queued) > 0)
@@ -214,7 +269,7 @@ void SendQueue::pump()
     const Target target = m_isReady ? next() : Target();
     if (target.part >= 0)
         sendOne(target);
-    else if (m_waiting.empty() && m_progress.totalParts > 0)
+    else if (m_waiting.empty() && (m_progress.totalParts > 0 || m_progress.isActive))
         endRun();
 }
 
@@ -316,19 +371,23 @@ void SendQueue::goOnWhen(const QFuture<bool> &stored)
     });
 }
 
+void SendQueue::giveUp(const QString &id)
+{
+    m_store->change(id, [&](Message &message) {
+        for (MessagePart &part : message.parts) {
+            if (part.state == DeliveryState::Queued) {
+                m_failed.insert({id, part.recipient});
+                part.state = DeliveryState::Failed;
+                ++m_progress.sentParts;
+            }
+        }
+    });
+}
+
 void SendQueue::giveUpWaiting()
 {
-    for (const QString &id : std::exchange(m_waiting, {})) {
-        m_store->change(id, [&](Message &message) {
-            for (MessagePart &part : message.parts) {
-                if (part.state == DeliveryState::Queued) {
-                    m_failed.insert({id, part.recipient});
-                    part.state = DeliveryState::Failed;
-                    ++m_progress.sentParts;
-                }
-            }
-        });
-    }
+    for (const QString &id : std::exchange(m_waiting, {}))
+        giveUp(id);
 }
 
 void SendQueue::endRun()

@@ -6,6 +6,7 @@
 
 #include <QFuture>
 #include <QObject>
+#include <QTimer>
 #include <deque>
 #include <set>
 
@@ -23,7 +24,7 @@ std::vector<smsjobs::OutgoingPart> draftParts(const Message &message, const QStr
 /// answered for, may have gone out: it is never sent again unasked, and does not hold up those behind it.
 /// What waits while the card goes is sent when it is back with the same SIM. What an earlier run left goes
 /// out with the SIM that it was queued for, and waits for as long as another one, or none that is known, is
-/// there.
+/// there. What is bound to no SIM goes out with any, and is bound to that as soon as it is known.
 class SendQueue final : public QObject
 {
     Q_OBJECT
@@ -34,9 +35,9 @@ public:
     /// After the store was read: takes up what an earlier run left.
     void resume();
     /// The card takes messages from now on, with the SIM of this subscriber, the IMSI, empty when not known.
-    /// Nothing goes out before.
+    /// Nothing goes out before. Again when that becomes known.
     void begin(const QString &subscriber);
-    void pause() { m_isReady = false; }
+    void pause();
     void setServiceCentre(const QString &number) { m_serviceCentre = number; }
 
     /// False for a text that takes more parts than a message can have.
@@ -47,7 +48,8 @@ public:
     /// SIM that is there also what waits for another one.
     void retry(const QStringList &ids);
 
-    /// Whether it goes out unasked only once another SIM is in the card.
+    /// Whether the card is there, and it goes out unasked only once another SIM, or one that is known, is in
+    /// it.
     bool waitsForOtherSim(const Message &message) const;
 
     const SendProgress &progress() const { return m_progress; }
@@ -65,9 +67,14 @@ private:
     };
 
     void enqueue(const QString &id);
+    QString subscriberThere() const { return m_isSubscriberThere ? m_subscriber : QString(); }
     bool mayGoOut(const Message &message) const;
+    void bind(const QString &id);
     void leaveWaiting(const Message &message);
     void takeUpLeft();
+    bool giveUpOthers();
+    void sayOtherSim();
+    void tellOfHeldBack();
     void pump();
     Target next();
     void sendOne(const Target &target);
@@ -76,6 +83,7 @@ private:
     void putBack(const Target &target);
     void count(const Message &before, const Target &target, const smsjobs::SentPart &sent);
     void goOnWhen(const QFuture<bool> &stored);
+    void giveUp(const QString &id);
     void giveUpWaiting();
     void endRun();
     void tell();
@@ -83,8 +91,9 @@ private:
     CardWorker &m_worker;
     MessageStore *m_store;
     QString m_serviceCentre;
-    QString m_subscriber;                       ///< for whose SIM the waiting ones were begun
-    bool m_isSubscriberThere = false;           ///< the card has that SIM, as far as it told
+    QString m_subscriber;                       ///< of the last SIM that was known
+    bool m_isSubscriberThere = false;           ///< the card has that SIM, or had it when it went
+    QTimer m_heldBack;                          ///< until the person is told of what waits for its SIM
     std::deque<QString> m_waiting;              ///< ids, the oldest first
     QStringList m_left;                         ///< the same of what waits for its SIM
     std::set<std::pair<QString, int>> m_sent;   ///< message and recipient of this run

@@ -2,7 +2,6 @@
 #include "sms/smscardjobs.h"
 
 #include "link/serialthread.h"
-#include "link/statusparsers.h"
 #include "shell/commoncfg.h"
 #include "shell/logging.h"
 #include "sms/pduidentity.h"
@@ -184,13 +183,6 @@ bool isCardGone(const SerialThread &link)
     return link.isPortLost() || link.descriptor() < 0;
 }
 
-QString subscriberOf(SerialThread &link)
-{
-    QByteArray text(SerialThread::replyBufferSize, '\0');
-    link.getCIMI(text.data());
-    return parseImsi(text.constData()).valueOr({});
-}
-
 /// What was chosen when the part was written holds, whatever the settings say by now.
 ReportWish wishOf(const OutgoingPart &part)
 {
@@ -225,7 +217,6 @@ Preparation prepare(SerialThread &link)
         made.fault = QCoreApplication::translate("SmsJobs", "New messages will not be announced: %1")
                          .arg(whyFailed(link));
     made.serviceCentre = readServiceCentre(link);
-    made.subscriber = subscriberOf(link);
     return made;
 }
 

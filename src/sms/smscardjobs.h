@@ -22,8 +22,7 @@ namespace corva::smsjobs
 struct Preparation {
     bool isReady = false; ///< messages travel as PDUs
     QString serviceCentre;
-    QString subscriber; ///< whose SIM it is, as digits; empty when it does not say
-    QString fault;      ///< a sentence, when new messages will not be announced
+    QString fault; ///< a sentence, when new messages will not be announced
 };
 Preparation prepare(SerialThread &link);
 

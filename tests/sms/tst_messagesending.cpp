@@ -129,13 +129,22 @@ private Q_SLOTS:
                waiting(u"444"_s, DeliveryState::Queued, u"262019876543210"_s)});
         tell(R"({"command": "fault", "kind": "refuse", "match": "+CIMI", "count": 0})");
         begin();
-        QCOMPARE(sent(), 0); // whose SIM it is is not known
+        m_service->send({{u"555"_s}, u"now"_s, false, {}});
+        // Whose SIM it is is not known: what is bound to one waits, nothing else does.
+        SOON_IS(recipients(MessageBox::Sent), (QStringList{u"555"_s, u"111"_s}));
+        const auto ofBoth = m_store->messages(m_store->ids(MessageBox::Outbox));
+        QCOMPARE(std::ranges::count_if(
+                     ofBoth, [this](const Message &each) { return m_service->waitsForOtherSim(each); }),
+                 2);
+        QVERIFY(!says(u"There is another SIM in the card."_s)); // it may tell yet
+        QSignalSpy ready(m_service.get(), &MessageService::sigCardReady);
         tell(R"({"command": "clear"})");
-        set("newsmsLocation", 1); // which has the card made ready anew
-        SOON_IS(recipients(MessageBox::Sent), (QStringList{u"333"_s, u"111"_s}));
+        SOON_IS(recipients(MessageBox::Sent), (QStringList{u"333"_s, u"555"_s, u"111"_s}));
+        QCOMPARE(ready.size(), 0);
+        QCOMPARE(m_store->mirrorOwner(MessagePlace::Sim), here);
         QVERIFY(says(u"There is another SIM in the card."_s));
         QCOMPARE(recipients(MessageBox::Outbox), (QStringList{u"444"_s, u"222"_s}));
-        QCOMPARE(sent(), 2); // 222 may have gone out before
+        QCOMPARE(sent(), 3); // 222 may have gone out before
         for (const Message &message : m_store->messages(m_store->ids(MessageBox::Outbox)))
             QCOMPARE(message.state() == DeliveryState::Queued, message.recipients == QStringList(u"444"_s));
     }
@@ -190,6 +199,25 @@ private Q_SLOTS:
         m_service->retry({only(MessageBox::Outbox).id});
         SOON_IS(only(MessageBox::Sent).parts.size(), 3U);
         QCOMPARE(sent(), 3);
+    }
+
+    void backWithASimThatDoesNotTellWhoseItIs()
+    {
+        tell(R"({"command": "sms-network", "delay": 60000})");
+        begin();
+        m_service->send({{u"10086"_s}, QString(400, u'a'), false, {}});
+        SOON(hears(u"0500030"_s));
+        tell(R"({"command": "unplug"})");
+        SOON_IS(only(MessageBox::Outbox).parts[0].state, DeliveryState::Unsure);
+        tell(R"({"command": "sms-network", "delay": 0})");
+        tell(R"({"command": "fault", "kind": "refuse", "match": "+CIMI", "count": 0})");
+        tell(R"({"command": "plug"})");
+        SOON(m_service->waitsForOtherSim(only(MessageBox::Outbox)));
+        SOON(!m_service->sending().isActive);
+        SOON(says(u"There is another SIM in the card."_s));
+        QCOMPARE(sent(), 0);
+        m_service->retry({only(MessageBox::Outbox).id});
+        SOON_IS(only(MessageBox::Sent).parts.size(), 3U);
     }
 
     void aServiceCentreThatIsTooLong()

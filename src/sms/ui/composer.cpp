@@ -270,9 +270,7 @@ void Composer::send()
 
 void Composer::discard()
 {
-    m_draft.flush();
-    const QString draft = m_draft.id();
-    m_draft.release();
+    const QString draft = m_draft.discard();
     if (!draft.isEmpty())
         Q_EMIT sigDiscarded(draft);
     Q_EMIT sigClosed();

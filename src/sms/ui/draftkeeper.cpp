@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sms/ui/draftkeeper.h"
 
+#include "sms/messagetable.h"
+
 #include <chrono>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -76,8 +79,8 @@ void DraftKeeper::flush()
 {
     if (!m_store)
         return;
-    if (m_content != m_stored && !m_store->isLoaded())
-        m_store->flush(); // waits until it is read: there may be no later time
+    if (m_content != m_stored && !m_content.isEmpty() && !m_store->isLoaded())
+        handOver(MessageBox::Drafts); // there may be no later time
     save();
     removeEmpty();
 }
@@ -90,11 +93,36 @@ void DraftKeeper::release()
     m_content = m_stored = {};
 }
 
+QString DraftKeeper::discard()
+{
+    flush();
+    if (m_store && !m_id.isEmpty() && !m_store->isLoaded()) {
+        handOver(MessageBox::Deleted); // nobody finds it by its id before
+        m_id.clear();
+    }
+    const QString id = m_id;
+    release();
+    return id;
+}
+
+/// Has a store that is still being read take the draft behind that, in the place of what it was given before.
+void DraftKeeper::handOver(MessageBox box)
+{
+    Message draft = newDraft();
+    draft.box = box;
+    draft.deletedFrom = MessageBox::Drafts;
+    draft.id = newMessageId();
+    put(m_content, draft);
+    const QString former = std::exchange(m_id, draft.id);
+    m_store->replace(former.isEmpty() ? QStringList() : QStringList(former), {draft});
+    m_stored = m_content;
+}
+
 void DraftKeeper::save()
 {
     m_soon.stop();
     m_latest.stop();
-    // Before the store is loaded it gives no ids: this is called again then.
+    // What is changed before the store is loaded is not: this is called again then.
     if (m_content == m_stored || !m_store->isLoaded() || (m_id.isEmpty() && m_content.isEmpty()))
         return;
     if (m_id.isEmpty()) {
@@ -111,7 +139,7 @@ void DraftKeeper::removeEmpty()
 {
     if (!m_content.isEmpty() || m_id.isEmpty())
         return;
-    m_store->purge({m_id});
+    m_store->replace({m_id}, {}); // in its turn: it may be given to the store and not be there yet
     release();
 }
 

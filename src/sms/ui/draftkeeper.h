@@ -31,15 +31,18 @@ public:
     /// Begins with a draft that is there, or with none: then nothing is stored until it is changed.
     void begin(const QString &id, const Content &content);
     void setContent(const Content &content);
-    /// Stores what is not stored yet. An empty draft goes away.
+    /// Stores what is not stored yet, or has the store do so once it is read. An empty draft goes away.
     void flush();
     /// Forgets the draft without touching what is stored.
     void release();
-    /// Empty while nothing is stored.
+    /// Gives the draft up, to be deleted by whoever asked. Its id, or none when there is nothing left to do.
+    QString discard();
+    /// Empty while nothing is stored, or given to be.
     const QString &id() const { return m_id; }
 
 private:
     void save();
+    void handOver(MessageBox box);
     void removeEmpty();
 
     QPointer<MessageStore> m_store; ///< may be gone before the window

@@ -94,6 +94,7 @@ MessageActions::MessageActions(MessageService *service, MessageQueue *messages, 
     m_following.setInterval(0);
     connect(&m_following, &QTimer::timeout, this, &MessageActions::follow);
     connect(service->store(), &MessageStore::sigChanged, &m_following, qOverload<>(&QTimer::start));
+    connect(service, &MessageService::sigCardReady, &m_following, qOverload<>(&QTimer::start));
 }
 
 QAction *MessageActions::add(const QString &text, const QKeySequence &keys, void (MessageActions::*act)())

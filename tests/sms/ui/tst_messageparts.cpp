@@ -217,10 +217,18 @@ private Q_SLOTS:
         QVERIFY(!store.isLoaded());
         DraftKeeper keeper(&store, nullptr);
         keeper.begin({}, {});
+        keeper.setContent({{u"0151"_s}, u"earl"_s});
+        keeper.flush();
         keeper.setContent({{u"0151"_s}, u"early"_s});
         keeper.flush();
-        keeper.release();
-        QCOMPARE(store.messages(store.ids(MessageBox::Drafts)).at(0).text(), u"early"_s);
+        keeper.begin({}, {});
+        keeper.setContent({{u"0152"_s}, u"not after all"_s});
+        QCOMPARE(keeper.discard(), QString());
+        QVERIFY(!store.isLoaded()); // nobody waited for it
+        QTRY_COMPARE(store.ids(MessageBox::Deleted).size(), 1);
+        const auto drafts = store.messages(store.ids(MessageBox::Drafts));
+        QCOMPARE(drafts.size(), 1U);
+        QCOMPARE(drafts.front().text(), u"early"_s);
     }
 
 private:
