@@ -33,6 +33,7 @@ namespace
 {
 
 constexpr auto refreshPeriod = 500ms;
+constexpr int mostLeftCallTries = 3;
 
 QUrl pageOf(const ConnectionProfile &profile)
 {
@@ -117,6 +118,7 @@ public:
     DialPermission given;
     bool isCallUp = false;
     bool wasReady = false;
+    int leftCallTries = 0;            ///< to end a call that the card does not speak of
     std::optional<QString> knownImei; ///< of the card; empty while it does not tell it
     bool wasAbroad = false;           ///< and ready otherwise
     QString untold;                   ///< why a link broke, while a row of redials may mend it
@@ -441,12 +443,14 @@ void ConnectionService::Private::endLeftDataCall(const CardState &card)
     const bool isKnown = card.modemReady && !(imei.isEmpty() && card.identity.model.isEmpty());
     const auto known = isKnown ? std::optional(imei) : std::nullopt;
     const bool isNews = known != std::exchange(knownImei, known);
+    if (!known)
+        leftCallTries = 0;
     if (!known || !isNews || link || !DataCall::isNoted())
         return;
     const auto job =
         monitor->worker().submit([imei](SerialThread &port) { return DataCall::endNoted(port, imei); });
     whenDone(job, q, [this](std::optional<bool> wasAnswered) {
-        if (!wasAnswered.value_or(false))
+        if (!wasAnswered.value_or(false) && ++leftCallTries < mostLeftCallTries)
             knownImei.reset(); // again with the card's next sign of life
     });
 }

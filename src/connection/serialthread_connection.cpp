@@ -28,7 +28,7 @@ int outcome(const std::optional<QByteArray> &reply)
         return -1;
     if (reply->contains("OK\r\n") || reply->contains("+JPDPACT: "))
         return 1;
-    return reply->contains("ERROR") ? 0 : -1;
+    return reply->contains("ERROR") || reply->contains("not support") ? 0 : -1;
 }
 
 } // namespace

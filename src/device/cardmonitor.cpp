@@ -30,7 +30,7 @@ const QString lastCardKey = u"last_card"_s;
 constexpr auto statusInterval = 4000ms;
 constexpr auto echoDelay = 2000ms;
 constexpr int silentRoundsUntilGivenUp = 3;
-constexpr int mostIdentityTries = 5; // some SIMs have no identity to tell
+constexpr int mostIdentityTries = 10; // some SIMs have no identity to tell
 
 /// A period of section "network_dialer_setting", in seconds there; `otherwise` when the key is not above 0.
 std::chrono::milliseconds interval(const QString &key, std::chrono::milliseconds otherwise)

@@ -98,6 +98,8 @@ void CardReader::readSim()
     if (most > 0 && m_simAttempts > most)
         m_state.sim = SimState::Failure;
 
+    if (m_state.sim != SimState::Ready && m_state.sim != SimState::Unknown)
+        forgetSubscriber();
     m_state.pinAttempts.reset();
     m_state.pukAttempts.reset();
     const bool isLocked = m_state.sim == SimState::PinNeeded || m_state.sim == SimState::PukNeeded;
@@ -202,6 +204,16 @@ void CardReader::settle()
     const bool simSettled =
         m_state.sim == SimState::Ready || m_state.sim == SimState::Absent || m_state.sim == SimState::Failure;
     m_state.modemReady = m_state.presence == CardPresence::Ready && simSettled;
+}
+
+/// The SIM that is ready next may be another one, and what waits for this one must not go out with it.
+void CardReader::forgetSubscriber()
+{
+    CardIdentity &who = m_state.identity;
+    who.imsi.clear();
+    who.iccid.clear();
+    who.ownNumber.clear();
+    who.provider = {};
 }
 
 void CardReader::readIdentity()

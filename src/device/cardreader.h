@@ -45,6 +45,7 @@ private:
     QByteArray askMaker(TextQuery query, const char *name);
     bool isKnown(const char *name) const { return !m_refused.contains(name); }
     void readSim();
+    void forgetSubscriber();
     void readSignal();
     void readRegistration();
     void readService();

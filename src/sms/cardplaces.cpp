@@ -123,7 +123,9 @@ void CardPlaces::forget()
 
 void CardPlaces::setOwners(const QString &subscriber, const QString &card)
 {
-    m_owners = {subscriber, card};
+    const std::array now{subscriber, card};
+    if (std::exchange(m_owners, now) == now)
+        return;
     for (const MessagePlace place : {MessagePlace::Sim, MessagePlace::Card}) {
         if (const QString &owner = m_owners[slot(place)]; state(place).isRead && !owner.isEmpty())
             m_store->setMirrorOwner(place, owner);

@@ -183,9 +183,11 @@ void MessageService::Private::takeCard(const CardState &card)
     if (hasEnded)
         return;
     if (isNow == isReady) {
-        // Some SIMs tell whose they are only a while after they are ready.
+        // Some cards and SIMs tell who they are only a while after they are ready.
         if (isPrepared && !card.identity.imsi.isEmpty() && card.identity.imsi != subscriber)
             takeIdentity(card.identity);
+        else if (isPrepared && !card.identity.imei.isEmpty())
+            places.setOwners(subscriber, card.identity.imei);
         return;
     }
     isReady = isNow;
