@@ -360,6 +360,7 @@ CardPlaces::Deleted CardPlaces::moveToDeleted(const std::vector<Message> &chosen
     if (messages.empty())
         return {};
     std::vector<Message> copies;
+    copies.reserve(messages.size());
     for (const Message &message : messages)
         copies.push_back(copyForComputer(message, MessageBox::Deleted));
     const MessageStore::Added added = m_store->insert(std::move(copies));

@@ -82,9 +82,6 @@ private:
     QMultiHash<QString, QString> m_byLong;
 };
 
-/// The newest first; of one moment what came here last, by its time and then by its id.
-bool isAhead(const RecordPtr &one, const RecordPtr &other);
-
 /// Never given before, and greater than all that were given before.
 QString newMessageId();
 

@@ -60,7 +60,7 @@ void read(const ImportPtr &import, const QString &path)
             sentence(QT_TRANSLATE_NOOP("MessageTransfer", "%1 is not a file of messages."));
 }
 
-void finishWhenStored(const ImportPtr &import, QFuture<bool> stored)
+void finishWhenStored(const ImportPtr &import, const QFuture<bool> &stored)
 {
     whenDone(stored, import->store, [import](std::optional<bool> isStored) {
         if (!isStored.value_or(false))

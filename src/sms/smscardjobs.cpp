@@ -39,7 +39,7 @@ QString readServiceCentre(SerialThread &link)
 {
     QByteArray text(SerialThread::replyBufferSize, '\0');
     link.get_sms_number(text.data());
-    const QString number = parseServiceCentre(text.constData());
+    QString number = parseServiceCentre(text.constData());
     qCDebug(lcSms).noquote() << logTime() + u"SMS centre num = %1"_s.arg(number);
     return number;
 }

@@ -219,7 +219,7 @@ std::optional<StatusReport> fileReport(const QByteArray &pdu, const QDateTime &a
 
 int tpduLength(const QString &pdu)
 {
-    constexpr qsizetype longest = 2 * 256;
+    constexpr qsizetype longest = 512; // 256 octets
     const auto isDigit = [](QChar c) { return c.unicode() < 0x80 && isxdigit(c.unicode()) != 0; };
     if (pdu.size() < 2 || pdu.size() > longest || pdu.size() % 2 != 0 || !std::ranges::all_of(pdu, isDigit))
         return -1;

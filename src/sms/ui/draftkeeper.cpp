@@ -100,7 +100,7 @@ QString DraftKeeper::discard()
         handOver(MessageBox::Deleted); // nobody finds it by its id before
         m_id.clear();
     }
-    const QString id = m_id;
+    QString id = m_id;
     release();
     return id;
 }
